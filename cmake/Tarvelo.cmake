@@ -1,0 +1,54 @@
+# How every target of this project is built, and the two helpers with which the folders declare theirs.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+set_property(GLOBAL PROPERTY AUTOGEN_SOURCE_GROUP Generated)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+add_library(tarvelo_options INTERFACE)
+target_compile_options(tarvelo_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor
+    -Woverloaded-virtual -Werror)
+target_compile_definitions(tarvelo_options INTERFACE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    $<$<NOT:$<CONFIG:Release,RelWithDebInfo>>:QT_FORCE_ASSERTS>)
+if(TARVELO_SANITIZE)
+    target_compile_options(tarvelo_options INTERFACE
+        -fsanitize=${TARVELO_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(tarvelo_options INTERFACE -fsanitize=${TARVELO_SANITIZE})
+endif()
+
+# A folder of src/ is a static library: tarvelo_library(store SOURCES a.cpp LINK Qt6::Core ...).
+function(tarvelo_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+    add_library(tarvelo_${name} STATIC ${ARG_SOURCES})
+    target_include_directories(tarvelo_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(tarvelo_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK} tarvelo_options)
+endfunction()
+
+# One test program a production class:
+# tarvelo_test(SqliteTest SOURCES SqliteTest.cpp LINK tarvelo_store [TIMEOUT seconds] [LABELS x] [ENVIRONMENT a=b]).
+function(tarvelo_test name)
+    cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvelo_test_support Qt6::Test tarvelo_options)
+    add_test(NAME ${name} COMMAND ${name})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_ENABLE_HIGHDPI_SCALING=0;LC_ALL=C.UTF-8;TZ=UTC;${ARG_ENVIRONMENT}")
+    if(ARG_SERIAL)
+        set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE)
+    endif()
+endfunction()

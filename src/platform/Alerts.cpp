@@ -1,0 +1,32 @@
+#include "platform/Alerts.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace tarvelo::platform {
+
+void WindowAlerts::beginSheet(const Alert &alert, QWidget &window, std::function<void(int)> didEnd)
+{
+    auto *box = new QMessageBox(QMessageBox::Warning, QString(), alert.message,
+                                QMessageBox::NoButton, &window);
+    box->setObjectName(QStringLiteral("alertSheet"));
+    box->setInformativeText(alert.informativeText);
+    box->setDefaultButton(box->addButton(alert.button, QMessageBox::AcceptRole));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::WindowModal);
+    if (didEnd)
+        QObject::connect(box, &QMessageBox::finished, box,
+                         [end = std::move(didEnd)] { end(DefaultReturn); });
+    box->open();
+}
+
+bool hasAttachedSheet(const QWidget &window)
+{
+    const auto dialogs = window.findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    return std::any_of(dialogs.cbegin(), dialogs.cend(), [](const QWidget *child) {
+        return child->isWindow() && child->isVisible() &&
+               child->windowModality() == Qt::WindowModal;
+    });
+}
+
+} // namespace tarvelo::platform

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/CivilCalendar.h"
+#include "platform/Clock.h"
+#include "platform/Region.h"
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace tarvelo::platform {
+
+// Moments as texts and texts as moments, the way the user writes them. An instant is a QDateTime,
+// an absent one an invalid QDateTime. The user's calendar is the locale's own (Buddhist in
+// Thailand, Persian in Iran), its numerals too, except where a fixed locale is asked for.
+// Formatters are kept, since day cells format at every redraw. Main thread only.
+class Dates final
+{
+public:
+    enum class Style { None, Short, Medium };
+
+    // The locale under which days are written for the store, whatever the user's settings.
+    static constexpr const char *FixedLocale = "en-US";
+
+    // `clock` must outlive this object.
+    Dates(Clock &clock, Region region);
+    Dates(const Dates &) = delete;
+    Dates &operator=(const Dates &) = delete;
+    ~Dates();
+
+    Clock &clock() const { return m_clock; }
+    const Region &region() const { return m_region; }
+    QDateTime now() const { return m_clock.now(); }
+
+    // The calendar of the user's locale and settings, in the user's time zone.
+    CivilCalendar userCalendar() const;
+    // A Gregorian calendar under the user's locale. `firstWeekday` counts from 1 = Sunday; a value
+    // that is no weekday, 0 among them, leaves the locale's own first weekday in place.
+    CivilCalendar gregorianCalendar(int firstWeekday) const;
+
+    // Patterns are those of Unicode's date formats: "YYYY" is the year of the week, "yyyy" the
+    // calendar's year. An invalid moment gives an empty text.
+    QString format(const QDateTime &moment, const QString &pattern) const;
+    QString formatFixed(const QDateTime &moment, const QString &pattern) const;
+    QString format(const QDateTime &moment, Style date, Style time) const;
+    // Invalid when the text does not fit.
+    QDateTime parse(const QString &text, const QString &pattern) const;
+    QDateTime parse(const QString &text, Style date, Style time) const;
+
+    // The user's short weekday names, Sunday first: always seven.
+    QStringList shortWeekdaySymbols() const;
+
+private:
+    struct Formatters;
+
+    Clock &m_clock;
+    Region m_region;
+    std::unique_ptr<Formatters> m_formatters;
+};
+
+} // namespace tarvelo::platform

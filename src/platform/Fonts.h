@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QFont>
+
+class QString;
+
+namespace tarvelo::platform {
+
+// The named face, or the system font when it is missing. The size is in points of the canvas, 1/96
+// inch at 100 % scaling, so that text keeps its place beside frames given in the same unit.
+QFont fontNamed(const QString &face, double size);
+
+} // namespace tarvelo::platform

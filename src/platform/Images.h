@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QIcon>
+#include <QSizeF>
+#include <QString>
+
+#include <memory>
+
+class QPainter;
+class QRectF;
+class QSvgRenderer;
+
+namespace tarvelo::platform {
+
+// A drawing of the application, known by its name. A null image has no name, no size, and draws
+// nothing.
+class Image final
+{
+public:
+    Image() = default;
+
+    bool isNull() const { return m_renderer == nullptr; }
+    const QString &name() const { return m_name; }
+    // In points, as the drawing gives it.
+    QSizeF size() const;
+
+    // Fills `target`, stretching both axes as needed.
+    void paint(QPainter &painter, const QRectF &target) const;
+    QIcon icon() const;
+
+private:
+    friend Image imageNamed(const QString &name);
+
+    QString m_name;
+    std::shared_ptr<QSvgRenderer> m_renderer;
+};
+
+// The image kept under `name`; a null image for an empty or unknown name.
+Image imageNamed(const QString &name);
+
+} // namespace tarvelo::platform

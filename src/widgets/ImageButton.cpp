@@ -1,0 +1,78 @@
+#include "widgets/ImageButton.h"
+
+#include <QPainter>
+
+namespace tarvelo::widgets {
+
+using platform::Image;
+
+ImageButton::ImageButton(QWidget *parent)
+    : QPushButton(parent)
+{
+    connect(this, &QPushButton::clicked, this, [this] {
+        // Copied, since an action may exchange itself.
+        const Action action = m_action;
+        if (action.run)
+            action.run(m_clickingFor ? m_clickingFor : this);
+    });
+}
+
+void ImageButton::setImage(const Image &image)
+{
+    m_image = image;
+    update();
+}
+
+void ImageButton::setAlternateImage(const Image &image)
+{
+    m_alternateImage = image;
+    update();
+}
+
+void ImageButton::performClick(QWidget *sender)
+{
+    m_clickingFor = sender;
+    click();
+    m_clickingFor = nullptr;
+}
+
+QSize ImageButton::sizeHint() const
+{
+    return m_image.isNull() ? QPushButton::sizeHint() : m_image.size().toSize();
+}
+
+QRectF ImageButton::imageRect(const Image &image) const
+{
+    const QSizeF size =
+        image.size().boundedTo(image.size().scaled(this->size(), Qt::KeepAspectRatio));
+    return {(width() - size.width()) / 2, (height() - size.height()) / 2, size.width(),
+            size.height()};
+}
+
+void ImageButton::paintFocus(QPainter &painter) const
+{
+    if (!hasFocus())
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
+}
+
+void ImageButton::paintEvent(QPaintEvent *event)
+{
+    if (m_image.isNull() && m_alternateImage.isNull()) {
+        QPushButton::paintEvent(event);
+        return;
+    }
+    const bool alternate = (isDown() || isChecked()) && !m_alternateImage.isNull();
+    const Image &shown = alternate ? m_alternateImage : m_image;
+    QPainter painter(this);
+    if (!isEnabled())
+        painter.setOpacity(0.35);
+    shown.paint(painter, imageRect(shown));
+    painter.setOpacity(1);
+    paintFocus(painter);
+}
+
+} // namespace tarvelo::widgets

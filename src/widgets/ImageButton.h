@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/Images.h"
+
+#include <QByteArray>
+#include <QPushButton>
+
+#include <functional>
+
+namespace tarvelo::widgets {
+
+// What a button does when it is pressed: the operation's name, so that it can be asked for, and the
+// operation, which gets the pressed button (or whoever pressed it in its place) as its sender.
+struct Action
+{
+    QByteArray name;
+    std::function<void(QWidget *sender)> run;
+};
+
+// A push button that shows an image of the application, another one while it is pressed or switched
+// on, and sends one action that can be exchanged while the program runs. Without an image it looks
+// like any other push button.
+class ImageButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit ImageButton(QWidget *parent = nullptr);
+
+    const platform::Image &image() const { return m_image; }
+    const platform::Image &alternateImage() const { return m_alternateImage; }
+    QByteArray actionName() const { return m_action.name; }
+    int tag() const { return m_tag; }
+    // 1 while switched on, else 0. Only a toggle button can be on.
+    int state() const { return isChecked() ? 1 : 0; }
+
+    void setImage(const platform::Image &image);
+    void setAlternateImage(const platform::Image &image);
+    void setAction(Action action) { m_action = std::move(action); }
+    void setTag(int tag) { m_tag = tag; }
+    void setState(int state) { setChecked(state != 0); }
+    // Presses the button in the name of `sender`; a disabled button does nothing.
+    void performClick(QWidget *sender);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    // Where the image goes: as large as the drawing is, in the middle; smaller buttons shrink it.
+    virtual QRectF imageRect(const platform::Image &image) const;
+    void paintFocus(QPainter &painter) const;
+
+private:
+    platform::Image m_image;
+    platform::Image m_alternateImage;
+    Action m_action;
+    QWidget *m_clickingFor = nullptr;
+    int m_tag = 0;
+};
+
+} // namespace tarvelo::widgets

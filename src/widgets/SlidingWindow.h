@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QVariantAnimation>
+#include <QWidget>
+
+namespace tarvelo::widgets {
+
+// A window of fixed size whose width slides from one value to another, its top-left corner, and so
+// its origin and height, staying where they are. Its width is that of what it shows, without the
+// window manager's frame.
+class SlidingWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SlidingWindow(QWidget *parent = nullptr);
+
+    // The width that was set last. It counts from the moment that it is set, also while the window
+    // still slides there.
+    int frameWidth() const { return m_frameWidth; }
+    bool isSliding() const { return m_slide.state() == QAbstractAnimation::Running; }
+
+    void setFrameSize(int width, int height);
+    void setFrameWidth(int width, bool animate);
+
+private:
+    int m_frameWidth = 0;
+    QVariantAnimation m_slide;
+};
+
+} // namespace tarvelo::widgets
