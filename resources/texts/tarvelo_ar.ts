@@ -1,0 +1,231 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="BUTTON_CANCEL">
+        <source></source>
+        <translation>إلغاء</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source></source>
+        <translation>إغلاق</translation>
+    </message>
+    <message id="BUTTON_DELETE">
+        <source></source>
+        <translation>حذف</translation>
+    </message>
+    <message id="BUTTON_DONE">
+        <source></source>
+        <translation>تم</translation>
+    </message>
+    <message id="BUTTON_NEW_LECTURE">
+        <source></source>
+        <translation>محاضرة جديدة</translation>
+    </message>
+    <message id="BUTTON_NO">
+        <source></source>
+        <translation>لا</translation>
+    </message>
+    <message id="BUTTON_SLIDE_TO_LIST">
+        <source></source>
+        <translation>العودة إلى القائمة</translation>
+    </message>
+    <message id="BUTTON_SLIDE_TO_VIEW">
+        <source></source>
+        <translation>عرض المحاضرة</translation>
+    </message>
+    <message id="BUTTON_TIME_TAG">
+        <source></source>
+        <translation>إدراج الوقت</translation>
+    </message>
+    <message id="BUTTON_YES">
+        <source></source>
+        <translation>نعم</translation>
+    </message>
+    <message id="CALENDAR">
+        <source></source>
+        <translation>التقويم</translation>
+    </message>
+    <message id="CAPTION_RECORD">
+        <source></source>
+        <translation>تسجيل</translation>
+    </message>
+    <message id="CAPTION_VIEW">
+        <source></source>
+        <translation>عرض</translation>
+    </message>
+    <message id="CURRENT_MONTH">
+        <source></source>
+        <translation>الانتقال إلى الشهر الحالي</translation>
+    </message>
+    <message id="EMPTY_DAY_HINT">
+        <source></source>
+        <translation>اضغط زر الإضافة لتسجيل محاضرة.</translation>
+    </message>
+    <message id="EMPTY_DAY_TITLE">
+        <source></source>
+        <translation>لا توجد محاضرات في هذا اليوم</translation>
+    </message>
+    <message id="FILEFORMAT_AAC">
+        <source></source>
+        <translation>AAC (.aac)</translation>
+    </message>
+    <message id="FILEFORMAT_M4A">
+        <source></source>
+        <translation>صوت MPEG-4 (.m4a)</translation>
+    </message>
+    <message id="LABEL_CONFIRM_RECORDDELETE">
+        <source></source>
+        <translation>هل تريد حذف هذه المحاضرة وتسجيلها؟</translation>
+    </message>
+    <message id="LABEL_DAY_SHOWN">
+        <source></source>
+        <translation>اليوم المعروض</translation>
+    </message>
+    <message id="LABEL_LECTURES">
+        <source></source>
+        <translation>المحاضرات</translation>
+    </message>
+    <message id="LABEL_NOTES">
+        <source></source>
+        <translation>ملاحظات</translation>
+    </message>
+    <message id="LABEL_PLAYBACK_POSITION">
+        <source></source>
+        <translation>موضع التشغيل</translation>
+    </message>
+    <message id="LABEL_RECORDING_DURATION">
+        <source></source>
+        <translation>مدة التسجيل</translation>
+    </message>
+    <message id="LABEL_RECORDING_LEVEL">
+        <source></source>
+        <translation>مستوى التسجيل</translation>
+    </message>
+    <message id="LABEL_SUBJECT">
+        <source></source>
+        <translation>الموضوع</translation>
+    </message>
+    <message id="MENU_ALL_LIST">
+        <source></source>
+        <translation>القائمة الكاملة</translation>
+    </message>
+    <message id="MENU_CLOSE_WINDOW">
+        <source></source>
+        <translation>إغلاق النافذة</translation>
+    </message>
+    <message id="MENU_FOLD_LIST">
+        <source></source>
+        <translation>طي القائمة</translation>
+    </message>
+    <message id="MENU_MAIN">
+        <source></source>
+        <translation>القائمة الرئيسية</translation>
+    </message>
+    <message id="MENU_NEW_LECTURE">
+        <source></source>
+        <translation>محاضرة جديدة</translation>
+    </message>
+    <message id="MENU_OPEN">
+        <source></source>
+        <translation>فتح Tarvelo</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source></source>
+        <translation>التفضيلات…</translation>
+    </message>
+    <message id="MENU_QUIT">
+        <source></source>
+        <translation>إنهاء</translation>
+    </message>
+    <message id="MENU_SHOW_FOLDER">
+        <source></source>
+        <translation>عرض مجلد التسجيلات</translation>
+    </message>
+    <message id="MSG_NO_AUDIO_FOR_LECTURE">
+        <source></source>
+        <translation>لا يوجد صوت لهذه المحاضرة.</translation>
+    </message>
+    <message id="NEXT_MONTH">
+        <source></source>
+        <translation>الشهر التالي</translation>
+    </message>
+    <message id="PLACEHOLDER_NOTES">
+        <source></source>
+        <translation>اكتب الملاحظات هنا</translation>
+    </message>
+    <message id="PLACEHOLDER_SUBJECT">
+        <source></source>
+        <translation>موضوع المحاضرة</translation>
+    </message>
+    <message id="PREVIOUS_MONTH">
+        <source></source>
+        <translation>الشهر السابق</translation>
+    </message>
+    <message id="ROW_DELETE">
+        <source></source>
+        <translation>حذف</translation>
+    </message>
+    <message id="ROW_EDIT">
+        <source></source>
+        <translation>تعديل</translation>
+    </message>
+    <message id="ROW_INFO">
+        <source></source>
+        <translation>المزيد</translation>
+    </message>
+    <message id="ROW_PLAY">
+        <source></source>
+        <translation>تشغيل</translation>
+    </message>
+    <message id="SETTING_FILEFORMAT">
+        <source></source>
+        <translation>صيغة التسجيلات الجديدة</translation>
+    </message>
+    <message id="SETTING_OPENAPPAUTOMATICALLY">
+        <source></source>
+        <translation>بدء التشغيل والمظهر</translation>
+    </message>
+    <message id="SETTING_OPENATLOGIN">
+        <source></source>
+        <translation>الفتح عند تسجيل الدخول</translation>
+    </message>
+    <message id="SETTING_OPENINDOCK">
+        <source></source>
+        <translation>الإظهار في شريط المهام</translation>
+    </message>
+    <message id="SETTING_OPENINSTATUSBAR">
+        <source></source>
+        <translation>الإظهار في شريط الحالة</translation>
+    </message>
+    <message id="SETTING_SHOWWINDOWATLOGIN">
+        <source></source>
+        <translation>إظهار النافذة عند بدء التشغيل</translation>
+    </message>
+    <message id="SETTING_WINDOWONTOP">
+        <source></source>
+        <translation>إبقاء النافذة في المقدمة</translation>
+    </message>
+    <message id="TITLE_EDIT_LECTURE">
+        <source></source>
+        <translation>تعديل المحاضرة</translation>
+    </message>
+    <message id="TITLE_NEW_LECTURE">
+        <source></source>
+        <translation>محاضرة جديدة</translation>
+    </message>
+    <message id="TITLE_PLAY_LECTURE">
+        <source></source>
+        <translation>المحاضرة</translation>
+    </message>
+    <message id="TITLE_PREFERENCES">
+        <source></source>
+        <translation>التفضيلات</translation>
+    </message>
+    <message id="TXT_TARVELO">
+        <source></source>
+        <translation>Tarvelo</translation>
+    </message>
+</context>
+</TS>

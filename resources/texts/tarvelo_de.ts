@@ -1,0 +1,231 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="BUTTON_CANCEL">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="BUTTON_DELETE">
+        <source></source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="BUTTON_DONE">
+        <source></source>
+        <translation>Fertig</translation>
+    </message>
+    <message id="BUTTON_NEW_LECTURE">
+        <source></source>
+        <translation>Neue Vorlesung</translation>
+    </message>
+    <message id="BUTTON_NO">
+        <source></source>
+        <translation>Nein</translation>
+    </message>
+    <message id="BUTTON_SLIDE_TO_LIST">
+        <source></source>
+        <translation>Zurück zur Liste</translation>
+    </message>
+    <message id="BUTTON_SLIDE_TO_VIEW">
+        <source></source>
+        <translation>Vorlesung zeigen</translation>
+    </message>
+    <message id="BUTTON_TIME_TAG">
+        <source></source>
+        <translation>Zeit einfügen</translation>
+    </message>
+    <message id="BUTTON_YES">
+        <source></source>
+        <translation>Ja</translation>
+    </message>
+    <message id="CALENDAR">
+        <source></source>
+        <translation>Kalender</translation>
+    </message>
+    <message id="CAPTION_RECORD">
+        <source></source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message id="CAPTION_VIEW">
+        <source></source>
+        <translation>Ansehen</translation>
+    </message>
+    <message id="CURRENT_MONTH">
+        <source></source>
+        <translation>Zum aktuellen Monat</translation>
+    </message>
+    <message id="EMPTY_DAY_HINT">
+        <source></source>
+        <translation>Mit der Plus-Taste eine aufnehmen.</translation>
+    </message>
+    <message id="EMPTY_DAY_TITLE">
+        <source></source>
+        <translation>Keine Vorlesungen an diesem Tag</translation>
+    </message>
+    <message id="FILEFORMAT_AAC">
+        <source></source>
+        <translation>AAC (.aac)</translation>
+    </message>
+    <message id="FILEFORMAT_M4A">
+        <source></source>
+        <translation>MPEG-4-Audio (.m4a)</translation>
+    </message>
+    <message id="LABEL_CONFIRM_RECORDDELETE">
+        <source></source>
+        <translation>Diese Vorlesung und ihre Aufnahme löschen?</translation>
+    </message>
+    <message id="LABEL_DAY_SHOWN">
+        <source></source>
+        <translation>Gezeigter Tag</translation>
+    </message>
+    <message id="LABEL_LECTURES">
+        <source></source>
+        <translation>Vorlesungen</translation>
+    </message>
+    <message id="LABEL_NOTES">
+        <source></source>
+        <translation>Notizen</translation>
+    </message>
+    <message id="LABEL_PLAYBACK_POSITION">
+        <source></source>
+        <translation>Wiedergabeposition</translation>
+    </message>
+    <message id="LABEL_RECORDING_DURATION">
+        <source></source>
+        <translation>Aufnahmedauer</translation>
+    </message>
+    <message id="LABEL_RECORDING_LEVEL">
+        <source></source>
+        <translation>Aufnahmepegel</translation>
+    </message>
+    <message id="LABEL_SUBJECT">
+        <source></source>
+        <translation>Thema</translation>
+    </message>
+    <message id="MENU_ALL_LIST">
+        <source></source>
+        <translation>Gesamte Liste</translation>
+    </message>
+    <message id="MENU_CLOSE_WINDOW">
+        <source></source>
+        <translation>Fenster schließen</translation>
+    </message>
+    <message id="MENU_FOLD_LIST">
+        <source></source>
+        <translation>Liste einklappen</translation>
+    </message>
+    <message id="MENU_MAIN">
+        <source></source>
+        <translation>Hauptmenü</translation>
+    </message>
+    <message id="MENU_NEW_LECTURE">
+        <source></source>
+        <translation>Neue Vorlesung</translation>
+    </message>
+    <message id="MENU_OPEN">
+        <source></source>
+        <translation>Tarvelo öffnen</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source></source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message id="MENU_QUIT">
+        <source></source>
+        <translation>Beenden</translation>
+    </message>
+    <message id="MENU_SHOW_FOLDER">
+        <source></source>
+        <translation>Aufnahmeordner zeigen</translation>
+    </message>
+    <message id="MSG_NO_AUDIO_FOR_LECTURE">
+        <source></source>
+        <translation>Zu dieser Vorlesung gibt es keine Aufnahme.</translation>
+    </message>
+    <message id="NEXT_MONTH">
+        <source></source>
+        <translation>Nächster Monat</translation>
+    </message>
+    <message id="PLACEHOLDER_NOTES">
+        <source></source>
+        <translation>Hier Notizen schreiben</translation>
+    </message>
+    <message id="PLACEHOLDER_SUBJECT">
+        <source></source>
+        <translation>Thema der Vorlesung</translation>
+    </message>
+    <message id="PREVIOUS_MONTH">
+        <source></source>
+        <translation>Voriger Monat</translation>
+    </message>
+    <message id="ROW_DELETE">
+        <source></source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="ROW_EDIT">
+        <source></source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="ROW_INFO">
+        <source></source>
+        <translation>Mehr</translation>
+    </message>
+    <message id="ROW_PLAY">
+        <source></source>
+        <translation>Abspielen</translation>
+    </message>
+    <message id="SETTING_FILEFORMAT">
+        <source></source>
+        <translation>Format neuer Aufnahmen</translation>
+    </message>
+    <message id="SETTING_OPENAPPAUTOMATICALLY">
+        <source></source>
+        <translation>Start und Erscheinungsbild</translation>
+    </message>
+    <message id="SETTING_OPENATLOGIN">
+        <source></source>
+        <translation>Bei der Anmeldung öffnen</translation>
+    </message>
+    <message id="SETTING_OPENINDOCK">
+        <source></source>
+        <translation>In der Taskleiste zeigen</translation>
+    </message>
+    <message id="SETTING_OPENINSTATUSBAR">
+        <source></source>
+        <translation>In der Statusleiste zeigen</translation>
+    </message>
+    <message id="SETTING_SHOWWINDOWATLOGIN">
+        <source></source>
+        <translation>Fenster beim Start zeigen</translation>
+    </message>
+    <message id="SETTING_WINDOWONTOP">
+        <source></source>
+        <translation>Fenster im Vordergrund halten</translation>
+    </message>
+    <message id="TITLE_EDIT_LECTURE">
+        <source></source>
+        <translation>Vorlesung bearbeiten</translation>
+    </message>
+    <message id="TITLE_NEW_LECTURE">
+        <source></source>
+        <translation>Neue Vorlesung</translation>
+    </message>
+    <message id="TITLE_PLAY_LECTURE">
+        <source></source>
+        <translation>Vorlesung</translation>
+    </message>
+    <message id="TITLE_PREFERENCES">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="TXT_TARVELO">
+        <source></source>
+        <translation>Tarvelo</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,231 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="BUTTON_CANCEL">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="BUTTON_DELETE">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <message id="BUTTON_DONE">
+        <source></source>
+        <translation>Done</translation>
+    </message>
+    <message id="BUTTON_NEW_LECTURE">
+        <source></source>
+        <translation>New Lecture</translation>
+    </message>
+    <message id="BUTTON_NO">
+        <source></source>
+        <translation>No</translation>
+    </message>
+    <message id="BUTTON_SLIDE_TO_LIST">
+        <source></source>
+        <translation>Back to List</translation>
+    </message>
+    <message id="BUTTON_SLIDE_TO_VIEW">
+        <source></source>
+        <translation>Show Lecture</translation>
+    </message>
+    <message id="BUTTON_TIME_TAG">
+        <source></source>
+        <translation>Insert Time</translation>
+    </message>
+    <message id="BUTTON_YES">
+        <source></source>
+        <translation>Yes</translation>
+    </message>
+    <message id="CALENDAR">
+        <source></source>
+        <translation>Calendar</translation>
+    </message>
+    <message id="CAPTION_RECORD">
+        <source></source>
+        <translation>Record</translation>
+    </message>
+    <message id="CAPTION_VIEW">
+        <source></source>
+        <translation>View</translation>
+    </message>
+    <message id="CURRENT_MONTH">
+        <source></source>
+        <translation>Go to the current month</translation>
+    </message>
+    <message id="EMPTY_DAY_HINT">
+        <source></source>
+        <translation>Press the plus button to record one.</translation>
+    </message>
+    <message id="EMPTY_DAY_TITLE">
+        <source></source>
+        <translation>No lectures on this day</translation>
+    </message>
+    <message id="FILEFORMAT_AAC">
+        <source></source>
+        <translation>AAC (.aac)</translation>
+    </message>
+    <message id="FILEFORMAT_M4A">
+        <source></source>
+        <translation>MPEG-4 audio (.m4a)</translation>
+    </message>
+    <message id="LABEL_CONFIRM_RECORDDELETE">
+        <source></source>
+        <translation>Delete this lecture and its recording?</translation>
+    </message>
+    <message id="LABEL_DAY_SHOWN">
+        <source></source>
+        <translation>Day shown</translation>
+    </message>
+    <message id="LABEL_LECTURES">
+        <source></source>
+        <translation>Lectures</translation>
+    </message>
+    <message id="LABEL_NOTES">
+        <source></source>
+        <translation>Notes</translation>
+    </message>
+    <message id="LABEL_PLAYBACK_POSITION">
+        <source></source>
+        <translation>Playback position</translation>
+    </message>
+    <message id="LABEL_RECORDING_DURATION">
+        <source></source>
+        <translation>Recording time</translation>
+    </message>
+    <message id="LABEL_RECORDING_LEVEL">
+        <source></source>
+        <translation>Recording level</translation>
+    </message>
+    <message id="LABEL_SUBJECT">
+        <source></source>
+        <translation>Subject</translation>
+    </message>
+    <message id="MENU_ALL_LIST">
+        <source></source>
+        <translation>All List</translation>
+    </message>
+    <message id="MENU_CLOSE_WINDOW">
+        <source></source>
+        <translation>Close Window</translation>
+    </message>
+    <message id="MENU_FOLD_LIST">
+        <source></source>
+        <translation>Fold List</translation>
+    </message>
+    <message id="MENU_MAIN">
+        <source></source>
+        <translation>Main Menu</translation>
+    </message>
+    <message id="MENU_NEW_LECTURE">
+        <source></source>
+        <translation>New Lecture</translation>
+    </message>
+    <message id="MENU_OPEN">
+        <source></source>
+        <translation>Open Tarvelo</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source></source>
+        <translation>Preferences…</translation>
+    </message>
+    <message id="MENU_QUIT">
+        <source></source>
+        <translation>Quit</translation>
+    </message>
+    <message id="MENU_SHOW_FOLDER">
+        <source></source>
+        <translation>Show Recordings Folder</translation>
+    </message>
+    <message id="MSG_NO_AUDIO_FOR_LECTURE">
+        <source></source>
+        <translation>This lecture has no audio.</translation>
+    </message>
+    <message id="NEXT_MONTH">
+        <source></source>
+        <translation>Next month</translation>
+    </message>
+    <message id="PLACEHOLDER_NOTES">
+        <source></source>
+        <translation>Write notes here</translation>
+    </message>
+    <message id="PLACEHOLDER_SUBJECT">
+        <source></source>
+        <translation>Subject of the lecture</translation>
+    </message>
+    <message id="PREVIOUS_MONTH">
+        <source></source>
+        <translation>Previous month</translation>
+    </message>
+    <message id="ROW_DELETE">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <message id="ROW_EDIT">
+        <source></source>
+        <translation>Edit</translation>
+    </message>
+    <message id="ROW_INFO">
+        <source></source>
+        <translation>More</translation>
+    </message>
+    <message id="ROW_PLAY">
+        <source></source>
+        <translation>Play</translation>
+    </message>
+    <message id="SETTING_FILEFORMAT">
+        <source></source>
+        <translation>Format of new recordings</translation>
+    </message>
+    <message id="SETTING_OPENAPPAUTOMATICALLY">
+        <source></source>
+        <translation>Start and appearance</translation>
+    </message>
+    <message id="SETTING_OPENATLOGIN">
+        <source></source>
+        <translation>Open at login</translation>
+    </message>
+    <message id="SETTING_OPENINDOCK">
+        <source></source>
+        <translation>Show in the task bar</translation>
+    </message>
+    <message id="SETTING_OPENINSTATUSBAR">
+        <source></source>
+        <translation>Show in the status bar</translation>
+    </message>
+    <message id="SETTING_SHOWWINDOWATLOGIN">
+        <source></source>
+        <translation>Show the window at start</translation>
+    </message>
+    <message id="SETTING_WINDOWONTOP">
+        <source></source>
+        <translation>Keep the window on top</translation>
+    </message>
+    <message id="TITLE_EDIT_LECTURE">
+        <source></source>
+        <translation>Edit Lecture</translation>
+    </message>
+    <message id="TITLE_NEW_LECTURE">
+        <source></source>
+        <translation>New Lecture</translation>
+    </message>
+    <message id="TITLE_PLAY_LECTURE">
+        <source></source>
+        <translation>Lecture</translation>
+    </message>
+    <message id="TITLE_PREFERENCES">
+        <source></source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="TXT_TARVELO">
+        <source></source>
+        <translation>Tarvelo</translation>
+    </message>
+</context>
+</TS>
