@@ -19,7 +19,7 @@ namespace tarvelo::platform {
 class Dates final
 {
 public:
-    enum class Style { None, Short, Medium };
+    enum class Style { None, Short, Medium, Full };
 
     // The locale under which days are written for the store, whatever the user's settings.
     static constexpr const char *FixedLocale = "en-US";
