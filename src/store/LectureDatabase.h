@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/Process.h"
+#include "store/Sqlite.h"
+
+#include <memory>
+
+namespace tarvelo::store {
+
+class LectureInfoItem;
+
+// The one database file of lectures and the connection that all share, open from its first use to
+// the end of the run. Every change of a lecture passes here. Nothing is ever reported.
+class LectureDatabase final
+{
+public:
+    explicit LectureDatabase(platform::Places places);
+    LectureDatabase(const LectureDatabase &) = delete;
+    LectureDatabase &operator=(const LectureDatabase &) = delete;
+    ~LectureDatabase();
+
+    // The shared connection, made on the first call; null when the file cannot be opened, and then
+    // the next call tries again. Owned by this object.
+    Sqlite *openDb();
+    // The shared connection as it is: null before openDb() succeeded.
+    Sqlite *connection() const { return m_connection.get(); }
+
+    // Null when nothing could be asked; newest lecture first. `day` is "yyyy-MM-dd".
+    std::optional<Rows> lecturesOfDay(const QString &day);
+    // As the file has them. `month` is "MM" and matches that month of every year.
+    std::optional<Rows> lecturesOfMonth(const QString &month);
+
+    // When the statement fails, for whatever reason, the table is dropped with all its lectures,
+    // made anew, and the statement run once more. This is how the table comes into being, and the
+    // loss in all other cases is wanted as it is; the audio files stay.
+    void insertIntoDbwithSqlStatementWithArguments(const QString &sql,
+                                                   const QVariantList &arguments);
+    void updateToDoDatawithSqlStatementWithArguments(const QString &sql,
+                                                     const QVariantList &arguments);
+    // Goes by the audio path: every lecture with the same path goes, so all without audio at once.
+    // Never opens the database.
+    void deleteVoiceData(const LectureInfoItem &lecture);
+
+private:
+    void writeOrReset(const QString &sql, const QVariantList &arguments,
+                      const QString &creationText);
+    void makeIndexes();
+
+    platform::Places m_places;
+    std::unique_ptr<Sqlite> m_connection;
+};
+
+} // namespace tarvelo::store
