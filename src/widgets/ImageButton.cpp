@@ -29,6 +29,14 @@ void ImageButton::setAlternateImage(const Image &image)
     update();
 }
 
+void ImageButton::setLook(const QString &image, const QString &alternate, const QString &toolTip)
+{
+    setImage(platform::imageNamed(image));
+    setAlternateImage(platform::imageNamed(alternate));
+    setToolTip(toolTip);
+    setAccessibleName(toolTip);
+}
+
 void ImageButton::performClick(QWidget *sender)
 {
     m_clickingFor = sender;
@@ -65,7 +73,7 @@ void ImageButton::paintEvent(QPaintEvent *event)
         QPushButton::paintEvent(event);
         return;
     }
-    const bool alternate = (isDown() || isChecked()) && !m_alternateImage.isNull();
+    const bool alternate = isDown() && !m_alternateImage.isNull();
     const Image &shown = alternate ? m_alternateImage : m_image;
     QPainter painter(this);
     if (!isEnabled())

@@ -36,6 +36,8 @@ public:
 
     void setImage(const platform::Image &image);
     void setAlternateImage(const platform::Image &image);
+    // Both images by name and the tool tip, which is the button's accessible name too, in one go.
+    void setLook(const QString &image, const QString &alternate, const QString &toolTip);
     void setAction(Action action) { m_action = std::move(action); }
     void setTag(int tag) { m_tag = tag; }
     void setState(int state) { setChecked(state != 0); }

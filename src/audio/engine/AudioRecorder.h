@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/engine/AudioPlayer.h"
+
 #include <QString>
 #include <QVariantMap>
 
@@ -70,6 +72,8 @@ public:
     // another format or cannot be met. Touches neither the file nor the sound server.
     virtual std::unique_ptr<AudioRecorder> makeRecorder(const QString &path,
                                                         const QVariantMap &settings) = 0;
+    // A player of the file whose bytes these are. Null when they are no audio that can be played.
+    virtual std::unique_ptr<AudioPlayer> makePlayer(const QByteArray &) { return nullptr; }
 };
 
 // The engine over the sound server of the session (PulseAudio's protocol, which PipeWire serves

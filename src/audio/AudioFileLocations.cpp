@@ -1,0 +1,63 @@
+#include "audio/AudioFileLocations.h"
+
+#include "platform/Dates.h"
+#include "platform/UserDefaults.h"
+
+namespace tarvelo::audio {
+
+using platform::createFolderIfMissing;
+using platform::expandingTilde;
+
+AudioFileLocations::AudioFileLocations(platform::Places places,
+                                       const platform::UserDefaults &defaults,
+                                       const platform::Dates &dates)
+    : m_places(std::move(places))
+    , m_defaults(defaults)
+    , m_dates(dates)
+{
+}
+
+QString AudioFileLocations::extensionByFormat() const
+{
+    return m_defaults.integerForKey(QStringLiteral("fileFormat")) == 0 ? QStringLiteral("aac")
+                                                                       : QStringLiteral("m4a");
+}
+
+QString AudioFileLocations::getAudioFolderPath() const
+{
+    // The product's folder, whatever name the process runs under.
+    const QString folder = expandingTilde(m_places.applicationSupport + u"/Tarvelo/Audio");
+    createFolderIfMissing(folder);
+    return folder + u'/';
+}
+
+QString AudioFileLocations::getAudioSavePath() const
+{
+    QString path = getAudioFolderPath();
+    // The second slash is wanted: it is part of every stored path, and file systems take both for
+    // one.
+    path += QStringLiteral("/Audio - ");
+    // The year of the week is wanted here, so a name of the last days of December can begin with
+    // the next year.
+    path += m_dates.format(m_dates.now(), QStringLiteral("YYYYMMddHHmmss"));
+    path += u'.' + extensionByFormat();
+    return path;
+}
+
+void AudioFileLocations::createFolders()
+{
+    const QString own = m_places.applicationSupport + u'/' + m_places.processName;
+    const QString temporary = expandingTilde(own + u"/temp");
+    createFolderIfMissing(temporary);
+    m_temporaryBasePath = temporary + u'/' + m_temporaryBasePath;
+    // Made but not written to: saved files go to the product's folder. The two are one when the
+    // program runs under its own name, and both are wanted.
+    createFolderIfMissing(expandingTilde(own + u"/Audio"));
+}
+
+void AudioFileLocations::setTempAudioSavePathWithFormat()
+{
+    m_tempAudioSavePath = m_temporaryBasePath + u'.' + extensionByFormat();
+}
+
+} // namespace tarvelo::audio

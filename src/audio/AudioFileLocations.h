@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/Process.h"
+
+#include <QString>
+
+namespace tarvelo::platform {
+class Dates;
+class UserDefaults;
+} // namespace tarvelo::platform
+
+namespace tarvelo::audio {
+
+// Where audio files live and what they are called. A take is written to one fixed temporary file;
+// saving moves it into the audio folder under a name made from the moment of saving. Failures to
+// make a folder are silent: what is written there later fails in its own way.
+class AudioFileLocations final
+{
+public:
+    // `defaults` and `dates` must outlive this object.
+    AudioFileLocations(platform::Places places, const platform::UserDefaults &defaults,
+                       const platform::Dates &dates);
+    AudioFileLocations(const AudioFileLocations &) = delete;
+    AudioFileLocations &operator=(const AudioFileLocations &) = delete;
+
+    // The file of the take: empty until setTempAudioSavePathWithFormat() ran once.
+    const QString &tempAudioSavePath() const { return m_tempAudioSavePath; }
+    // The temporary file's path without an extension; the bare name until createFolders() ran.
+    const QString &temporaryBasePath() const { return m_temporaryBasePath; }
+    // "aac" when the preference "fileFormat" is 0, else "m4a". Read afresh at each call.
+    QString extensionByFormat() const;
+    // A path in the audio folder for this moment, whose file does not exist yet. Two calls within
+    // one second give the same path.
+    QString getAudioSavePath() const;
+    // Ends in "/". Makes the folder when it is missing.
+    QString getAudioFolderPath() const;
+
+    // The folders of this process, once at start; from then on the temporary file lies in one of
+    // them.
+    void createFolders();
+    // Names the temporary file by the preference as it now is. A take that waits under the other
+    // extension is no longer found then, and is saved as a lecture without audio; this is wanted.
+    void setTempAudioSavePathWithFormat();
+    // Starts again without a temporary file.
+    void clearTempAudioSavePath() { m_tempAudioSavePath.clear(); }
+
+private:
+    platform::Places m_places;
+    const platform::UserDefaults &m_defaults;
+    const platform::Dates &m_dates;
+    QString m_temporaryBasePath = QStringLiteral("tempAudioFile");
+    QString m_tempAudioSavePath;
+};
+
+} // namespace tarvelo::audio

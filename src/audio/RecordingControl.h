@@ -1,0 +1,117 @@
+#pragma once
+
+#include "audio/RecordingOutlets.h"
+#include "audio/engine/AudioRecorder.h"
+#include "platform/DelayedCall.h"
+
+#include <QVariantMap>
+
+#include <memory>
+
+namespace tarvelo::platform {
+class Dates;
+}
+
+namespace tarvelo::audio {
+
+class AudioFileLocations;
+class Playback;
+
+// Records one take at a time from the default input into the temporary file, and keeps the controls
+// of the new-lecture window in step: start, pause, resume, stop, then the take to listen to.
+// Nothing here is ever shown as an error: the controls change state whether or not sound comes in.
+class RecordingControl final : public engine::AudioRecorderDelegate
+{
+public:
+    // All references must outlive this object.
+    RecordingControl(engine::AudioEngine &engine, const AudioFileLocations &locations,
+                     const platform::Dates &dates, Playback &playback,
+                     const RecordingOutlets &outlets, const ClockOutlets &clock);
+    RecordingControl(const RecordingControl &) = delete;
+    RecordingControl &operator=(const RecordingControl &) = delete;
+
+    // What a take is recorded with, whatever the preference "fileFormat" says.
+    static QVariantMap audioRecordingSettings();
+
+    // True from the start of a take until it is stopped, paused or not.
+    bool recording() const { return m_recording; }
+    // A stopped take waits that is neither saved nor discarded.
+    bool bIsRecordingSaved() const { return m_bIsRecordingSaved; }
+    // True while the new-lecture window is visible. The flag beside it is never set; both are
+    // wanted.
+    bool isRecordingNow() const;
+    // Nothing in the program sets it; guards may ask it.
+    bool bIsRecordingNeedPreventingQuit() const { return m_bIsRecordingNeedPreventingQuit; }
+    // Seconds of the finished take, 0 while there is none.
+    double floatRecordingDuration() const { return m_floatRecordingDuration; }
+    // Whole seconds spent paused in this take.
+    qint64 durationPause() const { return m_durationPause; }
+    bool hasRecorder() const { return m_recorder != nullptr; }
+
+    // Zeroes the bookkeeping of pauses.
+    void resetPauses();
+    void setBIsRecordingNeedPreventingQuit(bool need) { m_bIsRecordingNeedPreventingQuit = need; }
+
+    void startRecording(QWidget *sender);
+    void pauseResumeRecording(QWidget *sender);
+    void stopRecording(QWidget *sender);
+    // Ends a running take without turning the stop button into a play button; otherwise starts
+    // again on the recorder that there is, if any.
+    void startStopRecording(QWidget *sender);
+    void postRecordingFinished();
+    // There is no limit to a recording's length; who sets one calls this.
+    void onMaxRecordingTimeReached();
+    // Puts the time recorded so far at the end of the notes.
+    void onSetTimeTag(QWidget *sender);
+
+    // Stops the recorder, deletes its file and clears the display; the recorder itself goes with
+    // the next take.
+    void discardTake();
+    // The take was moved to its place as a lecture, or none was there.
+    void takeWasSaved();
+    void forgetSavedTake() { m_bIsRecordingSaved = false; }
+
+    // From now on updateTimeDisplay() runs once a second for this object's whole life.
+    void startDisplayTimer();
+    void updateTimeDisplay();
+    // Writes the present time, or date, into the clock labels.
+    void showTimeOfDay();
+    void showDate();
+
+    void audioRecorderDidFinishRecordingSuccessfully(engine::AudioRecorder *recorder,
+                                                     bool successfully) override;
+
+private:
+    void removeTemporaryFile();
+    void makeAndStartRecorder();
+    void pauseTake();
+    void resumeTake();
+    // Reads the length of the take off the recorder and stops it.
+    void stopRecorder();
+    void invalidateLevelTimer() { m_audioLevelTimer.reset(); }
+    double recorderTime() const { return m_recorder ? m_recorder->currentTime() : 0; }
+
+    engine::AudioEngine &m_engine;
+    const AudioFileLocations &m_locations;
+    const platform::Dates &m_dates;
+    Playback &m_playback;
+    RecordingOutlets m_outlets;
+    ClockOutlets m_clockLabels;
+
+    std::unique_ptr<engine::AudioRecorder> m_recorder;
+    bool m_recording = false;
+    bool m_bIsRecordingSaved = false;
+    // Never set; asked all the same.
+    bool m_bIsRecording = false;
+    bool m_bIsRecordingNeedPreventingQuit = false;
+    double m_floatRecordingDuration = 0;
+    double m_pauseTimeInterval = 0; // seconds since 1970
+    qint64 m_durationPause = 0;
+    std::unique_ptr<platform::Clock::Pending> m_timerDateTimeDisplay;
+    // Never started: no level is read from the recorder. Whoever ends a take takes it back
+    // nonetheless.
+    std::unique_ptr<platform::Clock::Pending> m_audioLevelTimer;
+    platform::DelayedCall m_postRecordingFinished;
+};
+
+} // namespace tarvelo::audio

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace tarvelo::engine {
+
+class AudioPlayer;
+
+// Hears from a player on the main thread.
+class AudioPlayerDelegate
+{
+public:
+    virtual ~AudioPlayerDelegate() = default;
+    virtual void audioPlayerDidFinishPlayingSuccessfully(AudioPlayer *player,
+                                                         bool successfully) = 0;
+};
+
+// Plays the bytes of one audio file to the default output. All operations are for the main thread
+// and never wait for sound. A player made from bytes has no URL.
+class AudioPlayer
+{
+public:
+    AudioPlayer() = default;
+    AudioPlayer(const AudioPlayer &) = delete;
+    AudioPlayer &operator=(const AudioPlayer &) = delete;
+    virtual ~AudioPlayer() = default;
+
+    // The delegate hears of the natural end. None by default.
+    virtual void setDelegate(AudioPlayerDelegate *delegate) = 0;
+    virtual bool prepareToPlay() = 0;
+    virtual bool play() = 0;
+    virtual void pause() = 0;
+    virtual void stop() = 0;
+    virtual bool isPlaying() const = 0;
+    virtual double currentTime() const = 0; // seconds into the recording
+    virtual void setCurrentTime(double seconds) = 0;
+    virtual double duration() const = 0; // seconds
+    virtual float rate() const = 0;
+    // 1.0 is the recorded speed; takes effect at once, with the pitch kept.
+    virtual void setRate(float rate) = 0;
+    virtual void updateMeters() = 0;
+};
+
+} // namespace tarvelo::engine

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <Qt>
+
+class QWidget;
+
+namespace tarvelo::platform {
+
+// A window's level: 0 among the others, 1 above them.
+constexpr int NormalWindowLevel = 0;
+constexpr int FloatingWindowLevel = 1;
+
+// The level set last; normal for a window whose level was never set.
+int windowLevel(const QWidget &window);
+
+// A window that shows stays shown: the window system is asked to move it, not to make it anew.
+// Where the window system knows no levels (Wayland), the level is kept and changes nothing.
+void setWindowLevel(QWidget &window, int level);
+
+// Changes one flag of a window that may be showing, without hiding it as QWidget's own setter does.
+void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on);
+
+} // namespace tarvelo::platform
