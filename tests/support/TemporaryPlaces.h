@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/Process.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace tarvelo::tests {
+
+// A home of its own for a test: the program's folder is missing at first, as on a first run.
+class TemporaryPlaces final
+{
+public:
+    platform::Places places() const { return {m_dir.path(), QStringLiteral("Tarvelo")}; }
+    QString folder() const { return m_dir.filePath(QStringLiteral("Tarvelo")); }
+    QString databaseFile() const { return folder() + QStringLiteral("/TarveloInfo.db"); }
+
+    // For a test that puts something in the database's place before the program runs.
+    void makeFolder() const { QDir().mkpath(folder()); }
+    void writeDatabaseFile(const QByteArray &content) const
+    {
+        makeFolder();
+        QFile file(databaseFile());
+        if (file.open(QIODevice::WriteOnly))
+            file.write(content);
+    }
+    QByteArray readDatabaseFile() const
+    {
+        QFile file(databaseFile());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+} // namespace tarvelo::tests
