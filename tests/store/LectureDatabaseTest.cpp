@@ -1,0 +1,284 @@
+#include "store/LectureDatabase.h"
+
+#include "store/LectureInfoItem.h"
+#include "store/Statements.h"
+#include "support/LectureBuilder.h"
+#include "support/TemporaryPlaces.h"
+#include "support/TestCase.h"
+
+#include <QFileInfo>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace tarvelo::store;
+using tarvelo::tests::aLecture;
+using tarvelo::tests::TemporaryPlaces;
+
+class LectureDatabaseTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void openingMakesTheFolderAndAnEmptyFile()
+    {
+        QVERIFY(!QFileInfo::exists(m_places->folder()));
+
+        QVERIFY(m_database->openDb());
+
+        QCOMPARE(m_database->openDb()->filePath(), m_places->databaseFile());
+        QVERIFY(QFileInfo::exists(m_places->databaseFile()));
+        QCOMPARE(QFileInfo(m_places->databaseFile()).size(), 0);
+    }
+
+    void theFolderLiesUnderTheHomeFolderWhenThePathStartsWithATilde()
+    {
+        const QByteArray home = qgetenv("HOME");
+        qputenv("HOME", QFile::encodeName(m_places->places().applicationSupport));
+        LectureDatabase database({u"~/data"_s, u"Tarvelo"_s});
+
+        const Sqlite *const connection = database.openDb();
+        qputenv("HOME", home);
+
+        QVERIFY(connection);
+        QCOMPARE(connection->filePath(),
+                 m_places->places().applicationSupport + u"/data/Tarvelo/TarveloInfo.db"_s);
+    }
+
+    void theConnectionIsMadeOnFirstUseAndKept()
+    {
+        QVERIFY(!m_database->connection());
+
+        Sqlite *const first = m_database->openDb();
+
+        QCOMPARE(m_database->openDb(), first);
+        QCOMPARE(m_database->connection(), first);
+    }
+
+    void whatCannotBeOpenedIsNullAndTheNextCallStartsAnew()
+    {
+        QDir().mkpath(m_places->databaseFile());
+
+        QVERIFY(!m_database->openDb());
+        QVERIFY(!m_database->connection());
+        QVERIFY(!m_database->openDb());
+        QVERIFY(QDir().rmdir(m_places->databaseFile()));
+
+        QVERIFY(m_database->openDb());
+    }
+
+    void beforeTheFirstInsertThereIsNoTableToAsk()
+    {
+        QVERIFY(!m_database->lecturesOfDay(u"2024-03-05"_s));
+        QVERIFY(!m_database->lecturesOfMonth(u"03"_s));
+    }
+
+    void theFirstInsertMakesTheTableAndKeepsTheLecture()
+    {
+        const qint64 id = aLecture().named("history of art").insertInto(*m_database);
+
+        const auto rows = m_database->lecturesOfDay(u"2024-03-05"_s);
+        QVERIFY(rows);
+        QCOMPARE(rows->size(), 1);
+        QCOMPARE(rows->constFirst().value(u"ID"_s).toLongLong(), id);
+        QCOMPARE(rows->constFirst().value(u"subject"_s), QVariant(u"history of art"_s));
+        QCOMPARE(rows->constFirst().value(u"recordingDate"_s), QVariant(u"2024-03-05"_s));
+        QCOMPARE(tableText(), QString(statements::CreateAfterInsert).chopped(1));
+    }
+
+    void laterInsertsKeepTheEarlierLectures()
+    {
+        const qint64 first = aLecture().named("one").insertInto(*m_database);
+        const qint64 second = aLecture().named("two").insertInto(*m_database);
+
+        QVERIFY(second > first);
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList({u"two"_s, u"one"_s}));
+    }
+
+    void anInsertThatFailsForAnyReasonEmptiesTheTable()
+    {
+        aLecture().named("earlier").insertInto(*m_database);
+
+        m_database->insertIntoDbwithSqlStatementWithArguments(u"INSERT into nowhere VALUES (?)"_s,
+                                                              {1});
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList());
+        QCOMPARE(tableText(), QString(statements::CreateAfterInsert).chopped(1));
+    }
+
+    void anInsertThatFailsOnceIsRepeatedIntoTheNewTable()
+    {
+        aLecture().named("earlier").insertInto(*m_database);
+        m_database->openDb()->executeNonQuery(u"ALTER TABLE audioData RENAME COLUMN notes TO n"_s);
+
+        aLecture().named("later").insertInto(*m_database);
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList(u"later"_s));
+    }
+
+    void anUpdateChangesSubjectAndNotesOfItsLectureAlone()
+    {
+        const qint64 first = aLecture().named("one").insertInto(*m_database);
+        aLecture().named("two").insertInto(*m_database);
+
+        m_database->updateToDoDatawithSqlStatementWithArguments(
+            statements::Update, {u"uno"_s, u"nota"_s, QString::number(first)});
+
+        const auto rows = m_database->lecturesOfDay(u"2024-03-05"_s);
+        QCOMPARE(rows->at(0).value(u"subject"_s), QVariant(u"two"_s));
+        QCOMPARE(rows->at(1).value(u"subject"_s), QVariant(u"uno"_s));
+        QCOMPARE(rows->at(1).value(u"notes"_s), QVariant(u"nota"_s));
+    }
+
+    void anUpdateWithoutTheTableMakesItAndChangesNothing()
+    {
+        m_database->updateToDoDatawithSqlStatementWithArguments(statements::Update,
+                                                                {u"a"_s, u"b"_s, u"1"_s});
+
+        const auto rows = m_database->lecturesOfDay(u"2024-03-05"_s);
+        QVERIFY(rows);
+        QVERIFY(rows->isEmpty());
+        QCOMPARE(tableText(), QString(statements::CreateAfterUpdate).chopped(1));
+    }
+
+    void anUpdateThatFailsEmptiesTheTable()
+    {
+        aLecture().insertInto(*m_database);
+
+        m_database->updateToDoDatawithSqlStatementWithArguments(u"UPDATE nowhere SET x = ?"_s, {1});
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList());
+        QCOMPARE(tableText(), QString(statements::CreateAfterUpdate).chopped(1));
+    }
+
+    void tooFewArgumentsAreAFailedStatementToo()
+    {
+        aLecture().insertInto(*m_database);
+
+        m_database->insertIntoDbwithSqlStatementWithArguments(statements::Insert, {u"Optics"_s});
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList());
+    }
+
+    void aLectureIsFoundByItsDayAndByItsMonthInEveryYear()
+    {
+        aLecture().on(QDate(2024, 3, 5)).named("this year").insertInto(*m_database);
+        aLecture().on(QDate(2019, 3, 31)).named("long ago").insertInto(*m_database);
+        aLecture().on(QDate(2024, 4, 5)).named("next month").insertInto(*m_database);
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList(u"this year"_s));
+        QCOMPARE(subjects(m_database->lecturesOfMonth(u"03"_s)),
+                 QStringList({u"this year"_s, u"long ago"_s}));
+        QVERIFY(m_database->lecturesOfDay(u"2024-03-06"_s)->isEmpty());
+    }
+
+    void aLectureUnderAYearOfAnotherCalendarIsNotFoundByTheDayButByTheMonth()
+    {
+        aLecture().on("2567-03-05").named("optics").insertInto(*m_database);
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList());
+        QCOMPARE(subjectsOfDay(u"2567-03-05"_s), QStringList(u"optics"_s));
+        QCOMPARE(subjects(m_database->lecturesOfMonth(u"03"_s)), QStringList(u"optics"_s));
+    }
+
+    void deletingTakesEveryLectureWithTheSamePath()
+    {
+        aLecture().named("one").withAudio(u"/a.aac"_s).insertInto(*m_database);
+        aLecture().named("two").withAudio(u"/a.aac"_s).insertInto(*m_database);
+        aLecture().named("three").withAudio(u"/b.aac"_s).insertInto(*m_database);
+
+        m_database->deleteVoiceData(lectureAt(u"/a.aac"_s));
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList(u"three"_s));
+    }
+
+    void deletingALectureWithoutAudioTakesAllWithoutAudio()
+    {
+        aLecture().named("one").withoutAudio().insertInto(*m_database);
+        aLecture().named("two").withoutAudio().on("2020-01-01").insertInto(*m_database);
+        aLecture().named("three").insertInto(*m_database);
+
+        m_database->deleteVoiceData(lectureAt(QString()));
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList(u"three"_s));
+        QCOMPARE(subjectsOfDay(u"2020-01-01"_s), QStringList());
+    }
+
+    void aPathWithAnApostropheDeletesNothing()
+    {
+        aLecture().named("one").withAudio(u"/o'neill.aac"_s).insertInto(*m_database);
+
+        m_database->deleteVoiceData(lectureAt(u"/o'neill.aac"_s));
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList(u"one"_s));
+    }
+
+    void aPathWithAQuestionMarkIsDeletedAsAnyOther()
+    {
+        aLecture().named("one").withAudio(u"/why?.aac"_s).insertInto(*m_database);
+
+        m_database->deleteVoiceData(lectureAt(u"/why?.aac"_s));
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList());
+    }
+
+    void deletingNeverOpensTheDatabase()
+    {
+        m_database->deleteVoiceData(lectureAt(u"/a.aac"_s));
+
+        QVERIFY(!m_database->connection());
+        QVERIFY(!QFileInfo::exists(m_places->folder()));
+    }
+
+    void lecturesAreThereAgainAfterARestart()
+    {
+        aLecture().named("kept").insertInto(*m_database);
+
+        m_database = std::make_unique<LectureDatabase>(m_places->places());
+
+        QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList(u"kept"_s));
+    }
+
+private:
+    void prepare() override
+    {
+        m_places = std::make_unique<TemporaryPlaces>();
+        m_database = std::make_unique<LectureDatabase>(m_places->places());
+    }
+    void finish() override
+    {
+        m_database.reset();
+        m_places.reset();
+    }
+
+    static QStringList subjects(const std::optional<Rows> &rows)
+    {
+        QStringList subjects;
+        for (const Row &row : rows.value_or(Rows()))
+            subjects.append(row.value(u"subject"_s).toString());
+        return subjects;
+    }
+    QStringList subjectsOfDay(const QString &day)
+    {
+        return subjects(m_database->lecturesOfDay(day));
+    }
+    // As SQLite keeps it: without the final semicolon.
+    QString tableText()
+    {
+        const auto rows = m_database->openDb()->executeQuery(
+            u"select sql from sqlite_master where name = 'audioData'"_s);
+        return rows && !rows->isEmpty() ? rows->constFirst().value(u"sql"_s).toString() : QString();
+    }
+    static LectureInfoItem lectureAt(const QString &path)
+    {
+        LectureInfoItem lecture(u"Any"_s, u""_s, u""_s, u""_s, false);
+        lecture.setLectureAudioPath(path);
+        return lecture;
+    }
+
+    std::unique_ptr<TemporaryPlaces> m_places;
+    std::unique_ptr<LectureDatabase> m_database;
+};
+
+QTEST_GUILESS_MAIN(LectureDatabaseTest)
+#include "LectureDatabaseTest.moc"
