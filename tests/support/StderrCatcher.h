@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QByteArray>
-#include <QTemporaryFile>
 
+#include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarvelo::tests {
@@ -12,28 +13,29 @@ namespace tarvelo::tests {
 class StderrCatcher final
 {
 public:
-    StderrCatcher()
-    {
-        if (m_file.open())
-            dup2(m_file.handle(), STDERR_FILENO);
-    }
+    StderrCatcher() { dup2(m_memory, STDERR_FILENO); }
     StderrCatcher(const StderrCatcher &) = delete;
     StderrCatcher &operator=(const StderrCatcher &) = delete;
     ~StderrCatcher()
     {
         dup2(m_original, STDERR_FILENO);
         ::close(m_original);
+        ::close(m_memory);
     }
 
-    QByteArray caught()
+    QByteArray caught() const
     {
-        QFile file(m_file.fileName());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+        struct stat status = {};
+        if (fstat(m_memory, &status) != 0)
+            return QByteArrayLiteral("unreadable");
+        QByteArray text(status.st_size, Qt::Uninitialized);
+        text.resize(pread(m_memory, text.data(), static_cast<size_t>(text.size()), 0));
+        return text;
     }
 
 private:
     int m_original = dup(STDERR_FILENO);
-    QTemporaryFile m_file;
+    int m_memory = memfd_create("stderr", MFD_CLOEXEC);
 };
 
 } // namespace tarvelo::tests

@@ -1,0 +1,62 @@
+#include "store/FullDisk.h"
+
+#include <QFile>
+
+#include <csignal>
+#include <sched.h>
+#include <sys/mount.h>
+
+namespace tarvelo::tests {
+
+NoRoomForFiles::NoRoomForFiles()
+{
+    // Else the first write would end the process.
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &m_before);
+    const rlimit none{0, m_before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &none);
+}
+
+NoRoomForFiles::~NoRoomForFiles()
+{
+    setrlimit(RLIMIT_FSIZE, &m_before);
+}
+
+SmallDisk::SmallDisk(QString folder)
+    : m_folder(std::move(folder))
+{
+    m_mounted = unshare(CLONE_NEWNS) == 0 &&
+                mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                mount("tmpfs", QFile::encodeName(m_folder).constData(), "tmpfs", 0,
+                      "size=128k,mode=0755") == 0;
+}
+
+SmallDisk::~SmallDisk()
+{
+    m_instead.reset();
+    if (m_mounted)
+        umount(QFile::encodeName(m_folder).constData());
+}
+
+void SmallDisk::fill()
+{
+    if (!m_mounted) {
+        m_instead = std::make_unique<NoRoomForFiles>();
+        return;
+    }
+    QFile filler(m_folder + QStringLiteral("/filler"));
+    if (filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        const QByteArray block(512, 'x');
+        while (filler.write(block) == block.size()) {
+        }
+    }
+}
+
+void SmallDisk::emptyAgain()
+{
+    m_instead.reset();
+    if (m_mounted)
+        QFile::remove(m_folder + QStringLiteral("/filler"));
+}
+
+} // namespace tarvelo::tests
