@@ -1,0 +1,1 @@
+"""Drives Tarvelo from outside, as a student would: through its windows, with mouse and keyboard."""

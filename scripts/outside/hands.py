@@ -1,0 +1,115 @@
+"""Eyes and hands: what the accessibility bus shows, and the mouse and keyboard that act on it."""
+
+import subprocess
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402  (the version has to be named first)
+
+from .waiting import Failed, wait_for  # noqa: E402
+
+
+def _state(thing, state):
+    return thing.get_state_set().contains(state)
+
+
+def _children(thing):
+    return [child for child in map(thing.get_child_at_index, range(thing.get_child_count())) if child]
+
+
+def _below(thing):
+    for child in _children(thing):
+        yield child
+        yield from _below(child)
+
+
+def _quietly(ask):
+    """What vanishes while it is looked at is not there."""
+    try:
+        return ask()
+    except GLib.Error:
+        return None
+
+
+class Hands:
+    """One running program. Every finding waits until what is sought is there and shows."""
+
+    def __init__(self, application):
+        self._application = application
+        self._desktop = Atspi.get_desktop(0)
+        self._desktop.set_cache_mask(Atspi.Cache.NONE)
+
+    def window(self, title, seconds=30):
+        return wait_for(f"the window {title!r}", lambda: _quietly(lambda: self._window_now(title)), seconds)
+
+    def window_goes(self, title):
+        wait_for(f"the window {title!r} to go", lambda: not _quietly(lambda: self._window_now(title)))
+
+    def control(self, window, name, ready=Atspi.StateType.SENSITIVE):
+        def look():
+            for thing in _below(self._window_now(window)):
+                if thing.get_name() == name and _state(thing, Atspi.StateType.SHOWING) and _state(thing, ready):
+                    return thing
+            return None
+
+        return wait_for(f"{name!r} in the window {window!r}", lambda: _quietly(look))
+
+    def row(self, window, table, subject):
+        """The row of a lecture in the table, known by the subject that it begins with."""
+        def look():
+            for thing in _below(self._window_now(window)):
+                if thing.get_name() != table:
+                    continue
+                for part in _below(thing):
+                    if part.get_name().startswith(subject) and _state(part, Atspi.StateType.SHOWING):
+                        return part
+            return None
+
+        return wait_for(f"{subject!r} in {table!r}", lambda: _quietly(look))
+
+    def click(self, window, name):
+        x, y = self._resting_place(self.control(window, name), name)
+        self._xdotool("mousemove", str(x), str(y), "click", "1")
+
+    def write(self, window, name, text):
+        self.click(window, name)
+        field = self.control(window, name, Atspi.StateType.FOCUSED)
+        self._xdotool("type", "--delay", "20", text)
+        wait_for(f"{text!r} in {name!r}", lambda: _quietly(lambda: self._text(field) == text))
+
+    def press(self, window, keys):
+        found = self._xdotool("search", "--onlyvisible", "--name", f"^{window}$").split()
+        self._xdotool("windowactivate", "--sync", found[-1], "key", keys)
+
+    def _window_now(self, title):
+        for application in _children(self._desktop):
+            if application.get_name() != self._application:
+                continue
+            for window in _children(application):
+                if window.get_name() == title and _state(window, Atspi.StateType.SHOWING):
+                    return window
+        return None
+
+    @staticmethod
+    def _text(field):
+        return Atspi.Text.get_text(field, 0, Atspi.Text.get_character_count(field))
+
+    def _resting_place(self, thing, name):
+        """The middle of a control, once it has stopped moving: windows slide in."""
+        seen = []
+
+        def look():
+            box = thing.get_extents(Atspi.CoordType.SCREEN)
+            seen.append((box.x, box.y, box.width, box.height))
+            return box if len(seen) > 2 and seen[-1] == seen[-2] == seen[-3] and box.width > 0 else None
+
+        box = wait_for(f"{name!r} to stand still", lambda: _quietly(look))
+        return box.x + box.width // 2, box.y + box.height // 2
+
+    @staticmethod
+    def _xdotool(*command):
+        done = subprocess.run(["xdotool", *command], capture_output=True, text=True, check=False, timeout=60)
+        if done.returncode != 0:
+            raise Failed(f"xdotool {' '.join(command)}: {done.stderr.strip()}")
+        return done.stdout

@@ -1,0 +1,18 @@
+"""The names under which Tarvelo's controls stand on the accessibility bus: the one place to change them."""
+
+APPLICATION = "Tarvelo"
+MAIN_WINDOW = "Tarvelo"
+NEW_LECTURE_WINDOW = "New Lecture"
+
+LECTURES = "Lectures"
+NEW_LECTURE = "New Lecture"
+SUBJECT = "Subject"
+NOTES = "Notes"
+START_RECORDING = "Start recording"
+PAUSE = "Pause"
+RESUME = "Resume"
+STOP = "Stop"
+PLAY = "Play"
+DONE = "Done"
+
+QUIT_KEYS = "ctrl+q"

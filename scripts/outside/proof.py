@@ -1,0 +1,63 @@
+"""The proof that a lecture was recorded: its row in the database, and the sound in its file."""
+
+import os
+import sqlite3
+
+from . import sound
+from .waiting import Failed
+
+# What the coder and its bit rate cost is below this; a gap, a click or a wrong rate is far above.
+HEARD = 0.97
+# Two different sentences agree by less than half of this.
+NOT_HEARD = 0.5
+COLUMNS = "subject, notes, recordingDate, audioFileFullPath, recordDuration"
+
+
+def _seconds(duration):
+    hours, minutes, seconds = (int(part) for part in duration.split(":"))
+    return hours * 3600 + minutes * 60 + seconds
+
+
+def lecture(data, subject, notes, day):
+    """The one row of the database, as a dictionary, when it is the lecture that was recorded."""
+    path = os.path.join(data, "Tarvelo", "TarveloInfo.db")
+    if not os.path.exists(path):
+        raise Failed(f"there is no database {path}")
+    with sqlite3.connect(f"file:{path}?mode=ro", uri=True) as database:
+        database.row_factory = sqlite3.Row
+        rows = [dict(row) for row in database.execute(f"SELECT {COLUMNS} FROM audioData")]
+    if len(rows) != 1:
+        raise Failed(f"the database holds {len(rows)} lectures instead of one")
+    row = rows[0]
+    for column, wanted in (("subject", subject), ("notes", notes), ("recordingDate", day)):
+        if row[column] != wanted:
+            raise Failed(f"the row's {column} is {row[column]!r} instead of {wanted!r}")
+    folder = os.path.join(data, "Tarvelo", "Audio")
+    if os.path.normpath(os.path.dirname(row["audioFileFullPath"])) != folder:
+        raise Failed(f"the sound lies at {row['audioFileFullPath']!r}, not in {folder!r}")
+    return row
+
+
+def audio(row, spoken, unheard):
+    """Compares the sound of a row with the files spoken while it was recorded, in their order, and with the
+    ones spoken while it paused. Gives the agreements."""
+    whole = sound.samples(row["audioFileFullPath"])
+    length = len(whole) / sound.RATE
+    if not -0.1 <= length - _seconds(row["recordDuration"]) <= 1.1:
+        raise Failed(f"the sound lasts {length:.2f} s, the row says {row['recordDuration']}")
+
+    agreements, end = [], 0.0
+    for path in spoken:
+        sentence = sound.samples(path)
+        agreement, start = sound.correlation(whole, sentence)
+        if agreement < HEARD:
+            raise Failed(f"{os.path.basename(path)} agrees with the recording by {agreement:.4f} only")
+        if start < end:
+            raise Failed(f"{os.path.basename(path)} was spoken later than it is heard")
+        end = start + len(sentence) / sound.RATE
+        agreements.append(agreement)
+    for path in unheard:
+        agreement, _ = sound.correlation(whole, sound.samples(path))
+        if agreement > NOT_HEARD:
+            raise Failed(f"{os.path.basename(path)} was spoken during the pause and is in the recording")
+    return agreements
