@@ -1,0 +1,88 @@
+"""The journey's proof fails for a recording that is not what was spoken."""
+
+import os
+import sqlite3
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import numpy
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts"))
+
+from outside import proof, sound  # noqa: E402  (found by the path set above)
+from outside.waiting import Failed  # noqa: E402
+
+SECOND = sound.RATE
+
+
+def noise(seed, seconds=2.0):
+    return numpy.random.default_rng(seed).normal(0, 0.1, int(seconds * SECOND))
+
+
+def write(path, samples):
+    command = ["ffmpeg", "-v", "error", "-y", "-f", "f32le", "-ar", str(SECOND), "-i", "-", path]
+    subprocess.run(command, input=samples.astype(numpy.float32).tobytes(), check=True)
+    return path
+
+
+class ProofTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+        self.spoken = [write(self.path("first.wav"), noise(1)), write(self.path("second.wav"), noise(2))]
+        self.paused = [write(self.path("paused.wav"), noise(3))]
+
+    def path(self, name):
+        return os.path.join(self.folder, name)
+
+    def recording(self, *parts, duration="00:00:05"):
+        path = write(self.path("recording.wav"), numpy.concatenate(parts))
+        return {"audioFileFullPath": path, "recordDuration": duration}
+
+    def test_what_was_spoken_is_recognised(self):
+        row = self.recording(noise(9, 0.7) * 0.01, noise(1), noise(9, 0.5) * 0.01, noise(2))
+
+        for agreement in proof.audio(row, self.spoken, self.paused):
+            self.assertGreater(agreement, 0.999)
+
+    def test_five_lost_milliseconds_are_noticed(self):
+        hole = numpy.delete(noise(1), slice(SECOND, SECOND + SECOND // 200))
+
+        self.assertRaises(Failed, proof.audio, self.recording(hole, noise(9, 1), noise(2)), self.spoken, self.paused)
+
+    def test_silence_is_noticed(self):
+        row = self.recording(numpy.zeros(SECOND * 5))
+
+        self.assertRaises(Failed, proof.audio, row, self.spoken, self.paused)
+
+    def test_sound_from_the_pause_is_noticed(self):
+        row = self.recording(noise(1), noise(3), noise(2), duration="00:00:06")
+
+        self.assertRaises(Failed, proof.audio, row, self.spoken, self.paused)
+
+    def test_a_wrong_order_is_noticed(self):
+        self.assertRaises(Failed, proof.audio, self.recording(noise(2), noise(1), noise(9, 1)), self.spoken, [])
+
+    def test_a_wrong_length_is_noticed(self):
+        row = self.recording(noise(1), noise(2), duration="00:00:09")
+
+        self.assertRaises(Failed, proof.audio, row, self.spoken, self.paused)
+
+    def test_a_row_is_recognised_and_a_wrong_one_is_noticed(self):
+        os.makedirs(self.path("Tarvelo"))
+        with sqlite3.connect(self.path("Tarvelo/TarveloInfo.db")) as database:
+            database.execute(f"CREATE TABLE audioData ({proof.COLUMNS})")
+            database.execute("INSERT INTO audioData VALUES ('a', 'b', '2024-03-05', ?, '00:00:01')",
+                             [self.path("Tarvelo/Audio//a.m4a")])
+
+        self.assertEqual("b", proof.lecture(self.folder, "a", "b", "2024-03-05")["notes"])
+        self.assertRaises(Failed, proof.lecture, self.folder, "a", "b", "2024-03-06")
+        self.assertRaises(Failed, proof.lecture, self.folder, "x", "b", "2024-03-05")
+        self.assertRaises(Failed, proof.lecture, self.path("elsewhere"), "a", "b", "2024-03-05")
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,81 @@
+"""Tests wait for states and always run; every source file is built."""
+
+import os
+import re
+import unittest
+
+from RuleTest import RuleTest
+
+SLEEP = re.compile(r"\b(qWait|qSleep|sleep_for|sleep_until|nanosleep|usleep|msleep|sleep)\s*\(")
+SKIP = re.compile(r"\b(QSKIP|GTEST_SKIP)\b")
+DISABLED = re.compile(r"\b(DISABLED|SKIP_RETURN_CODE|SKIP_REGULAR_EXPRESSION)\b")
+
+
+def tests_never_sleep(tree):
+    return [f"{path} calls {match[1]}: wait for the state instead"
+            for path in tree.files("tests", ".cpp", ".h") for match in SLEEP.finditer(tree.code(path))]
+
+
+def tests_always_run(tree):
+    skipped = [f"{path} skips a test" for path in tree.files("tests", ".cpp", ".h") if SKIP.search(tree.code(path))]
+    return skipped + [f"{path} switches a test off" for path in tree.files("tests", "CMakeLists.txt")
+                      if DISABLED.search(tree.text(path))]
+
+
+def is_listed(tree, path):
+    """Whether the list of the file's folder, or of one above it, names the file."""
+    folder = os.path.dirname(path)
+    while folder:
+        listing = os.path.join(folder, "CMakeLists.txt")
+        name = re.escape(os.path.relpath(path, folder))
+        if tree.has(listing) and re.search(rf"(?<![\w./-]){name}(?![\w.-])", tree.text(listing)):
+            return True
+        folder = os.path.dirname(folder)
+    return False
+
+
+def sources_are_listed(tree):
+    sources = [path for folder in ("src", "tests", "bench") for path in tree.files(folder, ".cpp")]
+    # The build looks for signals and slots in the header beside a listed source, and in listed headers.
+    sources += [path for folder in ("src", "tests", "bench") for path in tree.files(folder, ".h")
+                if re.search(r"\bQ_(OBJECT|GADGET)\b", tree.code(path)) and not tree.has(path[:-1] + "cpp")]
+    sources += tree.files("tests", "Test.py")
+    return [f"{path} is in no CMakeLists.txt" for path in sources
+            if not is_listed(tree, path) and not path.endswith("/RuleTest.py")]
+
+
+class ConductTest(RuleTest):
+    def test_tests_never_sleep(self):
+        self.assertHolds(tests_never_sleep)
+
+    def test_a_sleep_is_found(self):
+        for line in ("QTest::qWait(50);", "std::this_thread::sleep_for(1s);", "usleep(5);", "QThread::msleep(5);"):
+            self.assertComplains(tests_never_sleep, {"tests/ATest.cpp": line}, "ATest.cpp")
+
+    def test_waiting_for_a_state_is_no_sleep(self):
+        lines = 'QVERIFY(QTest::qWaitFor(isReady)); // no sleep() here\nrun("sleep (3)");\n'
+        self.assertAccepts(tests_never_sleep, {"tests/ATest.cpp": lines})
+
+    def test_tests_always_run(self):
+        self.assertHolds(tests_always_run)
+
+    def test_a_skipped_test_is_found(self):
+        self.assertComplains(tests_always_run, {"tests/ATest.cpp": 'QSKIP("no");'}, "ATest.cpp")
+        listing = "set_tests_properties(ATest PROPERTIES DISABLED TRUE)"
+        self.assertComplains(tests_always_run, {"tests/CMakeLists.txt": listing}, "switches")
+
+    def test_every_source_is_listed(self):
+        self.assertHolds(sources_are_listed)
+
+    def test_a_forgotten_source_is_found(self):
+        files = {"src/store/CMakeLists.txt": "SOURCES LectureA.cpp", "src/store/A.cpp": "", "src/store/LectureA.cpp": ""}
+        self.assertComplains(sources_are_listed, files, "store/A.cpp")
+
+    def test_a_header_with_signals_and_no_source_is_found(self):
+        files = {"src/store/CMakeLists.txt": "SOURCES A.cpp", "src/store/A.cpp": "", "src/store/A.h": "Q_OBJECT",
+                 "src/store/B.h": "Q_OBJECT"}
+        self.assertComplains(sources_are_listed, files, "store/B.h")
+
+
+if __name__ == "__main__":
+    unittest.main()
