@@ -1,0 +1,51 @@
+#pragma once
+
+#include "audio/engine/Ffmpeg.h"
+
+#include <cstdint>
+#include <functional>
+#include <span>
+
+namespace tarvelo::engine {
+
+// An MPEG-4 file with one sound track in the making. Where its bytes go is up to its owner, so that
+// a failing disk is seen by who can do something about it.
+class MovieOutput final
+{
+public:
+    // The offset counts from the beginning of the file; false tells the muxer to give up.
+    using ByteOutput = std::function<bool(std::int64_t offset, std::span<const std::uint8_t>)>;
+
+    enum class Form { Fragmented, Indexed };
+
+    // Null when the track cannot be written.
+    static std::unique_ptr<MovieOutput> create(Form form, const AVCodecParameters &track,
+                                               AVRational timeBase, ByteOutput output);
+    MovieOutput(const MovieOutput &) = delete;
+    MovieOutput &operator=(const MovieOutput &) = delete;
+    ~MovieOutput();
+
+    // Times are in the time base of create(). The packet is left as it was.
+    bool add(const AVPacket &packet);
+    // Fragmented form: puts out what was added since the last cut as one fragment, before the first
+    // one the header.
+    bool cutFragment();
+    bool finish();
+
+private:
+    explicit MovieOutput(ByteOutput output);
+    bool open(Form form, const AVCodecParameters &track, AVRational timeBase);
+    bool flush();
+    static int writeBytes(void *self, std::uint8_t *bytes, int count);
+    static std::int64_t seek(void *self, std::int64_t offset, int whence);
+
+    ByteOutput m_output;
+    std::int64_t m_position = 0;
+    std::int64_t m_size = 0;
+    AVRational m_timeBase{0, 1};
+    AVIOContext *m_io = nullptr;
+    AVFormatContext *m_muxer = nullptr;
+    PacketPointer m_packet{av_packet_alloc()};
+};
+
+} // namespace tarvelo::engine

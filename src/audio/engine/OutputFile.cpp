@@ -1,0 +1,79 @@
+#include "audio/engine/OutputFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tarvelo::engine {
+
+std::unique_ptr<OutputFile> OutputFile::create(const std::string &path)
+{
+    constexpr int Flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    const int descriptor = ::open(path.c_str(), Flags, 0600);
+    if (descriptor < 0)
+        return nullptr;
+    std::unique_ptr<OutputFile> file(new OutputFile(path, descriptor));
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
+        return nullptr;
+    // A file that was there already keeps its mode on some file systems; that is no reason to fail.
+    static_cast<void>(::fchmod(descriptor, 0600));
+    return ::ftruncate(descriptor, 0) == 0 ? std::move(file) : nullptr;
+}
+
+OutputFile::OutputFile(std::string path, int descriptor)
+    : m_path(std::move(path))
+    , m_descriptor(descriptor)
+{
+}
+
+OutputFile::~OutputFile()
+{
+    ::close(m_descriptor);
+}
+
+bool OutputFile::append(std::span<const std::uint8_t> bytes)
+{
+    const std::int64_t before = m_size;
+    if (writeAt(before, bytes))
+        return true;
+    // Should even this fail, the next attempt writes over the same place.
+    static_cast<void>(::ftruncate(m_descriptor, before));
+    m_size = before;
+    return false;
+}
+
+bool OutputFile::writeAt(std::int64_t offset, std::span<const std::uint8_t> bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::pwrite(m_descriptor, bytes.data(), bytes.size(), offset);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        offset += written;
+        m_size = std::max(m_size, offset);
+        bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+bool OutputFile::sync()
+{
+    return ::fdatasync(m_descriptor) == 0;
+}
+
+void syncFolderOf(const std::string &path)
+{
+    const auto slash = path.rfind('/');
+    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    static_cast<void>(::fsync(descriptor));
+    ::close(descriptor);
+}
+
+} // namespace tarvelo::engine

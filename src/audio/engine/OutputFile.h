@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+
+namespace tarvelo::engine {
+
+// A regular file of this user's own (mode 0600) that is open for writing. Every operation says
+// whether it worked; a short write is one that did not.
+class OutputFile final
+{
+public:
+    // Creates or truncates. Null when that fails, or when a thing that is no regular file stands
+    // there: opening never waits for the other end of a pipe.
+    static std::unique_ptr<OutputFile> create(const std::string &path);
+    OutputFile(const OutputFile &) = delete;
+    OutputFile &operator=(const OutputFile &) = delete;
+    ~OutputFile();
+
+    std::int64_t size() const { return m_size; }
+    const std::string &path() const { return m_path; }
+
+    // At the end of the file: whole, or not at all.
+    bool append(std::span<const std::uint8_t> bytes);
+    bool writeAt(std::int64_t offset, std::span<const std::uint8_t> bytes);
+    // Forces the content to the disk.
+    bool sync();
+
+private:
+    OutputFile(std::string path, int descriptor);
+
+    std::string m_path;
+    int m_descriptor;
+    std::int64_t m_size = 0;
+};
+
+// Forces the names in the folder of `path` to the disk.
+void syncFolderOf(const std::string &path);
+
+} // namespace tarvelo::engine

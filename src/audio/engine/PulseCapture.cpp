@@ -1,0 +1,202 @@
+#include "audio/engine/PulseCapture.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace tarvelo::engine {
+
+namespace {
+
+constexpr pa_usec_t BlockLength = 20 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t RetryInterval = PA_USEC_PER_SEC;
+
+} // namespace
+
+std::unique_ptr<PulseCapture> PulseCapture::open(std::chrono::milliseconds patience)
+{
+    std::unique_ptr<PulseCapture> capture(new PulseCapture);
+    if (!capture->startLoop())
+        return nullptr;
+    return capture->waitUntilOpen(patience) ? std::move(capture) : nullptr;
+}
+
+PulseCapture::~PulseCapture()
+{
+    if (!m_loop)
+        return;
+    {
+        const PulseLock lock(m_loop.get());
+        m_sink = nullptr;
+        if (m_retry)
+            pa_threaded_mainloop_get_api(m_loop.get())->time_free(m_retry);
+        m_stream.reset();
+        m_context.reset();
+    }
+    pa_threaded_mainloop_stop(m_loop.get());
+}
+
+bool PulseCapture::startLoop()
+{
+    m_loop.reset(pa_threaded_mainloop_new());
+    if (!m_loop || pa_threaded_mainloop_start(m_loop.get()) < 0)
+        return false;
+    const PulseLock lock(m_loop.get());
+    connectContext();
+    return true;
+}
+
+bool PulseCapture::waitUntilOpen(std::chrono::milliseconds patience)
+{
+    std::unique_lock lock(m_mutex);
+    m_settled.wait_for(lock, patience, [this] { return m_outcome != Outcome::Pending; });
+    return m_outcome == Outcome::Opened;
+}
+
+void PulseCapture::settle(Outcome outcome)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_outcome == Outcome::Pending)
+        m_outcome = outcome;
+    m_settled.notify_one();
+}
+
+void PulseCapture::resume(SoundSink &sink)
+{
+    const PulseLock lock(m_loop.get());
+    m_sink = &sink;
+    if (isStreamReady())
+        forget(pa_stream_cork(m_stream.get(), 0, nullptr, nullptr));
+}
+
+void PulseCapture::pause()
+{
+    const PulseLock lock(m_loop.get());
+    if (!m_sink)
+        return;
+    if (isStreamReady()) {
+        takeWhatIsThere();
+        forget(pa_stream_cork(m_stream.get(), 1, nullptr, nullptr));
+    }
+    m_sink->breakOff();
+    m_sink = nullptr;
+}
+
+void PulseCapture::connectContext()
+{
+    m_stream.reset();
+    m_context.reset(pa_context_new(pa_threaded_mainloop_get_api(m_loop.get()), "Tarvelo"));
+    if (!m_context) {
+        settle(Outcome::Failed);
+        return;
+    }
+    pa_context_set_state_callback(
+        m_context.get(),
+        [](pa_context *, void *self) { static_cast<PulseCapture *>(self)->contextChanged(); },
+        this);
+    if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
+        lost();
+}
+
+void PulseCapture::contextChanged()
+{
+    const pa_context_state_t state = pa_context_get_state(m_context.get());
+    if (!PA_CONTEXT_IS_GOOD(state))
+        lost();
+    if (state != PA_CONTEXT_READY)
+        return;
+    forget(pa_context_get_source_info_by_name(
+        m_context.get(), "@DEFAULT_SOURCE@",
+        [](pa_context *, const pa_source_info *microphone, int end, void *self) {
+            if (microphone)
+                static_cast<PulseCapture *>(self)->microphoneFound(*microphone);
+            else if (end < 0)
+                static_cast<PulseCapture *>(self)->lost();
+        },
+        this));
+}
+
+void PulseCapture::microphoneFound(const pa_source_info &microphone)
+{
+    if (m_format.rate == 0)
+        m_format = {static_cast<int>(microphone.sample_spec.rate),
+                    std::min<int>(microphone.sample_spec.channels, 2)};
+    openStream();
+}
+
+void PulseCapture::openStream()
+{
+    const pa_sample_spec spec{PA_SAMPLE_FLOAT32NE, static_cast<std::uint32_t>(m_format.rate),
+                              static_cast<std::uint8_t>(m_format.channels)};
+    m_stream.reset(pa_stream_new(m_context.get(), "Lecture", &spec, nullptr));
+    if (!m_stream) {
+        lost();
+        return;
+    }
+    pa_stream_set_state_callback(
+        m_stream.get(),
+        [](pa_stream *, void *self) { static_cast<PulseCapture *>(self)->streamChanged(); }, this);
+    pa_stream_set_read_callback(
+        m_stream.get(),
+        [](pa_stream *, std::size_t, void *self) {
+            static_cast<PulseCapture *>(self)->takeWhatIsThere();
+        },
+        this);
+    constexpr auto Any = static_cast<std::uint32_t>(-1);
+    const auto block = static_cast<std::uint32_t>(pa_usec_to_bytes(BlockLength, &spec));
+    const pa_buffer_attr buffer{Any, Any, Any, Any, block};
+    const int flags = PA_STREAM_ADJUST_LATENCY | (m_sink ? 0 : PA_STREAM_START_CORKED);
+    if (pa_stream_connect_record(m_stream.get(), nullptr, &buffer,
+                                 static_cast<pa_stream_flags_t>(flags)) < 0)
+        lost();
+}
+
+void PulseCapture::streamChanged()
+{
+    const pa_stream_state_t state = pa_stream_get_state(m_stream.get());
+    if (state == PA_STREAM_READY)
+        settle(Outcome::Opened);
+    else if (!PA_STREAM_IS_GOOD(state))
+        lost();
+}
+
+// Runs inside callbacks of the very handles that are lost: they go when the retry makes new ones.
+void PulseCapture::lost()
+{
+    settle(Outcome::Failed);
+    if (m_sink)
+        m_sink->breakOff();
+    if (m_retry)
+        return;
+    m_retry = pa_context_rttime_new(
+        m_context.get(), pa_rtclock_now() + RetryInterval,
+        [](pa_mainloop_api *api, pa_time_event *event, const timeval *, void *self) {
+            auto capture = static_cast<PulseCapture *>(self);
+            api->time_free(event);
+            capture->m_retry = nullptr;
+            capture->connectContext();
+        },
+        this);
+}
+
+bool PulseCapture::isStreamReady() const
+{
+    return m_stream && pa_stream_get_state(m_stream.get()) == PA_STREAM_READY;
+}
+
+void PulseCapture::takeWhatIsThere()
+{
+    for (;;) {
+        const void *bytes = nullptr;
+        std::size_t count = 0;
+        if (pa_stream_peek(m_stream.get(), &bytes, &count) < 0 || count == 0)
+            return;
+        const std::size_t samples = count / sizeof(float);
+        if (m_sink && bytes)
+            m_sink->put({static_cast<const float *>(bytes), samples});
+        else if (m_sink) // the server lost some: silence keeps what follows in its place
+            m_sink->put(std::vector<float>(samples, 0.0F));
+        pa_stream_drop(m_stream.get());
+    }
+}
+
+} // namespace tarvelo::engine

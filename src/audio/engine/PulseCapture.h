@@ -1,0 +1,63 @@
+#pragma once
+
+#include "audio/engine/PcmFormat.h"
+#include "audio/engine/PulseHandles.h"
+#include "audio/engine/SoundSink.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+
+namespace tarvelo::engine {
+
+// The default input of the session's sound server. Once open it stays so: when the microphone or
+// the server goes away there is no sound until one is back, which is looked for every second.
+class PulseCapture final
+{
+public:
+    // Null when there is no server, no microphone, or no answer before the patience ends.
+    static std::unique_ptr<PulseCapture> open(std::chrono::milliseconds patience);
+    PulseCapture(const PulseCapture &) = delete;
+    PulseCapture &operator=(const PulseCapture &) = delete;
+    ~PulseCapture();
+
+    // What the microphone gives by itself, of at most two channels. Stays the same, whatever
+    // microphone comes next.
+    const PcmFormat &format() const { return m_format; }
+
+    // From now on sound goes into the sink, until pause() or destruction returns.
+    void resume(SoundSink &sink);
+    // All sound that has arrived by now is in the sink; then the sink hears of the break.
+    void pause();
+
+private:
+    enum class Outcome { Pending, Opened, Failed };
+
+    PulseCapture() = default;
+    bool startLoop();
+    bool waitUntilOpen(std::chrono::milliseconds patience);
+    void settle(Outcome outcome);
+
+    // All below run with the loop's lock held.
+    void connectContext();
+    void contextChanged();
+    void microphoneFound(const pa_source_info &microphone);
+    void openStream();
+    void streamChanged();
+    void lost();
+    void takeWhatIsThere();
+    bool isStreamReady() const;
+
+    PulseLoopPointer m_loop;
+    PulseContextPointer m_context;
+    PulseStreamPointer m_stream;
+    pa_time_event *m_retry = nullptr;
+    PcmFormat m_format;
+    SoundSink *m_sink = nullptr; // none while paused
+
+    std::mutex m_mutex;
+    std::condition_variable m_settled;
+    Outcome m_outcome = Outcome::Pending;
+};
+
+} // namespace tarvelo::engine

@@ -1,0 +1,31 @@
+#include "audio/engine/RecorderSettings.h"
+#include "audio/engine/SoundServerRecorder.h"
+
+#include <QFile>
+
+namespace tarvelo::engine {
+
+namespace {
+
+class SoundServerEngine final : public AudioEngine
+{
+public:
+    std::unique_ptr<AudioRecorder> makeRecorder(const QString &path,
+                                                const QVariantMap &settings) override
+    {
+        const auto wanted = RecorderSettings::fromDictionary(settings);
+        if (!wanted || path.isEmpty())
+            return nullptr;
+        return std::make_unique<SoundServerRecorder>(QFile::encodeName(path).toStdString(),
+                                                     *wanted);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<AudioEngine> makeSoundServerEngine()
+{
+    return std::make_unique<SoundServerEngine>();
+}
+
+} // namespace tarvelo::engine

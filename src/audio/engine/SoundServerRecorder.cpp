@@ -1,0 +1,92 @@
+#include "audio/engine/SoundServerRecorder.h"
+
+#include <QCoreApplication>
+
+namespace tarvelo::engine {
+
+namespace {
+
+// A server that is there answers within a few milliseconds; the main thread waits no longer than
+// this for one that hangs.
+constexpr std::chrono::milliseconds Patience{1000};
+
+} // namespace
+
+SoundServerRecorder::SoundServerRecorder(std::string path, const RecorderSettings &settings)
+    : m_path(std::move(path))
+    , m_settings(settings)
+    , m_self(std::make_shared<SoundServerRecorder *>(this))
+{
+}
+
+SoundServerRecorder::~SoundServerRecorder()
+{
+    m_delegate = nullptr;
+    stop();
+}
+
+void SoundServerRecorder::setDelegate(AudioRecorderDelegate *delegate)
+{
+    m_delegate = delegate;
+}
+
+bool SoundServerRecorder::prepareToRecord()
+{
+    if (m_take)
+        return true;
+    m_lastTime = 0;
+    auto capture = PulseCapture::open(Patience);
+    if (!capture)
+        return false;
+    m_take = Take::start(m_path, capture->format(), m_settings);
+    if (!m_take)
+        return false;
+    m_capture = std::move(capture);
+    return true;
+}
+
+bool SoundServerRecorder::record()
+{
+    if (!m_take)
+        return false;
+    m_capture->resume(*m_take);
+    return true;
+}
+
+void SoundServerRecorder::pause()
+{
+    if (m_take)
+        m_capture->pause();
+}
+
+void SoundServerRecorder::stop()
+{
+    if (!m_take)
+        return;
+    m_capture->pause();
+    m_capture.reset();
+    const bool successfully = m_take->finish();
+    m_lastTime = m_take->seconds();
+    m_take.reset();
+    tellDelegateLater(successfully);
+}
+
+double SoundServerRecorder::currentTime() const
+{
+    return m_take ? m_take->seconds() : m_lastTime;
+}
+
+void SoundServerRecorder::tellDelegateLater(bool successfully)
+{
+    if (!QCoreApplication::instance())
+        return;
+    const auto tell = [self = std::weak_ptr(m_self), successfully] {
+        const auto recorder = self.lock();
+        if (recorder && (*recorder)->m_delegate)
+            (*recorder)->m_delegate->audioRecorderDidFinishRecordingSuccessfully(*recorder,
+                                                                                 successfully);
+    };
+    QMetaObject::invokeMethod(QCoreApplication::instance(), tell, Qt::QueuedConnection);
+}
+
+} // namespace tarvelo::engine

@@ -1,0 +1,155 @@
+#include "support/PrivateSoundServer.h"
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QRegularExpression>
+
+namespace tarvelo::tests {
+
+namespace {
+
+constexpr int LongEnough = 20000; // milliseconds, for a machine that has other things to do
+
+QByteArray answerOf(const QStringList &question)
+{
+    QProcess pactl;
+    pactl.start(QStringLiteral("pactl"), question);
+    pactl.waitForFinished(LongEnough);
+    return pactl.exitCode() == 0 ? pactl.readAllStandardOutput() : QByteArray();
+}
+
+void end(QProcess &process)
+{
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.kill();
+    process.waitForFinished(LongEnough);
+}
+
+} // namespace
+
+PrivateSoundServer::PrivateSoundServer()
+    : m_serverBefore(qgetenv("PULSE_SERVER"))
+{
+    qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(socketPath()));
+}
+
+PrivateSoundServer::~PrivateSoundServer()
+{
+    kill();
+    if (m_serverBefore.isEmpty())
+        qunsetenv("PULSE_SERVER");
+    else
+        qputenv("PULSE_SERVER", m_serverBefore);
+}
+
+bool PrivateSoundServer::writeScript(const Options &options) const
+{
+    QString script;
+    if (options.hasMicrophone)
+        script += QStringLiteral("load-module module-null-sink sink_name=speaker\n"
+                                 "load-module module-null-sink sink_name=mic rate=%1 channels=%2\n"
+                                 "load-module module-remap-source source_name=microphone "
+                                 "master=mic.monitor\n"
+                                 "set-default-source microphone\n"
+                                 "set-default-sink speaker\n")
+                      .arg(options.rate)
+                      .arg(options.channels);
+    // Last, so that who can connect finds everything.
+    script += QStringLiteral("load-module module-native-protocol-unix auth-anonymous=1 "
+                             "socket=%1\n")
+                  .arg(socketPath());
+    QFile file(m_folder.filePath(QStringLiteral("server.pa")));
+    return file.open(QIODevice::WriteOnly) && file.write(script.toUtf8()) > 0;
+}
+
+bool PrivateSoundServer::start(const Options &options)
+{
+    if (!m_folder.isValid() || !writeScript(options))
+        return false;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"XDG_RUNTIME_DIR", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"})
+        environment.insert(QString::fromLatin1(name), m_folder.path());
+    m_server.setProcessEnvironment(environment);
+    m_server.setStandardErrorFile(QProcess::nullDevice());
+    m_server.setStandardOutputFile(QProcess::nullDevice());
+    m_server.start(QStringLiteral("pulseaudio"),
+                   {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
+                    QStringLiteral("--system=no"), QStringLiteral("--use-pid-file=no"),
+                    QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--disable-shm=yes"),
+                    QStringLiteral("--realtime=no"), QStringLiteral("--high-priority=no"),
+                    QStringLiteral("-F"), m_folder.filePath(QStringLiteral("server.pa"))});
+    return m_server.waitForStarted(LongEnough) && waitUntil({QStringLiteral("info")}, "Server") &&
+           (!options.hasMicrophone || keepAwake());
+}
+
+// A sink that nobody plays into works in blocks of two seconds, and would swallow the first two of
+// every test: silence with a short latency, and a listener, keep it going.
+bool PrivateSoundServer::keepAwake()
+{
+    const QList<QStringList> keepers{
+        {QStringLiteral("--playback"), QStringLiteral("-d"), QStringLiteral("mic"),
+         QStringLiteral("--latency-msec=20"), QStringLiteral("--raw"), QStringLiteral("/dev/zero")},
+        {QStringLiteral("--record"), QStringLiteral("-d"), QStringLiteral("microphone"),
+         QStringLiteral("--latency-msec=20"), QStringLiteral("--raw"),
+         QStringLiteral("/dev/null")}};
+    for (const QStringList &arguments : keepers) {
+        auto &keeper = m_helpers.emplace_back(std::make_unique<QProcess>());
+        keeper->setStandardErrorFile(QProcess::nullDevice());
+        keeper->start(QStringLiteral("pacat"), arguments);
+    }
+    const QString list = QStringLiteral("list");
+    const QString brief = QStringLiteral("short");
+    return waitUntil({list, brief, QStringLiteral("sink-inputs")}, "float32le|s16le") &&
+           waitUntil({list, brief, QStringLiteral("source-outputs")}, "s16le") &&
+           waitUntil({list, brief, QStringLiteral("sources")}, "microphone[^\n]*RUNNING");
+}
+
+// Asks again and again until the answer matches; each asking waits for a process, so that the loop
+// is not a busy one.
+bool PrivateSoundServer::waitUntil(const QStringList &question, const QByteArray &answer)
+{
+    const QRegularExpression wanted(QString::fromLatin1(answer));
+    const QDeadlineTimer deadline(LongEnough);
+    while (m_server.state() == QProcess::Running && !deadline.hasExpired()) {
+        if (wanted.match(QString::fromUtf8(answerOf(question))).hasMatch())
+            return true;
+        m_server.waitForFinished(20);
+    }
+    return false;
+}
+
+void PrivateSoundServer::kill()
+{
+    end(m_server);
+    for (const auto &keeper : m_helpers)
+        end(*keeper);
+    m_helpers.clear();
+    QFile::remove(socketPath());
+}
+
+bool PrivateSoundServer::pullOutMicrophone()
+{
+    answerOf({QStringLiteral("unload-module"), QStringLiteral("module-remap-source")});
+    return waitUntil({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sources")},
+                     "^(?!.*microphone)");
+}
+
+bool PrivateSoundServer::speak(const QString &wavPath)
+{
+    auto &player = m_helpers.emplace_back(std::make_unique<QProcess>());
+    player->setStandardErrorFile(QProcess::nullDevice());
+    player->start(QStringLiteral("paplay"), {QStringLiteral("-d"), QStringLiteral("mic"), wavPath});
+    // Two streams go into the microphone then: the silence and this one.
+    return waitUntil(
+        {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")},
+        "\\n.*\\n");
+}
+
+bool PrivateSoundServer::speakBlocking(const QString &wavPath)
+{
+    return QProcess::execute(QStringLiteral("paplay"),
+                             {QStringLiteral("-d"), QStringLiteral("mic"), wavPath}) == 0;
+}
+
+} // namespace tarvelo::tests

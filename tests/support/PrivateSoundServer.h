@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <vector>
+
+namespace tarvelo::tests {
+
+// A sound server of the test's own, with a microphone that hears what is played into it and a
+// speaker that can be listened to. While it lives, this process and its children take it for the
+// session's sound server. Needs no system service and runs as any user.
+class PrivateSoundServer final
+{
+public:
+    struct Options
+    {
+        int rate = 44100;
+        int channels = 2;
+        bool hasMicrophone = true;
+    };
+
+    PrivateSoundServer();
+    ~PrivateSoundServer();
+    PrivateSoundServer(const PrivateSoundServer &) = delete;
+    PrivateSoundServer &operator=(const PrivateSoundServer &) = delete;
+
+    QString socketPath() const { return m_folder.filePath(QStringLiteral("native")); }
+    // The name of the source that hears what the program plays.
+    static QString speakerMonitor() { return QStringLiteral("speaker.monitor"); }
+
+    // Returns when sound flows through the microphone.
+    bool start() { return start(Options()); }
+    bool start(const Options &options);
+    // Ends the server at once, as a crash would.
+    void kill();
+    bool pullOutMicrophone();
+    // Plays the sound file into the microphone; returns when the player has its place there.
+    bool speak(const QString &wavPath);
+    // The same, but returns when it has been played; the event loop stands still until then.
+    bool speakBlocking(const QString &wavPath);
+
+private:
+    bool writeScript(const Options &options) const;
+    bool waitUntil(const QStringList &question, const QByteArray &answer);
+    bool keepAwake();
+
+    QTemporaryDir m_folder;
+    QByteArray m_serverBefore;
+    QProcess m_server;
+    std::vector<std::unique_ptr<QProcess>> m_helpers;
+};
+
+} // namespace tarvelo::tests
