@@ -26,7 +26,8 @@ QString AudioFileLocations::extensionByFormat() const
 QString AudioFileLocations::getAudioFolderPath() const
 {
     // The product's folder, whatever name the process runs under.
-    const QString folder = expandingTilde(m_places.applicationSupport + u"/Tarvelo/Audio");
+    const QString folder =
+        expandingTilde(m_places.applicationSupport + QStringLiteral("/Tarvelo/Audio"));
     createFolderIfMissing(folder);
     return folder + u'/';
 }
@@ -47,12 +48,12 @@ QString AudioFileLocations::getAudioSavePath() const
 void AudioFileLocations::createFolders()
 {
     const QString own = m_places.applicationSupport + u'/' + m_places.processName;
-    const QString temporary = expandingTilde(own + u"/temp");
+    const QString temporary = expandingTilde(own + QStringLiteral("/temp"));
     createFolderIfMissing(temporary);
     m_temporaryBasePath = temporary + u'/' + m_temporaryBasePath;
     // Made but not written to: saved files go to the product's folder. The two are one when the
     // program runs under its own name, and both are wanted.
-    createFolderIfMissing(expandingTilde(own + u"/Audio"));
+    createFolderIfMissing(expandingTilde(own + QStringLiteral("/Audio")));
 }
 
 void AudioFileLocations::setTempAudioSavePathWithFormat()

@@ -26,6 +26,7 @@ public:
 
     bool hasPlayer() const { return m_player != nullptr; }
     bool isPlayerPlaying() const { return m_isPlayerPlaying; }
+    float currentPlayRate() const { return m_currentPlayRate; }
 
     // Plays the finished take from its start, and turns the stop button into its pause button. A
     // take that cannot be read plays nothing; the controls change all the same.
@@ -33,6 +34,8 @@ public:
     // By the stop button's tag: 2 pauses, 1 plays on. Nothing happens without a player.
     void pauseResumeRecordTemp(QWidget *sender);
     void stopSoundPlay();
+    // The base that every speed is derived from goes back to the recorded speed.
+    void resetRate() { m_currentPlayRate = 1.0F; }
     // Wanted to do nothing: day changes schedule it, and the edit player needs no stopping then.
     void stopSoundPlayEdit() {}
     void discardPlayer();
@@ -45,6 +48,7 @@ private:
     RecordingOutlets m_outlets;
     std::unique_ptr<engine::AudioPlayer> m_player;
     bool m_isPlayerPlaying = false;
+    float m_currentPlayRate = 0;
 };
 
 } // namespace tarvelo::audio

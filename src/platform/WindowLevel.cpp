@@ -20,6 +20,14 @@ void setWindowLevel(QWidget &window, int level)
     setWindowFlagInPlace(window, Qt::WindowStaysOnTopHint, level > NormalWindowLevel);
 }
 
+void makeKeyAndOrderFront(QWidget &window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on)
 {
     Qt::WindowFlags flags = window.windowFlags();

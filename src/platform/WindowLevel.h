@@ -17,6 +17,9 @@ int windowLevel(const QWidget &window);
 // Where the window system knows no levels (Wayland), the level is kept and changes nothing.
 void setWindowLevel(QWidget &window, int level);
 
+// Shows the window in front of the others, with the keyboard; one that was minimised comes back.
+void makeKeyAndOrderFront(QWidget &window);
+
 // Changes one flag of a window that may be showing, without hiding it as QWidget's own setter does.
 void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on);
 

@@ -1,0 +1,94 @@
+#include "lectures/CustomTableCellView.h"
+
+#include "platform/Fonts.h"
+#include "platform/Texts.h"
+#include "widgets/ImageButton.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+
+namespace tarvelo::lectures {
+
+namespace {
+
+const QColor SubjectColour(60, 57, 66);
+const QColor DetailColour(120, 116, 128);
+const QColor LineColour(232, 231, 235);
+
+QString firstLineOf(const QString &notes)
+{
+    return notes.simplified().left(200);
+}
+
+} // namespace
+
+CustomTableCellView::CustomTableCellView(QWidget *parent)
+    : QFrame(parent)
+{
+    m_subject = makeLabel("lblSubject", 15, SubjectColour);
+    m_notes = makeLabel("lblNotes", 12, DetailColour);
+    m_duration = makeLabel("lblDuration", 13, DetailColour);
+    m_btnBrowse = new widgets::ImageButton(this);
+    m_btnBrowse->setObjectName(QStringLiteral("btnBrowse"));
+    m_btnBrowse->setLook(QStringLiteral("folder"), QString(), platform::text("ROW_SHOW_FILE"));
+    m_btnBrowse->setFixedSize(28, 28);
+
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(16, 10, 12, 10);
+    layout->setHorizontalSpacing(12);
+    layout->setVerticalSpacing(2);
+    layout->addWidget(m_subject, 0, 0);
+    layout->addWidget(m_notes, 1, 0);
+    layout->addWidget(m_duration, 0, 1, 2, 1, Qt::AlignVCenter);
+    layout->addWidget(m_btnBrowse, 0, 2, 2, 1, Qt::AlignVCenter);
+    layout->setColumnStretch(0, 1);
+}
+
+QLabel *CustomTableCellView::makeLabel(const char *name, double size, const QColor &colour)
+{
+    auto *label = new QLabel(this);
+    label->setObjectName(QString::fromLatin1(name));
+    // Notes are the student's own words, never markup.
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), size));
+    // A long subject is cut at the row's edge instead of widening the row.
+    label->setMinimumWidth(1);
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::WindowText, colour);
+    label->setPalette(colours);
+    return label;
+}
+
+void CustomTableCellView::setObjectValue(const Lecture &lecture)
+{
+    m_lecture = lecture;
+    const QString subject = lecture ? lecture->strSubject() : QString();
+    m_subject->setText(subject);
+    m_subject->setToolTip(subject.toHtmlEscaped());
+    m_notes->setText(lecture ? firstLineOf(lecture->strNotes()) : QString());
+    m_duration->setText(lecture ? lecture->strRecordingDuration() : QString());
+    m_btnBrowse->setVisible(lecture && !lecture->getLectureAudioPath().isEmpty());
+    setAccessibleName(subject + QStringLiteral(", ") + m_duration->text());
+}
+
+void CustomTableCellView::setCurrent(bool current)
+{
+    if (m_isCurrent == current)
+        return;
+    m_isCurrent = current;
+    update();
+}
+
+void CustomTableCellView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(QRect(16, height() - 1, width() - 16, 1), LineColour);
+    if (!m_isCurrent)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -4), 6, 6);
+}
+
+} // namespace tarvelo::lectures

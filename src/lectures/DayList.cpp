@@ -1,0 +1,96 @@
+#include "lectures/DayList.h"
+
+#include "platform/Dates.h"
+#include "store/LectureDatabase.h"
+#include "store/LectureRows.h"
+#include "widgets/ImageButton.h"
+#include "widgets/SlidingWindow.h"
+
+#include <QLabel>
+
+namespace tarvelo::lectures {
+
+using platform::Dates;
+
+namespace {
+constexpr int ListShownWidth = 833;
+}
+
+DayList::DayList(const Dates &dates, store::LectureDatabase &database,
+                 const MainWindowOutlets &outlets, std::function<void()> reload)
+    : m_dates(dates)
+    , m_database(database)
+    , m_outlets(outlets)
+    , m_reload(std::move(reload))
+{
+}
+
+QWidget &DayList::emptyDayPanel() const
+{
+    return *m_outlets.btnAddNewLecture2->parentWidget()->parentWidget();
+}
+
+bool DayList::isDayOpen(const QDateTime &date) const
+{
+    const QDateTime now = m_dates.now();
+    if (now <= date)
+        return true;
+    return m_dates.format(now, Dates::Style::Short, Dates::Style::None) ==
+           m_dates.format(date, Dates::Style::Short, Dates::Style::None);
+}
+
+void DayList::prepareViewForDate(const QDateTime &date)
+{
+    m_dateOfButtonClicked = date;
+    m_outlets.btnDeleteItem->hide();
+    const bool isOpen = isDayOpen(date);
+    m_outlets.btnAddItem->setHidden(!isOpen);
+    m_arrangedObjects.clear();
+    // The store is asked under a fixed locale, so that the user's calendar and digits never matter
+    // here.
+    fill(m_database.lecturesOfDay(m_dates.formatFixed(date, QStringLiteral("yyyy-MM-dd"))));
+    enableDeleteItem();
+    emptyDayPanel().setVisible(isOpen && m_arrangedObjects.empty());
+    m_reload();
+}
+
+void DayList::showAllList(const QDateTime &date)
+{
+    m_outlets.btnDeleteItem->hide();
+    m_arrangedObjects.clear();
+    // The month alone counts, so this shows it of every year, in the order of the file: wanted so.
+    fill(m_database.lecturesOfMonth(m_dates.formatFixed(date, QStringLiteral("MM"))));
+    m_outlets.lblDateDisplay->setText(QStringLiteral("All List"));
+    m_reload();
+    showWhetherEmpty();
+    m_outlets.mainWindow->setFrameWidth(ListShownWidth, true);
+}
+
+void DayList::append(const Lecture &lecture)
+{
+    m_arrangedObjects.push_back(lecture);
+    m_reload();
+}
+
+void DayList::showWhetherEmpty()
+{
+    enableDeleteItem();
+    emptyDayPanel().setVisible(m_arrangedObjects.empty());
+}
+
+void DayList::fill(const std::optional<store::Rows> &rows)
+{
+    if (!rows)
+        return;
+    m_arrangedObjects.reserve(static_cast<std::size_t>(rows->size()));
+    for (const QVariantMap &row : *rows)
+        m_arrangedObjects.push_back(
+            std::make_shared<store::LectureInfoItem>(store::lectureFromRow(row)));
+}
+
+void DayList::enableDeleteItem()
+{
+    m_outlets.btnDeleteItem->setEnabled(!m_arrangedObjects.empty());
+}
+
+} // namespace tarvelo::lectures

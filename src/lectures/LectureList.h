@@ -1,0 +1,14 @@
+#pragma once
+
+#include "store/LectureInfoItem.h"
+
+#include <memory>
+#include <vector>
+
+namespace tarvelo::lectures {
+
+// The lectures shown, in the order of the table's rows.
+using Lecture = std::shared_ptr<store::LectureInfoItem>;
+using LectureList = std::vector<Lecture>;
+
+} // namespace tarvelo::lectures

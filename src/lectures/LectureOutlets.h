@@ -1,0 +1,94 @@
+#pragma once
+
+class QLabel;
+class QLineEdit;
+class QTextEdit;
+class QWidget;
+
+namespace tarvelo::calendar {
+class CKCalendarView;
+}
+namespace tarvelo::widgets {
+class ImageButton;
+class SlidingWindow;
+} // namespace tarvelo::widgets
+
+namespace tarvelo::lectures {
+
+class LectureTable;
+
+// The controls of each window, under the names that they have in its layout. All of them exist.
+
+struct MainWindowOutlets
+{
+    widgets::SlidingWindow *mainWindow = nullptr;
+    calendar::CKCalendarView *calendarView = nullptr;
+    LectureTable *tblRecordSubjectList = nullptr;
+    QWidget *tableListView = nullptr;
+    QWidget *scrollTableView = nullptr;
+    QWidget *editPlayView = nullptr;
+    QWidget *weekDayView = nullptr;
+    QWidget *topHorizontalLine = nullptr;
+    QLabel *lblTarvelo = nullptr;
+    QLabel *lblDateDisplay = nullptr;
+    widgets::ImageButton *btnMainMenu = nullptr;
+    widgets::ImageButton *btnAddItem = nullptr;
+    widgets::ImageButton *btnDeleteItem = nullptr;
+    widgets::ImageButton *btnAddNewLecture2 = nullptr;
+    widgets::ImageButton *btnShowAllList = nullptr;
+    widgets::ImageButton *btnFoldUpList = nullptr;
+};
+
+struct LectureViewOutlets
+{
+    QLineEdit *tSubjectName = nullptr;
+    QTextEdit *tViewNoteForEdit = nullptr;
+    QLabel *lblNotesForView = nullptr;
+    QLabel *tEditTime = nullptr;
+    QLabel *tEditDate = nullptr;
+    widgets::ImageButton *btnSlidetoView = nullptr;
+    widgets::ImageButton *btnSlideToListView = nullptr;
+    widgets::ImageButton *btnDoneEditLecture = nullptr;
+};
+
+struct NewLectureOutlets
+{
+    QWidget *newNoteWindow = nullptr;
+    QLineEdit *txtSubjectForNewNote = nullptr;
+    QTextEdit *txtView = nullptr;
+    QLabel *lblNotesForAdd = nullptr;
+    QLabel *textTime = nullptr;
+    QLabel *textDate = nullptr;
+    widgets::ImageButton *BtnDoneOrClose = nullptr;
+    widgets::ImageButton *btnCloseNewLecture = nullptr;
+    widgets::ImageButton *BtnCancelAddNewLecture = nullptr;
+};
+
+struct EditLectureOutlets
+{
+    QWidget *windowEditLecture = nullptr;
+    QLineEdit *txtSubjectForEdit = nullptr;
+    QTextEdit *txtViewNotesForEdit = nullptr;
+    QLabel *textEditTime = nullptr;
+    QLabel *textEditDate = nullptr;
+    widgets::ImageButton *btnDoneEdit = nullptr;
+};
+
+struct PlayAudioOutlets
+{
+    QWidget *playAudioWindow = nullptr;
+    QLineEdit *txtSubjectName = nullptr;
+    QLineEdit *txtCourseName = nullptr;
+    QLineEdit *txtFieldForAudio = nullptr;
+};
+
+// What the two pop-overs show.
+struct PopoverOutlets
+{
+    QLabel *lblRecordDeleteConfirmation = nullptr;
+    QLabel *lblPopoverNoAudio = nullptr;
+    widgets::ImageButton *btnConfirmNo = nullptr;
+    widgets::ImageButton *btnConfirmYes = nullptr;
+};
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,75 @@
+#include "lectures/LectureRecordsHandler.h"
+
+#include "platform/Dates.h"
+#include "store/LectureDatabase.h"
+
+#include <QLabel>
+#include <QTableView>
+
+namespace tarvelo::lectures {
+
+LectureRecordsHandler::LectureRecordsHandler(const platform::Dates &dates,
+                                             const store::LectureDatabase &database,
+                                             const Outlets &outlets)
+    : m_dates(dates)
+    , m_database(database)
+    , m_outlets(outlets)
+{
+}
+
+int LectureRecordsHandler::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : 3;
+}
+
+int LectureRecordsHandler::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : 1;
+}
+
+QVariant LectureRecordsHandler::data(const QModelIndex &, int) const
+{
+    return {};
+}
+
+void LectureRecordsHandler::awakeFromNib()
+{
+    showDate(m_dates.now());
+    m_outlets.lectureRecordsTable->setSelectionMode(QAbstractItemView::NoSelection);
+    m_outlets.tblLectureRecords->setModel(this);
+    reloadData();
+}
+
+void LectureRecordsHandler::showDate(const QDateTime &date)
+{
+    // The year of the week is wanted here.
+    m_outlets.lblDateDisplay->setText(m_dates.format(date, QStringLiteral("d MMMM YYYY")));
+}
+
+void LectureRecordsHandler::setDateToDisplay(const QDateTime &date)
+{
+    showDate(date);
+    m_dateOfDisplay = date;
+}
+
+void LectureRecordsHandler::prepareList()
+{
+    m_nsmArrLectureRecords.clear();
+    reloadData();
+    if (!m_database.connection())
+        return;
+    const auto rows = m_database.connection()->executeQueryArguments(
+        QStringLiteral("select * from TblToDoList WHERE (strftime('%Y-%m-%d', ToDoDate)) = ? ORDER "
+                       "BY ID DESC"),
+        {m_dates.format(m_dateOfDisplay, QStringLiteral("yyyy-MM-dd"))});
+    if (rows)
+        m_nsmArrLectureRecords = *rows;
+}
+
+void LectureRecordsHandler::reloadData()
+{
+    beginResetModel();
+    endResetModel();
+}
+
+} // namespace tarvelo::lectures

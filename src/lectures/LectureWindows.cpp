@@ -1,0 +1,235 @@
+#include "lectures/LectureWindows.h"
+
+#include "calendar/CKCalendarView.h"
+#include "lectures/LectureTable.h"
+#include "lectures/LightPalette.h"
+#include "platform/Dates.h"
+#include "platform/Fonts.h"
+#include "platform/Frames.h"
+#include "platform/Texts.h"
+#include "widgets/ImageButton.h"
+#include "widgets/LevelIndicator.h"
+#include "widgets/SlidingWindow.h"
+
+#include "ui_EditLectureWindow.h"
+#include "ui_LectureView.h"
+#include "ui_MainWindow.h"
+#include "ui_NewLectureWindow.h"
+#include "ui_PlayAudioWindow.h"
+
+#include <QHBoxLayout>
+
+namespace tarvelo::lectures {
+
+using platform::imageNamed;
+using widgets::ImageButton;
+
+namespace {
+
+// The canvas: the calendar pane from the left edge, then the list, then the lecture view.
+constexpr int ListShownWidth = 833;
+constexpr int CanvasHeight = 540;
+const QRectF CalendarFrame(-2, 0, 450, 489);
+
+const QString Face = QStringLiteral("Helvetica Neue Medium");
+const QColor Ink(43, 41, 48);
+const QColor Faint(120, 116, 128);
+const QColor Line(228, 227, 232);
+
+void style(QLabel &label, double size, const QColor &colour)
+{
+    label.setFont(platform::fontNamed(Face, size));
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, colour);
+    label.setPalette(palette);
+}
+
+void fill(QWidget &view, const QColor &colour)
+{
+    QPalette palette = view.palette();
+    palette.setColor(QPalette::Window, colour);
+    view.setPalette(palette);
+    view.setAutoFillBackground(true);
+}
+
+// A hidden control keeps its room, so that nothing moves when it comes back.
+void keepRoom(QWidget &view)
+{
+    QSizePolicy policy = view.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    view.setSizePolicy(policy);
+}
+
+} // namespace
+
+LectureWindows::LectureWindows(platform::Dates &dates)
+{
+    buildMainWindow(dates);
+    buildLectureView();
+    buildNewLectureWindow();
+    buildEditLectureWindow();
+    buildPlayAudioWindow();
+    buildPopovers();
+}
+
+LectureWindows::~LectureWindows() = default;
+
+audio::ClockOutlets LectureWindows::clockOutlets() const
+{
+    return {m_newLecture.textTime, m_editLecture.textEditTime, m_lectureView.tEditTime,
+            m_newLecture.textDate, m_editLecture.textEditDate, m_lectureView.tEditDate};
+}
+
+void LectureWindows::buildMainWindow(platform::Dates &dates)
+{
+    m_mainWindow = std::make_unique<widgets::SlidingWindow>();
+    setLightPalette(*m_mainWindow);
+    Ui::MainWindow ui;
+    ui.setupUi(m_mainWindow.get());
+    m_mainWindow->setObjectName(QStringLiteral("mainWindow"));
+    m_mainWindow->setFrameSize(ListShownWidth, CanvasHeight);
+
+    auto *calendarView = new calendar::CKCalendarView(dates, CalendarFrame, m_mainWindow.get());
+    calendarView->setObjectName(QStringLiteral("calendarView"));
+    calendarView->setAccessibleName(platform::text("CALENDAR"));
+    platform::setFrame(*calendarView, platform::frameOf(*calendarView));
+    calendarView->lower();
+
+    m_main = {
+        m_mainWindow.get(), calendarView,         ui.tblRecordSubjectList, ui.tableListView,
+        ui.scrollTableView, ui.editPlayView,      ui.weekDayView,          ui.topHorizontalLine,
+        ui.lblTarvelo,      ui.lblDateDisplay,    ui.btnMainMenu,          ui.btnAddItem,
+        ui.btnDeleteItem,   ui.btnAddNewLecture2, ui.btnShowAllList,       ui.btnFoldUpList};
+
+    style(*ui.lblTarvelo, 18, Ink);
+    style(*ui.lblDateDisplay, 22, Ink);
+    style(*ui.lblEmptyDayTitle, 17, Ink);
+    style(*ui.lblEmptyDayHint, 13, Faint);
+    fill(*ui.topHorizontalLine, Line);
+    fill(*ui.paneLine, Line);
+    fill(*ui.listTopLine, Line);
+    fill(*ui.listBottomLine, Line);
+    fill(*ui.editPlayView, Qt::white);
+    ui.imgEmptyDay->setPixmap(imageNamed(QStringLiteral("emptyDay")).icon().pixmap(96, 96));
+    ui.btnMainMenu->setImage(imageNamed(QStringLiteral("menu")));
+    ui.btnAddItem->setImage(imageNamed(QStringLiteral("add")));
+    ui.btnShowAllList->setImage(imageNamed(QStringLiteral("list")));
+    ui.btnFoldUpList->setImage(imageNamed(QStringLiteral("slide-left")));
+    ui.btnDeleteItem->hide();
+}
+
+void LectureWindows::buildLectureView()
+{
+    Ui::LectureView ui;
+    ui.setupUi(m_main.editPlayView);
+    m_main.editPlayView->setObjectName(QStringLiteral("editPlayView"));
+    m_lectureView = {ui.tSubjectName,       ui.tViewNoteForEdit,  ui.lblNotesForView,
+                     ui.tEditTime,          ui.tEditDate,         ui.btnSlidetoView,
+                     ui.btnSlideToListView, ui.btnDoneEditLecture};
+    for (QLabel *label : {ui.lblNotesForView, ui.tEditTime, ui.tEditDate})
+        style(*label, 13, Faint);
+}
+
+void LectureWindows::buildNewLectureWindow()
+{
+    m_newNoteWindow = std::make_unique<QWidget>(nullptr, Qt::Window);
+    setLightPalette(*m_newNoteWindow);
+    Ui::NewLectureWindow ui;
+    ui.setupUi(m_newNoteWindow.get());
+    m_newLecture = {m_newNoteWindow.get(),
+                    ui.txtSubjectForNewNote,
+                    ui.txtView,
+                    ui.lblNotesForAdd,
+                    ui.textTime,
+                    ui.textDate,
+                    ui.BtnDoneOrClose,
+                    ui.btnCloseNewLecture,
+                    ui.BtnCancelAddNewLecture};
+    m_recording = {m_newNoteWindow.get(),
+                   ui.btnStartRecord,
+                   ui.btnStopRecord,
+                   ui.btnPauseResumeRecording,
+                   ui.btnTimeTag,
+                   ui.btnStartStopRecording,
+                   ui.audioLevelMeter,
+                   ui.imgLevelIndicatorBG,
+                   ui.lblRecordingDuration,
+                   ui.sliderPlayProgress2,
+                   ui.lblElapsedTimeTemp,
+                   ui.lblRemainingTimeTemp,
+                   ui.txtView};
+
+    for (QLabel *label : {ui.textDate, ui.textTime, ui.lblNotesForAdd, ui.lblElapsedTimeTemp,
+                          ui.lblRemainingTimeTemp})
+        style(*label, 13, Faint);
+    style(*ui.lblRecordingDuration, 24, Ink);
+    ui.txtSubjectForNewNote->setFont(platform::fontNamed(Face, 16));
+    fill(*ui.recordingPanel, QColor(247, 247, 249));
+    ui.imgLevelIndicatorBG->setPixmap(
+        imageNamed(QStringLiteral("levelBackground")).icon().pixmap(64, 64));
+    ui.btnStartRecord->setImage(imageNamed(QStringLiteral("record")));
+    ui.btnStartRecord->setAlternateImage(imageNamed(QStringLiteral("recordH")));
+    ui.btnPauseResumeRecording->setLook(QStringLiteral("BtnPause"), QStringLiteral("BtnPauseH"),
+                                        QStringLiteral("Pause"));
+    ui.btnStopRecord->setLook(QStringLiteral("stop"), QStringLiteral("stopH"),
+                              QStringLiteral("Stop"));
+    ui.btnTimeTag->setImage(imageNamed(QStringLiteral("timetag")));
+    keepRoom(*ui.btnTimeTag);
+    ui.btnTimeTag->hide();
+    ui.btnPauseResumeRecording->hide();
+    ui.sliderPlayProgress2->hide();
+    ui.lblElapsedTimeTemp->hide();
+    ui.lblRemainingTimeTemp->hide();
+    ui.BtnDoneOrClose->setTag(0);
+    ui.btnCloseNewLecture->setTag(1);
+}
+
+void LectureWindows::buildEditLectureWindow()
+{
+    m_windowEditLecture = std::make_unique<QWidget>(nullptr, Qt::Window);
+    setLightPalette(*m_windowEditLecture);
+    Ui::EditLectureWindow ui;
+    ui.setupUi(m_windowEditLecture.get());
+    m_editLecture = {m_windowEditLecture.get(), ui.txtSubjectForEdit, ui.txtViewNotesForEdit,
+                     ui.textEditTime,           ui.textEditDate,      ui.btnDoneEdit};
+    for (QLabel *label : {ui.textEditTime, ui.textEditDate})
+        style(*label, 13, Faint);
+}
+
+void LectureWindows::buildPlayAudioWindow()
+{
+    m_playAudioWindow = std::make_unique<QWidget>(nullptr, Qt::Window);
+    setLightPalette(*m_playAudioWindow);
+    Ui::PlayAudioWindow ui;
+    ui.setupUi(m_playAudioWindow.get());
+    m_playAudio = {m_playAudioWindow.get(), ui.txtSubjectName, ui.txtCourseName,
+                   ui.txtFieldForAudio};
+}
+
+void LectureWindows::buildPopovers()
+{
+    const auto makeContent = [](std::unique_ptr<QWidget> &content, const char *labelName) {
+        content = std::make_unique<QWidget>();
+        setLightPalette(*content);
+        auto *layout = new QHBoxLayout(content.get());
+        auto *label = new QLabel(content.get());
+        label->setObjectName(QString::fromLatin1(labelName));
+        style(*label, 14, Ink);
+        layout->addWidget(label);
+        return label;
+    };
+    const auto makeButton = [this](const char *name, const char *textKey) {
+        auto *button = new ImageButton(m_confirmDeleteContent.get());
+        button->setObjectName(QString::fromLatin1(name));
+        button->setText(platform::text(textKey));
+        m_confirmDeleteContent->layout()->addWidget(button);
+        return button;
+    };
+    m_popovers.lblRecordDeleteConfirmation =
+        makeContent(m_confirmDeleteContent, "lblRecordDeleteConfirmation");
+    m_popovers.lblPopoverNoAudio = makeContent(m_noAudioContent, "lblPopoverNoAudio");
+    m_popovers.btnConfirmNo = makeButton("btnConfirmNo", "BUTTON_NO");
+    m_popovers.btnConfirmYes = makeButton("btnConfirmYes", "BUTTON_YES");
+}
+
+} // namespace tarvelo::lectures

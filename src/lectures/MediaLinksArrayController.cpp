@@ -1,0 +1,385 @@
+#include "lectures/MediaLinksArrayController.h"
+
+#include "calendar/CKCalendarView.h"
+#include "lectures/CustomTableCellView.h"
+#include "lectures/LectureApplication.h"
+#include "lectures/LectureTable.h"
+#include "platform/Dates.h"
+#include "platform/Fonts.h"
+#include "platform/Texts.h"
+#include "platform/WindowLevel.h"
+#include "platform/Workspace.h"
+#include "store/LectureDatabase.h"
+#include "widgets/ImageButton.h"
+#include "widgets/InsertionPoint.h"
+#include "widgets/LevelIndicator.h"
+#include "widgets/SlidingWindow.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTextEdit>
+#include <QUrl>
+
+using namespace std::chrono_literals;
+
+namespace tarvelo::lectures {
+
+using platform::text;
+using widgets::ImageButton;
+
+namespace {
+
+constexpr auto PathAfterStart = 500ms;
+constexpr auto StopAfterChange = 200ms;
+
+// There is no such number on Linux; it stands for a system on which everything is there.
+constexpr qint32 SystemVersion = 0x1080;
+
+const QColor Accent(252, 39, 52);
+
+void setBackgroundColor(QWidget &window, const QColor &colour)
+{
+    QPalette palette = window.palette();
+    palette.setColor(QPalette::Window, colour);
+    window.setPalette(palette);
+    window.setAutoFillBackground(true);
+}
+
+// Typing goes on in this colour, whatever colour the text before it has.
+void setTypingColor(QTextEdit &view, const QColor &colour)
+{
+    view.setTextColor(colour);
+}
+
+void recolourTitle(ImageButton &button)
+{
+    QPalette palette = button.palette();
+    palette.setColor(QPalette::ButtonText, Accent);
+    button.setPalette(palette);
+}
+
+} // namespace
+
+MediaLinksArrayController::MediaLinksArrayController(const LectureServices &services,
+                                                     const LectureWindows &windows)
+    : m_services(services)
+    , m_windows(windows)
+    , m_locations(services.places, services.defaults, services.dates)
+    , m_playback(services.engine, m_locations, windows.recordingOutlets())
+    , m_recordingControl(services.engine, m_locations, services.dates, m_playback,
+                         windows.recordingOutlets(), windows.clockOutlets())
+    , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })
+    , m_viewChanges(windows.mainOutlets(), windows.lectureViewOutlets())
+    , m_editing(windows.editLectureOutlets())
+    , m_newLecture({services.dates, services.database, m_locations, m_recordingControl, m_playback,
+                    m_dayList, m_editing, services.alerts},
+                   {windows.mainOutlets(), windows.newLectureOutlets(), windows.recordingOutlets(),
+                    windows.playAudioOutlets(), windows.lectureViewOutlets()})
+    , m_closeGuards({m_recordingControl, m_newLecture, m_editing, services.alerts,
+                     [this](QWidget *sender) { onClosePlayAudioWindow(sender); },
+                     // A guard's sheet ends with nothing more to do.
+                     [](int) {}},
+                    {&windows.mainWindow(), windows.newLectureOutlets().newNoteWindow,
+                     windows.editLectureOutlets().windowEditLecture,
+                     windows.playAudioOutlets().playAudioWindow})
+    , m_setTemporaryPath(services.dates.clock(), [this] { setTempAudioSavePathWithFormat(); })
+    , m_stopSoundPlayEdit(services.dates.clock(), [this] { m_playback.stopSoundPlayEdit(); })
+    , m_stopSoundPlay(services.dates.clock(), [this] { m_playback.stopSoundPlay(); })
+{
+    connectControls();
+}
+
+MediaLinksArrayController::~MediaLinksArrayController()
+{
+    m_windows.mainOutlets().tblRecordSubjectList->setModel(nullptr);
+}
+
+void MediaLinksArrayController::setApplication(LectureApplication *application)
+{
+    m_application = application;
+    m_newLecture.setApplication(application);
+}
+
+void MediaLinksArrayController::setRowHost(LectureRowHost *host)
+{
+    m_windows.mainOutlets().tblRecordSubjectList->setRowHost(host);
+}
+
+void MediaLinksArrayController::connectControls()
+{
+    const auto wire = [](ImageButton *button, const char *name,
+                         std::function<void(QWidget *)> run) {
+        button->setAction({name, std::move(run)});
+    };
+    const auto add = [this](QWidget *sender) { onAddItem(sender); };
+    const auto end = [this](QWidget *sender) { onDoneNewLectureOrCloseWindow(sender); };
+    const MainWindowOutlets &main = m_windows.mainOutlets();
+    wire(main.btnAddItem, "onAddItem", add);
+    wire(main.btnAddNewLecture2, "onAddItem", add);
+    wire(main.btnShowAllList, "showList", [this](QWidget *sender) { showList(sender); });
+
+    const audio::RecordingOutlets &recording = m_windows.recordingOutlets();
+    wire(recording.btnStartRecord, "startRecording",
+         [this](QWidget *sender) { startRecording(sender); });
+    wire(recording.btnStopRecord, "stopRecording",
+         [this](QWidget *sender) { stopRecording(sender); });
+    wire(recording.btnPauseResumeRecording, "pauseResumeRecording",
+         [this](QWidget *sender) { pauseResumeRecording(sender); });
+    wire(recording.btnStartStopRecording, "startStopRecording",
+         [this](QWidget *sender) { startStopRecording(sender); });
+    wire(recording.btnTimeTag, "onSetTimeTag", [this](QWidget *sender) { onSetTimeTag(sender); });
+
+    const NewLectureOutlets &newLecture = m_windows.newLectureOutlets();
+    wire(newLecture.BtnDoneOrClose, "onDoneNewLectureOrCloseWindow", end);
+    wire(newLecture.btnCloseNewLecture, "onDoneNewLectureOrCloseWindow", end);
+    wire(newLecture.BtnCancelAddNewLecture, "onCancelAddNewLecture",
+         [this](QWidget *sender) { onCancelAddNewLecture(sender); });
+    m_editing.watch(*newLecture.txtSubjectForNewNote);
+    m_editing.watch(*newLecture.txtView);
+
+    m_closeGuards.guard(*main.mainWindow);
+    connect(main.tblRecordSubjectList, &LectureTable::rowViewMade, this,
+            [this](CustomTableCellView *row) { wireRow(*row); });
+    main.tblRecordSubjectList->setModel(this);
+}
+
+void MediaLinksArrayController::wireRow(CustomTableCellView &row)
+{
+    row.btnBrowse()->setAction(
+        {"openAudioFolderPath", [this](QWidget *sender) { openAudioFolderPath(sender); }});
+}
+
+void MediaLinksArrayController::awakeFromNib()
+{
+    if (m_services.isAwake)
+        return;
+    m_services.isAwake = true;
+    const MainWindowOutlets &main = m_windows.mainOutlets();
+    const NewLectureOutlets &newLecture = m_windows.newLectureOutlets();
+    const EditLectureOutlets &edit = m_windows.editLectureOutlets();
+    const PlayAudioOutlets &play = m_windows.playAudioOutlets();
+    const PopoverOutlets &popovers = m_windows.popoverOutlets();
+
+    m_recordingControl.resetPauses();
+    m_locations.clearTempAudioSavePath();
+    m_version = SystemVersion;
+    m_viewChanges.reset();
+    platform::setWindowLevel(*main.mainWindow, platform::NormalWindowLevel);
+    for (QWidget *window : {newLecture.newNoteWindow, edit.windowEditLecture, play.playAudioWindow})
+        setBackgroundColor(*window, Qt::white);
+    for (QWidget *window : {newLecture.newNoteWindow, edit.windowEditLecture, play.playAudioWindow})
+        m_closeGuards.guard(*window);
+    play.playAudioWindow->setAttribute(Qt::WA_NoSystemBackground);
+    platform::setWindowFlagInPlace(*play.playAudioWindow, Qt::CustomizeWindowHint, true);
+    platform::setWindowFlagInPlace(*play.playAudioWindow, Qt::WindowMinMaxButtonsHint, false);
+
+    newLecture.lblNotesForAdd->setText(text("LABEL_NOTES"));
+    m_windows.lectureViewOutlets().lblNotesForView->setText(text("LABEL_NOTES"));
+    popovers.lblRecordDeleteConfirmation->setText(text("LABEL_CONFIRM_RECORDDELETE"));
+    popovers.lblPopoverNoAudio->setText(text("MSG_NO_AUDIO_FOR_LECTURE"));
+    m_selectedIndexes = {};
+    main.tblRecordSubjectList->selectRow(-1);
+    setTypingAndInsertionColours();
+    m_windows.recordingOutlets().lblRecordingDuration->setText(QString());
+    m_recordingControl.showTimeOfDay();
+    m_recordingControl.startDisplayTimer();
+    m_recordingControl.showDate();
+    main.calendarView->layoutSubviews();
+    popovers.btnConfirmNo->setTag(0);
+    popovers.btnConfirmYes->setTag(1);
+    m_playback.resetRate();
+    setButtonTitleColor();
+    m_setTemporaryPath.schedule(PathAfterStart);
+}
+
+// The typing colours, the folders of the process, and the colours of the insertion points.
+void MediaLinksArrayController::setTypingAndInsertionColours()
+{
+    QTextEdit &notes = *m_windows.newLectureOutlets().txtView;
+    QTextEdit &editNotes = *m_windows.editLectureOutlets().txtViewNotesForEdit;
+    QTextEdit &viewNotes = *m_windows.lectureViewOutlets().tViewNoteForEdit;
+    const QColor labelColour = notes.palette().color(QPalette::WindowText);
+    setTypingColor(notes, notes.palette().color(QPalette::Disabled, QPalette::Text));
+    setTypingColor(editNotes, labelColour);
+    setTypingColor(viewNotes, labelColour);
+
+    m_locations.createFolders();
+
+    const PlayAudioOutlets &play = m_windows.playAudioOutlets();
+    for (QLineEdit *field :
+         {play.txtSubjectName, play.txtCourseName, m_windows.editLectureOutlets().txtSubjectForEdit,
+          m_windows.newLectureOutlets().txtSubjectForNewNote, play.txtFieldForAudio,
+          m_windows.lectureViewOutlets().tSubjectName})
+        widgets::setInsertionPointColor(*field, Qt::lightGray);
+    widgets::setInsertionPointColor(notes, Qt::lightGray);
+    widgets::setInsertionPointColor(editNotes, labelColour);
+    widgets::setInsertionPointColor(viewNotes, labelColour);
+}
+
+void MediaLinksArrayController::setButtonTitleColor()
+{
+    const QFont font = platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), 15);
+    for (QTextEdit *view :
+         {m_windows.newLectureOutlets().txtView, m_windows.lectureViewOutlets().tViewNoteForEdit,
+          m_windows.editLectureOutlets().txtViewNotesForEdit}) {
+        view->setFont(font);
+        view->setTextColor(view->palette().color(QPalette::WindowText));
+    }
+    const LectureViewOutlets &lectureView = m_windows.lectureViewOutlets();
+    for (ImageButton *button :
+         {m_windows.newLectureOutlets().BtnDoneOrClose, m_windows.editLectureOutlets().btnDoneEdit,
+          lectureView.btnDoneEditLecture, lectureView.btnSlidetoView,
+          lectureView.btnSlideToListView, m_windows.newLectureOutlets().BtnCancelAddNewLecture})
+        recolourTitle(*button);
+}
+
+store::Sqlite *MediaLinksArrayController::openDb()
+{
+    return m_services.database.openDb();
+}
+
+void MediaLinksArrayController::insertIntoDbwithSqlStatementWithArguments(
+    const QString &sql, const QVariantList &arguments)
+{
+    m_services.database.insertIntoDbwithSqlStatementWithArguments(sql, arguments);
+}
+
+void MediaLinksArrayController::updateToDoDatawithSqlStatementWithArguments(
+    const QString &sql, const QVariantList &arguments)
+{
+    m_services.database.updateToDoDatawithSqlStatementWithArguments(sql, arguments);
+}
+
+void MediaLinksArrayController::deleteVoiceData(const store::LectureInfoItem &lecture)
+{
+    m_services.database.deleteVoiceData(lecture);
+}
+
+Lecture MediaLinksArrayController::tableViewObjectValueForTableColumnRow(int, int row) const
+{
+    const LectureList &lectures = arrangedObjects();
+    return row >= 0 && row < rowCount() ? lectures[static_cast<std::size_t>(row)] : nullptr;
+}
+
+int MediaLinksArrayController::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(arrangedObjects().size());
+}
+
+int MediaLinksArrayController::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : 1;
+}
+
+QVariant MediaLinksArrayController::data(const QModelIndex &index, int role) const
+{
+    const Lecture lecture = tableViewObjectValueForTableColumnRow(index.column(), index.row());
+    if (!lecture)
+        return {};
+    if (role == LectureTable::LectureRole)
+        return QVariant::fromValue(lecture);
+    return role == Qt::DisplayRole ? QVariant(lecture->strSubject()) : QVariant();
+}
+
+void MediaLinksArrayController::prepareViewForDate(const QDateTime &date)
+{
+    m_stopSoundPlayEdit.schedule(StopAfterChange);
+    m_dayList.prepareViewForDate(date);
+}
+
+void MediaLinksArrayController::showList(QWidget *)
+{
+    m_dayList.showAllList(m_application ? m_application->getCurrentDate() : QDateTime());
+}
+
+void MediaLinksArrayController::setSelectedIndexes(const QList<int> &indexes)
+{
+    if (indexes == m_selectedIndexes)
+        return;
+    m_selectedIndexes = indexes;
+    LectureList lectures;
+    for (const int index : indexes) {
+        if (const Lecture lecture = tableViewObjectValueForTableColumnRow(0, index))
+            lectures.push_back(lecture);
+    }
+    setSelectedDownloads(lectures);
+}
+
+void MediaLinksArrayController::setSelectedDownloads(const LectureList &lectures)
+{
+    if (lectures != m_selectedDownloads)
+        m_selectedDownloads = lectures;
+}
+
+void MediaLinksArrayController::onExpandView(QWidget *)
+{
+    m_viewChanges.onExpandView();
+}
+
+void MediaLinksArrayController::goToCalendarView(QWidget *)
+{
+    m_stopSoundPlayEdit.schedule(StopAfterChange);
+    m_viewChanges.goToCalendarView();
+}
+
+void MediaLinksArrayController::viewEditView(QWidget *)
+{
+    m_viewChanges.viewEditView();
+}
+
+void MediaLinksArrayController::animateRecordView()
+{
+    // A view with a layer of its own is redrawn without what lies under it.
+    m_windows.recordingOutlets().audioLevelMeter->setAttribute(Qt::WA_OpaquePaintEvent,
+                                                               m_recordingControl.recording());
+}
+
+void MediaLinksArrayController::browseRecordingFolder(QWidget *)
+{
+    m_services.workspace.activateFileViewerSelectingURLs(
+        {QUrl::fromLocalFile(getAudioFolderPath())});
+}
+
+void MediaLinksArrayController::openAudioFolderPath(QWidget *sender)
+{
+    const QWidget *cell = sender ? sender->parentWidget() : nullptr;
+    const LectureTable &table = *m_windows.mainOutlets().tblRecordSubjectList;
+    const int row = rowCount() < 1 || !cell ? -1 : table.rowForView(cell);
+    const Lecture lecture = tableViewObjectValueForTableColumnRow(0, row);
+    if (lecture)
+        m_services.workspace.activateFileViewerSelectingURLs(
+            {QUrl::fromLocalFile(lecture->getLectureAudioPath())});
+}
+
+void MediaLinksArrayController::onDoneNewLectureOrCloseWindow(QWidget *sender)
+{
+    m_newLecture.onDoneNewLectureOrCloseWindow(sender);
+}
+
+bool MediaLinksArrayController::isConfirmDeleteShowing() const
+{
+    return m_windows.popoverOutlets().btnConfirmYes->window()->isVisible();
+}
+
+bool MediaLinksArrayController::isSupportedIniTunes(QWidget *cell) const
+{
+    const Lecture lecture = tableViewObjectValueForTableColumnRow(
+        0, m_windows.mainOutlets().tblRecordSubjectList->rowForView(cell));
+    return lecture && QFileInfo(lecture->strLectureAudioPath()).suffix() == u"m4a";
+}
+
+void MediaLinksArrayController::onClosePlayAudioWindow(QWidget *sender)
+{
+    m_stopSoundPlay.schedule(StopAfterChange);
+    if (sender && sender->window() != &m_windows.mainWindow())
+        sender->window()->hide();
+}
+
+void MediaLinksArrayController::reloadData()
+{
+    beginResetModel();
+    endResetModel();
+}
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,169 @@
+#pragma once
+
+#include "audio/AudioFileLocations.h"
+#include "audio/Playback.h"
+#include "audio/RecordingControl.h"
+#include "lectures/CloseGuards.h"
+#include "lectures/DayList.h"
+#include "lectures/LectureEditing.h"
+#include "lectures/LectureWindows.h"
+#include "lectures/NewLecture.h"
+#include "lectures/ViewChanges.h"
+#include "platform/DelayedCall.h"
+
+#include <QAbstractTableModel>
+
+namespace tarvelo::engine {
+class AudioEngine;
+}
+namespace tarvelo::platform {
+class Alerts;
+class Dates;
+class UserDefaults;
+class Workspace;
+} // namespace tarvelo::platform
+
+namespace tarvelo::lectures {
+
+class CustomTableCellView;
+class LectureRowHost;
+
+// What the controller and its workflows work with. All of it outlives the controller.
+struct LectureServices
+{
+    platform::Dates &dates;
+    platform::Places places;
+    const platform::UserDefaults &defaults;
+    store::LectureDatabase &database;
+    engine::AudioEngine &engine;
+    platform::Alerts &alerts;
+    platform::Workspace &workspace;
+    // Whether the one start-up of this process has been done; whoever runs the process keeps it.
+    bool &isAwake;
+};
+
+// The one face of the lecture windows, and the model of the lecture table, whose rows are the
+// arranged objects. It owns the workflows and hands every operation on to the one whose work it is;
+// it sequences what crosses several of them.
+//
+//   start-up            awakeFromNib, setButtonTitleColor
+//   store               openDb, insert..., update..., deleteVoiceData
+//   lists               prepareViewForDate, showList, selection, table data
+//   view changes        onExpandView, goToCalendarView, viewEditView, animateRecordView
+//   audio files         setTempAudioSavePathWithFormat, getAudio..., browseRecordingFolder,
+//   openAudioFolderPath recording           startRecording ... updateTimeDisplay new lecture
+//   onAddItem ... onCancelAddNewLecture closing             windowShouldClose, windowWillClose
+class MediaLinksArrayController final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    // `windows` must outlive the controller.
+    MediaLinksArrayController(const LectureServices &services, const LectureWindows &windows);
+    ~MediaLinksArrayController() override;
+
+    // The application around the controller; none is allowed.
+    void setApplication(LectureApplication *application);
+    void setRowHost(LectureRowHost *host);
+
+    // -- Start-up. The work is done once in a process; a second call does nothing.
+    void awakeFromNib();
+    void setButtonTitleColor();
+
+    // -- Store
+    store::Sqlite *openDb();
+    void insertIntoDbwithSqlStatementWithArguments(const QString &sql,
+                                                   const QVariantList &arguments);
+    void updateToDoDatawithSqlStatementWithArguments(const QString &sql,
+                                                     const QVariantList &arguments);
+    void deleteVoiceData(const store::LectureInfoItem &lecture);
+
+    // -- Lists. Rows count from 0.
+    const LectureList &arrangedObjects() const { return m_dayList.arrangedObjects(); }
+    const QDateTime &dateOfButtonClicked() const { return m_dayList.dateOfButtonClicked(); }
+    // Whether the day shown takes new lectures.
+    bool isDayOpen() const { return m_dayList.isDayOpen(dateOfButtonClicked()); }
+    const QList<int> &selectedIndexes() const { return m_selectedIndexes; }
+    const LectureList &selectedDownloads() const { return m_selectedDownloads; }
+    int numberOfRowsInTableView() const { return rowCount(); }
+    // None for a row that is not there.
+    Lecture tableViewObjectValueForTableColumnRow(int column, int row) const;
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    void prepareViewForDate(const QDateTime &date);
+    void showList(QWidget *sender);
+    void setSelectedIndexes(const QList<int> &indexes);
+    void setSelectedDownloads(const LectureList &lectures);
+
+    // -- View changes
+    bool bIsInEditView() const { return m_viewChanges.bIsInEditView(); }
+    bool bIsInSingleEditView() const { return m_viewChanges.bIsInSingleEditView(); }
+    void onExpandView(QWidget *sender);
+    void goToCalendarView(QWidget *sender);
+    void viewEditView(QWidget *sender);
+    void animateRecordView();
+
+    // -- Audio files
+    QString getAudioFolderPath() const { return m_locations.getAudioFolderPath(); }
+    QString getAudioSavePath() const { return m_locations.getAudioSavePath(); }
+    const QString &tempAudioSavePath() const { return m_locations.tempAudioSavePath(); }
+    void setTempAudioSavePathWithFormat() { m_locations.setTempAudioSavePathWithFormat(); }
+    void browseRecordingFolder(QWidget *sender);
+    // `sender` is a control in a row; from anywhere else nothing happens.
+    void openAudioFolderPath(QWidget *sender);
+
+    // -- Recording
+    const audio::RecordingControl &recordingControl() const { return m_recordingControl; }
+    bool isRecordingNow() const { return m_recordingControl.isRecordingNow(); }
+    void startRecording(QWidget *sender) { m_recordingControl.startRecording(sender); }
+    void stopRecording(QWidget *sender) { m_recordingControl.stopRecording(sender); }
+    void pauseResumeRecording(QWidget *sender) { m_recordingControl.pauseResumeRecording(sender); }
+    void startStopRecording(QWidget *sender) { m_recordingControl.startStopRecording(sender); }
+    void postRecordingFinished() { m_recordingControl.postRecordingFinished(); }
+    void onMaxRecordingTimeReached() { m_recordingControl.onMaxRecordingTimeReached(); }
+    void onSetTimeTag(QWidget *sender) { m_recordingControl.onSetTimeTag(sender); }
+    void updateTimeDisplay() { m_recordingControl.updateTimeDisplay(); }
+
+    // -- New lecture
+    bool bIsOnRecordingView() const { return m_newLecture.bIsOnRecordingView(); }
+    void onAddItem(QWidget *sender) { m_newLecture.onAddItem(sender); }
+    void onDoneNewLectureOrCloseWindow(QWidget *sender);
+    void doSaveNewAudioInfos() { m_newLecture.doSaveNewAudioInfos(); }
+    void onCancelAddNewLecture(QWidget *sender) { m_newLecture.onCancelAddNewLecture(sender); }
+    void onCloseLectureWindow(QWidget *sender) { m_newLecture.onCloseLectureWindow(sender); }
+
+    // -- Closing
+    bool isConfirmDeleteShowing() const;
+    bool isSupportedIniTunes(QWidget *cell) const;
+    bool windowShouldClose(QWidget *window) { return m_closeGuards.windowShouldClose(window); }
+    void windowWillClose(QWidget *window) { m_closeGuards.windowWillClose(window); }
+    void onClosePlayAudioWindow(QWidget *sender);
+
+private:
+    void connectControls();
+    void wireRow(CustomTableCellView &row);
+    void setTypingAndInsertionColours();
+    void reloadData();
+
+    LectureServices m_services;
+    const LectureWindows &m_windows;
+    LectureApplication *m_application = nullptr;
+    qint32 m_version = 0;
+    QList<int> m_selectedIndexes;
+    LectureList m_selectedDownloads;
+
+    audio::AudioFileLocations m_locations;
+    audio::Playback m_playback;
+    audio::RecordingControl m_recordingControl;
+    DayList m_dayList;
+    ViewChanges m_viewChanges;
+    LectureEditing m_editing;
+    NewLecture m_newLecture;
+    CloseGuards m_closeGuards;
+    platform::DelayedCall m_setTemporaryPath;
+    platform::DelayedCall m_stopSoundPlayEdit;
+    platform::DelayedCall m_stopSoundPlay;
+};
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,215 @@
+#include "lectures/NewLecture.h"
+
+#include "audio/AudioFileLocations.h"
+#include "audio/DurationText.h"
+#include "audio/Playback.h"
+#include "audio/RecordingControl.h"
+#include "calendar/CKCalendarView.h"
+#include "lectures/DayList.h"
+#include "lectures/LectureApplication.h"
+#include "lectures/LectureEditing.h"
+#include "lectures/LectureTable.h"
+#include "platform/Alerts.h"
+#include "platform/Dates.h"
+#include "platform/WindowLevel.h"
+#include "store/LectureDatabase.h"
+#include "store/Statements.h"
+#include "widgets/ImageButton.h"
+#include "widgets/LevelIndicator.h"
+#include "widgets/SlidingWindow.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
+#include <QTextEdit>
+
+using namespace std::chrono_literals;
+
+namespace tarvelo::lectures {
+
+namespace {
+
+constexpr auto AfterDone = 200ms;
+constexpr int TagDone = 0;
+constexpr int TagClose = 1;
+
+// Stored with every lecture: they hold the place of what the program does not ask for yet, and are
+// wanted as they are.
+const QString Course = QStringLiteral("test course");
+const QString StartTime = QStringLiteral("10.00 AM");
+const QString EndTime = QStringLiteral("11.30 AM");
+
+const platform::Alert AlreadyOpen{
+    QStringLiteral("You have a Lecture that is not yet saved."), QStringLiteral("OK"),
+    QStringLiteral("Save the current Lecture before starting a new record.")};
+
+} // namespace
+
+NewLecture::NewLecture(const Collaborators &collaborators, const Outlets &outlets)
+    : m_with(collaborators)
+    , m_outlets(outlets)
+    , m_save(collaborators.dates.clock(), [this] { doSaveNewAudioInfos(); })
+    , m_stopSoundPlay(collaborators.dates.clock(), [this] { m_with.playback.stopSoundPlay(); })
+{
+}
+
+void NewLecture::onAddItem(QWidget *)
+{
+    if (m_bIsOnRecordingView) {
+        m_with.alerts.beginSheet(AlreadyOpen, *m_outlets.main.mainWindow, {});
+        return;
+    }
+    // A lecture that waits for its save is saved now: the new one would empty its fields and delete
+    // its take.
+    if (m_save.pendingCount() > 0) {
+        m_save.cancel();
+        doSaveNewAudioInfos();
+    }
+    if (m_with.recording.recording())
+        m_with.recording.discardTake();
+
+    m_bIsOnRecordingView = true;
+    m_with.editing.clearChanges();
+
+    const audio::RecordingOutlets &controls = m_outlets.recording;
+    controls.btnStopRecord->setEnabled(false);
+    m_outlets.window.BtnCancelAddNewLecture->show();
+    controls.btnStartRecord->show();
+    controls.btnPauseResumeRecording->hide();
+
+    m_outlets.playAudio.txtSubjectName->clear();
+    m_outlets.window.txtSubjectForNewNote->clear();
+    m_outlets.window.txtView->clear();
+    m_outlets.playAudio.txtSubjectName->setReadOnly(true);
+    m_outlets.playAudio.txtSubjectName->hide();
+    m_outlets.window.txtSubjectForNewNote->show();
+    m_outlets.window.txtSubjectForNewNote->setReadOnly(false);
+    m_outlets.window.txtView->setReadOnly(false);
+
+    controls.lblRecordingDuration->clear();
+    m_outlets.window.txtSubjectForNewNote->setFocus();
+    platform::makeKeyAndOrderFront(*m_outlets.window.newNoteWindow);
+}
+
+NewLecture::Audio NewLecture::takeAudioToItsPlace()
+{
+    const QString taken = m_with.locations.tempAudioSavePath();
+    if (!QFile::exists(taken))
+        return {QString(), QStringLiteral("No Audio")};
+    const QString path = m_with.locations.getAudioSavePath();
+    // Two saves within one second share a path; the later one replaces the earlier file.
+    if (QFile::exists(path))
+        QFile::remove(path);
+    QFile::rename(taken, path);
+    return {path,
+            audio::getDuration(audio::wholeSeconds(m_with.recording.floatRecordingDuration()))};
+}
+
+QString NewLecture::subjectToStore() const
+{
+    const QString subject = m_outlets.window.txtSubjectForNewNote->text().trimmed();
+    return subject.isEmpty() ? QStringLiteral("Untitled") : subject;
+}
+
+void NewLecture::doSaveNewAudioInfos()
+{
+    const Audio audio = takeAudioToItsPlace();
+    m_with.recording.takeWasSaved();
+
+    // The user's own calendar and digits, unlike the query that looks for the day. Under another
+    // calendar than the Gregorian one the lecture is not found under its day; this difference is
+    // wanted as it is.
+    const QString day =
+        m_with.dates.format(m_with.dayList.dateOfButtonClicked(), QStringLiteral("yyyy-MM-dd"));
+    const QString subject = subjectToStore();
+    const QString notes = m_outlets.window.txtView->toPlainText();
+    m_with.database.insertIntoDbwithSqlStatementWithArguments(
+        store::statements::Insert,
+        {subject, Course, notes, day, StartTime, EndTime, audio.path, audio.duration});
+
+    auto lecture =
+        std::make_shared<store::LectureInfoItem>(subject, Course, StartTime, EndTime, true);
+    lecture->setRecordingDuration(audio.duration);
+    lecture->setNotes(notes);
+    if (store::Sqlite *connection = m_with.database.connection())
+        lecture->setRecordUniqueID(connection->lastinsertedRowID());
+    lecture->setLectureAudioPath(audio.path);
+    m_with.dayList.append(lecture);
+    LectureTable &table = *m_outlets.main.tblRecordSubjectList;
+    table.scrollRowToVisible(table.rowCount() - 1);
+    m_with.dayList.showWhetherEmpty();
+
+    m_outlets.window.txtSubjectForNewNote->clear();
+    m_outlets.window.txtView->clear();
+    m_outlets.main.calendarView->layoutSubviews();
+    m_outlets.recording.btnTimeTag->hide();
+}
+
+void NewLecture::onDoneNewLectureOrCloseWindow(QWidget *sender)
+{
+    const auto *button = qobject_cast<widgets::ImageButton *>(sender);
+    const int tag = button ? button->tag() : TagDone;
+    if (tag == TagDone)
+        done();
+    else if (tag == TagClose)
+        closeWithoutSaving();
+    resetControls(QStringLiteral("stopH"));
+    m_bIsOnRecordingView = false;
+}
+
+void NewLecture::done()
+{
+    if (m_with.recording.recording())
+        m_with.recording.startStopRecording(nullptr);
+    m_outlets.recording.audioLevelMeter->setFloatValue(0);
+    m_save.schedule(AfterDone);
+    m_outlets.window.newNoteWindow->hide();
+    if (m_application)
+        m_application->setRecordingStateForButton(false);
+}
+
+void NewLecture::closeWithoutSaving()
+{
+    m_stopSoundPlay.schedule(AfterDone);
+    m_outlets.playAudio.txtSubjectName->clear();
+    m_outlets.lectureView.tSubjectName->clear();
+    m_outlets.window.txtView->clear();
+    m_outlets.window.newNoteWindow->hide();
+}
+
+void NewLecture::onCancelAddNewLecture(QWidget *)
+{
+    if (m_with.recording.bIsRecordingSaved())
+        m_with.recording.discardTake();
+    m_outlets.playAudio.txtSubjectName->clear();
+    m_outlets.window.txtSubjectForNewNote->clear();
+    m_outlets.window.txtView->clear();
+    m_outlets.window.newNoteWindow->hide();
+    m_with.playback.stopSoundPlay();
+    // No pressed image after cancelling, unlike after Done: wanted as it stands.
+    resetControls(QString());
+    m_bIsOnRecordingView = false;
+    m_with.recording.forgetSavedTake();
+}
+
+void NewLecture::onCloseLectureWindow(QWidget *)
+{
+    m_outlets.window.newNoteWindow->hide();
+}
+
+void NewLecture::resetControls(const QString &stopAlternate)
+{
+    const audio::RecordingOutlets &controls = m_outlets.recording;
+    controls.audioLevelMeter->show();
+    controls.imgLevelIndicatorBG->show();
+    controls.lblRecordingDuration->show();
+    controls.sliderPlayProgress2->hide();
+    controls.lblElapsedTimeTemp->hide();
+    controls.lblRemainingTimeTemp->hide();
+    controls.btnStopRecord->setLook(QStringLiteral("stop"), stopAlternate, QStringLiteral("Stop"));
+    controls.btnStopRecord->setAction(
+        {"stopRecording", [this](QWidget *sender) { m_with.recording.stopRecording(sender); }});
+}
+
+} // namespace tarvelo::lectures

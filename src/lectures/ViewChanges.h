@@ -1,0 +1,41 @@
+#pragma once
+
+#include "lectures/LectureOutlets.h"
+
+#include <QRectF>
+
+#include <chrono>
+
+namespace tarvelo::lectures {
+
+// The three arrangements of the main window, and the slides between them: calendar and list, both
+// with the lecture view beside them, the lecture view alone. Frames have their origin bottom-left.
+class ViewChanges final
+{
+public:
+    ViewChanges(const MainWindowOutlets &outlets, const LectureViewOutlets &lectureView);
+    ViewChanges(const ViewChanges &) = delete;
+    ViewChanges &operator=(const ViewChanges &) = delete;
+
+    // The lecture view is slid in over the calendar.
+    bool bIsInEditView() const { return m_bIsInEditView; }
+    bool bIsInSingleEditView() const { return m_bIsInSingleEditView; }
+
+    void reset();
+    void onExpandView();
+    void goToCalendarView();
+    void viewEditView();
+
+private:
+    // Both panes to their places beside each other, the lecture view at height `y`.
+    void placeSideBySide(double y);
+    void showSlideButtons();
+    void slideTo(QWidget &view, const QRectF &frame, std::chrono::milliseconds duration);
+
+    MainWindowOutlets m_outlets;
+    LectureViewOutlets m_lectureView;
+    bool m_bIsInEditView = false;
+    bool m_bIsInSingleEditView = false;
+};
+
+} // namespace tarvelo::lectures
