@@ -1,0 +1,48 @@
+#include "app/StatusItem.h"
+
+#include <QGuiApplication>
+#include <QMenu>
+#include <QPainter>
+#include <QPixmap>
+
+namespace tarvelo::app {
+
+namespace {
+
+// Drawn for the finest screen there is, so that the bar can show it without blur.
+QIcon iconOf(const platform::Image &image)
+{
+    if (image.isNull())
+        return {};
+    const qreal scale = qMax(1.0, qGuiApp->devicePixelRatio());
+    QPixmap pixmap(StatusItem::ImageSize * scale);
+    pixmap.setDevicePixelRatio(scale);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    image.paint(painter, QRectF(QPointF(), StatusItem::ImageSize));
+    painter.end();
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+StatusItem::StatusItem(QMenu &menu, const QString &toolTip)
+    : m_menu(menu)
+    , m_toolTip(toolTip)
+{
+}
+
+void StatusItem::create(const platform::Image &image)
+{
+    m_item = std::make_unique<QSystemTrayIcon>();
+    m_item->setIcon(iconOf(image));
+    m_item->setToolTip(m_toolTip);
+    m_item->setContextMenu(&m_menu);
+    connect(m_item.get(), &QSystemTrayIcon::activated, this, [this](auto reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            Q_EMIT pressed();
+    });
+    m_item->show();
+}
+
+} // namespace tarvelo::app

@@ -1,0 +1,65 @@
+#include "app/StatusItem.h"
+
+#include "support/TestCase.h"
+
+#include <QMenu>
+#include <QSignalSpy>
+
+using tarvelo::app::StatusItem;
+using tarvelo::platform::imageNamed;
+
+class StatusItemTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theItemShowsTheApplicationImageAndItsMenu()
+    {
+        QMenu menu;
+        StatusItem item(menu, QStringLiteral("Tarvelo"));
+        QVERIFY(!item.exists());
+
+        item.create(imageNamed(QStringLiteral("icon.icns")));
+
+        QVERIFY(item.exists());
+        QCOMPARE(item.item()->contextMenu(), &menu);
+        QCOMPARE(item.item()->toolTip(), QStringLiteral("Tarvelo"));
+        QCOMPARE(item.item()->icon().availableSizes().first(), QSize(20, 20));
+        QVERIFY(item.item()->isVisible());
+    }
+
+    void theItemGoesWhenItIsNotWanted()
+    {
+        QMenu menu;
+        StatusItem item(menu, QString());
+        item.create(imageNamed(QStringLiteral("icon.icns")));
+
+        item.remove();
+
+        QVERIFY(!item.exists());
+    }
+
+    void removingWhatIsNotThereChangesNothing()
+    {
+        QMenu menu;
+        StatusItem item(menu, QString());
+
+        item.remove();
+
+        QVERIFY(!item.exists());
+    }
+
+    void aMissingImageLeavesTheItemWithoutOne()
+    {
+        QMenu menu;
+        StatusItem item(menu, QString());
+
+        item.create(imageNamed(QStringLiteral("nothingHasThisName")));
+
+        QVERIFY(item.exists());
+        QVERIFY(item.item()->icon().isNull());
+    }
+};
+
+QTEST_MAIN(StatusItemTest)
+#include "StatusItemTest.moc"
