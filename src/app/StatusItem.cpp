@@ -9,11 +9,10 @@ namespace tarvelo::app {
 
 namespace {
 
-// Drawn for the finest screen there is, so that the bar can show it without blur.
+// Drawn for the finest screen there is, so that the bar can show it without blur. A null image
+// leaves the icon empty.
 QIcon iconOf(const platform::Image &image)
 {
-    if (image.isNull())
-        return {};
     const qreal scale = qMax(1.0, qGuiApp->devicePixelRatio());
     QPixmap pixmap(StatusItem::ImageSize * scale);
     pixmap.setDevicePixelRatio(scale);

@@ -15,7 +15,10 @@ class TestCase : public QObject
 private Q_SLOTS:
     void init()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        // The screen of the tests is one in memory, which complains that it can place no windows.
+        QTest::failOnWarning(QRegularExpression(
+            QStringLiteral("^(?!This plugin does not support |"
+                           "QObject::connect: No such signal QPlatformNativeInterface::)")));
         prepare();
     }
     void cleanup() { finish(); }
