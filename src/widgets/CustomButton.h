@@ -1,0 +1,49 @@
+#pragma once
+
+#include "widgets/ImageButton.h"
+#include "widgets/TrackingRects.h"
+
+namespace tarvelo::widgets {
+
+// A button that notices the mouse over it and knows two image names for it. It keeps the names but
+// never swaps the images: that its look stays the same under the mouse is wanted, so leave it; the
+// day cell of the calendar is the button that swaps.
+class CustomButton : public ImageButton
+{
+    Q_OBJECT
+    Q_PROPERTY(QString normalImage READ normalImage WRITE setNormalImage)
+    Q_PROPERTY(QString hoverImage READ hoverImage WRITE setHoverImage)
+
+public:
+    enum class ImageScaling { ProportionallyDown, AxesIndependently };
+
+    explicit CustomButton(QWidget *parent = nullptr);
+
+    const QString &normalImage() const { return m_strNormalImage; }
+    const QString &hoverImage() const { return m_strHoverImage; }
+    // A click on a window that is not active presses the button at once.
+    bool acceptsFirstMouse() const { return true; }
+    int trackingRectCount() const { return m_tracking.count(); }
+
+    void setNormalImage(const QString &name) { m_strNormalImage = name; }
+    void setHoverImage(const QString &name) { m_strHoverImage = name; }
+    void setImageScaling(ImageScaling scaling);
+    // Tracks the mouse over the present bounds. To be called after each change of the frame.
+    void setMouseReady();
+    // For a button that a window's layout made: begins to track the mouse.
+    Q_INVOKABLE void awakeFromNib();
+
+protected:
+    virtual void mouseEntered();
+    virtual void mouseExited();
+    QRectF imageRect(const platform::Image &image) const override;
+
+private:
+    TrackingRects m_tracking;
+    int m_trackingTag = 0;
+    QString m_strNormalImage;
+    QString m_strHoverImage;
+    ImageScaling m_scaling = ImageScaling::ProportionallyDown;
+};
+
+} // namespace tarvelo::widgets

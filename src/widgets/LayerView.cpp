@@ -1,0 +1,36 @@
+#include "widgets/LayerView.h"
+
+#include <QPainter>
+
+namespace tarvelo::widgets {
+
+LayerView::LayerView(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+void LayerView::setLayer(const Layer &layer)
+{
+    m_layer = layer;
+    update();
+}
+
+void LayerView::setWantsLayer(bool wants)
+{
+    m_wantsLayer = wants;
+    update();
+}
+
+void LayerView::paintEvent(QPaintEvent *)
+{
+    if (!m_wantsLayer || m_layer.borderWidth <= 0)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(m_layer.borderColor, m_layer.borderWidth));
+    const double inset = m_layer.borderWidth / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                            m_layer.cornerRadius, m_layer.cornerRadius);
+}
+
+} // namespace tarvelo::widgets
