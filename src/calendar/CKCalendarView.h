@@ -2,6 +2,7 @@
 
 #include "calendar/CalendarDates.h"
 #include "platform/DelayedCall.h"
+#include "platform/Images.h"
 #include "widgets/LayerView.h"
 
 #include <QPointer>
@@ -152,6 +153,7 @@ private:
     void build();
     QLabel *makeTextField(const QString &name, QWidget *parent);
     widgets::CustomButton *makeNavigationButton(const QString &name, const QString &image);
+    std::function<void(QWidget *)> unlessRefused(std::function<void(QWidget *)> press) const;
     void buildDayCells();
     void buildWeekdayLetters();
     void layoutNavigation(double height);

@@ -1,0 +1,309 @@
+#include "calendar/CKCalendarView.h"
+
+#include "calendar/CalendarDelegate.h"
+#include "calendar/CalendarInput.h"
+#include "calendar/DateButton.h"
+#include "platform/Frames.h"
+#include "platform/Texts.h"
+#include "widgets/GradientView.h"
+#include "widgets/ImageView.h"
+
+#include <QLabel>
+#include <QTextBoundaryFinder>
+
+namespace tarvelo::calendar {
+
+using platform::imageNamed;
+using widgets::CustomButton;
+using widgets::GradientView;
+using widgets::ImageView;
+using widgets::Layer;
+using widgets::LayerView;
+
+namespace {
+
+constexpr int Sunday = 1;
+constexpr QRectF StandardFrame(0, 0, 320, 320);
+constexpr std::chrono::milliseconds FirstSelectionDelay{500};
+
+template <typename View>
+View *named(View *view, const char *name)
+{
+    view->setObjectName(QLatin1String(name));
+    return view;
+}
+
+// One letter as a reader sees it, which can be more than one code unit.
+QString firstLetter(const QString &text)
+{
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    const qsizetype end = finder.toNextBoundary();
+    return end < 0 ? text : text.left(end);
+}
+
+} // namespace
+
+CKCalendarView::CKCalendarView(platform::Dates &dates, QWidget *parent)
+    : CKCalendarView(dates, Sunday, parent)
+{
+}
+
+CKCalendarView::CKCalendarView(platform::Dates &dates, int startDay, QWidget *parent)
+    : CKCalendarView(dates, startDay, StandardFrame, parent)
+{
+}
+
+CKCalendarView::CKCalendarView(platform::Dates &dates, const QRectF &frame, QWidget *parent)
+    : CKCalendarView(dates, 0, frame, parent)
+{
+}
+
+CKCalendarView::CKCalendarView(platform::Dates &dates, int startDay, const QRectF &frame,
+                               QWidget *parent)
+    : LayerView(parent)
+    , m_dates(dates)
+    , m_days(dates, startDay)
+    , m_input(std::make_unique<CalendarInput>(*this))
+    , m_postInit(dates.clock(), [this] { postInit(); })
+{
+    platform::setFrame(*this, frame);
+    m_cellWidth = 40;
+    build();
+    m_postInit.schedule(FirstSelectionDelay);
+}
+
+CKCalendarView::~CKCalendarView() = default;
+
+void CKCalendarView::build()
+{
+    setLayer({6, 1, Qt::black, {2, 2}, 2, 0.4});
+    m_input->watch(*this);
+
+    m_highlight = named(new LayerView(this), "highlight");
+    m_highlight->setLayer({6});
+
+    m_dateButtonsBG = named(new ImageView(this), "dateButtonsBG");
+    m_dateButtonsBG->setGeometry(0, 0, 0, 0);
+
+    m_titleLabel = makeTextField(QStringLiteral("titleLabel"), this);
+
+    m_prevButton = makeNavigationButton(QStringLiteral("prevButton"), QStringLiteral("arrowleft"));
+    m_prevButton->setAction({"moveCalendarToPreviousMonth",
+                             unlessRefused([this](QWidget *) { moveCalendarToPreviousMonth(); })});
+    m_prevButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
+    m_prevButton->setAccessibleName(platform::text("PREVIOUS_MONTH"));
+
+    m_nextButton = makeNavigationButton(QStringLiteral("nextButton"), QStringLiteral("arrowright"));
+    m_nextButton->setAction({"moveCalendarToNextMonth",
+                             unlessRefused([this](QWidget *) { moveCalendarToNextMonth(); })});
+    m_nextButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
+    m_nextButton->setAccessibleName(platform::text("NEXT_MONTH"));
+
+    m_proceedToCurrentMonthButton = makeNavigationButton(
+        QStringLiteral("proceedToCurrentMonthButton"), QStringLiteral("settocurrent"));
+    m_proceedToCurrentMonthButton->setAction(
+        {"doProceedToCurrentMonth",
+         unlessRefused([this](QWidget *sender) { doProceedToCurrentMonth(sender); })});
+    m_proceedToCurrentMonthButton->setToolTip(platform::text("CURRENT_MONTH"));
+    m_proceedToCurrentMonthButton->setAccessibleName(platform::text("CURRENT_MONTH"));
+
+    m_backToCurrentMonthButton = makeNavigationButton(QStringLiteral("backToCurrentMonthButton"),
+                                                      QStringLiteral("settocurrent"));
+    m_backToCurrentMonthButton->setAction(
+        {"comeBackToCurrentMonth",
+         unlessRefused([this](QWidget *sender) { comeBackToCurrentMonth(sender); })});
+    m_backToCurrentMonthButton->setToolTip(platform::text("CURRENT_MONTH"));
+    m_backToCurrentMonthButton->setAccessibleName(platform::text("CURRENT_MONTH"));
+
+    m_calendarContainer = named(new LayerView(this), "calendarContainer");
+    m_calendarContainer->setLayer({4, 1, Qt::gray});
+    m_input->watch(*m_calendarContainer);
+
+    m_daysHeader = named(new GradientView(m_calendarContainer), "daysHeader");
+    m_input->watch(*m_daysHeader);
+    const int headerHeight = 0; // the layout has not placed the header yet
+
+    buildDayCells();
+
+    m_imgWeekDaysBG = named(new ImageView(m_calendarContainer), "imgWeekDaysBG");
+    platform::setFrame(*m_imgWeekDaysBG, {0, 347, 7 * m_cellWidth, headerHeight});
+    m_imgWeekDaysBG->setImage(imageNamed(QStringLiteral("weekHeader")));
+
+    buildWeekdayLetters();
+
+    setMonthShowing(m_dates.now());
+    setDefaultStyle();
+
+    layoutSubviews();
+}
+
+QLabel *CKCalendarView::makeTextField(const QString &name, QWidget *parent)
+{
+    auto *field = new QLabel(parent);
+    field->setObjectName(name);
+    field->setTextFormat(Qt::PlainText);
+    // A field is higher than its text, which stands at its top.
+    field->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_input->watch(*field);
+    return field;
+}
+
+CustomButton *CKCalendarView::makeNavigationButton(const QString &name, const QString &image)
+{
+    auto *button = new CustomButton(this);
+    button->setObjectName(name);
+    button->setImage(imageNamed(image));
+    button->setNormalImage(image);
+    m_input->watch(*button);
+    return button;
+}
+
+// A press can also come without mouse or key, from a screen reader.
+std::function<void(QWidget *)>
+CKCalendarView::unlessRefused(std::function<void(QWidget *)> press) const
+{
+    return [this, run = std::move(press)](QWidget *sender) {
+        if (!m_input->refuses())
+            run(sender);
+    };
+}
+
+void CKCalendarView::buildDayCells()
+{
+    for (int index = 0; index < CellCount; ++index) {
+        auto *cell = new DateButton(m_dates, m_calendarContainer);
+        cell->setObjectName(QStringLiteral("dateButton%1").arg(index));
+        cell->setText(QString::number(index));
+        cell->setAction({"dateButtonPressed",
+                         unlessRefused([this, cell](QWidget *) { dateButtonPressed(cell); })});
+        cell->setFocusPolicy(Qt::ClickFocus);
+        cell->hide();
+        m_input->watch(*cell);
+        m_dateButtons.at(static_cast<size_t>(index)) = cell;
+    }
+}
+
+void CKCalendarView::buildWeekdayLetters()
+{
+    const QStringList names = getDaysOfTheWeek();
+    for (const QString &name : names) {
+        QLabel *letter = makeTextField(
+            QStringLiteral("dayOfWeekLabel%1").arg(m_dayOfWeekLabels.size()), m_calendarContainer);
+        letter->setText(firstLetter(name.toUpper()));
+        letter->setAccessibleName(name);
+        m_dayOfWeekLabels.append(letter);
+    }
+}
+
+void CKCalendarView::setDelegate(CalendarDelegate *delegate)
+{
+    m_delegate = delegate;
+    for (DateButton *cell : m_dateButtons)
+        cell->setDelegate(delegate);
+}
+
+void CKCalendarView::postInit()
+{
+    pressTodaysCell();
+    for (CustomButton *button :
+         {m_prevButton, m_nextButton, m_proceedToCurrentMonthButton, m_backToCurrentMonthButton})
+        button->setMouseReady();
+}
+
+// A cell that never had a date counts as today, since no date is now.
+void CKCalendarView::pressTodaysCell()
+{
+    const QDateTime today = dateWithOutTime({});
+    for (DateButton *cell : m_dateButtons) {
+        if (dateWithOutTime(cell->date()) == today) {
+            dateButtonPressed(cell);
+            return;
+        }
+    }
+}
+
+void CKCalendarView::setMonthShowing(const QDateTime &date)
+{
+    m_days.setMonthShowing(date);
+    m_titleLabel->setText(m_days.monthTitle(monthShowing()));
+    layoutSubviews();
+}
+
+void CKCalendarView::dateButtonPressed(DateButton *cell)
+{
+    m_selectedDate = cell->date();
+    if (m_delegate)
+        m_delegate->calendarDidSelectDate(this, m_selectedDate);
+    layoutSubviews();
+    const bool isToday = dateWithOutTime(cell->date()) == dateWithOutTime({});
+    const QString image = isToday ? QStringLiteral("recordbox") : QStringLiteral("selDateImg");
+    cell->setImage(imageNamed(image));
+    cell->setNormalImage(image);
+    cell->setHoverImage(image);
+    if (s_selectedCell) {
+        s_selectedCell->setIsSelected(false);
+        s_selectedCell->repaint();
+    }
+    cell->setIsSelected(true);
+    s_selectedCell = cell;
+    m_input->setTabStop(*cell);
+}
+
+void CKCalendarView::deselectDateButtons()
+{
+    if (!s_selectedCell)
+        return;
+    s_selectedCell->setIsSelected(false);
+    s_selectedCell->repaint();
+    s_selectedCell.clear();
+}
+
+bool CKCalendarView::isTarveloViewShowing() const
+{
+    return m_delegate && m_delegate->isTarveloViewShowing();
+}
+
+void CKCalendarView::moveCalendarToNextMonth()
+{
+    setMonthShowing(m_days.nextMonth());
+    if (isTarveloViewShowing())
+        dateButtonPressed(m_dateButtons.front());
+}
+
+// The last day by the user's calendar: in a calendar whose months are not the Gregorian ones the
+// cell pressed may be another than the last one shown.
+void CKCalendarView::moveCalendarToPreviousMonth()
+{
+    setMonthShowing(m_days.previousMonth());
+    const auto days = static_cast<size_t>(m_days.numberOfDaysInMonthShowing());
+    if (isTarveloViewShowing())
+        dateButtonPressed(m_dateButtons.at(days - 1));
+}
+
+void CKCalendarView::doProceedToCurrentMonth(QWidget *sender)
+{
+    showCurrentMonth(sender);
+}
+
+void CKCalendarView::comeBackToCurrentMonth(QWidget *sender)
+{
+    showCurrentMonth(sender);
+}
+
+void CKCalendarView::showCurrentMonth(QWidget *sender)
+{
+    setMonthShowing(m_days.todayNormalised());
+    sender->hide();
+    if (isTarveloViewShowing())
+        pressTodaysCell();
+}
+
+QWidget *CKCalendarView::hitTest(const QPoint &point)
+{
+    if (m_input->refuses() || !rect().contains(point))
+        return nullptr;
+    QWidget *child = childAt(point);
+    return child ? child : this;
+}
+
+} // namespace tarvelo::calendar

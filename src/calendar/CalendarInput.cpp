@@ -1,0 +1,137 @@
+#include "calendar/CalendarInput.h"
+
+#include "calendar/CKCalendarView.h"
+#include "calendar/CalendarDelegate.h"
+#include "calendar/DateButton.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace tarvelo::calendar {
+
+namespace {
+
+bool isMouse(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Enter:
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+    case QEvent::Wheel:
+    case QEvent::ToolTip:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isPressing(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Select || key == Qt::Key_Return ||
+           key == Qt::Key_Enter || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
+int daysFor(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return -1;
+    case Qt::Key_Right:
+        return 1;
+    case Qt::Key_Up:
+        return -7;
+    case Qt::Key_Down:
+        return 7;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+CalendarInput::CalendarInput(CKCalendarView &view)
+    : m_view(view)
+{
+}
+
+bool CalendarInput::refuses() const
+{
+    return m_view.delegate() && m_view.delegate()->isRecordingNow();
+}
+
+void CalendarInput::watch(QWidget &part)
+{
+    part.installEventFilter(this);
+}
+
+void CalendarInput::setTabStop(DateButton &cell)
+{
+    if (m_tabStop)
+        m_tabStop->setFocusPolicy(Qt::ClickFocus);
+    m_tabStop = &cell;
+    cell.setFocusPolicy(Qt::StrongFocus);
+}
+
+bool CalendarInput::eventFilter(QObject *watched, QEvent *event)
+{
+    if (isMouse(event->type()))
+        return refuse(*event);
+    if (event->type() == QEvent::KeyPress)
+        return keyPressed(watched, *static_cast<QKeyEvent *>(event));
+    if (event->type() == QEvent::FocusIn) {
+        if (auto *cell = qobject_cast<DateButton *>(watched))
+            setTabStop(*cell);
+    }
+    return false;
+}
+
+// What is refused goes on to what lies behind the calendar, as if no view were here.
+bool CalendarInput::refuse(QEvent &event) const
+{
+    if (!refuses())
+        return false;
+    event.ignore();
+    return true;
+}
+
+bool CalendarInput::keyPressed(QObject *watched, const QKeyEvent &key)
+{
+    if (isPressing(key.key()) && refuses())
+        return true;
+    if (key.key() == Qt::Key_PageUp)
+        m_view.moveCalendarToPreviousMonth();
+    else if (key.key() == Qt::Key_PageDown)
+        m_view.moveCalendarToNextMonth();
+    else
+        return keyPressedOnButton(qobject_cast<QAbstractButton *>(watched), key.key());
+    return true;
+}
+
+bool CalendarInput::keyPressedOnButton(QAbstractButton *button, int key)
+{
+    if (button && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        button->click();
+        return true;
+    }
+    auto *cell = qobject_cast<DateButton *>(button);
+    return cell && daysFor(key) != 0 && moveFocus(*cell, daysFor(key));
+}
+
+// Columns run from left to right in every language, and so do the keys.
+bool CalendarInput::moveFocus(DateButton &from, int days)
+{
+    const auto &cells = m_view.dateButtons();
+    const auto index = std::find(cells.begin(), cells.end(), &from) - cells.begin() + days;
+    if (index >= 0 && index < CKCalendarView::CellCount &&
+        !cells.at(static_cast<size_t>(index))->isHidden())
+        cells.at(static_cast<size_t>(index))->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+} // namespace tarvelo::calendar
