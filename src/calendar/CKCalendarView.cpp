@@ -80,7 +80,7 @@ void CKCalendarView::build()
     m_input->watch(*this);
 
     m_highlight = named(new LayerView(this), "highlight");
-    m_highlight->setLayer({6});
+    m_highlight->setLayer({.cornerRadius = 6});
 
     m_dateButtonsBG = named(new ImageView(this), "dateButtonsBG");
     m_dateButtonsBG->setGeometry(0, 0, 0, 0);
@@ -116,7 +116,7 @@ void CKCalendarView::build()
     m_backToCurrentMonthButton->setAccessibleName(platform::text("CURRENT_MONTH"));
 
     m_calendarContainer = named(new LayerView(this), "calendarContainer");
-    m_calendarContainer->setLayer({4, 1, Qt::gray});
+    m_calendarContainer->setLayer({.cornerRadius = 4, .borderWidth = 1, .borderColor = Qt::gray});
     m_input->watch(*m_calendarContainer);
 
     m_daysHeader = named(new GradientView(m_calendarContainer), "daysHeader");

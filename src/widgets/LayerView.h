@@ -13,7 +13,7 @@ struct Layer
     double cornerRadius = 0;
     double borderWidth = 0;
     QColor borderColor = Qt::black;
-    QPointF shadowOffset;
+    QPointF shadowOffset = {};
     double shadowRadius = 0;
     double shadowOpacity = 0;
 };
