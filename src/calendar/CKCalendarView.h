@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calendar/CalendarDates.h"
+#include "calendar/DateButton.h"
 #include "platform/DelayedCall.h"
 #include "platform/Images.h"
 #include "widgets/LayerView.h"
@@ -21,7 +22,6 @@ namespace tarvelo::calendar {
 
 class CalendarDelegate;
 class CalendarInput;
-class DateButton;
 
 // The month calendar: title, arrows, weekday letters, and a cell for every day of one month. Its
 // frames have their origin at the bottom left, and it sets its own height. While a recording runs
