@@ -72,6 +72,18 @@ private Q_SLOTS:
         QVERIFY(!database.executeQuery(u"select * from t"_s));
     }
 
+    void destructionClosesTheFileAndEndsItsLock()
+    {
+        auto first = std::make_unique<Sqlite>(path());
+        Sqlite second(path());
+        QVERIFY(first->beginTransaction());
+        QVERIFY(!second.beginTransaction());
+
+        first.reset();
+
+        QVERIFY(second.beginTransaction());
+    }
+
     void aClosedDatabaseAnswersWithFailures()
     {
         Sqlite database(path());
@@ -118,6 +130,14 @@ private Q_SLOTS:
 
         QVERIFY(rows);
         QCOMPARE(rows->constFirst().keys(), QStringList({u"ID"_s, u"lectureName"_s}));
+    }
+
+    void aColumnNameIsReadAsUtf8()
+    {
+        const auto rows = m_memory->executeQuery(u"select 1 as Größe"_s);
+
+        QVERIFY(rows);
+        QCOMPARE(rows->constFirst().value(u"Größe"_s), QVariant(1));
     }
 
     void ofTwoColumnsWithOneNameTheLaterStays()
