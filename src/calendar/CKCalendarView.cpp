@@ -115,6 +115,10 @@ void CKCalendarView::build()
     m_backToCurrentMonthButton->setToolTip(platform::text("CURRENT_MONTH"));
     m_backToCurrentMonthButton->setAccessibleName(platform::text("CURRENT_MONTH"));
 
+    // The buttons overlap: an arrow is whole also beside the button that stands partly on it.
+    m_prevButton->raise();
+    m_nextButton->raise();
+
     m_calendarContainer = named(new LayerView(this), "calendarContainer");
     m_calendarContainer->setLayer({.cornerRadius = 4, .borderWidth = 1, .borderColor = Qt::gray});
     m_input->watch(*m_calendarContainer);

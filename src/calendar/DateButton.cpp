@@ -9,6 +9,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tarvelo::calendar {
 
 using platform::Dates;
@@ -113,6 +115,15 @@ void DateButton::paintEvent(QPaintEvent *)
     drawNumber(painter, hasLectures);
     if (hasLectures)
         drawBadge(painter);
+}
+
+// The box that "recordbox" and "selDateImg" show, in their canvas of 51 by 51.
+QRectF DateButton::focusRect() const
+{
+    const double side = std::min({width(), height(), 51});
+    const double scale = side / 51;
+    const QPointF corner((width() - side) / 2, (height() - side) / 2);
+    return {corner + QPointF(4.5 * scale, 0), QSizeF(41 * scale, 41 * scale)};
 }
 
 // The later rule wins: a weekend day is grey, also when it is today.

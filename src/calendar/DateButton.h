@@ -44,6 +44,7 @@ protected:
     void mouseEntered() override;
     void mouseExited() override;
     void paintEvent(QPaintEvent *event) override;
+    QRectF focusRect() const override;
 
 private:
     qsizetype numberOfLectures() const;

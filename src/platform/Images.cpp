@@ -4,7 +4,9 @@
 #include <QHash>
 #include <QPainter>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QSvgRenderer>
+#include <QtMath>
 
 #include <array>
 
@@ -15,10 +17,34 @@ QSizeF Image::size() const
     return m_renderer ? QSizeF(m_renderer->defaultSize()) : QSizeF();
 }
 
+QPixmap Image::rendered(const QSize &pixels) const
+{
+    const QString key =
+        QStringLiteral("tarvelo/%1/%2x%3").arg(m_name).arg(pixels.width()).arg(pixels.height());
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = QPixmap(pixels);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        m_renderer->render(&painter, QRectF(QPointF(), pixels));
+        painter.end();
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
+}
+
+// Drawn once for each size in device pixels, and put down on whole ones: as sharp as drawing anew,
+// which would cost the calendar more than all its questions to the store.
 void Image::paint(QPainter &painter, const QRectF &target) const
 {
-    if (m_renderer)
-        m_renderer->render(&painter, target);
+    if (!m_renderer || target.isEmpty())
+        return;
+    const double ratio = painter.device()->devicePixelRatio();
+    const QPixmap pixmap = rendered(
+        QSize(qCeil(target.width() * ratio - 0.01), qCeil(target.height() * ratio - 0.01)));
+    const QPointF corner(qRound(target.x() * ratio) / ratio, qRound(target.y() * ratio) / ratio);
+    painter.drawPixmap(QRectF(corner, QSizeF(pixmap.size()) / ratio), pixmap,
+                       QRectF(pixmap.rect()));
 }
 
 QIcon Image::icon() const

@@ -7,6 +7,7 @@
 #include <memory>
 
 class QPainter;
+class QPixmap;
 class QRectF;
 class QSvgRenderer;
 
@@ -30,6 +31,8 @@ public:
 
 private:
     friend Image imageNamed(const QString &name);
+
+    QPixmap rendered(const QSize &pixels) const;
 
     QString m_name;
     std::shared_ptr<QSvgRenderer> m_renderer;

@@ -6,6 +6,10 @@ namespace tarvelo::widgets {
 
 using platform::Image;
 
+namespace {
+constexpr double NarrowWidth = 16;
+}
+
 ImageButton::ImageButton(QWidget *parent)
     : QPushButton(parent)
 {
@@ -57,6 +61,7 @@ QRectF ImageButton::imageRect(const Image &image) const
             size.height()};
 }
 
+// A ring around a button as narrow as an arrow would cover it: such a button is underlined.
 void ImageButton::paintFocus(QPainter &painter) const
 {
     if (!hasFocus())
@@ -64,7 +69,11 @@ void ImageButton::paintFocus(QPainter &painter) const
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
+    const QRectF ring = focusRect().adjusted(1, 1, -1, -1);
+    if (ring.width() < NarrowWidth)
+        painter.drawLine(ring.bottomLeft(), ring.bottomRight());
+    else
+        painter.drawRoundedRect(ring, 5, 5);
 }
 
 void ImageButton::paintEvent(QPaintEvent *event)

@@ -50,6 +50,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     // Where the image goes: as large as the drawing is, in the middle; smaller buttons shrink it.
     virtual QRectF imageRect(const platform::Image &image) const;
+    // What the focus ring goes around.
+    virtual QRectF focusRect() const { return rect(); }
     void paintFocus(QPainter &painter) const;
 
 private:
