@@ -107,6 +107,10 @@
         <source></source>
         <translation>الموضوع</translation>
     </message>
+    <message id="LAYOUT_DIRECTION">
+        <source></source>
+        <translation>RTL</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>القائمة الكاملة</translation>

@@ -107,6 +107,10 @@
         <source></source>
         <translation>Thema</translation>
     </message>
+    <message id="LAYOUT_DIRECTION">
+        <source></source>
+        <translation>LTR</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Gesamte Liste</translation>

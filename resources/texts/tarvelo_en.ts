@@ -107,6 +107,10 @@
         <source></source>
         <translation>Subject</translation>
     </message>
+    <message id="LAYOUT_DIRECTION">
+        <source></source>
+        <translation>LTR</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>All List</translation>

@@ -1,8 +1,9 @@
 #include "app/Preferences.h"
 
-#include "app/MainWindowLooks.h"
+#include "app/WindowHints.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
+#include "platform/WindowLevel.h"
 #include "ui_Preferences.h"
 
 #include <QMouseEvent>
@@ -98,7 +99,7 @@ void Preferences::setUp()
     // At the start the stored 0 raises the window, while the checkbox raises it for true. The two
     // disagree on purpose: leave both alone.
     if (integer(Preference::WindowOnTop) == 0)
-        setWindowLevel(m_mainWindow, 1);
+        platform::setWindowLevel(m_mainWindow, platform::FloatingWindowLevel);
     const bool isAac = integer(Preference::FileFormat) == 0;
     m_ui->matrixFileFormatRow0->setChecked(isAac);
     m_ui->matrixFileFormatRow1->setChecked(!isAac);
@@ -146,7 +147,7 @@ void Preferences::onCloseSettingPanel()
 void Preferences::openSettingPanel()
 {
     activateIgnoringOtherApps();
-    makeKeyAndOrderFront(m_mainWindow);
+    platform::makeKeyAndOrderFront(m_mainWindow);
     // From the status item the minimise button is left as it is.
     beginSheet();
 }
@@ -163,7 +164,9 @@ void Preferences::setStatusForHideMainWindowOnStart(QAbstractButton *sender)
 
 void Preferences::setWindowOnTop(QAbstractButton *)
 {
-    setWindowLevel(m_mainWindow, m_defaults.boolForKey(keyOf(Preference::WindowOnTop)) ? 1 : 0);
+    const bool onTop = m_defaults.boolForKey(keyOf(Preference::WindowOnTop));
+    platform::setWindowLevel(m_mainWindow,
+                             onTop ? platform::FloatingWindowLevel : platform::NormalWindowLevel);
 }
 
 void Preferences::onChangeFormatChoice(QButtonGroup *sender)

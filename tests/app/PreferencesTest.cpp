@@ -1,8 +1,9 @@
 #include "app/Preferences.h"
 
-#include "app/MainWindowLooks.h"
+#include "app/WindowHints.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
+#include "platform/WindowLevel.h"
 #include "support/TestCase.h"
 
 #include <QButtonGroup>
@@ -16,6 +17,7 @@
 
 using namespace tarvelo::app;
 using tarvelo::platform::UserDefaults;
+using tarvelo::platform::windowLevel;
 
 namespace {
 

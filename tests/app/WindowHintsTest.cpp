@@ -1,5 +1,6 @@
-#include "app/MainWindowLooks.h"
+#include "app/WindowHints.h"
 
+#include "platform/WindowLevel.h"
 #include "support/TestCase.h"
 
 #include <QSignalSpy>
@@ -22,7 +23,7 @@ protected:
 
 } // namespace
 
-class MainWindowLooksTest final : public tarvelo::tests::TestCase
+class WindowHintsTest final : public tarvelo::tests::TestCase
 {
     Q_OBJECT
 
@@ -31,36 +32,8 @@ private Q_SLOTS:
     {
         const QWidget window;
 
-        QCOMPARE(windowLevel(window), 0);
         QVERIFY(isMinimiseButtonEnabled(window));
         QVERIFY(!hasFullSizeContent(window));
-    }
-
-    void theLevelOfAWindowThatShowsChangesWithoutHidingIt()
-    {
-        Watched window;
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-        setWindowLevel(window, 1);
-        QCOMPARE(windowLevel(window), 1);
-        QVERIFY(window.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
-
-        setWindowLevel(window, 0);
-        QCOMPARE(windowLevel(window), 0);
-        QVERIFY(!window.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
-        QCOMPARE(window.hides, 0);
-        QVERIFY(window.isVisible());
-    }
-
-    void aLevelSetBeforeTheFirstShowIsThatOfTheWindow()
-    {
-        QWidget window;
-        setWindowLevel(window, 1);
-
-        window.show();
-
-        QVERIFY(window.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
     }
 
     void theMinimiseButtonIsSwitchedOffWithoutHidingTheWindow()
@@ -81,11 +54,11 @@ private Q_SLOTS:
     void theLevelStaysWhenTheMinimiseButtonChanges()
     {
         QWidget window;
-        setWindowLevel(window, 1);
+        tarvelo::platform::setWindowLevel(window, 1);
 
         setMinimiseButtonEnabled(window, false);
 
-        QCOMPARE(windowLevel(window), 1);
+        QCOMPARE(tarvelo::platform::windowLevel(window), 1);
     }
 
     void fullSizeContentIsRemembered()
@@ -105,7 +78,7 @@ private Q_SLOTS:
         window.showMinimized();
         QVERIFY(!isOnScreen(window));
 
-        makeKeyAndOrderFront(window);
+        tarvelo::platform::makeKeyAndOrderFront(window);
 
         QVERIFY(isOnScreen(window));
     }
@@ -124,5 +97,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MainWindowLooksTest)
-#include "MainWindowLooksTest.moc"
+QTEST_MAIN(WindowHintsTest)
+#include "WindowHintsTest.moc"

@@ -1,0 +1,72 @@
+#include "app/AppMenus.h"
+
+#include "platform/Texts.h"
+
+#include <QAction>
+
+namespace tarvelo::app {
+
+namespace {
+
+using platform::text;
+
+struct Entry
+{
+    Command command;
+    QString title;
+    const char *name;
+    QKeySequence shortcut;
+    bool beginsGroup;
+};
+
+// In the order of the commands, which is also that of the menus.
+QList<Entry> entries()
+{
+    return {
+        {Command::NewLecture, text("MENU_NEW_LECTURE"), "newLecture", Qt::CTRL | Qt::Key_N, false},
+        {Command::AllList, text("MENU_ALL_LIST"), "allList", Qt::CTRL | Qt::Key_L, true},
+        {Command::FoldList, text("MENU_FOLD_LIST"), "foldList", {}, false},
+        {Command::ShowFolder, text("MENU_SHOW_FOLDER"), "showFolder", {}, false},
+        {Command::ShowPreferences, text("MENU_PREFERENCES"), "preferences",
+         Qt::CTRL | Qt::Key_Comma, true},
+        {Command::CloseWindow, text("MENU_CLOSE_WINDOW"), "closeWindow", Qt::CTRL | Qt::Key_W,
+         true},
+        {Command::Quit, text("MENU_QUIT"), "quit", Qt::CTRL | Qt::Key_Q, false},
+        {Command::Open, text("MENU_OPEN"), "statusOpen", {}, false},
+        {Command::NewLectureFromStatusItem,
+         text("MENU_NEW_LECTURE"),
+         "statusNewLecture",
+         {},
+         false},
+        {Command::PreferencesFromStatusItem,
+         text("MENU_PREFERENCES"),
+         "statusPreferences",
+         {},
+         true},
+        {Command::QuitFromStatusItem, text("MENU_QUIT"), "statusQuit", {}, false},
+    };
+}
+
+} // namespace
+
+AppMenus::AppMenus(QWidget &mainWindow, std::function<void(Command)> run)
+{
+    m_mainMenu.setObjectName(QStringLiteral("mainMenu"));
+    m_statusMenu.setObjectName(QStringLiteral("statusMenu"));
+    for (const Entry &entry : entries()) {
+        const Command command = entry.command;
+        QMenu &menu = command < Command::Open ? m_mainMenu : m_statusMenu;
+        if (entry.beginsGroup)
+            menu.addSeparator();
+        QAction *action = menu.addAction(entry.title);
+        action->setObjectName(QLatin1String(entry.name));
+        action->setShortcut(entry.shortcut);
+        action->setShortcutContext(command == Command::CloseWindow ? Qt::WindowShortcut
+                                                                   : Qt::ApplicationShortcut);
+        connect(action, &QAction::triggered, this, [run, command] { run(command); });
+        m_actions[static_cast<std::size_t>(command)] = action;
+    }
+    mainWindow.addActions(m_mainMenu.actions());
+}
+
+} // namespace tarvelo::app

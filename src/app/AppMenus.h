@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QMenu>
+#include <QObject>
+
+#include <array>
+#include <functional>
+
+class QAction;
+
+namespace tarvelo::app {
+
+enum class Command {
+    NewLecture,
+    AllList,
+    FoldList,
+    ShowFolder,
+    ShowPreferences,
+    CloseWindow,
+    Quit,
+    // Of the status item alone, which also brings the application forward.
+    Open,
+    NewLectureFromStatusItem,
+    PreferencesFromStatusItem,
+    QuitFromStatusItem,
+    Count
+};
+
+// The two menus of the program, the main window's and the status item's, and the shortcuts, which
+// also work while no menu is open. What a command does is not known here.
+class AppMenus final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `run` hears of every command that is chosen. Shortcuts work in `mainWindow`, and those that
+    // are not for one window only in the other windows too, while it is on the screen.
+    AppMenus(QWidget &mainWindow, std::function<void(Command)> run);
+
+    QMenu &mainMenu() { return m_mainMenu; }
+    QMenu &statusMenu() { return m_statusMenu; }
+    QAction *action(Command command) const { return m_actions[static_cast<std::size_t>(command)]; }
+
+private:
+    std::array<QAction *, static_cast<std::size_t>(Command::Count)> m_actions{};
+    QMenu m_mainMenu;
+    QMenu m_statusMenu;
+};
+
+} // namespace tarvelo::app

@@ -1,0 +1,98 @@
+#include "app/AppDelegate.h"
+#include "app/SingleInstance.h"
+#include "app/TerminationSignals.h"
+#include "audio/engine/AudioRecorder.h"
+#include "lectures/LectureWindows.h"
+#include "lectures/MediaLinksArrayController.h"
+#include "platform/Alerts.h"
+#include "platform/Dates.h"
+#include "platform/Images.h"
+#include "platform/Texts.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+#include "store/LectureDatabase.h"
+
+#include <QApplication>
+#include <QSessionManager>
+
+using namespace tarvelo;
+
+namespace {
+
+// The program keeps no log. What Qt remarks about the desktop, such as a missing status bar, is
+// nothing to the user; only what ends the program is said.
+void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtFatalMsg)
+        fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+void describe(QApplication &application)
+{
+    platform::installTexts();
+    QApplication::setApplicationName(QStringLiteral("Tarvelo"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Tarvelo"));
+    QApplication::setDesktopFileName(QStringLiteral("tarvelo"));
+    QApplication::setWindowIcon(platform::imageNamed(QStringLiteral("icon")).icon());
+    QApplication::setQuitOnLastWindowClosed(false);
+    application.setLayoutDirection(platform::text("LAYOUT_DIRECTION") == u"RTL" ? Qt::RightToLeft
+                                                                                : Qt::LeftToRight);
+}
+
+// The end of the session is put off while a lecture is being recorded, when that may be asked.
+void commitData(app::AppDelegate &delegate, QSessionManager &session)
+{
+    if (!delegate.isRecordingNow() || !session.allowsInteraction())
+        return;
+    delegate.applicationShouldTerminate(&session);
+    session.cancel();
+    session.release();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qInstallMessageHandler(handleMessage);
+    QApplication application(argc, argv);
+    const app::SingleInstance instance(app::SingleInstance::standardFolder());
+    if (!instance.isFirst()) {
+        instance.askFirstToReopen();
+        return 0;
+    }
+    describe(application);
+
+    platform::SystemClock clock;
+    platform::Dates dates(clock, platform::Region::ofUser());
+    platform::UserDefaults defaults(platform::UserDefaults::standardFile());
+    const platform::Places places = platform::Places::ofProcess();
+    store::LectureDatabase database(places);
+    const auto engine = engine::makeSoundServerEngine();
+    platform::WindowAlerts alerts;
+    platform::DesktopWorkspace workspace;
+    app::ProcessFlags &flags = app::ProcessFlags::ofProcess();
+
+    const lectures::LectureWindows windows(dates);
+    lectures::MediaLinksArrayController controller(
+        {dates, places, defaults, database, *engine, alerts, workspace, flags.controllerIsAwake},
+        windows);
+    app::AppDelegate delegate(
+        {dates, defaults, alerts, windows, controller,
+         app::LoginItem(app::LoginItem::standardFolder(), QApplication::applicationFilePath()),
+         flags});
+
+    const app::TerminationSignals signalsToEnd;
+    // Not quit(), which first asks every window whether it may be closed.
+    const auto leave = [] { QApplication::exit(0); };
+    QObject::connect(&signalsToEnd, &app::TerminationSignals::terminationRequested, leave);
+    QObject::connect(&delegate, &app::AppDelegate::terminationAllowed, leave);
+    QObject::connect(&instance, &app::SingleInstance::reopenRequested, &delegate,
+                     &app::AppDelegate::reopen);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,
+                     [&](QSessionManager &session) { commitData(delegate, session); });
+
+    controller.awakeFromNib();
+    delegate.awakeFromNib();
+    delegate.applicationDidFinishLaunching(&application);
+    return QApplication::exec();
+}
