@@ -35,6 +35,10 @@
         <source></source>
         <translation>عرض المحاضرة</translation>
     </message>
+    <message id="BUTTON_START_RECORDING">
+        <source></source>
+        <translation>بدء التسجيل</translation>
+    </message>
     <message id="BUTTON_TIME_TAG">
         <source></source>
         <translation>إدراج الوقت</translation>
@@ -182,6 +186,10 @@
     <message id="ROW_PLAY">
         <source></source>
         <translation>تشغيل</translation>
+    </message>
+    <message id="ROW_SHOW_FILE">
+        <source></source>
+        <translation>عرض الملف</translation>
     </message>
     <message id="SETTING_FILEFORMAT">
         <source></source>

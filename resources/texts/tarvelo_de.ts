@@ -35,6 +35,10 @@
         <source></source>
         <translation>Vorlesung zeigen</translation>
     </message>
+    <message id="BUTTON_START_RECORDING">
+        <source></source>
+        <translation>Aufnahme starten</translation>
+    </message>
     <message id="BUTTON_TIME_TAG">
         <source></source>
         <translation>Zeit einfügen</translation>
@@ -182,6 +186,10 @@
     <message id="ROW_PLAY">
         <source></source>
         <translation>Abspielen</translation>
+    </message>
+    <message id="ROW_SHOW_FILE">
+        <source></source>
+        <translation>Datei zeigen</translation>
     </message>
     <message id="SETTING_FILEFORMAT">
         <source></source>

@@ -35,6 +35,10 @@
         <source></source>
         <translation>Show Lecture</translation>
     </message>
+    <message id="BUTTON_START_RECORDING">
+        <source></source>
+        <translation>Start recording</translation>
+    </message>
     <message id="BUTTON_TIME_TAG">
         <source></source>
         <translation>Insert Time</translation>
@@ -182,6 +186,10 @@
     <message id="ROW_PLAY">
         <source></source>
         <translation>Play</translation>
+    </message>
+    <message id="ROW_SHOW_FILE">
+        <source></source>
+        <translation>Show the file</translation>
     </message>
     <message id="SETTING_FILEFORMAT">
         <source></source>

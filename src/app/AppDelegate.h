@@ -10,6 +10,7 @@
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureRowHost.h"
 #include "platform/DelayedCall.h"
+#include "widgets/ImageButton.h"
 
 #include <QPointer>
 
@@ -23,7 +24,6 @@ class Dates;
 class UserDefaults;
 } // namespace tarvelo::platform
 namespace tarvelo::widgets {
-class ImageButton;
 class SlidingWindow;
 } // namespace tarvelo::widgets
 
