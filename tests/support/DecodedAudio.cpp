@@ -42,7 +42,7 @@ Handle<AVCodecContext> openDecoder(const AVStream &track)
     Handle<AVCodecContext> codec(decoder ? avcodec_alloc_context3(decoder) : nullptr);
     if (!codec || avcodec_parameters_to_context(codec.get(), track.codecpar) < 0)
         return nullptr;
-    codec->pkt_timebase = track.time_base;
+    codec->pkt_timebase = track.time_base; // one tick a sample, in all files of ours
     return avcodec_open2(codec.get(), decoder, nullptr) < 0 ? nullptr : std::move(codec);
 }
 
@@ -67,7 +67,10 @@ void decodeInto(DecodedAudio &audio, AVCodecContext &codec, const AVPacket *pack
     while (avcodec_receive_frame(&codec, frame.get()) >= 0) {
         audio.rate = frame->sample_rate;
         audio.channels = frame->ch_layout.nb_channels;
-        for (int at = 0; at < frame->nb_samples; ++at)
+        // What lies before the beginning is the encoder's run-up and not for playing. The decoder
+        // drops it by itself from an indexed file only.
+        const int first = frame->pts == AV_NOPTS_VALUE ? 0 : static_cast<int>(-frame->pts);
+        for (int at = std::max(0, first); at < frame->nb_samples; ++at)
             for (int channel = 0; channel < audio.channels; ++channel)
                 audio.samples.push_back(sampleOf(*frame, channel, at));
     }

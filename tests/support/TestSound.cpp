@@ -84,18 +84,28 @@ std::ptrdiff_t findStart(std::span<const float> played, std::span<const float> r
 
 std::vector<float> tune(int rate, double seconds, unsigned seed)
 {
+    constexpr double NoteSeconds = 0.125;
+    constexpr double GlideRate = 50; // a note is reached after some twentieths of a second
     std::mt19937 random(seed);
     std::uniform_real_distribution<double> pitch(180, 1400);
     std::vector<float> sound(static_cast<std::size_t>(rate * seconds));
-    double phase = 0;
-    double hertz = 440;
-    double wanted = 440;
+    // In closed form from the time alone, so that it is the same tune at every rate.
+    double noteStart = 0;
+    double turnsBefore = 0;
+    double from = 440;
+    double to = pitch(random);
+    const auto turns = [&](double t) {
+        return turnsBefore + to * t + (from - to) * (1 - std::exp(-GlideRate * t)) / GlideRate;
+    };
     for (std::size_t at = 0; at < sound.size(); ++at) {
-        if (at % static_cast<std::size_t>(rate / 8) == 0)
-            wanted = pitch(random);
-        hertz += (wanted - hertz) * 50 / rate;
-        phase += Turn * hertz / rate;
-        const double swell = 0.7 + 0.3 * std::sin(Turn * 3.1 * static_cast<double>(at) / rate);
+        const double time = static_cast<double>(at) / rate;
+        for (; time >= noteStart + NoteSeconds; noteStart += NoteSeconds) {
+            turnsBefore = turns(NoteSeconds);
+            from = to + (from - to) * std::exp(-GlideRate * NoteSeconds);
+            to = pitch(random);
+        }
+        const double phase = Turn * turns(time - noteStart);
+        const double swell = 0.7 + 0.3 * std::sin(Turn * 3.1 * time);
         sound[at] = static_cast<float>(swell * (0.7 * std::sin(phase) + 0.2 * std::sin(2 * phase) +
                                                 0.1 * std::sin(3 * phase)));
     }

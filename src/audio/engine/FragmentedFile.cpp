@@ -10,7 +10,7 @@ std::unique_ptr<FragmentedFile> FragmentedFile::create(std::unique_ptr<OutputFil
     if (!track || avcodec_parameters_from_context(track.get(), &encoder) < 0)
         return nullptr;
     std::unique_ptr<FragmentedFile> take(new FragmentedFile(std::move(file)));
-    take->m_secondsPerTick = av_q2d(encoder.time_base);
+    take->m_rate = encoder.sample_rate;
     take->m_movie =
         MovieOutput::create(MovieOutput::Form::Fragmented, *track, encoder.time_base,
                             [waiting = &take->m_waiting](std::int64_t, auto bytes) {
@@ -29,9 +29,9 @@ bool FragmentedFile::add(const AVPacket &packet)
 {
     if (!m_movie->add(packet))
         return false;
-    m_added.seconds = static_cast<double>(packet.pts + packet.duration) * m_secondsPerTick;
-    ++m_added.packets;
-    return m_added.seconds - m_cut.seconds < FragmentSeconds || cut();
+    m_added = {m_added.packets + 1, packet.pts + packet.duration};
+    const double seconds = static_cast<double>(m_added.samples - m_cut.samples) / m_rate;
+    return seconds < FragmentSeconds || cut();
 }
 
 bool FragmentedFile::cut()

@@ -2,6 +2,7 @@
 
 #include "audio/engine/MovieOutput.h"
 #include "audio/engine/OutputFile.h"
+#include "audio/engine/TakeExtent.h"
 
 #include <chrono>
 #include <vector>
@@ -19,13 +20,13 @@ public:
     // About 100 seconds of sound.
     static constexpr std::size_t MostBytesWaiting = std::size_t{1} << 20;
 
-    // Takes the track as the encoder has it. Null when it cannot be written.
+    // Takes the track as the encoder has it, one tick a sample. Null when it cannot be written.
     static std::unique_ptr<FragmentedFile> create(std::unique_ptr<OutputFile> file,
                                                   const AVCodecContext &encoder);
 
-    // Seconds and packets of sound that stand in the file.
-    double secondsInFile() const { return m_inFile.seconds; }
-    std::int64_t packetsInFile() const { return m_inFile.packets; }
+    // What stands in the file by now.
+    const TakeExtent &extentInFile() const { return m_inFile; }
+    double secondsInFile() const { return static_cast<double>(m_inFile.samples) / m_rate; }
     // The disk did not take the last fragment.
     bool isDiskFailing() const { return m_diskFails; }
     // More sound would only be lost: call retry() until there is room again.
@@ -38,22 +39,16 @@ public:
     bool finish();
 
 private:
-    struct Extent
-    {
-        double seconds = 0;
-        std::int64_t packets = 0;
-    };
-
     explicit FragmentedFile(std::unique_ptr<OutputFile> file);
     bool cut();
     void syncNowAndThen();
 
     std::unique_ptr<OutputFile> m_file;
     std::unique_ptr<MovieOutput> m_movie;
-    double m_secondsPerTick = 0;
-    Extent m_added;
-    Extent m_cut;
-    Extent m_inFile;
+    int m_rate = 0;
+    TakeExtent m_added;
+    TakeExtent m_cut;
+    TakeExtent m_inFile;
     std::vector<std::uint8_t> m_waiting;
     bool m_diskFails = false;
     std::chrono::steady_clock::time_point m_synced = std::chrono::steady_clock::now();

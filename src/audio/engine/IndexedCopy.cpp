@@ -3,12 +3,15 @@
 #include "audio/engine/MovieOutput.h"
 #include "audio/engine/OutputFile.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
 namespace tarvelo::engine {
 
 namespace {
+
+constexpr std::int64_t SamplesInPacket = 1024; // in all of AAC's low complexity profile
 
 struct InputCloser
 {
@@ -33,7 +36,7 @@ InputPointer openTake(const std::string &path)
     return InputPointer(input);
 }
 
-bool copySound(AVFormatContext &input, OutputFile &file, std::int64_t packets)
+bool copySound(AVFormatContext &input, OutputFile &file, const TakeExtent &extent)
 {
     if (input.nb_streams != 1)
         return false;
@@ -44,29 +47,33 @@ bool copySound(AVFormatContext &input, OutputFile &file, std::int64_t packets)
     PacketPointer packet(av_packet_alloc());
     if (!movie || !packet)
         return false;
-    for (; av_read_frame(&input, packet.get()) >= 0; --packets) {
+    std::int64_t packets = 0;
+    for (; av_read_frame(&input, packet.get()) >= 0; ++packets) {
+        // The reader is wrong about lengths where one fragment ends and the next begins.
+        packet->duration =
+            std::clamp<std::int64_t>(extent.samples - packet->pts, 0, SamplesInPacket);
         const bool added = movie->add(*packet);
         av_packet_unref(packet.get());
         if (!added)
             return false;
     }
-    return packets == 0 && movie->finish();
+    return packets == extent.packets && movie->finish();
 }
 
-bool writeCopy(const std::string &from, const std::string &to, std::int64_t packets)
+bool writeCopy(const std::string &from, const std::string &to, const TakeExtent &extent)
 {
     const InputPointer input = openTake(from);
     const auto file = input ? OutputFile::create(to) : nullptr;
-    return file && copySound(*input, *file, packets) && file->sync();
+    return file && copySound(*input, *file, extent) && file->sync();
 }
 
 } // namespace
 
-bool replaceWithIndexedCopy(const std::string &path, std::int64_t packets)
+bool replaceWithIndexedCopy(const std::string &path, const TakeExtent &extent)
 {
     keepFfmpegQuiet();
     const std::string sibling = siblingOf(path);
-    if (!writeCopy(path, sibling, packets) || std::rename(sibling.c_str(), path.c_str()) != 0) {
+    if (!writeCopy(path, sibling, extent) || std::rename(sibling.c_str(), path.c_str()) != 0) {
         ::unlink(sibling.c_str());
         return false;
     }

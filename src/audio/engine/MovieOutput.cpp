@@ -73,7 +73,12 @@ bool MovieOutput::add(const AVPacket &packet)
 
 bool MovieOutput::cutFragment()
 {
-    return av_write_frame(m_muxer, nullptr) >= 0 && flush();
+    // The first time round the muxer only puts out the header and keeps the fragment.
+    for (int time = m_hasHeader ? 1 : 0; time < 2; ++time)
+        if (av_write_frame(m_muxer, nullptr) < 0)
+            return false;
+    m_hasHeader = true;
+    return flush();
 }
 
 bool MovieOutput::finish()

@@ -43,6 +43,7 @@ private:
     std::int64_t m_position = 0;
     std::int64_t m_size = 0;
     AVRational m_timeBase{0, 1};
+    bool m_hasHeader = false;
     AVIOContext *m_io = nullptr;
     AVFormatContext *m_muxer = nullptr;
     PacketPointer m_packet{av_packet_alloc()};

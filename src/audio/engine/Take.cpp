@@ -10,7 +10,7 @@ namespace tarvelo::engine {
 namespace {
 
 // Long enough to sleep well, short enough that a killed program loses little.
-constexpr std::chrono::milliseconds WriteInterval{100};
+constexpr std::chrono::milliseconds WriteInterval{50};
 constexpr std::size_t SamplesInBlock = 8192;
 
 // Signals are for the main thread: a thread begins with the mask of the one that starts it.
@@ -96,12 +96,9 @@ void Take::intoRing(std::span<const float> samples)
 
 void Take::writeUntilEnd()
 {
-    std::unique_lock lock(m_mutex);
-    while (!m_isAtEnd) {
-        m_endComes.wait_for(lock, WriteInterval, [this] { return m_isAtEnd; });
-        lock.unlock();
-        writeWhatIsThere();
-        lock.lock();
+    for (bool isAtEnd = false; !isAtEnd; writeWhatIsThere()) {
+        std::unique_lock lock(m_mutex);
+        isAtEnd = m_endComes.wait_for(lock, WriteInterval, [this] { return m_isAtEnd; });
     }
 }
 

@@ -89,7 +89,7 @@ bool TakeWriter::finish()
     m_isFinished = true;
     const bool encoded = !m_isBroken && encodeRest();
     m_isComplete = m_file->finish() && encoded;
-    replaceWithIndexedCopy(m_path, m_file->packetsInFile());
+    replaceWithIndexedCopy(m_path, m_file->extentInFile());
     return m_isComplete;
 }
 
