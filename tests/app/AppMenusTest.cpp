@@ -1,0 +1,175 @@
+#include "app/Application.h"
+#include "app/WindowHints.h"
+#include "platform/Texts.h"
+#include "support/TestCase.h"
+
+#include <QAction>
+#include <QSignalSpy>
+
+using namespace tarvelo;
+using namespace std::chrono_literals;
+using app::Command;
+using tests::Application;
+using tests::noonOf;
+
+class AppMenusTest final : public tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { platform::installTexts(); }
+
+    void theMainMenuHangsOnItsButton()
+    {
+        Application program;
+
+        QCOMPARE(program.windows.mainOutlets().btnMainMenu->menu(),
+                 &program.delegate.menus().mainMenu());
+    }
+
+    void theCommandsHaveTheirShortcuts_data()
+    {
+        QTest::addColumn<Command>("command");
+        QTest::addColumn<QString>("shortcut");
+        QTest::newRow("New Lecture") << Command::NewLecture << QStringLiteral("Ctrl+N");
+        QTest::newRow("Preferences") << Command::ShowPreferences << QStringLiteral("Ctrl+,");
+        QTest::newRow("All List") << Command::AllList << QStringLiteral("Ctrl+L");
+        QTest::newRow("Close Window") << Command::CloseWindow << QStringLiteral("Ctrl+W");
+        QTest::newRow("Quit") << Command::Quit << QStringLiteral("Ctrl+Q");
+    }
+
+    void theCommandsHaveTheirShortcuts()
+    {
+        QFETCH(Command, command);
+        Application program;
+
+        const QAction *action = program.delegate.menus().action(command);
+
+        QTEST(action->shortcut().toString(), "shortcut");
+        QVERIFY(program.window().actions().contains(const_cast<QAction *>(action)));
+    }
+
+    void everyCommandHasATitle()
+    {
+        Application program;
+
+        for (int i = 0; i < static_cast<int>(Command::Count); ++i)
+            QVERIFY(!program.delegate.menus().action(static_cast<Command>(i))->text().isEmpty());
+    }
+
+    void theStatusMenuOpensMakesConfiguresAndQuits()
+    {
+        Application program;
+        QStringList titles;
+
+        for (const QAction *action : program.delegate.menus().statusMenu().actions()) {
+            if (!action->isSeparator())
+                titles << action->text();
+        }
+
+        QCOMPARE(titles, (QStringList{QStringLiteral("Open Tarvelo"), QStringLiteral("New Lecture"),
+                                      QStringLiteral("Preferences…"), QStringLiteral("Quit")}));
+    }
+
+    void aNewLectureIsMadeOnAnOpenDay()
+    {
+        Application program;
+        program.launch();
+        program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 22));
+
+        choose(program, Command::NewLecture);
+
+        QVERIFY(program.delegate.isRecordingNow());
+    }
+
+    void aPastDayGetsNoNewLectureFromAMenu()
+    {
+        Application program;
+        program.launch();
+        program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 1));
+
+        choose(program, Command::NewLecture);
+        choose(program, Command::NewLectureFromStatusItem);
+
+        QVERIFY(!program.delegate.isRecordingNow());
+    }
+
+    void allListShowsItsTitleAtTheListsWidth()
+    {
+        Application program;
+        program.launch();
+        program.clock.advance(1s);
+
+        choose(program, Command::FoldList);
+        QCOMPARE(program.window().frameWidth(), 452);
+
+        choose(program, Command::AllList);
+        QCOMPARE(program.window().frameWidth(), 833);
+        QCOMPARE(program.windows.mainOutlets().lblDateDisplay->text(), QStringLiteral("All List"));
+    }
+
+    void theRecordingsFolderIsRevealed()
+    {
+        Application program;
+        program.launch();
+
+        choose(program, Command::ShowFolder);
+
+        QCOMPARE(program.workspace.revealed,
+                 QList<QUrl>{QUrl::fromLocalFile(program.controller.getAudioFolderPath())});
+    }
+
+    void closeWindowHidesTheMainWindow()
+    {
+        Application program;
+        program.window().show();
+
+        choose(program, Command::CloseWindow);
+
+        QVERIFY(!program.window().isVisible());
+    }
+
+    void bothQuitCommandsQuit()
+    {
+        Application program;
+        QSignalSpy ends(&program.delegate, &app::AppDelegate::terminationAllowed);
+
+        choose(program, Command::Quit);
+        choose(program, Command::QuitFromStatusItem);
+
+        QCOMPARE(ends.size(), 2);
+    }
+
+    void bothPreferencesCommandsOpenTheSheet()
+    {
+        Application program;
+        program.launch();
+
+        choose(program, Command::PreferencesFromStatusItem);
+        QVERIFY(program.delegate.preferences().isShowing());
+        QVERIFY(app::isMinimiseButtonEnabled(program.window()));
+        program.delegate.onClosePreferences(nullptr);
+
+        choose(program, Command::ShowPreferences);
+        QVERIFY(program.delegate.preferences().isShowing());
+        QVERIFY(!app::isMinimiseButtonEnabled(program.window()));
+    }
+
+    void openBringsTheWindowToTheFront()
+    {
+        Application program;
+
+        choose(program, Command::Open);
+
+        QVERIFY(program.window().isVisible());
+    }
+
+private:
+    static void choose(Application &program, Command command)
+    {
+        program.delegate.menus().action(command)->trigger();
+    }
+};
+
+QTEST_MAIN(AppMenusTest)
+#include "AppMenusTest.moc"
