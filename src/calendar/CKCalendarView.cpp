@@ -74,71 +74,68 @@ CKCalendarView::CKCalendarView(platform::Dates &dates, int startDay, const QRect
 
 CKCalendarView::~CKCalendarView() = default;
 
+// In the order in which the parts lie on one another.
 void CKCalendarView::build()
 {
     setLayer({6, 1, Qt::black, {2, 2}, 2, 0.4});
     m_input->watch(*this);
-
     m_highlight = named(new LayerView(this), "highlight");
     m_highlight->setLayer({.cornerRadius = 6});
-
     m_dateButtonsBG = named(new ImageView(this), "dateButtonsBG");
     m_dateButtonsBG->setGeometry(0, 0, 0, 0);
-
     m_titleLabel = makeTextField(QStringLiteral("titleLabel"), this);
-
-    m_prevButton = makeNavigationButton(QStringLiteral("prevButton"), QStringLiteral("arrowleft"));
-    m_prevButton->setAction({"moveCalendarToPreviousMonth",
-                             unlessRefused([this](QWidget *) { moveCalendarToPreviousMonth(); })});
-    m_prevButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
-    m_prevButton->setAccessibleName(platform::text("PREVIOUS_MONTH"));
-
-    m_nextButton = makeNavigationButton(QStringLiteral("nextButton"), QStringLiteral("arrowright"));
-    m_nextButton->setAction({"moveCalendarToNextMonth",
-                             unlessRefused([this](QWidget *) { moveCalendarToNextMonth(); })});
-    m_nextButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
-    m_nextButton->setAccessibleName(platform::text("NEXT_MONTH"));
-
-    m_proceedToCurrentMonthButton = makeNavigationButton(
-        QStringLiteral("proceedToCurrentMonthButton"), QStringLiteral("settocurrent"));
-    m_proceedToCurrentMonthButton->setAction(
-        {"doProceedToCurrentMonth",
-         unlessRefused([this](QWidget *sender) { doProceedToCurrentMonth(sender); })});
-    m_proceedToCurrentMonthButton->setToolTip(platform::text("CURRENT_MONTH"));
-    m_proceedToCurrentMonthButton->setAccessibleName(platform::text("CURRENT_MONTH"));
-
-    m_backToCurrentMonthButton = makeNavigationButton(QStringLiteral("backToCurrentMonthButton"),
-                                                      QStringLiteral("settocurrent"));
-    m_backToCurrentMonthButton->setAction(
-        {"comeBackToCurrentMonth",
-         unlessRefused([this](QWidget *sender) { comeBackToCurrentMonth(sender); })});
-    m_backToCurrentMonthButton->setToolTip(platform::text("CURRENT_MONTH"));
-    m_backToCurrentMonthButton->setAccessibleName(platform::text("CURRENT_MONTH"));
-
-    // The buttons overlap: an arrow is whole also beside the button that stands partly on it.
-    m_prevButton->raise();
-    m_nextButton->raise();
-
+    buildArrows();
+    buildCurrentMonthButtons();
     m_calendarContainer = named(new LayerView(this), "calendarContainer");
     m_calendarContainer->setLayer({.cornerRadius = 4, .borderWidth = 1, .borderColor = Qt::gray});
     m_input->watch(*m_calendarContainer);
-
     m_daysHeader = named(new GradientView(m_calendarContainer), "daysHeader");
     m_input->watch(*m_daysHeader);
-    const int headerHeight = 0; // the layout has not placed the header yet
-
     buildDayCells();
-
     m_imgWeekDaysBG = named(new ImageView(m_calendarContainer), "imgWeekDaysBG");
-    platform::setFrame(*m_imgWeekDaysBG, {0, 347, 7 * m_cellWidth, headerHeight});
+    // As high as the header, which has no height before the first layout.
+    m_weekDaysBGFrame = {0, 347, 7 * m_cellWidth, 0};
     m_imgWeekDaysBG->setImage(imageNamed(QStringLiteral("weekHeader")));
-
     buildWeekdayLetters();
-
     setMonthShowing(m_dates.now());
     setDefaultStyle();
-
     layoutSubviews();
+}
+
+void CKCalendarView::buildArrows()
+{
+    m_prevButton =
+        makeNavigationButton("prevButton", "arrowleft", platform::text("PREVIOUS_MONTH"));
+    m_prevButton->setAction({"moveCalendarToPreviousMonth",
+                             unlessRefused([this](QWidget *) { moveCalendarToPreviousMonth(); })});
+    m_prevButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
+
+    m_nextButton = makeNavigationButton("nextButton", "arrowright", platform::text("NEXT_MONTH"));
+    m_nextButton->setAction({"moveCalendarToNextMonth",
+                             unlessRefused([this](QWidget *) { moveCalendarToNextMonth(); })});
+    m_nextButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
+}
+
+void CKCalendarView::buildCurrentMonthButtons()
+{
+    const QString name = platform::text("CURRENT_MONTH");
+    m_proceedToCurrentMonthButton =
+        makeNavigationButton("proceedToCurrentMonthButton", "settocurrent", name);
+    m_proceedToCurrentMonthButton->setAction(
+        {"doProceedToCurrentMonth",
+         unlessRefused([this](QWidget *sender) { doProceedToCurrentMonth(sender); })});
+    m_proceedToCurrentMonthButton->setToolTip(name);
+
+    m_backToCurrentMonthButton =
+        makeNavigationButton("backToCurrentMonthButton", "settocurrent", name);
+    m_backToCurrentMonthButton->setAction(
+        {"comeBackToCurrentMonth",
+         unlessRefused([this](QWidget *sender) { comeBackToCurrentMonth(sender); })});
+    m_backToCurrentMonthButton->setToolTip(name);
+
+    // They stand partly on the arrows, which have to be whole for the mouse.
+    m_prevButton->raise();
+    m_nextButton->raise();
 }
 
 QLabel *CKCalendarView::makeTextField(const QString &name, QWidget *parent)
@@ -152,12 +149,13 @@ QLabel *CKCalendarView::makeTextField(const QString &name, QWidget *parent)
     return field;
 }
 
-CustomButton *CKCalendarView::makeNavigationButton(const QString &name, const QString &image)
+CustomButton *CKCalendarView::makeNavigationButton(const char *name, const char *image,
+                                                   const QString &accessibleName)
 {
-    auto *button = new CustomButton(this);
-    button->setObjectName(name);
-    button->setImage(imageNamed(image));
-    button->setNormalImage(image);
+    auto *button = named(new CustomButton(this), name);
+    button->setImage(imageNamed(QLatin1String(image)));
+    button->setNormalImage(QLatin1String(image));
+    button->setAccessibleName(accessibleName);
     m_input->watch(*button);
     return button;
 }

@@ -152,7 +152,10 @@ protected:
 private:
     void build();
     QLabel *makeTextField(const QString &name, QWidget *parent);
-    widgets::CustomButton *makeNavigationButton(const QString &name, const QString &image);
+    widgets::CustomButton *makeNavigationButton(const char *name, const char *image,
+                                                const QString &accessibleName);
+    void buildArrows();
+    void buildCurrentMonthButtons();
     std::function<void(QWidget *)> unlessRefused(std::function<void(QWidget *)> press) const;
     void buildDayCells();
     void buildWeekdayLetters();
@@ -190,6 +193,7 @@ private:
     DateButtons m_dateButtons{};
     widgets::GradientView *m_daysHeader = nullptr;
 
+    QRectF m_weekDaysBGFrame;
     int m_cellsInView = 0;
     int m_laidOutWidth = 0;
     double m_cellWidth = 0;

@@ -41,6 +41,8 @@ void CKCalendarView::layoutSubviews()
     layoutNavigation(height);
     layoutCurrentMonthButtons();
     setFrame(*m_calendarContainer, {17, 0, width - 34, height});
+    // Where it was put when it was made: from the bottom, which the container's new height moved.
+    setFrame(*m_imgWeekDaysBG, m_weekDaysBGFrame);
     setFrame(*m_daysHeader, {0, 0, width - 34, HeaderHeight});
     layoutWeekdayLetters();
     removeDayCells();
