@@ -141,6 +141,11 @@ void RecordingControl::startRecording(QWidget *sender)
     m_recording = true;
     m_durationPause = 0;
 
+    // A take that was left while it was paused left the toggle on.
+    if (m_outlets.btnPauseResumeRecording->state() == 1) {
+        m_outlets.btnPauseResumeRecording->setState(0);
+        lookPause(*m_outlets.btnPauseResumeRecording);
+    }
     // Shown before the pressed one hides, so that the keyboard focus has where to go.
     m_outlets.btnPauseResumeRecording->setEnabled(true);
     m_outlets.btnPauseResumeRecording->show();
