@@ -35,6 +35,8 @@ void describe(QApplication &application)
     QApplication::setDesktopFileName(QStringLiteral("tarvelo"));
     QApplication::setWindowIcon(platform::imageNamed(QStringLiteral("icon")).icon());
     QApplication::setQuitOnLastWindowClosed(false);
+    // One look on every desktop: the windows' own drawings go with no other.
+    QApplication::setStyle(QStringLiteral("Fusion"));
     application.setLayoutDirection(platform::text("LAYOUT_DIRECTION") == u"RTL" ? Qt::RightToLeft
                                                                                 : Qt::LeftToRight);
 }

@@ -89,6 +89,7 @@ void NewLecture::onAddItem(QWidget *)
 
     controls.lblRecordingDuration->clear();
     m_outlets.window.txtSubjectForNewNote->setFocus();
+    platform::centreOver(*m_outlets.window.newNoteWindow, *m_outlets.main.mainWindow);
     platform::makeKeyAndOrderFront(*m_outlets.window.newNoteWindow);
 }
 

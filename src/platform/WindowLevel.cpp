@@ -1,7 +1,10 @@
 #include "platform/WindowLevel.h"
 
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace tarvelo::platform {
 
@@ -26,6 +29,16 @@ void makeKeyAndOrderFront(QWidget &window)
     window.show();
     window.raise();
     window.activateWindow();
+}
+
+void centreOver(QWidget &window, const QWidget &other)
+{
+    const QRect screen = other.screen()->availableGeometry();
+    QRect frame(QPoint(), window.size());
+    frame.moveCenter(other.frameGeometry().center());
+    frame.moveLeft(std::max(screen.left(), std::min(frame.left(), screen.right() - frame.width())));
+    frame.moveTop(std::max(screen.top(), std::min(frame.top(), screen.bottom() - frame.height())));
+    window.move(frame.topLeft());
 }
 
 void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on)

@@ -20,6 +20,10 @@ void setWindowLevel(QWidget &window, int level);
 // Shows the window in front of the others, with the keyboard; one that was minimised comes back.
 void makeKeyAndOrderFront(QWidget &window);
 
+// Puts a window that is about to show in the middle over another, on its screen as far as it fits.
+// Where windows cannot be placed (Wayland) nothing happens.
+void centreOver(QWidget &window, const QWidget &other);
+
 // Changes one flag of a window that may be showing, without hiding it as QWidget's own setter does.
 void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on);
 

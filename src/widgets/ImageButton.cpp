@@ -1,5 +1,6 @@
 #include "widgets/ImageButton.h"
 
+#include <QFocusEvent>
 #include <QPainter>
 
 namespace tarvelo::widgets {
@@ -64,7 +65,7 @@ QRectF ImageButton::imageRect(const Image &image) const
 // A ring around a button as narrow as an arrow would cover it: such a button is underlined.
 void ImageButton::paintFocus(QPainter &painter) const
 {
-    if (!hasFocus())
+    if (!hasFocus() || !m_showsFocus)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
@@ -74,6 +75,16 @@ void ImageButton::paintFocus(QPainter &painter) const
         painter.drawLine(ring.bottomLeft(), ring.bottomRight());
     else
         painter.drawRoundedRect(ring, 5, 5);
+}
+
+void ImageButton::focusInEvent(QFocusEvent *event)
+{
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::MouseFocusReason)
+        m_showsFocus = false;
+    else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        m_showsFocus = true;
+    QPushButton::focusInEvent(event);
 }
 
 void ImageButton::paintEvent(QPaintEvent *event)

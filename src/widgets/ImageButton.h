@@ -47,6 +47,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     // Where the image goes: as large as the drawing is, in the middle; smaller buttons shrink it.
     virtual QRectF imageRect(const platform::Image &image) const;
@@ -60,6 +61,8 @@ private:
     Action m_action;
     QWidget *m_clickingFor = nullptr;
     int m_tag = 0;
+    // The focus is drawn for who came by keyboard: a window that opens, or a click, needs no ring.
+    bool m_showsFocus = false;
 };
 
 } // namespace tarvelo::widgets
