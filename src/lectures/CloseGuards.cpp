@@ -63,7 +63,7 @@ bool CloseGuards::newLectureMayClose()
         return true;
     m_with.alerts.beginSheet({message, QStringLiteral("Ok"),
                               QStringLiteral("Please click Done to save or Cancel to exit.")},
-                             *m_windows.newNoteWindow, m_with.sheetDidEnd);
+                             *m_windows.newNoteWindow, m_with.alertDidEnd);
     return false;
 }
 
@@ -75,7 +75,7 @@ bool CloseGuards::editMayClose()
         return false;
     m_with.alerts.beginSheet({QStringLiteral("Lecture has been changed!"), QStringLiteral("Ok"),
                               QStringLiteral("Please click Done to save and exit.")},
-                             *m_windows.windowEditLecture, m_with.sheetDidEnd);
+                             *m_windows.windowEditLecture, m_with.alertDidEnd);
     return false;
 }
 

@@ -33,8 +33,8 @@ public:
         platform::Alerts &alerts;
         // Ends what the play window plays and closes it, for a sender or none.
         std::function<void(QWidget *)> onClosePlayAudioWindow;
-        // What hears of the end of a guard's sheet.
-        std::function<void(int)> sheetDidEnd;
+        // Hears the return code of a guard's sheet.
+        std::function<void(int)> alertDidEnd;
     };
 
     struct Windows

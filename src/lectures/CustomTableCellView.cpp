@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 
 namespace tarvelo::lectures {
 
@@ -16,10 +17,26 @@ const QColor SubjectColour(60, 57, 66);
 const QColor DetailColour(120, 116, 128);
 const QColor LineColour(232, 231, 235);
 
-QString firstLineOf(const QString &notes)
+// The notes' first words, on one line.
+QString beginningOf(const QString &notes)
 {
-    return notes.simplified().left(200);
+    return notes.left(400).simplified();
 }
+
+// Keeps its whole text and shows as much of it as there is room for.
+class CutLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading, shown);
+    }
+};
 
 } // namespace
 
@@ -43,17 +60,18 @@ CustomTableCellView::CustomTableCellView(QWidget *parent)
     layout->addWidget(m_duration, 0, 1, 2, 1, Qt::AlignVCenter);
     layout->addWidget(m_btnBrowse, 0, 2, 2, 1, Qt::AlignVCenter);
     layout->setColumnStretch(0, 1);
+    // A long subject is cut at the row's edge instead of widening the row.
+    m_subject->setMinimumWidth(1);
+    m_notes->setMinimumWidth(1);
 }
 
 QLabel *CustomTableCellView::makeLabel(const char *name, double size, const QColor &colour)
 {
-    auto *label = new QLabel(this);
+    auto *label = new CutLabel(this);
     label->setObjectName(QString::fromLatin1(name));
     // Notes are the student's own words, never markup.
     label->setTextFormat(Qt::PlainText);
     label->setFont(platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), size));
-    // A long subject is cut at the row's edge instead of widening the row.
-    label->setMinimumWidth(1);
     QPalette colours = label->palette();
     colours.setColor(QPalette::WindowText, colour);
     label->setPalette(colours);
@@ -66,7 +84,7 @@ void CustomTableCellView::setObjectValue(const Lecture &lecture)
     const QString subject = lecture ? lecture->strSubject() : QString();
     m_subject->setText(subject);
     m_subject->setToolTip(subject.toHtmlEscaped());
-    m_notes->setText(lecture ? firstLineOf(lecture->strNotes()) : QString());
+    m_notes->setText(lecture ? beginningOf(lecture->strNotes()) : QString());
     m_duration->setText(lecture ? lecture->strRecordingDuration() : QString());
     m_btnBrowse->setVisible(lecture && !lecture->getLectureAudioPath().isEmpty());
     setAccessibleName(subject + QStringLiteral(", ") + m_duration->text());
@@ -83,7 +101,8 @@ void CustomTableCellView::setCurrent(bool current)
 void CustomTableCellView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(QRect(16, height() - 1, width() - 16, 1), LineColour);
+    const QRect line(16, height() - 1, width() - 16, 1);
+    painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), LineColour);
     if (!m_isCurrent)
         return;
     painter.setRenderHint(QPainter::Antialiasing);

@@ -10,6 +10,7 @@ class CKCalendarView;
 }
 namespace tarvelo::widgets {
 class ImageButton;
+class LayerView;
 class SlidingWindow;
 } // namespace tarvelo::widgets
 
@@ -26,6 +27,7 @@ struct MainWindowOutlets
     LectureTable *tblRecordSubjectList = nullptr;
     QWidget *tableListView = nullptr;
     QWidget *scrollTableView = nullptr;
+    QWidget *newNoteView = nullptr;
     QWidget *editPlayView = nullptr;
     QWidget *weekDayView = nullptr;
     QWidget *topHorizontalLine = nullptr;
@@ -62,6 +64,8 @@ struct NewLectureOutlets
     widgets::ImageButton *BtnDoneOrClose = nullptr;
     widgets::ImageButton *btnCloseNewLecture = nullptr;
     widgets::ImageButton *BtnCancelAddNewLecture = nullptr;
+    // Lies under the level meter, and has a layer of its own while a take is recorded.
+    widgets::LayerView *recordAnimationView = nullptr;
 };
 
 struct EditLectureOutlets

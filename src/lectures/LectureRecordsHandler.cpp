@@ -35,7 +35,11 @@ QVariant LectureRecordsHandler::data(const QModelIndex &, int) const
 void LectureRecordsHandler::awakeFromNib()
 {
     showDate(m_dates.now());
-    m_outlets.lectureRecordsTable->setSelectionMode(QAbstractItemView::NoSelection);
+    // Rows can be selected; it does not show.
+    QPalette colours = m_outlets.lectureRecordsTable->palette();
+    colours.setColor(QPalette::Highlight, colours.color(QPalette::Base));
+    colours.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
+    m_outlets.lectureRecordsTable->setPalette(colours);
     m_outlets.tblLectureRecords->setModel(this);
     reloadData();
 }

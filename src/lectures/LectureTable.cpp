@@ -65,13 +65,19 @@ void LectureTable::setRowHost(LectureRowHost *host)
         view->setRowHost(host);
 }
 
+void LectureTable::setSelectionHighlightStyle(SelectionHighlightStyle style)
+{
+    m_highlightStyle = style;
+    viewport()->update();
+}
+
 void LectureTable::reloadData()
 {
     updateScrollBar();
-    m_selectedRow = std::min(m_selectedRow, rowCount() - 1);
     layoutRows();
     for (const auto &[row, view] : m_shown)
         bind(*view, row);
+    selectRow(m_selectedRow);
 }
 
 void LectureTable::scrollRowToVisible(int row)
@@ -93,8 +99,8 @@ void LectureTable::selectRow(int row)
     if (chosen == m_selectedRow)
         return;
     m_selectedRow = chosen;
-    for (const auto &[shownRow, view] : m_shown)
-        view->setCurrent(shownRow == m_selectedRow && hasFocus());
+    showCurrentRow();
+    viewport()->update();
     Q_EMIT selectedRowChanged(m_selectedRow);
 }
 
@@ -202,14 +208,28 @@ void LectureTable::keyPressEvent(QKeyEvent *event)
 void LectureTable::focusInEvent(QFocusEvent *event)
 {
     QAbstractScrollArea::focusInEvent(event);
+    showCurrentRow();
+}
+
+void LectureTable::focusOutEvent(QFocusEvent *event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    showCurrentRow();
+}
+
+void LectureTable::showCurrentRow()
+{
     for (const auto &[row, view] : m_shown)
-        view->setCurrent(row == m_selectedRow);
+        view->setCurrent(row == m_selectedRow && hasFocus());
 }
 
 void LectureTable::paintEvent(QPaintEvent *)
 {
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
+    const auto selected = m_shown.find(m_selectedRow);
+    if (m_highlightStyle == SelectionHighlightStyle::Regular && selected != m_shown.end())
+        painter.fillRect(selected->second->geometry(), palette().color(QPalette::Midlight));
 }
 
 } // namespace tarvelo::lectures

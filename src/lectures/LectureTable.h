@@ -25,6 +25,8 @@ public:
     // Under this role the model gives a row's Lecture.
     static constexpr int LectureRole = Qt::UserRole;
 
+    enum class SelectionHighlightStyle { None, Regular };
+
     explicit LectureTable(QWidget *parent = nullptr);
     ~LectureTable() override;
 
@@ -35,14 +37,18 @@ public:
     int rowForView(const QWidget *view) const;
     int viewCount() const { return static_cast<int>(m_shown.size() + m_spare.size()); }
     int selectedRow() const { return m_selectedRow; }
+    SelectionHighlightStyle selectionHighlightStyle() const { return m_highlightStyle; }
 
     // The model must outlive the table or be taken off it. Its resets reload the table.
     void setModel(QAbstractItemModel *model);
     // Lets the rows ask their questions; null takes it back.
     void setRowHost(LectureRowHost *host);
+    // Whether the selected row lies on a ground of its own. The mark of the row that the keyboard
+    // is on shows under both styles.
+    void setSelectionHighlightStyle(SelectionHighlightStyle style);
     void reloadData();
     void scrollRowToVisible(int row);
-    // Marks the row that the keyboard is on; -1 for none.
+    // The row that the keyboard is on; -1 for none.
     void selectRow(int row);
 
 Q_SIGNALS:
@@ -55,6 +61,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -63,12 +70,14 @@ private:
     void layoutRows();
     CustomTableCellView *takeView();
     void bind(CustomTableCellView &view, int row) const;
+    void showCurrentRow();
 
     QPointer<QAbstractItemModel> m_model;
     LectureRowHost *m_host = nullptr;
     std::map<int, CustomTableCellView *> m_shown;
     std::vector<CustomTableCellView *> m_spare;
     int m_selectedRow = -1;
+    SelectionHighlightStyle m_highlightStyle = SelectionHighlightStyle::Regular;
 };
 
 } // namespace tarvelo::lectures

@@ -8,6 +8,7 @@
 #include "platform/Frames.h"
 #include "platform/Texts.h"
 #include "widgets/ImageButton.h"
+#include "widgets/LayerView.h"
 #include "widgets/LevelIndicator.h"
 #include "widgets/SlidingWindow.h"
 
@@ -94,12 +95,16 @@ void LectureWindows::buildMainWindow(platform::Dates &dates)
     calendarView->setAccessibleName(platform::text("CALENDAR"));
     platform::setFrame(*calendarView, platform::frameOf(*calendarView));
     calendarView->lower();
+    // Nothing shows it yet; it waits beside the list.
+    auto *newNoteView = new QWidget(ui.tableListView);
+    newNoteView->setObjectName(QStringLiteral("newNoteView"));
+    newNoteView->hide();
 
-    m_main = {
-        m_mainWindow.get(), calendarView,         ui.tblRecordSubjectList, ui.tableListView,
-        ui.scrollTableView, ui.editPlayView,      ui.weekDayView,          ui.topHorizontalLine,
-        ui.lblTarvelo,      ui.lblDateDisplay,    ui.btnMainMenu,          ui.btnAddItem,
-        ui.btnDeleteItem,   ui.btnAddNewLecture2, ui.btnShowAllList,       ui.btnFoldUpList};
+    m_main = {m_mainWindow.get(),   calendarView,     ui.tblRecordSubjectList, ui.tableListView,
+              ui.scrollTableView,   newNoteView,      ui.editPlayView,         ui.weekDayView,
+              ui.topHorizontalLine, ui.lblTarvelo,    ui.lblDateDisplay,       ui.btnMainMenu,
+              ui.btnAddItem,        ui.btnDeleteItem, ui.btnAddNewLecture2,    ui.btnShowAllList,
+              ui.btnFoldUpList};
 
     style(*ui.lblTarvelo, 18, Ink);
     style(*ui.lblDateDisplay, 22, Ink);
@@ -144,7 +149,8 @@ void LectureWindows::buildNewLectureWindow()
                     ui.textDate,
                     ui.BtnDoneOrClose,
                     ui.btnCloseNewLecture,
-                    ui.BtnCancelAddNewLecture};
+                    ui.BtnCancelAddNewLecture,
+                    ui.recordAnimationView};
     m_recording = {m_newNoteWindow.get(),
                    ui.btnStartRecord,
                    ui.btnStopRecord,

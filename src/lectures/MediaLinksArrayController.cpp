@@ -5,14 +5,10 @@
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureTable.h"
 #include "platform/Dates.h"
-#include "platform/Fonts.h"
-#include "platform/Texts.h"
-#include "platform/WindowLevel.h"
 #include "platform/Workspace.h"
 #include "store/LectureDatabase.h"
 #include "widgets/ImageButton.h"
-#include "widgets/InsertionPoint.h"
-#include "widgets/LevelIndicator.h"
+#include "widgets/LayerView.h"
 #include "widgets/SlidingWindow.h"
 
 #include <QFileInfo>
@@ -25,39 +21,11 @@ using namespace std::chrono_literals;
 
 namespace tarvelo::lectures {
 
-using platform::text;
 using widgets::ImageButton;
 
 namespace {
 
-constexpr auto PathAfterStart = 500ms;
 constexpr auto StopAfterChange = 200ms;
-
-// There is no such number on Linux; it stands for a system on which everything is there.
-constexpr qint32 SystemVersion = 0x1080;
-
-const QColor Accent(252, 39, 52);
-
-void setBackgroundColor(QWidget &window, const QColor &colour)
-{
-    QPalette palette = window.palette();
-    palette.setColor(QPalette::Window, colour);
-    window.setPalette(palette);
-    window.setAutoFillBackground(true);
-}
-
-// Typing goes on in this colour, whatever colour the text before it has.
-void setTypingColor(QTextEdit &view, const QColor &colour)
-{
-    view.setTextColor(colour);
-}
-
-void recolourTitle(ImageButton &button)
-{
-    QPalette palette = button.palette();
-    palette.setColor(QPalette::ButtonText, Accent);
-    button.setPalette(palette);
-}
 
 } // namespace
 
@@ -76,13 +44,13 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
                     m_dayList, m_editing, services.alerts},
                    {windows.mainOutlets(), windows.newLectureOutlets(), windows.recordingOutlets(),
                     windows.playAudioOutlets(), windows.lectureViewOutlets()})
-    , m_closeGuards({m_recordingControl, m_newLecture, m_editing, services.alerts,
-                     [this](QWidget *sender) { onClosePlayAudioWindow(sender); },
-                     // A guard's sheet ends with nothing more to do.
-                     [](int) {}},
-                    {&windows.mainWindow(), windows.newLectureOutlets().newNoteWindow,
-                     windows.editLectureOutlets().windowEditLecture,
-                     windows.playAudioOutlets().playAudioWindow})
+    , m_closeGuards(
+          {m_recordingControl, m_newLecture, m_editing, services.alerts,
+           [this](QWidget *sender) { onClosePlayAudioWindow(sender); },
+           [this](int code) { alerDeletedDidEndReturnCodeContextInfo(nullptr, code, nullptr); }},
+          {&windows.mainWindow(), windows.newLectureOutlets().newNoteWindow,
+           windows.editLectureOutlets().windowEditLecture,
+           windows.playAudioOutlets().playAudioWindow})
     , m_setTemporaryPath(services.dates.clock(), [this] { setTempAudioSavePathWithFormat(); })
     , m_stopSoundPlayEdit(services.dates.clock(), [this] { m_playback.stopSoundPlayEdit(); })
     , m_stopSoundPlay(services.dates.clock(), [this] { m_playback.stopSoundPlay(); })
@@ -135,103 +103,30 @@ void MediaLinksArrayController::connectControls()
     wire(newLecture.btnCloseNewLecture, "onDoneNewLectureOrCloseWindow", end);
     wire(newLecture.BtnCancelAddNewLecture, "onCancelAddNewLecture",
          [this](QWidget *sender) { onCancelAddNewLecture(sender); });
-    m_editing.watch(*newLecture.txtSubjectForNewNote);
-    m_editing.watch(*newLecture.txtView);
+    watchTexts();
 
     m_closeGuards.guard(*main.mainWindow);
     connect(main.tblRecordSubjectList, &LectureTable::rowViewMade, this,
             [this](CustomTableCellView *row) { wireRow(*row); });
+    connect(main.tblRecordSubjectList, &LectureTable::selectedRowChanged, this,
+            [this](int row) { setSelectedIndexes(row < 0 ? QList<int>() : QList<int>{row}); });
     main.tblRecordSubjectList->setModel(this);
+}
+
+void MediaLinksArrayController::watchTexts()
+{
+    m_editing.watch(*m_windows.newLectureOutlets().txtSubjectForNewNote);
+    m_editing.watch(*m_windows.newLectureOutlets().txtView);
+    m_editing.watch(*m_windows.editLectureOutlets().txtSubjectForEdit);
+    m_editing.watch(*m_windows.editLectureOutlets().txtViewNotesForEdit);
+    m_editing.watch(*m_windows.lectureViewOutlets().tSubjectName);
+    m_editing.watch(*m_windows.lectureViewOutlets().tViewNoteForEdit);
 }
 
 void MediaLinksArrayController::wireRow(CustomTableCellView &row)
 {
     row.btnBrowse()->setAction(
         {"openAudioFolderPath", [this](QWidget *sender) { openAudioFolderPath(sender); }});
-}
-
-void MediaLinksArrayController::awakeFromNib()
-{
-    if (m_services.isAwake)
-        return;
-    m_services.isAwake = true;
-    const MainWindowOutlets &main = m_windows.mainOutlets();
-    const NewLectureOutlets &newLecture = m_windows.newLectureOutlets();
-    const EditLectureOutlets &edit = m_windows.editLectureOutlets();
-    const PlayAudioOutlets &play = m_windows.playAudioOutlets();
-    const PopoverOutlets &popovers = m_windows.popoverOutlets();
-
-    m_recordingControl.resetPauses();
-    m_locations.clearTempAudioSavePath();
-    m_version = SystemVersion;
-    m_viewChanges.reset();
-    platform::setWindowLevel(*main.mainWindow, platform::NormalWindowLevel);
-    for (QWidget *window : {newLecture.newNoteWindow, edit.windowEditLecture, play.playAudioWindow})
-        setBackgroundColor(*window, Qt::white);
-    for (QWidget *window : {newLecture.newNoteWindow, edit.windowEditLecture, play.playAudioWindow})
-        m_closeGuards.guard(*window);
-    play.playAudioWindow->setAttribute(Qt::WA_NoSystemBackground);
-    platform::setWindowFlagInPlace(*play.playAudioWindow, Qt::CustomizeWindowHint, true);
-    platform::setWindowFlagInPlace(*play.playAudioWindow, Qt::WindowMinMaxButtonsHint, false);
-
-    newLecture.lblNotesForAdd->setText(text("LABEL_NOTES"));
-    m_windows.lectureViewOutlets().lblNotesForView->setText(text("LABEL_NOTES"));
-    popovers.lblRecordDeleteConfirmation->setText(text("LABEL_CONFIRM_RECORDDELETE"));
-    popovers.lblPopoverNoAudio->setText(text("MSG_NO_AUDIO_FOR_LECTURE"));
-    m_selectedIndexes = {};
-    main.tblRecordSubjectList->selectRow(-1);
-    setTypingAndInsertionColours();
-    m_windows.recordingOutlets().lblRecordingDuration->setText(QString());
-    m_recordingControl.showTimeOfDay();
-    m_recordingControl.startDisplayTimer();
-    m_recordingControl.showDate();
-    main.calendarView->layoutSubviews();
-    popovers.btnConfirmNo->setTag(0);
-    popovers.btnConfirmYes->setTag(1);
-    m_playback.resetRate();
-    setButtonTitleColor();
-    m_setTemporaryPath.schedule(PathAfterStart);
-}
-
-// The typing colours, the folders of the process, and the colours of the insertion points.
-void MediaLinksArrayController::setTypingAndInsertionColours()
-{
-    QTextEdit &notes = *m_windows.newLectureOutlets().txtView;
-    QTextEdit &editNotes = *m_windows.editLectureOutlets().txtViewNotesForEdit;
-    QTextEdit &viewNotes = *m_windows.lectureViewOutlets().tViewNoteForEdit;
-    const QColor labelColour = notes.palette().color(QPalette::WindowText);
-    setTypingColor(notes, notes.palette().color(QPalette::Disabled, QPalette::Text));
-    setTypingColor(editNotes, labelColour);
-    setTypingColor(viewNotes, labelColour);
-
-    m_locations.createFolders();
-
-    const PlayAudioOutlets &play = m_windows.playAudioOutlets();
-    for (QLineEdit *field :
-         {play.txtSubjectName, play.txtCourseName, m_windows.editLectureOutlets().txtSubjectForEdit,
-          m_windows.newLectureOutlets().txtSubjectForNewNote, play.txtFieldForAudio,
-          m_windows.lectureViewOutlets().tSubjectName})
-        widgets::setInsertionPointColor(*field, Qt::lightGray);
-    widgets::setInsertionPointColor(notes, Qt::lightGray);
-    widgets::setInsertionPointColor(editNotes, labelColour);
-    widgets::setInsertionPointColor(viewNotes, labelColour);
-}
-
-void MediaLinksArrayController::setButtonTitleColor()
-{
-    const QFont font = platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), 15);
-    for (QTextEdit *view :
-         {m_windows.newLectureOutlets().txtView, m_windows.lectureViewOutlets().tViewNoteForEdit,
-          m_windows.editLectureOutlets().txtViewNotesForEdit}) {
-        view->setFont(font);
-        view->setTextColor(view->palette().color(QPalette::WindowText));
-    }
-    const LectureViewOutlets &lectureView = m_windows.lectureViewOutlets();
-    for (ImageButton *button :
-         {m_windows.newLectureOutlets().BtnDoneOrClose, m_windows.editLectureOutlets().btnDoneEdit,
-          lectureView.btnDoneEditLecture, lectureView.btnSlidetoView,
-          lectureView.btnSlideToListView, m_windows.newLectureOutlets().BtnCancelAddNewLecture})
-        recolourTitle(*button);
 }
 
 store::Sqlite *MediaLinksArrayController::openDb()
@@ -295,7 +190,9 @@ void MediaLinksArrayController::showList(QWidget *)
 
 void MediaLinksArrayController::setSelectedIndexes(const QList<int> &indexes)
 {
-    if (indexes == m_selectedIndexes)
+    // The very same set is no change. An equal one may be: the lectures at those rows can be others
+    // by now.
+    if (&indexes == &m_selectedIndexes)
         return;
     m_selectedIndexes = indexes;
     LectureList lectures;
@@ -330,9 +227,8 @@ void MediaLinksArrayController::viewEditView(QWidget *)
 
 void MediaLinksArrayController::animateRecordView()
 {
-    // A view with a layer of its own is redrawn without what lies under it.
-    m_windows.recordingOutlets().audioLevelMeter->setAttribute(Qt::WA_OpaquePaintEvent,
-                                                               m_recordingControl.recording());
+    m_windows.newLectureOutlets().recordAnimationView->setWantsLayer(
+        m_recordingControl.recording());
 }
 
 void MediaLinksArrayController::browseRecordingFolder(QWidget *)
@@ -355,6 +251,16 @@ void MediaLinksArrayController::openAudioFolderPath(QWidget *sender)
 void MediaLinksArrayController::onDoneNewLectureOrCloseWindow(QWidget *sender)
 {
     m_newLecture.onDoneNewLectureOrCloseWindow(sender);
+}
+
+void MediaLinksArrayController::onClosePopoverConfirm(QWidget *)
+{
+    m_windows.popoverOutlets().lblPopoverNoAudio->window()->hide();
+}
+
+void MediaLinksArrayController::sheetDidEndReturnCodeContextInfo(QWidget *sheet, int, void *)
+{
+    sheet->hide();
 }
 
 bool MediaLinksArrayController::isConfirmDeleteShowing() const

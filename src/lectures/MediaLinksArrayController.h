@@ -13,6 +13,8 @@
 
 #include <QAbstractTableModel>
 
+#include <array>
+
 namespace tarvelo::engine {
 class AudioEngine;
 }
@@ -46,13 +48,15 @@ struct LectureServices
 // arranged objects. It owns the workflows and hands every operation on to the one whose work it is;
 // it sequences what crosses several of them.
 //
-//   start-up            awakeFromNib, setButtonTitleColor
-//   store               openDb, insert..., update..., deleteVoiceData
-//   lists               prepareViewForDate, showList, selection, table data
-//   view changes        onExpandView, goToCalendarView, viewEditView, animateRecordView
-//   audio files         setTempAudioSavePathWithFormat, getAudio..., browseRecordingFolder,
-//   openAudioFolderPath recording           startRecording ... updateTimeDisplay new lecture
-//   onAddItem ... onCancelAddNewLecture closing             windowShouldClose, windowWillClose
+// - start-up: awakeFromNib, setButtonTitleColor
+// - store: openDb, insertIntoDb..., updateToDoData..., deleteVoiceData
+// - lists: prepareViewForDate, showList, selection, table data
+// - view changes: onExpandView, goToCalendarView, viewEditView, animateRecordView
+// - audio files: setTempAudioSavePathWithFormat, getAudio..., browseRecordingFolder,
+//   openAudioFolderPath
+// - recording: startRecording ... updateTimeDisplay
+// - new lecture: onAddItem ... onClosePopoverConfirm
+// - closing: windowShouldClose ... onClosePlayAudioWindow
 class MediaLinksArrayController final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -66,7 +70,8 @@ public:
     void setApplication(LectureApplication *application);
     void setRowHost(LectureRowHost *host);
 
-    // -- Start-up. The work is done once in a process; a second call does nothing.
+    // -- Start-up. The work is done once in a process; a second call does nothing. It opens no
+    // database and shows no list: the first list is that of the day selected at launch.
     void awakeFromNib();
     void setButtonTitleColor();
 
@@ -83,6 +88,7 @@ public:
     const QDateTime &dateOfButtonClicked() const { return m_dayList.dateOfButtonClicked(); }
     // Whether the day shown takes new lectures.
     bool isDayOpen() const { return m_dayList.isDayOpen(dateOfButtonClicked()); }
+    qint32 version() const { return m_version; }
     const QList<int> &selectedIndexes() const { return m_selectedIndexes; }
     const LectureList &selectedDownloads() const { return m_selectedDownloads; }
     int numberOfRowsInTableView() const { return rowCount(); }
@@ -132,18 +138,42 @@ public:
     void doSaveNewAudioInfos() { m_newLecture.doSaveNewAudioInfos(); }
     void onCancelAddNewLecture(QWidget *sender) { m_newLecture.onCancelAddNewLecture(sender); }
     void onCloseLectureWindow(QWidget *sender) { m_newLecture.onCloseLectureWindow(sender); }
+    void onDone(QWidget *sender) { m_newLecture.onDone(sender); }
+    void onClosePopoverConfirm(QWidget *sender);
 
     // -- Closing
+    bool bHasChangesInNote() const { return m_editing.bHasChangesInNote(); }
+    bool bHasChangesInNoteTitle() const { return m_editing.bHasChangesInNoteTitle(); }
+    bool bIsRecordingNeedPreventingQuit() const
+    {
+        return m_recordingControl.bIsRecordingNeedPreventingQuit();
+    }
+    void setBIsRecordingNeedPreventingQuit(bool need)
+    {
+        m_recordingControl.setBIsRecordingNeedPreventingQuit(need);
+    }
     bool isConfirmDeleteShowing() const;
     bool isSupportedIniTunes(QWidget *cell) const;
     bool windowShouldClose(QWidget *window) { return m_closeGuards.windowShouldClose(window); }
     void windowWillClose(QWidget *window) { m_closeGuards.windowWillClose(window); }
     void onClosePlayAudioWindow(QWidget *sender);
+    // The ends of sheets: the one takes the sheet off the screen; the other, that of the close
+    // guards, does nothing, and its name is wanted as it is.
+    void sheetDidEndReturnCodeContextInfo(QWidget *sheet, int returnCode, void *contextInfo);
+    void alerDeletedDidEndReturnCodeContextInfo(QWidget *, int, void *) {}
 
 private:
     void connectControls();
+    void watchTexts();
     void wireRow(CustomTableCellView &row);
-    void setTypingAndInsertionColours();
+    std::array<QWidget *, 3> secondaryWindows() const;
+    void setBackgroundColors();
+    void becomeDelegateOfWindows();
+    void dressPlayAudioWindow();
+    void setLabels();
+    void setTypingAttributes();
+    void setInsertionPointColors();
+    void tagConfirmButtons();
     void reloadData();
 
     LectureServices m_services;

@@ -9,6 +9,7 @@
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureEditing.h"
 #include "lectures/LectureTable.h"
+#include "lectures/Slides.h"
 #include "platform/Alerts.h"
 #include "platform/Dates.h"
 #include "platform/WindowLevel.h"
@@ -31,6 +32,7 @@ namespace tarvelo::lectures {
 namespace {
 
 constexpr auto AfterDone = 200ms;
+constexpr auto NoteViewSlide = 800ms;
 constexpr int TagDone = 0;
 constexpr int TagClose = 1;
 
@@ -197,6 +199,12 @@ void NewLecture::onCancelAddNewLecture(QWidget *)
 void NewLecture::onCloseLectureWindow(QWidget *)
 {
     m_outlets.window.newNoteWindow->hide();
+}
+
+void NewLecture::onDone(QWidget *)
+{
+    slideTo(*m_outlets.main.newNoteView, QRectF(QPointF(), m_outlets.main.scrollTableView->size()),
+            NoteViewSlide);
 }
 
 void NewLecture::resetControls(const QString &stopAlternate)

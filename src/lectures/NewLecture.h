@@ -68,6 +68,8 @@ public:
     void onDoneNewLectureOrCloseWindow(QWidget *sender);
     void onCancelAddNewLecture(QWidget *sender);
     void onCloseLectureWindow(QWidget *sender);
+    // Slides the note view over the list.
+    void onDone(QWidget *sender);
     // Stores the new lecture under the day shown. Files that cannot be moved are left where they
     // are, and the row is stored with their new path all the same.
     void doSaveNewAudioInfos();

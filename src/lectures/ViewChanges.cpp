@@ -1,11 +1,12 @@
 #include "lectures/ViewChanges.h"
 
 #include "calendar/CKCalendarView.h"
+#include "lectures/Slides.h"
 #include "platform/Frames.h"
 #include "widgets/ImageButton.h"
 #include "widgets/SlidingWindow.h"
 
-#include <QPropertyAnimation>
+#include <chrono>
 
 using namespace std::chrono_literals;
 
@@ -100,21 +101,6 @@ void ViewChanges::viewEditView()
     m_outlets.weekDayView->setHidden(m_bIsInEditView);
     m_outlets.topHorizontalLine->setHidden(m_bIsInEditView);
     m_outlets.mainWindow->setFrameWidth(SingleViewWidth, true);
-}
-
-void ViewChanges::slideTo(QWidget &view, const QRectF &frame, std::chrono::milliseconds duration)
-{
-    // A slide that is under way gives way to the new one.
-    for (QPropertyAnimation *running :
-         view.findChildren<QPropertyAnimation *>(Qt::FindDirectChildrenOnly))
-        delete running;
-    const QRect target = platform::flipped(frame, view.parentWidget()->height());
-    if (view.geometry() == target)
-        return;
-    auto *slide = new QPropertyAnimation(&view, "geometry", &view);
-    slide->setDuration(static_cast<int>(duration.count()));
-    slide->setEndValue(target);
-    slide->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 } // namespace tarvelo::lectures

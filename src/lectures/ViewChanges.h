@@ -2,10 +2,6 @@
 
 #include "lectures/LectureOutlets.h"
 
-#include <QRectF>
-
-#include <chrono>
-
 namespace tarvelo::lectures {
 
 // The three arrangements of the main window, and the slides between them: calendar and list, both
@@ -30,7 +26,6 @@ private:
     // Both panes to their places beside each other, the lecture view at height `y`.
     void placeSideBySide(double y);
     void showSlideButtons();
-    void slideTo(QWidget &view, const QRectF &frame, std::chrono::milliseconds duration);
 
     MainWindowOutlets m_outlets;
     LectureViewOutlets m_lectureView;
