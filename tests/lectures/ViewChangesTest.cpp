@@ -1,0 +1,157 @@
+#include "lectures/ViewChanges.h"
+
+#include "platform/Frames.h"
+#include "support/LectureProgram.h"
+#include "support/TestCase.h"
+
+using tarvelo::lectures::ViewChanges;
+using tarvelo::platform::frameOf;
+using tarvelo::tests::LectureProgram;
+
+class ViewChangesTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theCanvasBeginsWithCalendarAndList()
+    {
+        QCOMPARE(window().width(), 833);
+        QCOMPARE(frameOf(*main().calendarView).topLeft(), QPointF(-2, 0));
+        QCOMPARE(main().tableListView->geometry().right() + 1, 833);
+        QCOMPARE(main().editPlayView->x(), 833);
+    }
+
+    void expandingShowsAllThreePanes()
+    {
+        m_changes->onExpandView();
+
+        QTRY_COMPARE(window().width(), 1234);
+        QCOMPARE(window().frameWidth(), 1234);
+        QVERIFY(!m_changes->bIsInEditView());
+        QVERIFY(!m_changes->bIsInSingleEditView());
+        QCOMPARE(frameOf(*main().editPlayView).topLeft(), QPointF(833, -50));
+        QCOMPARE(frameOf(*main().calendarView).topLeft(), QPointF(-2, 0));
+        QVERIFY(main().calendarView->isVisible() && main().tableListView->isVisible());
+        expectSlideButtons(false);
+    }
+
+    void expandingKeepsTheSizesOfThePanes()
+    {
+        const QSize lectureView = main().editPlayView->size();
+        const QSize calendar = main().calendarView->size();
+
+        m_changes->onExpandView();
+
+        QCOMPARE(main().editPlayView->size(), lectureView);
+        QCOMPARE(main().calendarView->size(), calendar);
+    }
+
+    void theSingleViewTakesTheCalendarsPlace()
+    {
+        const QRectF calendar = frameOf(*main().calendarView);
+
+        m_changes->viewEditView();
+
+        QVERIFY(m_changes->bIsInEditView());
+        QVERIFY(m_changes->bIsInSingleEditView());
+        QCOMPARE(frameOf(*main().editPlayView),
+                 QRectF(calendar.width(), -50, calendar.width(), calendar.height()));
+        QTRY_COMPARE(frameOf(*main().editPlayView).topLeft(), QPointF(0, -50));
+        QTRY_COMPARE(window().width(), 400);
+        QVERIFY(main().calendarView->isHidden() && main().tableListView->isHidden());
+        expectSlideButtons(true);
+    }
+
+    void goingBackToTheCalendarKeepsTheHeightOfTheLectureViewAndTheSingleFlag()
+    {
+        m_changes->viewEditView();
+        QTRY_COMPARE(main().editPlayView->x(), 0);
+        tarvelo::platform::setFrame(*main().editPlayView, {0, -20, 450, 489});
+
+        m_changes->goToCalendarView();
+
+        QTRY_COMPARE(window().width(), 833);
+        QCOMPARE(frameOf(*main().editPlayView), QRectF(833, -20, 450, 489));
+        QCOMPARE(frameOf(*main().calendarView).topLeft(), QPointF(-2, 0));
+        QVERIFY(!m_changes->bIsInEditView());
+        QVERIFY(m_changes->bIsInSingleEditView());
+        QVERIFY(main().calendarView->isVisible() && main().tableListView->isVisible());
+        expectSlideButtons(false);
+    }
+
+    void expandingEndsTheSingleView()
+    {
+        m_changes->viewEditView();
+
+        m_changes->onExpandView();
+
+        QVERIFY(!m_changes->bIsInSingleEditView());
+        QVERIFY(!m_changes->bIsInEditView());
+    }
+
+    void aChangeWhileAnotherStillSlidesWins()
+    {
+        m_changes->viewEditView();
+        m_changes->goToCalendarView();
+
+        QTRY_VERIFY(!window().isSliding());
+        QCOMPARE(window().width(), 833);
+        QCOMPARE(frameOf(*main().editPlayView).topLeft(), QPointF(833, -50));
+    }
+
+    void everyWidthKeepsOriginAndHeight()
+    {
+        window().move(30, 40);
+        const QPoint origin = window().pos();
+        const int height = window().height();
+
+        m_changes->onExpandView();
+        QTRY_COMPARE(window().width(), 1234);
+
+        QCOMPARE(window().pos(), origin);
+        QCOMPARE(window().height(), height);
+    }
+
+    void resettingForgetsTheArrangement()
+    {
+        m_changes->viewEditView();
+
+        m_changes->reset();
+
+        QVERIFY(!m_changes->bIsInEditView());
+        QVERIFY(!m_changes->bIsInSingleEditView());
+    }
+
+private:
+    void prepare() override
+    {
+        m_program = std::make_unique<LectureProgram>();
+        m_changes = std::make_unique<ViewChanges>(main(), m_program->windows.lectureViewOutlets());
+        window().show();
+    }
+    void finish() override
+    {
+        m_changes.reset();
+        m_program.reset();
+    }
+
+    const tarvelo::lectures::MainWindowOutlets &main() const
+    {
+        return m_program->windows.mainOutlets();
+    }
+    tarvelo::widgets::SlidingWindow &window() const { return m_program->windows.mainWindow(); }
+    void expectSlideButtons(bool isSlidIn) const
+    {
+        const auto &view = m_program->windows.lectureViewOutlets();
+        QCOMPARE(view.btnSlidetoView->isHidden(), isSlidIn);
+        QCOMPARE(view.btnSlideToListView->isHidden(), !isSlidIn);
+        QCOMPARE(main().weekDayView->isHidden(), isSlidIn);
+        QCOMPARE(main().topHorizontalLine->isHidden(), isSlidIn);
+    }
+
+    std::unique_ptr<LectureProgram> m_program;
+    std::unique_ptr<ViewChanges> m_changes;
+};
+
+QTEST_MAIN(ViewChangesTest)
+#include "ViewChangesTest.moc"
