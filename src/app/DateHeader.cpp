@@ -67,8 +67,11 @@ void DateHeader::show(QLabel &label) const
     const QString after = text.mid(suffixStart + SuffixLength);
     // Points of the canvas are 1/96 inch, which Qt's style sheets call px.
     label.setTextFormat(Qt::RichText);
-    label.setText(QStringLiteral("%1<span style=\"font-size:%2px\">%3</span>%4")
-                      .arg(before.toHtmlEscaped(), QString::number(SuffixPoints),
+    // The direction is the label's: going by the text, the ordinal would turn every header into one
+    // that runs from left to right.
+    const QString direction = label.isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
+    label.setText(QStringLiteral("<p dir=\"%1\">%2<span style=\"font-size:%3px\">%4</span>%5</p>")
+                      .arg(direction, before.toHtmlEscaped(), QString::number(SuffixPoints),
                            suffix.toHtmlEscaped(), after.toHtmlEscaped()));
     label.setAccessibleName(text);
 }

@@ -17,7 +17,8 @@ Preferences::Preferences(platform::UserDefaults &defaults, QWidget &mainWindow, 
     , m_mainWindow(mainWindow)
     , m_loginItem(std::move(loginItem))
     , m_ui(std::make_unique<Ui::Preferences>())
-    , m_sheet(new QDialog(&mainWindow))
+    , m_sheet(new QDialog(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                           Qt::WindowCloseButtonHint))
 {
     m_ui->setupUi(m_sheet);
     m_ui->matrixFileFormat->setId(m_ui->matrixFileFormatRow0, 0);

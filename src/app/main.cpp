@@ -31,7 +31,6 @@ void describe(QApplication &application)
 {
     platform::installTexts();
     QApplication::setApplicationName(QStringLiteral("Tarvelo"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Tarvelo"));
     QApplication::setDesktopFileName(QStringLiteral("tarvelo"));
     QApplication::setWindowIcon(platform::imageNamed(QStringLiteral("icon")).icon());
     QApplication::setQuitOnLastWindowClosed(false);

@@ -133,6 +133,19 @@ private Q_SLOTS:
         QCOMPARE(label.accessibleName(), QStringLiteral("9th March 2024"));
     }
 
+    void theHeaderRunsInTheDirectionOfItsLabel()
+    {
+        QLabel label;
+        label.setLayoutDirection(Qt::RightToLeft);
+
+        headerOf("2024-03-21", "ar_EG").show(label);
+
+        QTextDocument document;
+        document.setHtml(label.text());
+        QCOMPARE(document.begin().textDirection(), Qt::RightToLeft);
+        QCOMPARE(smallLettersOf(label), (QList<int>{2, 3}));
+    }
+
     void noDayIsNoHeader()
     {
         FakeClock clock;
