@@ -39,7 +39,8 @@ void Image::paint(QPainter &painter, const QRectF &target) const
 {
     if (!m_renderer || target.isEmpty())
         return;
-    const double ratio = painter.device()->devicePixelRatio();
+    // Also right where a view is drawn into a picture finer than its screen.
+    const double ratio = painter.deviceTransform().m11();
     const QPixmap pixmap = rendered(
         QSize(qCeil(target.width() * ratio - 0.01), qCeil(target.height() * ratio - 0.01)));
     const QPointF corner(qRound(target.x() * ratio) / ratio, qRound(target.y() * ratio) / ratio);

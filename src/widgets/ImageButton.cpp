@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QPainter>
+#include <QPointer>
 
 namespace tarvelo::widgets {
 
@@ -44,9 +45,12 @@ void ImageButton::setLook(const QString &image, const QString &alternate, const 
 
 void ImageButton::performClick(QWidget *sender)
 {
+    // The action may be the end of this button.
+    const QPointer<ImageButton> self(this);
     m_clickingFor = sender;
     click();
-    m_clickingFor = nullptr;
+    if (self)
+        m_clickingFor = nullptr;
 }
 
 QSize ImageButton::sizeHint() const

@@ -1,0 +1,82 @@
+#include "widgets/CustomButton.h"
+
+#include "support/TestCase.h"
+#include "widgets/Drawn.h"
+
+#include <QEnterEvent>
+
+using tarvelo::platform::imageNamed;
+using tarvelo::tests::drawn;
+using tarvelo::widgets::CustomButton;
+
+class CustomButtonTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theNamesOfItsImagesAreKept()
+    {
+        CustomButton button;
+
+        button.setNormalImage(QStringLiteral("arrowleft"));
+        button.setProperty("hoverImage", QStringLiteral("arrowright"));
+
+        QCOMPARE(button.property("normalImage").toString(), QStringLiteral("arrowleft"));
+        QCOMPARE(button.hoverImage(), QStringLiteral("arrowright"));
+        QVERIFY(button.image().isNull());
+    }
+
+    void theMouseNeverSwapsItsImage()
+    {
+        CustomButton button;
+        button.setImage(imageNamed(QStringLiteral("arrowleft")));
+        button.setNormalImage(QStringLiteral("arrowleft"));
+        button.setHoverImage(QStringLiteral("arrowright"));
+        button.setMouseReady();
+
+        QEnterEvent entering({1, 1}, {1, 1}, {1, 1});
+        QCoreApplication::sendEvent(&button, &entering);
+
+        QCOMPARE(button.image().name(), QStringLiteral("arrowleft"));
+    }
+
+    void beingMadeReadyTwiceLeavesOneTrackingRectangle()
+    {
+        CustomButton button;
+        QCOMPARE(button.trackingRectCount(), 0);
+
+        button.setMouseReady();
+        button.setMouseReady();
+
+        QCOMPARE(button.trackingRectCount(), 1);
+    }
+
+    void aButtonOfAWindowsLayoutIsTrackedFromItsAwakening()
+    {
+        CustomButton button;
+
+        button.awakeFromNib();
+        QCOMPARE(button.trackingRectCount(), 1);
+        button.setMouseReady();
+
+        QCOMPARE(button.trackingRectCount(), 1);
+    }
+
+    void theFirstClickOnAnInactiveWindowCounts() { QVERIFY(CustomButton().acceptsFirstMouse()); }
+
+    void itsImageCanBeStretchedOrKeepItsShape()
+    {
+        CustomButton button;
+        button.resize(40, 20);
+        button.setImage(imageNamed(QStringLiteral("recordbox")));
+        const QImage shaped = drawn(button);
+        QCOMPARE(shaped.pixelColor(4, 10), QColor(Qt::white));
+
+        button.setImageScaling(CustomButton::ImageScaling::AxesIndependently);
+
+        QVERIFY(drawn(button).pixelColor(6, 8) != QColor(Qt::white));
+    }
+};
+
+QTEST_MAIN(CustomButtonTest)
+#include "CustomButtonTest.moc"

@@ -1,0 +1,199 @@
+#include "widgets/ImageButton.h"
+
+#include "support/TestCase.h"
+#include "widgets/Drawn.h"
+
+#include <QPointer>
+
+using tarvelo::platform::imageNamed;
+using tarvelo::tests::drawn;
+using tarvelo::widgets::ImageButton;
+
+namespace {
+
+constexpr QColor Red(252, 39, 52);
+
+int inkedPixels(const QImage &image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) != QColor(Qt::white) ? 1 : 0;
+    return count;
+}
+
+} // namespace
+
+class ImageButtonTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aClickRunsTheActionWithTheButtonAsSender()
+    {
+        ImageButton button;
+        QWidget *heard = nullptr;
+        button.setAction({"record", [&heard](QWidget *sender) { heard = sender; }});
+
+        button.click();
+
+        QCOMPARE(heard, &button);
+        QCOMPARE(button.actionName(), QByteArray("record"));
+    }
+
+    void aButtonCanBePressedInTheNameOfAnother()
+    {
+        ImageButton button;
+        QWidget other;
+        QWidget *heard = nullptr;
+        button.setAction({"record", [&heard](QWidget *sender) { heard = sender; }});
+
+        button.performClick(&other);
+        QCOMPARE(heard, &other);
+        button.click();
+
+        QCOMPARE(heard, &button);
+    }
+
+    void aDisabledButtonDoesNothing()
+    {
+        ImageButton button;
+        bool ran = false;
+        button.setAction({"record", [&ran](QWidget *) { ran = true; }});
+        button.setEnabled(false);
+
+        button.performClick(&button);
+
+        QVERIFY(!ran);
+    }
+
+    void anActionMayExchangeItself()
+    {
+        ImageButton button;
+        button.setAction({"start", [&button](QWidget *) { button.setAction({"stop", {}}); }});
+
+        button.click();
+        button.click();
+
+        QCOMPARE(button.actionName(), QByteArray("stop"));
+    }
+
+    void anActionMayEndTheButton()
+    {
+        QPointer<ImageButton> button = new ImageButton;
+        button->setAction({"end", [&button](QWidget *) { button->deleteLater(); }});
+
+        button->performClick(button);
+        QCoreApplication::sendPostedEvents(button, QEvent::DeferredDelete);
+
+        QVERIFY(button.isNull());
+    }
+
+    void onlyAToggleButtonCanBeOn()
+    {
+        ImageButton button;
+        button.setState(1);
+        QCOMPARE(button.state(), 0);
+
+        button.setCheckable(true);
+        button.setState(1);
+
+        QCOMPARE(button.state(), 1);
+    }
+
+    void theTagIsKept()
+    {
+        ImageButton button;
+
+        button.setTag(7);
+
+        QCOMPARE(button.tag(), 7);
+    }
+
+    void theImageIsAsLargeAsItsDrawingAndInTheMiddle()
+    {
+        ImageButton button;
+        button.resize(101, 101);
+        button.setImage(imageNamed(QStringLiteral("recordbox"))); // 51 by 51
+
+        const QImage image = drawn(button);
+
+        QCOMPARE(image.pixelColor(50, 50), Red);
+        QCOMPARE(image.pixelColor(50, 24), QColor(Qt::white));
+        QCOMPARE(image.pixelColor(28, 50), QColor(Qt::white));
+        QCOMPARE(button.sizeHint(), QSize(51, 51));
+    }
+
+    void aSmallButtonShrinksItsImage()
+    {
+        ImageButton button;
+        button.resize(26, 26);
+        button.setImage(imageNamed(QStringLiteral("recordbox")));
+
+        const QImage image = drawn(button);
+
+        QCOMPARE(image.pixelColor(12, 10), Red);
+        QCOMPARE(image.pixelColor(12, 24), QColor(Qt::white));
+    }
+
+    void theAlternateImageShowsWhileThePressLasts()
+    {
+        ImageButton button;
+        button.resize(51, 51);
+        button.setImage(imageNamed(QStringLiteral("selDateImg")));
+        button.setAlternateImage(imageNamed(QStringLiteral("recordbox")));
+        QVERIFY(drawn(button).pixelColor(25, 20) != Red);
+
+        button.setDown(true);
+
+        QCOMPARE(drawn(button).pixelColor(25, 20), Red);
+    }
+
+    void aDisabledButtonIsPale()
+    {
+        ImageButton button;
+        button.resize(51, 51);
+        button.setImage(imageNamed(QStringLiteral("recordbox")));
+        button.setEnabled(false);
+
+        const QColor shown = drawn(button).pixelColor(25, 20);
+
+        QVERIFY(shown.green() > 150 && shown.green() < 220);
+    }
+
+    void drawingsAreCrispOnFineScreens()
+    {
+        ImageButton button;
+        button.resize(20, 20);
+        button.setImage(imageNamed(QStringLiteral("arrowright")));
+
+        const QImage coarse = drawn(button, 1);
+        const QImage fine = drawn(button, 2);
+
+        // Drawn anew, not magnified: blocks of two by two pixels would all be of one colour.
+        QCOMPARE(fine.size(), QSize(40, 40));
+        QVERIFY(fine != coarse.scaled(fine.size()));
+        QVERIFY(inkedPixels(fine) > 2 * inkedPixels(coarse));
+    }
+
+    void theFocusShows()
+    {
+        QWidget window;
+        ImageButton button(&window);
+        button.resize(51, 51);
+        button.setImage(imageNamed(QStringLiteral("arrowright")));
+        auto *other = new ImageButton(&window);
+        window.show();
+        window.activateWindow();
+        other->setFocus();
+        QTRY_VERIFY(other->hasFocus());
+        const QImage without = drawn(button);
+
+        button.setFocus();
+
+        QVERIFY(drawn(button) != without);
+    }
+};
+
+QTEST_MAIN(ImageButtonTest)
+#include "ImageButtonTest.moc"
