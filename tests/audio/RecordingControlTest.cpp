@@ -457,10 +457,11 @@ private Q_SLOTS:
         QCOMPARE(lookOf(window().btnStopRecord), LookOfRunning);
     }
 
-    void nothingLimitsTheLengthOfATake()
+    void nothingLimitsTheLengthOfATakeOrReadsItsLevel()
     {
         m_stage->start();
 
+        QCOMPARE(m_stage->clock.pendingCount(), 0);
         m_stage->clock.advance(48h);
 
         QVERIFY(control().recording());

@@ -72,6 +72,19 @@ private Q_SLOTS:
         QCOMPARE(length(), QStringLiteral("anything"));
     }
 
+    void theDisplayOfADiscardedTakeStaysEmpty()
+    {
+        m_stage->control.startDisplayTimer();
+        m_stage->start();
+        m_engine->recordedSeconds = 5;
+        m_stage->control.discardTake();
+
+        m_stage->clock.advance(5s);
+
+        QVERIFY(m_stage->control.hasRecorder());
+        QCOMPARE(length(), QString());
+    }
+
     void theTimesOfAPlayingTakeAreShownEverySecond()
     {
         m_stage->control.startDisplayTimer();
