@@ -53,6 +53,12 @@ AppDelegate::AppDelegate(const AppServices &services)
         {"onFoldUpList", [this](QWidget *sender) { onFoldUpList(sender); }});
     services.windows.newLectureOutlets().newNoteWindow->addAction(m_menus.action(Command::Quit));
 
+    for (QWidget *window :
+         {static_cast<QWidget *>(&m_window), services.windows.newLectureOutlets().newNoteWindow,
+          services.windows.editLectureOutlets().windowEditLecture,
+          services.windows.playAudioOutlets().playAudioWindow})
+        m_taskbarEntries.push_back(new TaskbarEntry(*window));
+
     connect(&m_preferences, &Preferences::statusBarChosen, this, &AppDelegate::setStatusBar);
     connect(&m_preferences, &Preferences::formatChosen, this,
             [this] { m_mediaLinksArrayController.setTempAudioSavePathWithFormat(); });
@@ -86,6 +92,7 @@ void AppDelegate::awakeFromNib()
     m_calendarView.setDelegate(this);
 
     showStatusItem(m_preferences.integer(Preference::StatusBar) == 1);
+    showTaskbarEntries(m_preferences.wantsDockIcon());
 }
 
 void AppDelegate::setLabels()
@@ -269,6 +276,12 @@ void AppDelegate::showStatusItem(bool shown)
         m_myStatusItem.create(imageNamed(StatusImage));
     else
         m_myStatusItem.remove();
+}
+
+void AppDelegate::showTaskbarEntries(bool shown)
+{
+    for (TaskbarEntry *entry : m_taskbarEntries)
+        entry->setWanted(shown);
 }
 
 void AppDelegate::addLecture()

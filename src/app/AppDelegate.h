@@ -6,6 +6,7 @@
 #include "app/LoginItem.h"
 #include "app/Preferences.h"
 #include "app/StatusItem.h"
+#include "app/TaskbarEntry.h"
 #include "calendar/CalendarDelegate.h"
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureRowHost.h"
@@ -139,6 +140,8 @@ public:
     AppMenus &menus() { return m_menus; }
     const DayPopover &dayPopover() const { return m_dayPopover; }
 
+    const std::vector<TaskbarEntry *> &taskbarEntries() const { return m_taskbarEntries; }
+
     // -- Preferences
     const Preferences &preferences() const { return m_preferences; }
     void onShowPreferences(QObject *sender);
@@ -159,6 +162,7 @@ private:
     void setLabels();
     void showDateHeader(const QDateTime &moment);
     void showStatusItem(bool shown);
+    void showTaskbarEntries(bool shown);
     void run(Command command);
     void addLecture();
 
@@ -170,6 +174,7 @@ private:
     AppMenus m_menus;
     StatusItem m_myStatusItem;
     DayPopover m_dayPopover;
+    std::vector<TaskbarEntry *> m_taskbarEntries; // children of their windows
     Activation m_activation;
     platform::DelayedCall m_showFirstWindow;
     platform::DelayedCall m_foldupList;

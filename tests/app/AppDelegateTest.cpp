@@ -473,6 +473,31 @@ private Q_SLOTS:
         QVERIFY(!program.settings().contains("StatusBar"));
     }
 
+    void aStoredDockIconDecidesAboutTheTaskbarAtTheLaunch_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<bool>("wanted");
+        QTest::newRow("never chosen") << QVariant() << true;
+        QTest::newRow("on") << QVariant(true) << true;
+        QTest::newRow("off") << QVariant(false) << false;
+    }
+
+    void aStoredDockIconDecidesAboutTheTaskbarAtTheLaunch()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(bool, wanted);
+        Application program;
+        if (stored.isValid())
+            program.store("DockIcon", stored);
+
+        program.launch();
+        program.clock.advance(1s);
+
+        QCOMPARE(program.delegate.taskbarEntries().size(), std::size_t(4));
+        for (const app::TaskbarEntry *entry : program.delegate.taskbarEntries())
+            QCOMPARE(entry->isWanted(), wanted);
+    }
+
     void theCloseMenuIsKept()
     {
         Application program;
