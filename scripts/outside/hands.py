@@ -37,11 +37,16 @@ class Hands:
 
     def __init__(self, application):
         self._application = application
+        self._process = None
         self._desktop = Atspi.get_desktop(0)
         self._desktop.set_cache_mask(Atspi.Cache.NONE)
 
-    def window(self, title, seconds=30):
-        return wait_for(f"the window {title!r}", lambda: _quietly(lambda: self._window_now(title)), seconds)
+    def watch(self, process):
+        """From now on a search fails at once when this process has ended."""
+        self._process = process
+
+    def window(self, title):
+        return wait_for(f"the window {title!r}", lambda: _quietly(lambda: self._window_now(title)))
 
     def window_goes(self, title):
         wait_for(f"the window {title!r} to go", lambda: not _quietly(lambda: self._window_now(title)))
@@ -83,6 +88,8 @@ class Hands:
         self._xdotool("windowactivate", "--sync", found[-1], "key", keys)
 
     def _window_now(self, title):
+        if self._process and self._process.poll() is not None:
+            raise Failed(f"{self._application} has ended by itself with status {self._process.returncode}")
         for application in _children(self._desktop):
             if application.get_name() != self._application:
                 continue

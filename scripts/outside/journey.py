@@ -58,6 +58,7 @@ class Journey:
     def _start(self, which):
         with open(os.path.join(self._desktop.folder, f"output-{which}.txt"), "wb") as output:
             process = self._children.start(self._program, stdout=output, stderr=output)
+        self._hands.watch(process)
         self._hands.window(names.MAIN_WINDOW)
         self._hands.control(names.MAIN_WINDOW, names.NEW_LECTURE)
         self._shot(f"{which}-start", f"Tarvelo has started ({which} time) and shows today")
