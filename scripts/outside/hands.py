@@ -73,12 +73,12 @@ class Hands:
 
         return wait_for(f"{subject!r} in {table!r}", lambda: _quietly(look))
 
-    def click(self, window, name):
-        x, y = self._resting_place(self.control(window, name), name)
+    def click(self, window, name, ready=Atspi.StateType.SENSITIVE):
+        x, y = self._resting_place(self.control(window, name, ready), name)
         self._xdotool("mousemove", str(x), str(y), "click", "1")
 
     def write(self, window, name, text):
-        self.click(window, name)
+        self.click(window, name, Atspi.StateType.EDITABLE)  # a label may bear the name too
         field = self.control(window, name, Atspi.StateType.FOCUSED)
         self._xdotool("type", "--delay", "20", text)
         wait_for(f"{text!r} in {name!r}", lambda: _quietly(lambda: self._text(field) == text))
@@ -86,6 +86,16 @@ class Hands:
     def press(self, window, keys):
         found = self._xdotool("search", "--onlyvisible", "--name", f"^{window}$").split()
         self._xdotool("windowactivate", "--sync", found[-1], "key", keys)
+
+    def describe(self):
+        """Everything that shows, a line each: for a reader who wonders what was not found."""
+        def lines(thing, depth):
+            if _state(thing, Atspi.StateType.SHOWING) or depth < 1:
+                yield "  " * depth + f"{thing.get_role_name()} {thing.get_name()!r}"
+                for child in _children(thing):
+                    yield from lines(child, depth + 1)
+
+        return _quietly(lambda: "\n".join(lines(self._desktop, -1))) or "the accessibility bus does not answer"
 
     def _window_now(self, title):
         if self._process and self._process.poll() is not None:

@@ -43,6 +43,11 @@ class Journey:
             self._shot("after-restart", "After a restart the lecture stands under its day")
             self._quit(process)
             self._check_silence()
+        except Failed:
+            self._desktop.screenshot("failed")
+            with open(os.path.join(self._desktop.folder, "failed.txt"), "w", encoding="utf-8") as file:
+                file.write(self._hands.describe() + "\n")
+            raise
         finally:
             self._children.stop()
 

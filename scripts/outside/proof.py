@@ -7,7 +7,7 @@ from . import sound
 from .waiting import Failed
 
 # What the coder and its bit rate cost is below this; a gap, a click or a wrong rate is far above.
-HEARD = 0.97
+HEARD = 0.98
 # Two different sentences agree by less than half of this.
 NOT_HEARD = 0.5
 COLUMNS = "subject, notes, recordingDate, audioFileFullPath, recordDuration"

@@ -8,7 +8,7 @@ from RuleTest import RuleTest
 
 DOCUMENT = "docs/behaviours.md"
 HEADER = "| operation | wanted | test |"
-CLASS = re.compile(r"\bclass\s+(\w+)\b[^;{}()]*:\s*public\s+(?:\w+::)*TestCase\b[^;{]*\{")
+CLASS = re.compile(r"\bclass\s+(\w+)\b[^;{}():]*:\s*public\s+(?:\w+::)*(\w+)[^;{]*\{")
 FUNCTION = re.compile(r"\bvoid\s+(\w+)\s*\(\s*\)")
 SLOTS = re.compile(r"\bprivate\s+(?:Q_SLOTS|slots)\s*:(.*?)(?=\b(?:private|protected|public)\b[^;(){}]*:|\Z)", re.DOTALL)
 NAMED = re.compile(r"`(\w+::\w+)`")
@@ -32,15 +32,16 @@ def flat(code):
 
 
 def tests(tree):
-    """[(class, [function, ...], path), ...]"""
-    found = []
-    for path in tree.files("tests", ".cpp", ".h"):
-        code = tree.code(path)
-        for match in CLASS.finditer(code):
-            slots = SLOTS.findall(flat(body(code, match.end())))
-            functions = [name for text in slots for name in FUNCTION.findall(text) if not name.endswith("_data")]
-            found.append((match[1], functions, path))
-    return found
+    """[(class, [function, ...], path), ...] of what derives from TestCase, straight or through a fixture."""
+    classes = [(match[1], match[2], body(code, match.end()), path)
+               for path in tree.files("tests", ".cpp", ".h") for code in [tree.code(path)]
+               for match in CLASS.finditer(code)]
+    bases = {"TestCase"}
+    while more := {name for name, base, _, _ in classes if base in bases} - bases:
+        bases |= more
+    return [(name, [function for slots in SLOTS.findall(flat(text)) for function in FUNCTION.findall(slots)
+                    if not function.endswith("_data")], path)
+            for name, base, text, path in classes if base in bases]
 
 
 def rows(tree):
@@ -67,7 +68,7 @@ def names_are_given_once(tree):
         classes[name].append(path)
         complaints += [f"{path}: {name}::{function} is there {count} times"
                        for function, count in collections.Counter(functions).items() if count > 1]
-        if not functions:
+        if name.endswith("Test") and not functions:
             complaints.append(f"{path}: {name} has no test")
     return complaints + [f"the test class {name} is in {' and '.join(paths)}"
                          for name, paths in classes.items() if len(paths) > 1]
@@ -95,6 +96,13 @@ class BehavioursTest(RuleTest):
         files = {DOCUMENT: document("| `a` | b | `ATest::isHere`, `ATest::isGone` |"),
                  "tests/ATest.cpp": TEST.format("    void isHere() { if (true) { } }\n    // void isGone();")}
         self.assertComplains(named_tests_exist, files, "ATest::isGone")
+
+    def test_a_test_class_may_derive_from_a_fixture(self):
+        files = {DOCUMENT: document("| `a` | b | `ATest::c` |"),
+                 "tests/AFixture.h": "class AFixture : public TestCase\n{\n};\n",
+                 "tests/ATest.cpp": TEST.format("    void c();").replace("TestCase", "AFixture")}
+        self.assertAccepts(named_tests_exist, files)
+        self.assertAccepts(names_are_given_once, files)
 
     def test_a_helper_is_no_test(self):
         files = {DOCUMENT: document("| `a` | b | `ATest::helps` |"), "tests/ATest.cpp": TEST.format("    void b();")}

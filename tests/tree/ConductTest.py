@@ -22,13 +22,21 @@ def tests_always_run(tree):
                       if DISABLED.search(tree.text(path))]
 
 
+def unrolled(listing):
+    """The listing with its loops over names written out."""
+    def repeat(loop):
+        return "".join(loop[3].replace("${%s}" % loop[1], item) for item in loop[2].split())
+
+    return re.sub(r"\bforeach\((\w+)\s+([^()]*)\)(.*?)\bendforeach\(\)", repeat, listing, flags=re.DOTALL)
+
+
 def is_listed(tree, path):
     """Whether the list of the file's folder, or of one above it, names the file."""
     folder = os.path.dirname(path)
     while folder:
         listing = os.path.join(folder, "CMakeLists.txt")
         name = re.escape(os.path.relpath(path, folder))
-        if tree.has(listing) and re.search(rf"(?<![\w./-]){name}(?![\w.-])", tree.text(listing)):
+        if tree.has(listing) and re.search(rf"(?<![\w./-]){name}(?![\w.-])", unrolled(tree.text(listing))):
             return True
         folder = os.path.dirname(folder)
     return False
@@ -66,6 +74,11 @@ class ConductTest(RuleTest):
 
     def test_every_source_is_listed(self):
         self.assertHolds(sources_are_listed)
+
+    def test_a_source_that_a_loop_names_is_listed(self):
+        files = {"tests/CMakeLists.txt": "foreach(name A B)\n  add(${name}Test.cpp)\nendforeach()", "tests/BTest.cpp": ""}
+        self.assertAccepts(sources_are_listed, files)
+        self.assertComplains(sources_are_listed, files | {"tests/CTest.cpp": ""}, "CTest.cpp")
 
     def test_a_forgotten_source_is_found(self):
         files = {"src/store/CMakeLists.txt": "SOURCES LectureA.cpp", "src/store/A.cpp": "", "src/store/LectureA.cpp": ""}
