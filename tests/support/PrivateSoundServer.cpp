@@ -67,6 +67,8 @@ bool PrivateSoundServer::start(const Options &options)
 {
     if (!m_folder.isValid() || !writeScript(options))
         return false;
+    // Whoever a test pretends to be may talk to it.
+    QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"XDG_RUNTIME_DIR", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"})
         environment.insert(QString::fromLatin1(name), m_folder.path());
@@ -133,6 +135,14 @@ bool PrivateSoundServer::pullOutMicrophone()
     answerOf({QStringLiteral("unload-module"), QStringLiteral("module-remap-source")});
     return waitUntil({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sources")},
                      "^(?!.*microphone)");
+}
+
+bool PrivateSoundServer::plugInMicrophone()
+{
+    answerOf({QStringLiteral("load-module"), QStringLiteral("module-remap-source"),
+              QStringLiteral("source_name=microphone"), QStringLiteral("master=mic.monitor")});
+    answerOf({QStringLiteral("set-default-source"), QStringLiteral("microphone")});
+    return waitUntil({QStringLiteral("info")}, "Default Source: microphone");
 }
 
 bool PrivateSoundServer::speak(const QString &wavPath)

@@ -36,6 +36,7 @@ public:
     // Ends the server at once, as a crash would.
     void kill();
     bool pullOutMicrophone();
+    bool plugInMicrophone();
     // Plays the sound file into the microphone; returns when the player has its place there.
     bool speak(const QString &wavPath);
     // The same, but returns when it has been played; the event loop stands still until then.

@@ -72,7 +72,9 @@ private Q_SLOTS:
         const auto heard = DecodedAudio::read(name());
         QVERIFY(std::abs(heard->seconds() - take->seconds()) < 0.05);
         QVERIFY(std::abs(MovieFacts::read(name())->seconds - take->seconds()) < 0.05);
-        QVERIFY(longestDisturbance(heard->channel(0), 44100, 2000) < 0.005);
+        const auto sounding = heard->channel(0);
+        const auto inside = std::span(sounding).subspan(2205, 44100 * 8 - 4410);
+        QVERIFY(longestDisturbance(inside, 44100, 2000) < 0.005);
     }
 
     void onAFullDiskOnlyWhatIsSafeCounts()

@@ -1,0 +1,210 @@
+#include "audio/engine/RecordingCase.h"
+#include "audio/engine/SmallDisk.h"
+#include "support/OrdinaryUser.h"
+#include "support/StderrCatcher.h"
+
+#include <QLocalServer>
+#include <QLocalSocket>
+
+using namespace tarvelo::engine;
+using namespace tarvelo::tests;
+
+// Whatever is missing or breaks: no hang, no message, and what was recorded stays.
+class TroubledRecordingTest final : public RecordingCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutASoundServerNothingIsPrepared()
+    {
+        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(path(QStringLiteral("nobody"))));
+
+        verifyThatNothingIsPrepared();
+    }
+
+    void withoutAMicrophoneNothingIsPrepared()
+    {
+        QVERIFY(startServer({.hasMicrophone = false}));
+
+        verifyThatNothingIsPrepared();
+    }
+
+    void aServerThatNeverAnswersIsGivenUp()
+    {
+        QLocalServer mute;
+        QVERIFY(mute.listen(path(QStringLiteral("mute"))));
+        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(mute.fullServerName()));
+
+        verifyThatNothingIsPrepared();
+    }
+
+    void aServerThatHangsUpIsGivenUp()
+    {
+        QLocalServer rude;
+        connect(&rude, &QLocalServer::newConnection, &rude,
+                [&] { rude.nextPendingConnection()->close(); });
+        QVERIFY(rude.listen(path(QStringLiteral("rude"))));
+        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(rude.fullServerName()));
+
+        verifyThatNothingIsPrepared();
+    }
+
+    void whereNothingCanBeWrittenNothingIsPrepared()
+    {
+        QVERIFY(startServer());
+        const StderrCatcher catcher;
+
+        QVERIFY(!recorder(path() + QStringLiteral("/missing/take.m4a"))->prepareToRecord());
+        QFile::setPermissions(QFileInfo(path()).path(), QFile::ReadOwner | QFile::ExeOwner);
+        {
+            const OrdinaryUser user;
+            QVERIFY(!recorder()->prepareToRecord());
+        }
+        QFile::setPermissions(QFileInfo(path()).path(),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+
+        QVERIFY(!QFileInfo::exists(path()));
+        QCOMPARE(catcher.caught(), QByteArray());
+    }
+
+    void aFullDiskKeepsWhatWasRecorded()
+    {
+        QVERIFY(startServer());
+        const auto played = tune(44100, 20);
+        QVERIFY(speak(played));
+        const StderrCatcher catcher;
+        const SmallDisk disk(30000);
+        const auto recorder = recording();
+
+        // On a full disk the time steps back to what is safe.
+        double highest = 0;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            recorder->currentTime() < std::exchange(highest, recorder->currentTime()), Patience);
+        recorder->pause();
+        QVERIFY(recorder->record());
+        recorder->stop();
+
+        const auto take = DecodedAudio::read(path());
+        QVERIFY(take);
+        QVERIFY(take->seconds() > 1);
+        QVERIFY(std::abs(take->seconds() - recorder->currentTime()) < 0.05);
+        QVERIFY(compare(played, take->channel(0), 44100).correlation >= 0.98);
+        QCOMPARE(catcher.caught(), QByteArray());
+    }
+
+    void aServerThatDiesLeavesTheTake()
+    {
+        QVERIFY(startServer());
+        QVERIFY(speak(tune(44100, 20)));
+        const StderrCatcher catcher;
+        const auto recorder = recording();
+        QVERIFY(reaches(*recorder, 1.5));
+
+        server().kill();
+        recorder->pause();
+        QVERIFY(recorder->record());
+        recorder->stop();
+
+        QVERIFY(recorder->currentTime() >= 1.5);
+        QVERIFY(std::abs(DecodedAudio::read(path())->seconds() - recorder->currentTime()) < 0.05);
+        QCOMPARE(catcher.caught(), QByteArray());
+    }
+
+    void aTakeGoesOnWhenTheServerIsBack()
+    {
+        QVERIFY(startServer());
+        const StderrCatcher catcher;
+        const auto recorder = recording();
+        QVERIFY(reaches(*recorder, 1));
+
+        server().kill();
+        QVERIFY(server().start());
+        const double before = recorder->currentTime();
+        QVERIFY(reaches(*recorder, before + 1));
+        recorder->stop();
+
+        QVERIFY(std::abs(DecodedAudio::read(path())->seconds() - recorder->currentTime()) < 0.05);
+        QCOMPARE(catcher.caught(), QByteArray());
+    }
+
+    void aPausedTakeStaysPausedWhenTheServerIsBack()
+    {
+        QVERIFY(startServer());
+        const auto witness = recording(path(QStringLiteral("witness.m4a")));
+        const auto recorder = recording();
+        QVERIFY(reaches(*recorder, 0.5));
+        recorder->pause();
+        const double paused = recorder->currentTime();
+
+        server().kill();
+        QVERIFY(server().start());
+        QVERIFY(reaches(*witness, witness->currentTime() + 1));
+        QCOMPARE(recorder->currentTime(), paused);
+
+        QVERIFY(recorder->record());
+        QVERIFY(reaches(*recorder, paused + 0.5));
+    }
+
+    void aMicrophoneThatIsPulledOutLeavesTheTake()
+    {
+        QVERIFY(startServer());
+        const StderrCatcher catcher;
+        const auto recorder = recording();
+        QVERIFY(reaches(*recorder, 1.5));
+
+        QVERIFY(server().pullOutMicrophone());
+        recorder->stop();
+
+        QVERIFY(recorder->currentTime() >= 1.5);
+        QVERIFY(std::abs(DecodedAudio::read(path())->seconds() - recorder->currentTime()) < 0.05);
+        QCOMPARE(catcher.caught(), QByteArray());
+    }
+
+    void aTakeGoesOnWithAnotherMicrophone()
+    {
+        QVERIFY(startServer());
+        const auto recorder = recording();
+        QVERIFY(reaches(*recorder, 0.5));
+
+        QVERIFY(server().pullOutMicrophone());
+        QVERIFY(server().plugInMicrophone());
+        const double before = recorder->currentTime();
+
+        QVERIFY(reaches(*recorder, before + 1));
+    }
+
+private:
+    void prepare() override
+    {
+        RecordingCase::prepare();
+        m_serverBefore = qgetenv("PULSE_SERVER");
+    }
+    void finish() override
+    {
+        RecordingCase::finish();
+        qputenv("PULSE_SERVER", m_serverBefore);
+    }
+
+    void verifyThatNothingIsPrepared()
+    {
+        const StderrCatcher catcher;
+        const auto made = recorder();
+
+        QVERIFY(made);
+        QVERIFY(!made->prepareToRecord());
+        QVERIFY(!QFileInfo::exists(path()));
+        QVERIFY(!made->record());
+        made->pause();
+        made->updateMeters();
+        made->stop();
+
+        QCOMPARE(made->currentTime(), 0.0);
+        QVERIFY(!QFileInfo::exists(path()));
+        QCOMPARE(catcher.caught(), QByteArray());
+    }
+
+    QByteArray m_serverBefore;
+};
+
+QTEST_GUILESS_MAIN(TroubledRecordingTest)
+#include "TroubledRecordingTest.moc"
