@@ -18,6 +18,11 @@ QByteArray answerOf(const QStringList &question)
     return pactl.exitCode() == 0 ? pactl.readAllStandardOutput() : QByteArray();
 }
 
+QStringList sinkInputs()
+{
+    return {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")};
+}
+
 void end(QProcess &process)
 {
     if (process.state() == QProcess::NotRunning)
@@ -30,6 +35,11 @@ void end(QProcess &process)
 
 PrivateSoundServer::PrivateSoundServer()
     : m_serverBefore(qgetenv("PULSE_SERVER"))
+{
+    announce();
+}
+
+void PrivateSoundServer::announce() const
 {
     qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(socketPath()));
 }
@@ -81,8 +91,10 @@ bool PrivateSoundServer::start(const Options &options)
                     QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--disable-shm=yes"),
                     QStringLiteral("--realtime=no"), QStringLiteral("--high-priority=no"),
                     QStringLiteral("-F"), m_folder.filePath(QStringLiteral("server.pa"))});
-    return m_server.waitForStarted(LongEnough) && waitUntil({QStringLiteral("info")}, "Server") &&
-           (!options.hasMicrophone || keepAwake());
+    m_isIntact = m_server.waitForStarted(LongEnough) &&
+                 waitUntil({QStringLiteral("info")}, "Server") &&
+                 (!options.hasMicrophone || keepAwake());
+    return m_isIntact;
 }
 
 // A sink that nobody plays into works in blocks of two seconds, and would swallow the first two of
@@ -102,7 +114,7 @@ bool PrivateSoundServer::keepAwake()
     }
     const QString list = QStringLiteral("list");
     const QString brief = QStringLiteral("short");
-    return waitUntil({list, brief, QStringLiteral("sink-inputs")}, "float32le|s16le") &&
+    return waitUntil(sinkInputs(), "s16le") &&
            waitUntil({list, brief, QStringLiteral("source-outputs")}, "s16le") &&
            waitUntil({list, brief, QStringLiteral("sources")}, "microphone[^\n]*RUNNING");
 }
@@ -123,7 +135,11 @@ bool PrivateSoundServer::waitUntil(const QStringList &question, const QByteArray
 
 void PrivateSoundServer::kill()
 {
+    m_isIntact = false;
     end(m_server);
+    if (m_speaker)
+        end(*m_speaker);
+    m_speaker.reset();
     for (const auto &keeper : m_helpers)
         end(*keeper);
     m_helpers.clear();
@@ -132,6 +148,7 @@ void PrivateSoundServer::kill()
 
 bool PrivateSoundServer::pullOutMicrophone()
 {
+    m_isIntact = false;
     answerOf({QStringLiteral("unload-module"), QStringLiteral("module-remap-source")});
     return waitUntil({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sources")},
                      "^(?!.*microphone)");
@@ -147,13 +164,24 @@ bool PrivateSoundServer::plugInMicrophone()
 
 bool PrivateSoundServer::speak(const QString &wavPath)
 {
-    auto &player = m_helpers.emplace_back(std::make_unique<QProcess>());
-    player->setStandardErrorFile(QProcess::nullDevice());
-    player->start(QStringLiteral("paplay"), {QStringLiteral("-d"), QStringLiteral("mic"), wavPath});
+    if (!silence())
+        return false;
+    m_speaker = std::make_unique<QProcess>();
+    m_speaker->setStandardErrorFile(QProcess::nullDevice());
+    m_speaker->start(QStringLiteral("paplay"),
+                     {QStringLiteral("-d"), QStringLiteral("mic"), wavPath});
     // Two streams go into the microphone then: the silence and this one.
-    return waitUntil(
-        {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")},
-        "\\n.*\\n");
+    return waitUntil(sinkInputs(), "\\n.*\\n");
+}
+
+bool PrivateSoundServer::silence()
+{
+    announce();
+    if (!m_speaker)
+        return true;
+    end(*m_speaker);
+    m_speaker.reset();
+    return waitUntil(sinkInputs(), "^[^\\n]*\\n$");
 }
 
 bool PrivateSoundServer::speakBlocking(const QString &wavPath)

@@ -19,6 +19,8 @@ public:
         int rate = 44100;
         int channels = 2;
         bool hasMicrophone = true;
+
+        bool operator==(const Options &) const = default;
     };
 
     PrivateSoundServer();
@@ -26,6 +28,8 @@ public:
     PrivateSoundServer(const PrivateSoundServer &) = delete;
     PrivateSoundServer &operator=(const PrivateSoundServer &) = delete;
 
+    // It runs, and nobody killed it or pulled anything out since it was made.
+    bool isIntact() const { return m_isIntact; }
     QString socketPath() const { return m_folder.filePath(QStringLiteral("native")); }
     // The name of the source that hears what the program plays.
     static QString speakerMonitor() { return QStringLiteral("speaker.monitor"); }
@@ -37,12 +41,16 @@ public:
     void kill();
     bool pullOutMicrophone();
     bool plugInMicrophone();
-    // Plays the sound file into the microphone; returns when the player has its place there.
+    // Plays the sound file into the microphone, and nothing else any more; returns when the player
+    // has its place there.
     bool speak(const QString &wavPath);
+    // Ends what speak() began.
+    bool silence();
     // The same, but returns when it has been played; the event loop stands still until then.
     bool speakBlocking(const QString &wavPath);
 
 private:
+    void announce() const;
     bool writeScript(const Options &options) const;
     bool waitUntil(const QStringList &question, const QByteArray &answer);
     bool keepAwake();
@@ -51,6 +59,8 @@ private:
     QByteArray m_serverBefore;
     QProcess m_server;
     std::vector<std::unique_ptr<QProcess>> m_helpers;
+    std::unique_ptr<QProcess> m_speaker;
+    bool m_isIntact = false;
 };
 
 } // namespace tarvelo::tests

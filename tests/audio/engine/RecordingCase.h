@@ -19,7 +19,6 @@ protected:
     static constexpr int Patience = 60000;
 
     void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-    void finish() override { m_server.reset(); }
 
     QString path(const QString &name = QStringLiteral("take.m4a")) const
     {
@@ -27,9 +26,14 @@ protected:
     }
 
     PrivateSoundServer &server() { return *m_server; }
+    // The server of the test before serves again when it is whole and of the same kind.
     bool startServer(const PrivateSoundServer::Options &options = {})
     {
+        if (m_server && m_server->isIntact() && m_options == options)
+            return m_server->silence();
+        m_server.reset();
         m_server = std::make_unique<PrivateSoundServer>();
+        m_options = options;
         return m_server->start(options);
     }
 
@@ -60,6 +64,7 @@ protected:
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<PrivateSoundServer> m_server;
+    PrivateSoundServer::Options m_options;
     std::unique_ptr<engine::AudioEngine> m_engine = engine::makeSoundServerEngine();
 };
 

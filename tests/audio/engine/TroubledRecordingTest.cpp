@@ -17,7 +17,7 @@ class TroubledRecordingTest final : public RecordingCase
 private Q_SLOTS:
     void withoutASoundServerNothingIsPrepared()
     {
-        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(path(QStringLiteral("nobody"))));
+        talkTo(path(QStringLiteral("nobody")));
 
         verifyThatNothingIsPrepared();
     }
@@ -33,7 +33,7 @@ private Q_SLOTS:
     {
         QLocalServer mute;
         QVERIFY(mute.listen(path(QStringLiteral("mute"))));
-        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(mute.fullServerName()));
+        talkTo(mute.fullServerName());
 
         verifyThatNothingIsPrepared();
     }
@@ -44,7 +44,7 @@ private Q_SLOTS:
         connect(&rude, &QLocalServer::newConnection, &rude,
                 [&] { rude.nextPendingConnection()->close(); });
         QVERIFY(rude.listen(path(QStringLiteral("rude"))));
-        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(rude.fullServerName()));
+        talkTo(rude.fullServerName());
 
         verifyThatNothingIsPrepared();
     }
@@ -73,13 +73,16 @@ private Q_SLOTS:
         const auto played = tune(44100, 20);
         QVERIFY(speak(played));
         const StderrCatcher catcher;
-        const SmallDisk disk(30000);
         const auto recorder = recording();
+        const SmallDisk disk(30000);
 
         // On a full disk the time steps back to what is safe.
-        double highest = 0;
-        QTRY_VERIFY_WITH_TIMEOUT(
-            recorder->currentTime() < std::exchange(highest, recorder->currentTime()), Patience);
+        double before = 0;
+        const auto stepsBack = [&] {
+            const double now = recorder->currentTime();
+            return now < std::exchange(before, now);
+        };
+        QVERIFY(QTest::qWaitFor(stepsBack, Patience));
         recorder->pause();
         QVERIFY(recorder->record());
         recorder->stop();
@@ -174,15 +177,9 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
+    static void talkTo(const QString &socket)
     {
-        RecordingCase::prepare();
-        m_serverBefore = qgetenv("PULSE_SERVER");
-    }
-    void finish() override
-    {
-        RecordingCase::finish();
-        qputenv("PULSE_SERVER", m_serverBefore);
+        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(socket));
     }
 
     void verifyThatNothingIsPrepared()
@@ -202,8 +199,6 @@ private:
         QVERIFY(!QFileInfo::exists(path()));
         QCOMPARE(catcher.caught(), QByteArray());
     }
-
-    QByteArray m_serverBefore;
 };
 
 QTEST_GUILESS_MAIN(TroubledRecordingTest)
