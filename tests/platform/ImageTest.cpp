@@ -1,0 +1,78 @@
+#include "platform/Images.h"
+
+#include "support/TestCase.h"
+
+#include <QImage>
+#include <QPainter>
+
+using namespace tarvelo::platform;
+
+namespace {
+
+constexpr QColor Red(252, 39, 52);
+
+QImage canvas(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    return image;
+}
+
+} // namespace
+
+class ImageTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aNullImageHasNoNameNoSizeAndDrawsNothing()
+    {
+        const Image none = imageNamed(QString());
+        QImage target = canvas(20, 20);
+        QPainter painter(&target);
+
+        none.paint(painter, {0, 0, 20, 20});
+
+        QVERIFY(none.isNull());
+        QVERIFY(none.name().isEmpty());
+        QVERIFY(none.size().isEmpty());
+        QVERIFY(none.icon().isNull());
+        QCOMPARE(target, canvas(20, 20));
+    }
+
+    void anImageFillsItsTargetStretchingBothAxes()
+    {
+        QImage target = canvas(200, 20);
+        QPainter painter(&target);
+
+        imageNamed(QStringLiteral("recordbox")).paint(painter, {0, 0, 200, 20});
+
+        QCOMPARE(target.pixelColor(100, 8), Red);
+        QCOMPARE(target.pixelColor(30, 8), Red);
+        QCOMPARE(target.pixelColor(100, 19), QColor(Qt::white));
+    }
+
+    void aTargetBetweenPixelsIsMovedToWholeOnes()
+    {
+        QImage exact = canvas(60, 60);
+        QImage between = canvas(60, 60);
+        QPainter onExact(&exact);
+        QPainter onBetween(&between);
+
+        imageNamed(QStringLiteral("recordbox")).paint(onExact, {4, 4, 51, 51});
+        imageNamed(QStringLiteral("recordbox")).paint(onBetween, {4.3, 3.8, 51, 51});
+
+        QCOMPARE(between, exact);
+    }
+
+    void anIconHasTheSizesThatDesktopsAskFor()
+    {
+        const QIcon icon = imageNamed(QStringLiteral("recordbox")).icon();
+
+        QVERIFY(icon.availableSizes().contains(QSize(22, 22)));
+        QVERIFY(icon.availableSizes().contains(QSize(256, 256)));
+    }
+};
+
+QTEST_MAIN(ImageTest)
+#include "ImageTest.moc"
