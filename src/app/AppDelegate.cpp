@@ -162,6 +162,10 @@ void AppDelegate::calendarDidSelectDate(calendar::CKCalendarView *, const QDateT
     showDateHeader(m_dateOfButtonClicked);
     m_mediaLinksArrayController.prepareViewForDate(date);
     m_window.setFrameWidth(ListShownWidth, true);
+
+    const bool isOpen = m_mediaLinksArrayController.isDayOpen();
+    m_menus.action(Command::NewLecture)->setEnabled(isOpen);
+    m_menus.action(Command::NewLectureFromStatusItem)->setEnabled(isOpen);
 }
 
 void AppDelegate::setRecordingStateForButton(bool recording)
@@ -286,7 +290,8 @@ void AppDelegate::showTaskbarEntries(bool shown)
 
 void AppDelegate::addLecture()
 {
-    // A past day gets no new lectures, whichever way they are asked for.
+    // A past day gets no new lectures, whichever way they are asked for. It is asked again here
+    // because the day may have passed since it was chosen.
     if (m_mediaLinksArrayController.isDayOpen())
         m_mediaLinksArrayController.onAddItem(nullptr);
 }

@@ -88,6 +88,20 @@ private Q_SLOTS:
         program.launch();
         program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 1));
 
+        QVERIFY(!program.delegate.menus().action(Command::NewLecture)->isEnabled());
+        QVERIFY(!program.delegate.menus().action(Command::NewLectureFromStatusItem)->isEnabled());
+
+        program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 22));
+        QVERIFY(program.delegate.menus().action(Command::NewLecture)->isEnabled());
+    }
+
+    void aDayThatPassedSinceItWasChosenGetsNoNewLectureFromAMenu()
+    {
+        Application program;
+        program.launch();
+        program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 22));
+        program.clock.set(noonOf(2024, 3, 23));
+
         choose(program, Command::NewLecture);
         choose(program, Command::NewLectureFromStatusItem);
 
