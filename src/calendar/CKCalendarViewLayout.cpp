@@ -105,7 +105,7 @@ void CKCalendarView::hideRemovedDayCells()
     for (int index = CellCount - 1; index >= m_cellsInView; --index) {
         DateButton *cell = m_dateButtons.at(static_cast<size_t>(index));
         if (cell->hasFocus() && m_cellsInView > 0)
-            m_dateButtons.at(static_cast<size_t>(m_cellsInView - 1))->setFocus();
+            m_dateButtons.at(static_cast<size_t>(m_cellsInView - 1))->setFocus(Qt::TabFocusReason);
         cell->hide();
     }
 }

@@ -130,7 +130,7 @@ bool CalendarInput::moveFocus(DateButton &from, int days)
     const auto index = std::find(cells.begin(), cells.end(), &from) - cells.begin() + days;
     if (index >= 0 && index < CKCalendarView::CellCount &&
         !cells.at(static_cast<size_t>(index))->isHidden())
-        cells.at(static_cast<size_t>(index))->setFocus(Qt::OtherFocusReason);
+        cells.at(static_cast<size_t>(index))->setFocus(Qt::TabFocusReason);
     return true;
 }
 

@@ -158,6 +158,19 @@ private Q_SLOTS:
         QVERIFY(m_delegate.selected.isEmpty());
     }
 
+    void theDayThatArrowKeysReachShowsIt()
+    {
+        showWindow();
+        m_window->activateWindow();
+        cell(11)->setFocus();
+        QTRY_VERIFY(cell(11)->hasFocus());
+        const QImage without = cell(12)->grab().toImage();
+
+        QTest::keyClick(cell(11), Qt::Key_Right);
+
+        QVERIFY(cell(12)->grab().toImage() != without);
+    }
+
     void arrowKeysStayInTheMonth()
     {
         showWindow();
