@@ -5,6 +5,16 @@
 
 namespace tarvelo::lectures {
 
+namespace {
+
+// What is typed can be undone, unlike a text that the program sets or empties.
+bool canUndoOrRedo(const QTextDocument &document)
+{
+    return document.isUndoAvailable() || document.isRedoAvailable();
+}
+
+} // namespace
+
 LectureEditing::LectureEditing(const EditLectureOutlets &outlets)
     : m_outlets(outlets)
 {
@@ -19,7 +29,7 @@ void LectureEditing::watch(QLineEdit &field)
 void LectureEditing::watch(QTextEdit &view)
 {
     connect(&view, &QTextEdit::textChanged, this, [this, &view] {
-        if (view.hasFocus())
+        if (view.hasFocus() && canUndoOrRedo(*view.document()))
             textDidChange();
     });
 }

@@ -1,0 +1,304 @@
+#include "lectures/LectureTable.h"
+
+#include "lectures/CustomTableCellView.h"
+#include "support/TestCase.h"
+
+#include <QAbstractListModel>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using tarvelo::lectures::CustomTableCellView;
+using tarvelo::lectures::Lecture;
+using tarvelo::lectures::LectureTable;
+
+namespace {
+
+constexpr int RowHeight = CustomTableCellView::RowHeight;
+
+// So many lectures, named by their rows.
+class Lectures final : public QAbstractListModel
+{
+public:
+    explicit Lectures(int count) { setCount(count); }
+
+    void setCount(int count)
+    {
+        beginResetModel();
+        m_count = count;
+        endResetModel();
+    }
+    int rowCount(const QModelIndex &) const override { return m_count; }
+    QVariant data(const QModelIndex &index, int) const override
+    {
+        return QVariant::fromValue<Lecture>(std::make_shared<tarvelo::store::LectureInfoItem>(
+            u"Lecture %1"_s.arg(index.row()), QString(), QString(), QString(), false));
+    }
+
+private:
+    int m_count = 0;
+};
+
+QString subjectOf(const CustomTableCellView *view)
+{
+    return view ? view->objectValue()->strSubject() : u"no view"_s;
+}
+
+} // namespace
+
+class LectureTableTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aTableWithoutAModelIsEmpty()
+    {
+        LectureTable table;
+
+        QCOMPARE(table.rowCount(), 0);
+        QCOMPARE(table.viewCount(), 0);
+        QVERIFY(!table.viewAtColumnRowMakeIfNecessary(0, 0, true));
+    }
+
+    void onlyRowsThatShowHaveViews()
+    {
+        m_lectures->setCount(10000);
+
+        QCOMPARE(m_table->rowCount(), 10000);
+        QVERIFY2(m_table->viewCount() < 12, qPrintable(QString::number(m_table->viewCount())));
+    }
+
+    void scrollingUsesTheViewsAgain()
+    {
+        m_lectures->setCount(10000);
+
+        for (int row = 0; row < 10000; row += 7)
+            m_table->scrollRowToVisible(row);
+
+        QVERIFY2(m_table->viewCount() < 12, qPrintable(QString::number(m_table->viewCount())));
+    }
+
+    void everyRowThatShowsHasItsOwnLecture()
+    {
+        m_lectures->setCount(10000);
+        m_table->scrollRowToVisible(5000);
+
+        for (int row = 4996; row <= 5000; ++row) {
+            const CustomTableCellView *view =
+                m_table->viewAtColumnRowMakeIfNecessary(0, row, false);
+            QCOMPARE(subjectOf(view), u"Lecture %1"_s.arg(row));
+            QVERIFY(view->isVisible());
+            QCOMPARE(m_table->rowForView(view), row);
+        }
+    }
+
+    void aRowOutOfSightHasNoView()
+    {
+        QVERIFY(m_table->viewAtColumnRowMakeIfNecessary(0, 0, false));
+        QVERIFY(!m_table->viewAtColumnRowMakeIfNecessary(0, 19, false));
+
+        m_table->scrollRowToVisible(19);
+
+        QVERIFY(!m_table->viewAtColumnRowMakeIfNecessary(0, 0, false));
+        QVERIFY(m_table->viewAtColumnRowMakeIfNecessary(0, 19, false));
+    }
+
+    void aViewThatIsNecessaryIsMadeByScrollingThere()
+    {
+        QCOMPARE(subjectOf(m_table->viewAtColumnRowMakeIfNecessary(0, 19, true)), u"Lecture 19"_s);
+    }
+
+    void thereIsNoViewOutsideTheTable()
+    {
+        QVERIFY(!m_table->viewAtColumnRowMakeIfNecessary(0, -1, true));
+        QVERIFY(!m_table->viewAtColumnRowMakeIfNecessary(0, 20, true));
+        QVERIFY(!m_table->viewAtColumnRowMakeIfNecessary(1, 0, true));
+    }
+
+    void aControlInARowKnowsItsRow()
+    {
+        CustomTableCellView *view = m_table->viewAtColumnRowMakeIfNecessary(0, 2, false);
+        const auto *control = view->findChild<QWidget *>(u"btnBrowse"_s);
+        const QWidget elsewhere;
+
+        QCOMPARE(m_table->rowForView(control), 2);
+        QCOMPARE(m_table->rowForView(&elsewhere), -1);
+        QCOMPARE(m_table->rowForView(nullptr), -1);
+    }
+
+    void aViewThatWasPutAwayIsNoRow()
+    {
+        const CustomTableCellView *view = m_table->viewAtColumnRowMakeIfNecessary(0, 5, false);
+
+        m_lectures->setCount(1);
+
+        QCOMPARE(m_table->rowForView(view), -1);
+        QVERIFY(view->isHidden());
+    }
+
+    void rowsThatDoNotFitScroll()
+    {
+        QCOMPARE(m_table->verticalScrollBar()->maximum(), 20 * RowHeight - 400);
+
+        m_lectures->setCount(3);
+
+        QCOMPARE(m_table->verticalScrollBar()->maximum(), 0);
+    }
+
+    void aRowInSightIsNotScrolledTo()
+    {
+        m_table->scrollRowToVisible(4);
+        QCOMPARE(m_table->verticalScrollBar()->value(), 0);
+
+        m_table->scrollRowToVisible(5);
+        QCOMPARE(m_table->verticalScrollBar()->value(), 6 * RowHeight - 400);
+
+        m_table->scrollRowToVisible(20);
+        m_table->scrollRowToVisible(-1);
+        QCOMPARE(m_table->verticalScrollBar()->value(), 6 * RowHeight - 400);
+    }
+
+    void aTallerTableShowsMoreRows()
+    {
+        m_table->resize(300, 800);
+
+        QCOMPARE(m_table->viewCount(), 12);
+        QVERIFY(m_table->viewAtColumnRowMakeIfNecessary(0, 11, false));
+    }
+
+    void reloadingShowsTheLecturesAsTheyNowAre()
+    {
+        m_lectures->setCount(1);
+
+        QCOMPARE(m_table->rowCount(), 1);
+        QVERIFY(!m_table->viewAtColumnRowMakeIfNecessary(0, 1, false));
+        QCOMPARE(subjectOf(m_table->viewAtColumnRowMakeIfNecessary(0, 0, false)), u"Lecture 0"_s);
+    }
+
+    void aModelThatIsTakenAwayIsNoLongerFollowed()
+    {
+        m_table->setModel(nullptr);
+        m_lectures->setCount(3);
+
+        QCOMPARE(m_table->rowCount(), 0);
+        QVERIFY(!m_table->viewAtColumnRowMakeIfNecessary(0, 0, false));
+    }
+
+    void everyViewThatIsMadeIsTold()
+    {
+        LectureTable table;
+        const QSignalSpy made(&table, &LectureTable::rowViewMade);
+        table.resize(300, 400);
+        table.show();
+
+        table.setModel(m_lectures.get());
+
+        QCOMPARE(made.count(), table.viewCount());
+    }
+
+    void theKeyboardMovesOverTheRowsAndScrolls()
+    {
+        const QSignalSpy changes(m_table.get(), &LectureTable::selectedRowChanged);
+        QCOMPARE(m_table->selectedRow(), -1);
+
+        press(Qt::Key_Down);
+        QCOMPARE(m_table->selectedRow(), 0);
+        press(Qt::Key_End);
+        QCOMPARE(m_table->selectedRow(), 19);
+        QVERIFY(m_table->viewAtColumnRowMakeIfNecessary(0, 19, false));
+        press(Qt::Key_PageUp);
+        QCOMPARE(m_table->selectedRow(), 14);
+        press(Qt::Key_Up);
+        QCOMPARE(m_table->selectedRow(), 13);
+        press(Qt::Key_PageDown);
+        QCOMPARE(m_table->selectedRow(), 18);
+        press(Qt::Key_Home);
+        QCOMPARE(m_table->selectedRow(), 0);
+        QVERIFY(m_table->viewAtColumnRowMakeIfNecessary(0, 0, false));
+        QCOMPARE(changes.count(), 6);
+    }
+
+    void theKeyboardStopsAtTheEnds()
+    {
+        press(Qt::Key_Up);
+        QCOMPARE(m_table->selectedRow(), 0);
+        press(Qt::Key_Up);
+        QCOMPARE(m_table->selectedRow(), 0);
+
+        m_table->selectRow(19);
+        press(Qt::Key_Down);
+        QCOMPARE(m_table->selectedRow(), 19);
+    }
+
+    void anEmptyTableHasNothingToSelect()
+    {
+        m_lectures->setCount(0);
+
+        press(Qt::Key_Down);
+
+        QCOMPARE(m_table->selectedRow(), -1);
+    }
+
+    void aSelectionThatIsGoneAfterAReloadIsNone()
+    {
+        m_table->selectRow(10);
+        const QSignalSpy changes(m_table.get(), &LectureTable::selectedRowChanged);
+
+        m_lectures->setCount(5);
+
+        QCOMPARE(m_table->selectedRow(), -1);
+        QCOMPARE(changes.count(), 1);
+    }
+
+    void theMarkShowsOnlyUnderTheKeyboard()
+    {
+        m_table->selectRow(1);
+        const QImage without = imageOfRow(1);
+
+        m_table->setFocus();
+        QVERIFY(imageOfRow(1) != without);
+
+        m_table->clearFocus();
+        QCOMPARE(imageOfRow(1), without);
+    }
+
+    void aSelectedRowIsHighlightedUnlessTheStyleIsNone()
+    {
+        const QImage plain = m_table->grab().toImage();
+
+        m_table->selectRow(1);
+        QVERIFY(m_table->grab().toImage() != plain);
+
+        m_table->setSelectionHighlightStyle(LectureTable::SelectionHighlightStyle::None);
+        QCOMPARE(m_table->grab().toImage(), plain);
+    }
+
+private:
+    void prepare() override
+    {
+        m_lectures = std::make_unique<Lectures>(20);
+        m_table = std::make_unique<LectureTable>();
+        m_table->resize(300, 400);
+        m_table->setModel(m_lectures.get());
+        m_table->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_table.get()));
+        m_table->clearFocus();
+    }
+    void finish() override
+    {
+        m_table.reset();
+        m_lectures.reset();
+    }
+
+    void press(Qt::Key key) { QTest::keyClick(m_table.get(), key); }
+    QImage imageOfRow(int row)
+    {
+        return m_table->viewAtColumnRowMakeIfNecessary(0, row, false)->grab().toImage();
+    }
+
+    std::unique_ptr<Lectures> m_lectures;
+    std::unique_ptr<LectureTable> m_table;
+};
+
+QTEST_MAIN(LectureTableTest)
+#include "LectureTableTest.moc"

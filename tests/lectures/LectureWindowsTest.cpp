@@ -1,0 +1,206 @@
+#include "lectures/LectureWindows.h"
+
+#include "support/LectureProgram.h"
+#include "support/TestCase.h"
+
+#include <QAbstractButton>
+
+using namespace Qt::StringLiterals;
+using tarvelo::tests::LectureProgram;
+
+namespace {
+
+// All that a user can press or type into.
+QList<QWidget *> controlsOf(const QWidget &window)
+{
+    QList<QWidget *> controls;
+    for (QWidget *widget : window.findChildren<QWidget *>()) {
+        if (qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget) ||
+            qobject_cast<QTextEdit *>(widget) || qobject_cast<QSlider *>(widget))
+            controls.append(widget);
+    }
+    return controls;
+}
+
+QString nameOf(const QWidget &control)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(&control);
+    return button && control.accessibleName().isEmpty() ? button->text() : control.accessibleName();
+}
+
+} // namespace
+
+class LectureWindowsTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tarvelo::platform::installTexts(); }
+
+    void theMainWindowIsAsWideAsCalendarAndList()
+    {
+        QCOMPARE(windows().mainWindow().size(), QSize(833, 540));
+        QCOMPARE(windows().mainWindow().frameWidth(), 833);
+    }
+
+    void theCalendarFillsItsPane()
+    {
+        const QRect calendar = windows().mainOutlets().calendarView->geometry();
+
+        QCOMPARE(calendar.x(), -2);
+        QCOMPARE(calendar.width(), 450);
+        QCOMPARE(calendar.y() + calendar.height(), 540);
+    }
+
+    void everyOutletHasTheNameOfItsControl()
+    {
+        const auto &recording = windows().recordingOutlets();
+        const QList<std::pair<const QWidget *, QString>> named{
+            {&windows().mainWindow(), u"mainWindow"_s},
+            {windows().mainOutlets().calendarView, u"calendarView"_s},
+            {windows().mainOutlets().tblRecordSubjectList, u"tblRecordSubjectList"_s},
+            {windows().mainOutlets().newNoteView, u"newNoteView"_s},
+            {windows().mainOutlets().editPlayView, u"editPlayView"_s},
+            {windows().mainOutlets().btnFoldUpList, u"btnFoldUpList"_s},
+            {windows().lectureViewOutlets().btnDoneEditLecture, u"btnDoneEditLecture"_s},
+            {windows().newLectureOutlets().BtnDoneOrClose, u"BtnDoneOrClose"_s},
+            {windows().newLectureOutlets().recordAnimationView, u"recordAnimationView"_s},
+            {windows().editLectureOutlets().btnDoneEdit, u"btnDoneEdit"_s},
+            {windows().playAudioOutlets().txtFieldForAudio, u"txtFieldForAudio"_s},
+            {windows().popoverOutlets().btnConfirmNo, u"btnConfirmNo"_s},
+            {windows().popoverOutlets().lblPopoverNoAudio, u"lblPopoverNoAudio"_s},
+            {recording.btnStartRecord, u"btnStartRecord"_s},
+            {recording.sliderPlayProgress2, u"sliderPlayProgress2"_s},
+            {recording.txtView, u"txtView"_s}};
+
+        for (const auto &[control, name] : named)
+            QCOMPARE(control ? control->objectName() : u"missing"_s, name);
+    }
+
+    void everyControlHasANameForWhoCannotSeeIt()
+    {
+        for (const QWidget *window : allWindows()) {
+            for (const QWidget *control : controlsOf(*window)) {
+                if (mayStayHidden().contains(control->objectName()))
+                    continue;
+                QVERIFY2(!nameOf(*control).isEmpty(), qPrintable(control->objectName()));
+            }
+        }
+    }
+
+    void everyControlCanBeReachedByKeyboard()
+    {
+        for (const QWidget *window : allWindows()) {
+            for (const QWidget *control : controlsOf(*window)) {
+                if (control->objectName().startsWith(u"qt_"))
+                    continue;
+                QVERIFY2(control->focusPolicy() & Qt::TabFocus ||
+                             control->window() == &windows().mainWindow(),
+                         qPrintable(control->objectName()));
+            }
+        }
+        QVERIFY(windows().mainOutlets().tblRecordSubjectList->focusPolicy() & Qt::TabFocus);
+        QVERIFY(windows().mainOutlets().btnAddItem->focusPolicy() & Qt::TabFocus);
+    }
+
+    void nothingShowsItsKeyInsteadOfItsText()
+    {
+        const QRegularExpression key(u"^[A-Z]+(_[A-Z]+)+$"_s);
+        for (const QWidget *window : allWindows()) {
+            for (const QWidget *control : controlsOf(*window))
+                QVERIFY2(!key.match(nameOf(*control)).hasMatch(), qPrintable(nameOf(*control)));
+            for (const QLabel *label : window->findChildren<QLabel *>())
+                QVERIFY2(!key.match(label->text()).hasMatch(), qPrintable(label->text()));
+            QVERIFY2(!key.match(window->windowTitle()).hasMatch(),
+                     qPrintable(window->windowTitle()));
+        }
+    }
+
+    void aNewLectureBeginsWithTheStartButtonAlone()
+    {
+        const auto &recording = windows().recordingOutlets();
+
+        QVERIFY(!recording.btnStartRecord->isHidden());
+        QVERIFY(!recording.btnStopRecord->isHidden());
+        QVERIFY(recording.btnPauseResumeRecording->isHidden());
+        QVERIFY(recording.btnTimeTag->isHidden());
+        QVERIFY(recording.btnStartStopRecording->isHidden());
+        QVERIFY(recording.sliderPlayProgress2->isHidden());
+        QVERIFY(recording.btnPauseResumeRecording->isCheckable());
+    }
+
+    void doneAndCloseAreToldApartByTheirTags()
+    {
+        QCOMPARE(windows().newLectureOutlets().BtnDoneOrClose->tag(), 0);
+        QCOMPARE(windows().newLectureOutlets().btnCloseNewLecture->tag(), 1);
+    }
+
+    void theNewLectureWindowDoesNotJumpWhileATakeComesAndGoes()
+    {
+        m_program->start();
+        m_program->controller.onAddItem(nullptr);
+        const auto &recording = windows().recordingOutlets();
+        QVERIFY(QTest::qWaitForWindowExposed(recording.newNoteWindow));
+        const auto places = [&recording] {
+            return QList<QRect>{recording.newNoteWindow->rect(), recording.txtView->geometry(),
+                                recording.btnStopRecord->geometry(),
+                                recording.btnStopRecord->parentWidget()->geometry()};
+        };
+        const QList<QRect> idle = places();
+
+        recording.btnStartRecord->click();
+        QCoreApplication::processEvents();
+        QCOMPARE(places(), idle);
+        recording.btnPauseResumeRecording->click();
+        m_program->clock.advance(std::chrono::seconds(1));
+        QCoreApplication::processEvents();
+        QCOMPARE(places(), idle);
+        recording.btnStopRecord->click();
+        QCoreApplication::processEvents();
+        QCOMPARE(places(), idle);
+        recording.btnStopRecord->click();
+        QCoreApplication::processEvents();
+        QCOMPARE(places(), idle);
+    }
+
+    void theWindowsStayLightUnderADarkDesktop()
+    {
+        QPalette dark;
+        dark.setColor(QPalette::Window, Qt::black);
+        dark.setColor(QPalette::WindowText, Qt::white);
+        const QPalette usual = QGuiApplication::palette();
+        QGuiApplication::setPalette(dark);
+        LectureProgram program;
+        QGuiApplication::setPalette(usual);
+
+        for (const QWidget *window : {static_cast<QWidget *>(&program.windows.mainWindow()),
+                                      program.windows.newLectureOutlets().newNoteWindow,
+                                      program.windows.popoverOutlets().btnConfirmYes->window()}) {
+            QCOMPARE(window->palette().color(QPalette::Window), QColor(Qt::white));
+            QVERIFY(window->palette().color(QPalette::WindowText).lightness() < 100);
+        }
+    }
+
+private:
+    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
+    void finish() override { m_program.reset(); }
+
+    const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
+    QList<const QWidget *> allWindows() const
+    {
+        return {&windows().mainWindow(), windows().newLectureOutlets().newNoteWindow,
+                windows().editLectureOutlets().windowEditLecture,
+                windows().playAudioOutlets().playAudioWindow,
+                windows().popoverOutlets().btnConfirmYes->window()};
+    }
+    // Controls that this program keeps and never shows.
+    static QStringList mayStayHidden()
+    {
+        return {u"btnStartStopRecording"_s, u"txtCourseName"_s, u"txtFieldForAudio"_s};
+    }
+
+    std::unique_ptr<LectureProgram> m_program;
+};
+
+QTEST_MAIN(LectureWindowsTest)
+#include "LectureWindowsTest.moc"

@@ -1,0 +1,534 @@
+#include "lectures/MediaLinksArrayController.h"
+
+#include "lectures/CustomTableCellView.h"
+#include "platform/WindowLevel.h"
+#include "store/LectureInfoItem.h"
+#include "support/LectureProgram.h"
+#include "support/TestCase.h"
+#include "widgets/InsertionPoint.h"
+#include "widgets/LayerView.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using tarvelo::tests::aLecture;
+using tarvelo::tests::LectureProgram;
+using tarvelo::tests::theDay;
+using tarvelo::widgets::insertionPointColor;
+
+class MediaLinksArrayControllerTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // -- Start-up
+
+    void startingOpensNoDatabaseAndShowsNoList()
+    {
+        aLecture().insertInto(m_program->database);
+        LectureProgram program;
+
+        program.start();
+
+        QVERIFY(!program.database.connection());
+        QVERIFY(!QFileInfo::exists(program.places.databaseFile()));
+        QCOMPARE(program.controller.numberOfRowsInTableView(), 0);
+        QVERIFY(!program.controller.dateOfButtonClicked().isValid());
+    }
+
+    void startingAgainDoesNothing()
+    {
+        m_program->start();
+        const int calls = m_program->clock.pendingCount();
+        QVERIFY(QDir(m_program->places.folder()).removeRecursively());
+        m_program->windows.newLectureOutlets().lblNotesForAdd->setText(u"changed"_s);
+
+        controller().awakeFromNib();
+
+        QCOMPARE(m_program->clock.pendingCount(), calls);
+        QVERIFY(!QFileInfo::exists(m_program->places.folder()));
+        QCOMPARE(m_program->windows.newLectureOutlets().lblNotesForAdd->text(), u"changed"_s);
+    }
+
+    void aSecondControllerOfTheProcessIsNotStarted()
+    {
+        m_program->isAwake = true;
+
+        controller().awakeFromNib();
+
+        QVERIFY(!QFileInfo::exists(m_program->places.folder()));
+        QCOMPARE(controller().version(), 0);
+    }
+
+    void startingMakesTheFolders()
+    {
+        controller().awakeFromNib();
+
+        QVERIFY(QFileInfo(m_program->places.folder() + u"/temp"_s).isDir());
+        QVERIFY(QFileInfo(m_program->places.folder() + u"/Audio"_s).isDir());
+    }
+
+    void thePathOfTheTakeIsKnownHalfASecondLater()
+    {
+        controller().awakeFromNib();
+        m_program->clock.advance(499ms);
+        QCOMPARE(controller().tempAudioSavePath(), QString());
+
+        m_program->clock.advance(1ms);
+
+        QCOMPARE(controller().tempAudioSavePath(),
+                 m_program->places.folder() + u"/temp/tempAudioFile.aac"_s);
+    }
+
+    void startingSetsTheArrangementAndTheVersion()
+    {
+        controller().viewEditView(nullptr);
+
+        controller().awakeFromNib();
+
+        QVERIFY(!controller().bIsInEditView());
+        QVERIFY(!controller().bIsInSingleEditView());
+        QVERIFY(controller().version() != 0);
+        QCOMPARE(controller().recordingControl().durationPause(), 0);
+    }
+
+    void startingPutsTheMainWindowAmongTheOthers()
+    {
+        tarvelo::platform::setWindowLevel(m_program->windows.mainWindow(), 1);
+
+        controller().awakeFromNib();
+
+        QCOMPARE(tarvelo::platform::windowLevel(m_program->windows.mainWindow()), 0);
+    }
+
+    void startingWhitensTheSecondaryWindows()
+    {
+        controller().awakeFromNib();
+
+        for (const QWidget *window : secondaryWindows()) {
+            QCOMPARE(window->palette().color(QPalette::Window), QColor(255, 255, 255));
+            QVERIFY(window->autoFillBackground());
+        }
+    }
+
+    void thePlayWindowIsNotOpaqueAndCanBeNeitherMinimisedNorZoomed()
+    {
+        controller().awakeFromNib();
+
+        const QWidget &window = *m_program->windows.playAudioOutlets().playAudioWindow;
+        QVERIFY(window.testAttribute(Qt::WA_TranslucentBackground));
+        QVERIFY(!(window.windowFlags() & Qt::WindowMinMaxButtonsHint));
+        QVERIFY(window.windowFlags() & Qt::WindowCloseButtonHint);
+    }
+
+    void startingGuardsTheSecondaryWindowsFromThenOn()
+    {
+        QWidget &edit = *m_program->windows.editLectureOutlets().windowEditLecture;
+        edit.show();
+        QTest::keyClicks(m_program->windows.editLectureOutlets().txtSubjectForEdit, u"Optics"_s);
+
+        controller().awakeFromNib();
+
+        QVERIFY(!edit.close());
+        QVERIFY(edit.isVisible());
+    }
+
+    void startingWritesTheLabels()
+    {
+        controller().awakeFromNib();
+
+        const auto &popovers = m_program->windows.popoverOutlets();
+        const QString notes = tarvelo::platform::text("LABEL_NOTES");
+        QCOMPARE(m_program->windows.newLectureOutlets().lblNotesForAdd->text(), notes);
+        QCOMPARE(m_program->windows.lectureViewOutlets().lblNotesForView->text(), notes);
+        QCOMPARE(popovers.lblRecordDeleteConfirmation->text(),
+                 tarvelo::platform::text("LABEL_CONFIRM_RECORDDELETE"));
+        QCOMPARE(popovers.lblPopoverNoAudio->text(),
+                 tarvelo::platform::text("MSG_NO_AUDIO_FOR_LECTURE"));
+        QCOMPARE(m_program->windows.recordingOutlets().lblRecordingDuration->text(), QString());
+    }
+
+    void selectedRowsAreNotHighlighted()
+    {
+        controller().awakeFromNib();
+
+        QCOMPARE(table().selectionHighlightStyle(),
+                 tarvelo::lectures::LectureTable::SelectionHighlightStyle::None);
+    }
+
+    void theInsertionPointsHaveTheirColours()
+    {
+        controller().awakeFromNib();
+
+        const auto &windows = m_program->windows;
+        for (const QLineEdit *field :
+             {windows.playAudioOutlets().txtSubjectName, windows.playAudioOutlets().txtCourseName,
+              windows.playAudioOutlets().txtFieldForAudio,
+              windows.editLectureOutlets().txtSubjectForEdit,
+              windows.newLectureOutlets().txtSubjectForNewNote,
+              windows.lectureViewOutlets().tSubjectName})
+            QCOMPARE(insertionPointColor(*field), QColor(Qt::lightGray));
+        QCOMPARE(insertionPointColor(*windows.newLectureOutlets().txtView), QColor(Qt::lightGray));
+        for (const QTextEdit *view : {windows.editLectureOutlets().txtViewNotesForEdit,
+                                      windows.lectureViewOutlets().tViewNoteForEdit})
+            QCOMPARE(insertionPointColor(*view), view->palette().color(QPalette::WindowText));
+    }
+
+    void theClockLabelsShowTimeAndDateOfTheStart()
+    {
+        controller().awakeFromNib();
+
+        const auto clock = m_program->windows.clockOutlets();
+        for (const QLabel *label : {clock.textTime, clock.textEditTime, clock.tEditTime})
+            QVERIFY(label->text().startsWith(u"9:00"_s));
+        for (const QLabel *label : {clock.textDate, clock.textEditDate, clock.tEditDate})
+            QCOMPARE(label->text(), u"Mar 5, 2024"_s);
+    }
+
+    void theClockGoesOnEverySecond()
+    {
+        controller().awakeFromNib();
+        m_program->clock.advance(60s);
+
+        QVERIFY(m_program->windows.clockOutlets().textTime->text().startsWith(u"9:01"_s));
+    }
+
+    void theConfirmationsButtonsHaveTheirTags()
+    {
+        m_program->windows.popoverOutlets().btnConfirmNo->setTag(9);
+
+        controller().awakeFromNib();
+
+        QCOMPARE(m_program->windows.popoverOutlets().btnConfirmNo->tag(), 0);
+        QCOMPARE(m_program->windows.popoverOutlets().btnConfirmYes->tag(), 1);
+    }
+
+    void titlesAreRedAndNotesAreWrittenInFifteenPoints()
+    {
+        controller().awakeFromNib();
+
+        const auto &windows = m_program->windows;
+        for (const QWidget *button :
+             {windows.newLectureOutlets().BtnDoneOrClose, windows.editLectureOutlets().btnDoneEdit,
+              windows.lectureViewOutlets().btnDoneEditLecture,
+              windows.lectureViewOutlets().btnSlidetoView,
+              windows.lectureViewOutlets().btnSlideToListView,
+              windows.newLectureOutlets().BtnCancelAddNewLecture})
+            QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(252, 39, 52));
+        for (const QTextEdit *view :
+             {windows.newLectureOutlets().txtView, windows.lectureViewOutlets().tViewNoteForEdit,
+              windows.editLectureOutlets().txtViewNotesForEdit}) {
+            QCOMPARE(view->font().pixelSize(), 15);
+            QCOMPARE(view->textColor(), view->palette().color(QPalette::WindowText));
+        }
+    }
+
+    // -- Lists
+
+    void theTableShowsTheLecturesOfTheDay()
+    {
+        aLecture().named("optics").insertInto(m_program->database);
+        aLecture().named("acoustics").insertInto(m_program->database);
+
+        m_program->showDay(m_program->today());
+
+        QCOMPARE(table().rowCount(), 2);
+        QCOMPARE(controller().numberOfRowsInTableView(), 2);
+        QCOMPARE(controller().tableViewObjectValueForTableColumnRow(0, 0)->strSubject(),
+                 u"Acoustics"_s);
+        QCOMPARE(controller().tableViewObjectValueForTableColumnRow(7, 1)->strSubject(),
+                 u"Optics"_s);
+        QVERIFY(!controller().tableViewObjectValueForTableColumnRow(0, 2));
+        QVERIFY(!controller().tableViewObjectValueForTableColumnRow(0, -1));
+        QCOMPARE(controller().index(0, 0).data().toString(), u"Acoustics"_s);
+    }
+
+    void aDayKnowsWhetherItIsOpen()
+    {
+        m_program->showDay(m_program->today());
+        QVERIFY(controller().isDayOpen());
+
+        controller().prepareViewForDate(theDay("2024-03-04"));
+        QVERIFY(!controller().isDayOpen());
+        QCOMPARE(controller().dateOfButtonClicked(), theDay("2024-03-04"));
+    }
+
+    void allListShowsTheMonthThatTheApplicationIsAt()
+    {
+        aLecture().named("march").on("2019-03-31").insertInto(m_program->database);
+        aLecture().named("may").on("2024-05-01").insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        m_program->application.currentDate = theDay("2031-05-20");
+
+        m_program->windows.mainOutlets().btnShowAllList->click();
+
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"May"_s}));
+    }
+
+    void tenThousandLecturesOpenWithAHandfulOfRows()
+    {
+        aLecture().insertInto(m_program->database);
+        QVERIFY(m_program->database.connection()->executeNonQuery(
+            u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 9999) "
+            "INSERT INTO audioData (subject, recordingDate, audioFileFullPath, recordDuration) "
+            "SELECT 'Lecture ' || i, '2024-03-05', '', 'No Audio' FROM n"_s));
+
+        m_program->showDay(m_program->today());
+
+        QCOMPARE(table().rowCount(), 10000);
+        QVERIFY(table().viewCount() < 12);
+    }
+
+    void selectingARowSelectsItsLecture()
+    {
+        aLecture().named("optics").insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        QVERIFY(controller().selectedIndexes().isEmpty());
+
+        table().selectRow(0);
+
+        QCOMPARE(controller().selectedIndexes(), QList<int>({0}));
+        QCOMPARE(controller().selectedDownloads().size(), 1U);
+        QCOMPARE(controller().selectedDownloads()[0], controller().arrangedObjects()[0]);
+    }
+
+    void theSameRowsOfAnotherDayAreOtherLectures()
+    {
+        aLecture().named("optics").insertInto(m_program->database);
+        aLecture().named("acoustics").on("2024-03-06").insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        controller().setSelectedIndexes({0});
+        controller().prepareViewForDate(theDay("2024-03-06"));
+        QCOMPARE(controller().selectedDownloads().at(0)->strSubject(), u"Optics"_s);
+
+        controller().setSelectedIndexes({0});
+
+        QCOMPARE(controller().selectedDownloads().at(0)->strSubject(), u"Acoustics"_s);
+    }
+
+    void theVerySameIndexesChangeNothing()
+    {
+        aLecture().named("optics").insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        controller().setSelectedIndexes({0});
+        controller().setSelectedDownloads({});
+
+        controller().setSelectedIndexes(controller().selectedIndexes());
+
+        QVERIFY(controller().selectedDownloads().empty());
+        QCOMPARE(controller().selectedIndexes(), QList<int>({0}));
+    }
+
+    void rowsThatAreNotThereSelectNothing()
+    {
+        m_program->showDay(m_program->today());
+
+        controller().setSelectedIndexes({0, 5});
+
+        QVERIFY(controller().selectedDownloads().empty());
+    }
+
+    // -- View changes
+
+    void theViewChangesEndAtTheirWidths()
+    {
+        m_program->showDay(m_program->today());
+
+        controller().onExpandView(nullptr);
+        QCOMPARE(m_program->windows.mainWindow().frameWidth(), 1234);
+        controller().viewEditView(nullptr);
+        QCOMPARE(m_program->windows.mainWindow().frameWidth(), 400);
+        controller().goToCalendarView(nullptr);
+        QCOMPARE(m_program->windows.mainWindow().frameWidth(), 833);
+        QTRY_COMPARE(m_program->windows.mainWindow().width(), 833);
+    }
+
+    void theAnimationHasALayerExactlyWhileRecording()
+    {
+        const auto &view = *m_program->windows.newLectureOutlets().recordAnimationView;
+        m_program->start();
+        controller().animateRecordView();
+        QVERIFY(!view.wantsLayer());
+
+        controller().startRecording(nullptr);
+        controller().animateRecordView();
+        QVERIFY(view.wantsLayer());
+
+        controller().stopRecording(nullptr);
+        controller().animateRecordView();
+        QVERIFY(!view.wantsLayer());
+    }
+
+    // -- Audio files
+
+    void theRecordingFolderIsShownInTheFileManager()
+    {
+        controller().browseRecordingFolder(nullptr);
+
+        const QString folder = m_program->places.folder() + u"/Audio/"_s;
+        QCOMPARE(m_program->workspace.shown, QList<QList<QUrl>>({{QUrl::fromLocalFile(folder)}}));
+        QVERIFY(QFileInfo(folder).isDir());
+    }
+
+    void aRowShowsItsFileInTheFileManager()
+    {
+        aLecture().named("lower").withAudio(u"/music//a.aac"_s).insertInto(m_program->database);
+        aLecture().named("upper").withAudio(u"/music//b.aac"_s).insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+
+        table().viewAtColumnRowMakeIfNecessary(0, 1, false)->btnBrowse()->click();
+
+        QCOMPARE(m_program->workspace.shown,
+                 QList<QList<QUrl>>({{QUrl::fromLocalFile(u"/music//a.aac"_s)}}));
+    }
+
+    void aControlOutsideTheRowsShowsNoFile()
+    {
+        aLecture().insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+
+        controller().openAudioFolderPath(m_program->windows.mainOutlets().btnAddItem);
+        controller().openAudioFolderPath(nullptr);
+        controller().openAudioFolderPath(table().viewAtColumnRowMakeIfNecessary(0, 0, false));
+
+        QVERIFY(m_program->workspace.shown.isEmpty());
+    }
+
+    void anEmptyListShowsNoFile()
+    {
+        aLecture().insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        QWidget *browse = table().viewAtColumnRowMakeIfNecessary(0, 0, false)->btnBrowse();
+        controller().prepareViewForDate(theDay("2024-03-06"));
+
+        controller().openAudioFolderPath(browse);
+
+        QVERIFY(m_program->workspace.shown.isEmpty());
+    }
+
+    // -- Store
+
+    void storeOperationsReachTheOneDatabase()
+    {
+        const auto connection = controller().openDb();
+        QCOMPARE(connection, m_program->database.connection());
+
+        controller().insertIntoDbwithSqlStatementWithArguments(
+            tarvelo::store::statements::Insert, aLecture().withoutAudio().arguments());
+        controller().updateToDoDatawithSqlStatementWithArguments(
+            tarvelo::store::statements::Update, {u"Waves"_s, u"Huygens"_s, u"1"_s});
+        QCOMPARE(m_program->storedRows().value(0)["subject"_L1], u"Waves"_s);
+
+        controller().prepareViewForDate(m_program->today());
+        controller().deleteVoiceData(*controller().arrangedObjects().at(0));
+        QVERIFY(m_program->storedRows().isEmpty());
+    }
+
+    // -- New lecture and closing
+
+    void bothAddButtonsOpenANewLecture()
+    {
+        m_program->showDay(m_program->today());
+
+        m_program->windows.mainOutlets().btnAddItem->click();
+        QVERIFY(controller().bIsOnRecordingView());
+        QVERIFY(controller().isRecordingNow());
+        m_program->windows.newLectureOutlets().BtnCancelAddNewLecture->click();
+        QVERIFY(!controller().bIsOnRecordingView());
+
+        m_program->windows.mainOutlets().btnAddNewLecture2->click();
+        QVERIFY(controller().bIsOnRecordingView());
+    }
+
+    void aLectureGoesFromItsRecordingToItsRow()
+    {
+        m_program->showDay(m_program->today());
+        m_program->recordNewLecture(90);
+        QTest::keyClicks(m_program->windows.newLectureOutlets().txtSubjectForNewNote, u"optics"_s);
+
+        m_program->finishNewLecture();
+
+        const auto *row = table().viewAtColumnRowMakeIfNecessary(0, 0, false);
+        QVERIFY(row);
+        QCOMPARE(row->findChild<QLabel *>(u"lblSubject"_s)->text(), u"Optics"_s);
+        QCOMPARE(row->findChild<QLabel *>(u"lblDuration"_s)->text(), u"00:01:30"_s);
+    }
+
+    void theNoAudioPopoverCanBeClosed()
+    {
+        QWidget &popover = *m_program->windows.popoverOutlets().lblPopoverNoAudio->window();
+        popover.show();
+
+        controller().onClosePopoverConfirm(nullptr);
+
+        QVERIFY(popover.isHidden());
+    }
+
+    void theConfirmationShowsWhileItsWindowDoes()
+    {
+        QVERIFY(!controller().isConfirmDeleteShowing());
+
+        m_program->windows.popoverOutlets().btnConfirmYes->window()->show();
+
+        QVERIFY(controller().isConfirmDeleteShowing());
+    }
+
+    void theEndOfASheetTakesItOffTheScreen()
+    {
+        QWidget sheet;
+        sheet.show();
+
+        controller().alerDeletedDidEndReturnCodeContextInfo(&sheet, 1, nullptr);
+        QVERIFY(sheet.isVisible());
+        controller().sheetDidEndReturnCodeContextInfo(&sheet, 0, nullptr);
+        QVERIFY(sheet.isHidden());
+    }
+
+    void closingThePlayWindowLeavesTheMainWindowAlone()
+    {
+        QWidget &play = *m_program->windows.playAudioOutlets().playAudioWindow;
+        play.show();
+        m_program->windows.mainWindow().show();
+
+        controller().onClosePlayAudioWindow(m_program->windows.mainOutlets().btnAddItem);
+        controller().onClosePlayAudioWindow(m_program->windows.playAudioOutlets().txtSubjectName);
+
+        QVERIFY(play.isHidden());
+        QVERIFY(m_program->windows.mainWindow().isVisible());
+    }
+
+    void theNeedToPreventQuittingIsOnlyKept()
+    {
+        QVERIFY(!controller().bIsRecordingNeedPreventingQuit());
+
+        controller().setBIsRecordingNeedPreventingQuit(true);
+
+        QVERIFY(controller().bIsRecordingNeedPreventingQuit());
+    }
+
+private:
+    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
+    void finish() override { m_program.reset(); }
+
+    tarvelo::lectures::MediaLinksArrayController &controller() const
+    {
+        return m_program->controller;
+    }
+    tarvelo::lectures::LectureTable &table() const
+    {
+        return *m_program->windows.mainOutlets().tblRecordSubjectList;
+    }
+    QList<const QWidget *> secondaryWindows() const
+    {
+        return {m_program->windows.newLectureOutlets().newNoteWindow,
+                m_program->windows.editLectureOutlets().windowEditLecture,
+                m_program->windows.playAudioOutlets().playAudioWindow};
+    }
+
+    std::unique_ptr<LectureProgram> m_program;
+};
+
+QTEST_MAIN(MediaLinksArrayControllerTest)
+#include "MediaLinksArrayControllerTest.moc"
