@@ -4,7 +4,7 @@
 #include "platform/Texts.h"
 #include "widgets/ImageButton.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
@@ -50,16 +50,21 @@ CustomTableCellView::CustomTableCellView(QWidget *parent)
     m_btnBrowse->setObjectName(QStringLiteral("btnBrowse"));
     m_btnBrowse->setLook(QStringLiteral("folder"), QString(), platform::text("ROW_SHOW_FILE"));
     m_btnBrowse->setFixedSize(28, 28);
+    // Durations stand under each other, whether or not there is a file to show.
+    QSizePolicy policy = m_btnBrowse->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_btnBrowse->setSizePolicy(policy);
 
-    auto *layout = new QGridLayout(this);
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    texts->addWidget(m_subject);
+    texts->addWidget(m_notes);
+    auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 10, 12, 10);
-    layout->setHorizontalSpacing(12);
-    layout->setVerticalSpacing(2);
-    layout->addWidget(m_subject, 0, 0);
-    layout->addWidget(m_notes, 1, 0);
-    layout->addWidget(m_duration, 0, 1, 2, 1, Qt::AlignVCenter);
-    layout->addWidget(m_btnBrowse, 0, 2, 2, 1, Qt::AlignVCenter);
-    layout->setColumnStretch(0, 1);
+    layout->setSpacing(12);
+    layout->addLayout(texts, 1);
+    layout->addWidget(m_duration);
+    layout->addWidget(m_btnBrowse);
     // A long subject is cut at the row's edge instead of widening the row.
     m_subject->setMinimumWidth(1);
     m_notes->setMinimumWidth(1);
@@ -72,6 +77,8 @@ QLabel *CustomTableCellView::makeLabel(const char *name, double size, const QCol
     // Notes are the student's own words, never markup.
     label->setTextFormat(Qt::PlainText);
     label->setFont(platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), size));
+    // The table's rows lie on its base colour and would take the colour of its text.
+    label->setForegroundRole(QPalette::WindowText);
     QPalette colours = label->palette();
     colours.setColor(QPalette::WindowText, colour);
     label->setPalette(colours);
@@ -85,6 +92,7 @@ void CustomTableCellView::setObjectValue(const Lecture &lecture)
     m_subject->setText(subject);
     m_subject->setToolTip(subject.toHtmlEscaped());
     m_notes->setText(lecture ? beginningOf(lecture->strNotes()) : QString());
+    m_notes->setHidden(m_notes->text().isEmpty());
     m_duration->setText(lecture ? lecture->strRecordingDuration() : QString());
     m_btnBrowse->setVisible(lecture && !lecture->getLectureAudioPath().isEmpty());
     setAccessibleName(subject + QStringLiteral(", ") + m_duration->text());

@@ -53,6 +53,13 @@ void fill(QWidget &view, const QColor &colour)
     view.setAutoFillBackground(true);
 }
 
+// Room between the edge and what is typed.
+void giveMargins(QLineEdit &field, QTextEdit &notes)
+{
+    field.setTextMargins(6, 0, 6, 0);
+    notes.document()->setDocumentMargin(8);
+}
+
 // A hidden control keeps its room, so that nothing moves when it comes back.
 void keepRoom(QWidget &view)
 {
@@ -131,6 +138,7 @@ void LectureWindows::buildLectureView()
     m_lectureView = {ui.tSubjectName,       ui.tViewNoteForEdit,  ui.lblNotesForView,
                      ui.tEditTime,          ui.tEditDate,         ui.btnSlidetoView,
                      ui.btnSlideToListView, ui.btnDoneEditLecture};
+    giveMargins(*ui.tSubjectName, *ui.tViewNoteForEdit);
     for (QLabel *label : {ui.lblNotesForView, ui.tEditTime, ui.tEditDate})
         style(*label, 13, Faint);
 }
@@ -170,6 +178,7 @@ void LectureWindows::buildNewLectureWindow()
         style(*label, 13, Faint);
     style(*ui.lblRecordingDuration, 24, Ink);
     ui.txtSubjectForNewNote->setFont(platform::fontNamed(Face, 16));
+    giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
     fill(*ui.recordingPanel, QColor(247, 247, 249));
     ui.imgLevelIndicatorBG->setPixmap(
         imageNamed(QStringLiteral("levelBackground")).icon().pixmap(64, 64));
@@ -196,6 +205,7 @@ void LectureWindows::buildEditLectureWindow()
     setLightPalette(*m_windowEditLecture);
     Ui::EditLectureWindow ui;
     ui.setupUi(m_windowEditLecture.get());
+    giveMargins(*ui.txtSubjectForEdit, *ui.txtViewNotesForEdit);
     m_editLecture = {m_windowEditLecture.get(), ui.txtSubjectForEdit, ui.txtViewNotesForEdit,
                      ui.textEditTime,           ui.textEditDate,      ui.btnDoneEdit};
     for (QLabel *label : {ui.textEditTime, ui.textEditDate})

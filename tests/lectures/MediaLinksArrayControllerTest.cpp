@@ -27,15 +27,12 @@ private Q_SLOTS:
 
     void startingOpensNoDatabaseAndShowsNoList()
     {
-        aLecture().insertInto(m_program->database);
-        LectureProgram program;
+        m_program->start();
 
-        program.start();
-
-        QVERIFY(!program.database.connection());
-        QVERIFY(!QFileInfo::exists(program.places.databaseFile()));
-        QCOMPARE(program.controller.numberOfRowsInTableView(), 0);
-        QVERIFY(!program.controller.dateOfButtonClicked().isValid());
+        QVERIFY(!m_program->database.connection());
+        QVERIFY(!QFileInfo::exists(m_program->places.databaseFile()));
+        QCOMPARE(controller().numberOfRowsInTableView(), 0);
+        QVERIFY(!controller().dateOfButtonClicked().isValid());
     }
 
     void startingAgainDoesNothing()
