@@ -15,6 +15,9 @@ def _state(thing, state):
 
 
 def _children(thing):
+    """Of nothing there are none: a window may go while it is looked into."""
+    if thing is None:
+        return []
     return [child for child in map(thing.get_child_at_index, range(thing.get_child_count())) if child]
 
 
