@@ -30,13 +30,21 @@ def unrolled(listing):
     return re.sub(r"\bforeach\((\w+)\s+([^()]*)\)(.*?)\bendforeach\(\)", repeat, listing, flags=re.DOTALL)
 
 
+def by_function(listing):
+    """What the calls of the listing's own functions name, where such a function adds the ending: f(${name}.cpp)."""
+    functions = re.findall(r"\bfunction\((\w+)\s+(\w+)[^()]*\)(.*?)\bendfunction\(\)", listing, flags=re.DOTALL)
+    return "".join(f" {name}.cpp" for function, parameter, text in functions if "${%s}.cpp" % parameter in text
+                   for name in re.findall(rf"\b{function}\(\s*(\w+)", listing) if name != parameter)
+
+
 def is_listed(tree, path):
     """Whether the list of the file's folder, or of one above it, names the file."""
     folder = os.path.dirname(path)
     while folder:
         listing = os.path.join(folder, "CMakeLists.txt")
         name = re.escape(os.path.relpath(path, folder))
-        if tree.has(listing) and re.search(rf"(?<![\w./-]){name}(?![\w.-])", unrolled(tree.text(listing))):
+        text = unrolled(tree.text(listing)) if tree.has(listing) else ""
+        if re.search(rf"(?<![\w./-]){name}(?![\w.-])", text + by_function(text)):
             return True
         folder = os.path.dirname(folder)
     return False
@@ -79,6 +87,11 @@ class ConductTest(RuleTest):
         files = {"tests/CMakeLists.txt": "foreach(name A B)\n  add(${name}Test.cpp)\nendforeach()", "tests/BTest.cpp": ""}
         self.assertAccepts(sources_are_listed, files)
         self.assertComplains(sources_are_listed, files | {"tests/CTest.cpp": ""}, "CTest.cpp")
+
+    def test_a_source_that_a_function_names_is_listed(self):
+        function = "function(sound name)\n  add(${name} SOURCES ${name}.cpp)\nendfunction()\nsound(ATest)\nother(BTest)\n"
+        files = {"tests/CMakeLists.txt": function, "tests/ATest.cpp": "", "tests/BTest.cpp": ""}
+        self.assertComplains(sources_are_listed, files, "BTest.cpp")
 
     def test_a_forgotten_source_is_found(self):
         files = {"src/store/CMakeLists.txt": "SOURCES LectureA.cpp", "src/store/A.cpp": "", "src/store/LectureA.cpp": ""}
