@@ -35,6 +35,12 @@ function(tarvelo_library name)
     target_link_libraries(tarvelo_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK} tarvelo_options)
 endfunction()
 
+# A test that starts another program forks while other threads run, which the sanitizer would refuse.
+if(TARVELO_SANITIZE STREQUAL "thread")
+    set(TARVELO_TEST_ENVIRONMENT
+        "TSAN_OPTIONS=die_after_fork=0:suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+endif()
+
 # One test program a production class:
 # tarvelo_test(SqliteTest SOURCES SqliteTest.cpp LINK tarvelo_store [TIMEOUT seconds] [LABELS x] [ENVIRONMENT a=b]).
 function(tarvelo_test name)
@@ -47,7 +53,7 @@ function(tarvelo_test name)
         set(ARG_TIMEOUT 120)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_ENABLE_HIGHDPI_SCALING=0;LC_ALL=C.UTF-8;TZ=UTC;${ARG_ENVIRONMENT}")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_ENABLE_HIGHDPI_SCALING=0;LC_ALL=C.UTF-8;TZ=UTC;${TARVELO_TEST_ENVIRONMENT};${ARG_ENVIRONMENT}")
     if(ARG_SERIAL)
         set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE)
     endif()

@@ -48,8 +48,21 @@ bool PulseCapture::startLoop()
 bool PulseCapture::waitUntilOpen(std::chrono::milliseconds patience)
 {
     std::unique_lock lock(m_mutex);
-    m_settled.wait_for(lock, patience, [this] { return m_outcome != Outcome::Pending; });
+    int answers = -1;
+    while (m_outcome == Outcome::Pending && m_answers != answers) {
+        answers = m_answers;
+        m_heard.wait_for(lock, patience, [this, answers] {
+            return m_outcome != Outcome::Pending || m_answers != answers;
+        });
+    }
     return m_outcome == Outcome::Opened;
+}
+
+void PulseCapture::answered()
+{
+    const std::lock_guard lock(m_mutex);
+    ++m_answers;
+    m_heard.notify_one();
 }
 
 void PulseCapture::settle(Outcome outcome)
@@ -57,7 +70,7 @@ void PulseCapture::settle(Outcome outcome)
     const std::lock_guard lock(m_mutex);
     if (m_outcome == Outcome::Pending)
         m_outcome = outcome;
-    m_settled.notify_one();
+    m_heard.notify_one();
 }
 
 void PulseCapture::resume(SoundSink &sink)
@@ -100,6 +113,7 @@ void PulseCapture::connectContext()
 void PulseCapture::contextChanged()
 {
     const pa_context_state_t state = pa_context_get_state(m_context.get());
+    answered();
     if (!PA_CONTEXT_IS_GOOD(state))
         lost();
     if (state != PA_CONTEXT_READY)
@@ -117,6 +131,7 @@ void PulseCapture::contextChanged()
 
 void PulseCapture::microphoneFound(const pa_source_info &microphone)
 {
+    answered();
     if (m_format.rate == 0)
         m_format = {static_cast<int>(microphone.sample_spec.rate),
                     std::min<int>(microphone.sample_spec.channels, 2)};

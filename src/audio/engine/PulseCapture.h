@@ -15,7 +15,9 @@ namespace tarvelo::engine {
 class PulseCapture final
 {
 public:
-    // Null when there is no server, no microphone, or no answer before the patience ends.
+    // Null when there is no server, no microphone, or no answer before the patience ends. Opening
+    // takes a handful of answers, and patience begins anew with each: a server that is slow but
+    // there must not cost a lecture.
     static std::unique_ptr<PulseCapture> open(std::chrono::milliseconds patience);
     PulseCapture(const PulseCapture &) = delete;
     PulseCapture &operator=(const PulseCapture &) = delete;
@@ -36,6 +38,7 @@ private:
     PulseCapture() = default;
     bool startLoop();
     bool waitUntilOpen(std::chrono::milliseconds patience);
+    void answered();
     void settle(Outcome outcome);
 
     // All below run with the loop's lock held.
@@ -56,8 +59,9 @@ private:
     SoundSink *m_sink = nullptr; // none while paused
 
     std::mutex m_mutex;
-    std::condition_variable m_settled;
+    std::condition_variable m_heard;
     Outcome m_outcome = Outcome::Pending;
+    int m_answers = 0;
 };
 
 } // namespace tarvelo::engine

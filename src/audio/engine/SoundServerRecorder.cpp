@@ -6,8 +6,8 @@ namespace tarvelo::engine {
 
 namespace {
 
-// A server that is there answers within a few milliseconds; the main thread waits no longer than
-// this for one that hangs.
+// A server that is there answers within a few milliseconds; this is how long the main thread waits
+// for one that hangs.
 constexpr std::chrono::milliseconds Patience{1000};
 
 } // namespace

@@ -31,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(speak(played));
 
         const double recorded = recordAndKillAt(moment);
-        QVERIFY(recorded >= moment);
+        QVERIFY2(recorded >= moment, qPrintable(QString::number(recorded)));
 
         const auto left = DecodedAudio::read(path());
         QVERIFY(left);
@@ -53,7 +53,8 @@ private:
                 time = program.readLine().trimmed().toDouble();
         program.kill();
         program.waitForFinished(Patience);
-        return program.readAllStandardError().isEmpty() ? time : -1;
+        const QByteArray said = program.readAllStandardError();
+        return said.isEmpty() ? time : (qInfo("%s", said.constData()), -1);
     }
 
     quint32 m_seed = 0;
