@@ -49,7 +49,7 @@ QList<Entry> entries()
 
 } // namespace
 
-AppMenus::AppMenus(QWidget &mainWindow, std::function<void(Command)> run)
+AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run)
 {
     m_mainMenu.setObjectName(QStringLiteral("mainMenu"));
     m_statusMenu.setObjectName(QStringLiteral("statusMenu"));

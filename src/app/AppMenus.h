@@ -35,7 +35,7 @@ class AppMenus final : public QObject
 public:
     // `run` hears of every command that is chosen. Shortcuts work in `mainWindow`, and those that
     // are not for one window only in the other windows too, while it is on the screen.
-    AppMenus(QWidget &mainWindow, std::function<void(Command)> run);
+    AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run);
 
     QMenu &mainMenu() { return m_mainMenu; }
     QMenu &statusMenu() { return m_statusMenu; }

@@ -13,7 +13,7 @@ class QCheckBox;
 class QDialog;
 class QLabel;
 
-namespace Ui {
+namespace Ui { // NOLINT(readability-identifier-naming): the name that the layouts are given
 class Preferences;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QTimer>
 #include <QWidget>
 
 #include <xcb/xcb.h>
@@ -45,7 +46,7 @@ bool TaskbarEntry::eventFilter(QObject *watched, QEvent *event)
     // The window manager forgets what it was told when a window goes, so that it is told at every
     // show: after the event, when the window has been asked to come.
     if (event->type() == QEvent::Show && !m_wanted)
-        QMetaObject::invokeMethod(this, &TaskbarEntry::tellWindowManager, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, &TaskbarEntry::tellWindowManager);
     return QObject::eventFilter(watched, event);
 }
 

@@ -26,7 +26,8 @@ bool askFrom(const QString &folder, bool &answered)
         wasFirst = instance.isFirst();
         answered = instance.askFirstToReopen(30s);
     }));
-    QObject::connect(second.get(), &QThread::finished, qApp, [&] { ended = true; });
+    QObject::connect(second.get(), &QThread::finished, QCoreApplication::instance(),
+                     [&] { ended = true; });
     second->start();
     const bool inTime = QTest::qWaitFor([&] { return ended; }, 60000);
     second->wait();
