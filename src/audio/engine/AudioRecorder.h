@@ -50,13 +50,14 @@ public:
 };
 
 // The keys of a recorder's settings.
-namespace RecorderSetting {
-inline constexpr QLatin1StringView SampleRate{"AVSampleRateKey"};             // float, hertz
-inline constexpr QLatin1StringView NumberOfChannels{"AVNumberOfChannelsKey"}; // int
-inline constexpr QLatin1StringView EncoderBitRate{"AVEncoderBitRateKey"}; // int, bits per second
-inline constexpr QLatin1StringView Format{"AVFormatIDKey"}; // int, four-character code
-inline constexpr QLatin1StringView EncoderQuality{"AVEncoderAudioQualityKey"}; // int
-} // namespace RecorderSetting
+struct RecorderSetting
+{
+    static constexpr QLatin1StringView SampleRate{"AVSampleRateKey"};             // float, hertz
+    static constexpr QLatin1StringView NumberOfChannels{"AVNumberOfChannelsKey"}; // int
+    static constexpr QLatin1StringView EncoderBitRate{"AVEncoderBitRateKey"}; // int, bits a second
+    static constexpr QLatin1StringView Format{"AVFormatIDKey"}; // int, four-character code
+    static constexpr QLatin1StringView EncoderQuality{"AVEncoderAudioQualityKey"}; // int
+};
 
 // Makes recorders. The one production implementation records from the sound server; a test that is
 // not about sound brings its own.

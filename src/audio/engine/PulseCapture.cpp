@@ -38,11 +38,10 @@ PulseCapture::~PulseCapture()
 bool PulseCapture::startLoop()
 {
     m_loop.reset(pa_threaded_mainloop_new());
-    if (!m_loop || pa_threaded_mainloop_start(m_loop.get()) < 0)
+    if (!m_loop)
         return false;
-    const PulseLock lock(m_loop.get());
-    connectContext();
-    return true;
+    connectContext(); // nobody else is there yet
+    return pa_threaded_mainloop_start(m_loop.get()) >= 0;
 }
 
 bool PulseCapture::waitUntilOpen(std::chrono::milliseconds patience)

@@ -68,18 +68,18 @@ bool Resampler::finish()
 
 bool Resampler::convert(const float *samples, int frames)
 {
-    const int before = available();
+    const std::size_t before = m_planes.front().size();
     const int room = std::max(0, swr_get_out_samples(m_resampler.get(), frames));
     std::array<std::uint8_t *, 2> out{};
     for (std::size_t channel = 0; channel < m_planes.size(); ++channel) {
-        m_planes[channel].resize(static_cast<std::size_t>(before + room));
+        m_planes[channel].resize(before + static_cast<std::size_t>(room));
         out[channel] = reinterpret_cast<std::uint8_t *>(m_planes[channel].data() + before);
     }
     auto in = reinterpret_cast<const std::uint8_t *>(samples);
     const int made =
         swr_convert(m_resampler.get(), out.data(), room, samples ? &in : nullptr, frames);
     for (auto &plane : m_planes)
-        plane.resize(static_cast<std::size_t>(before + std::max(0, made)));
+        plane.resize(before + static_cast<std::size_t>(std::max(0, made)));
     return made >= 0;
 }
 

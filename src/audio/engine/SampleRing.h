@@ -26,8 +26,8 @@ public:
 private:
     std::vector<float> m_samples;
     // Counts of all samples that ever went in and out.
-    alignas(64) std::atomic<std::size_t> m_written = 0;
-    alignas(64) std::atomic<std::size_t> m_read = 0;
+    std::atomic<std::size_t> m_written = 0;
+    std::atomic<std::size_t> m_read = 0;
 };
 
 } // namespace tarvelo::engine

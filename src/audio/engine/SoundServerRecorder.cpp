@@ -15,8 +15,12 @@ constexpr std::chrono::milliseconds Patience{1000};
 SoundServerRecorder::SoundServerRecorder(std::string path, const RecorderSettings &settings)
     : m_path(std::move(path))
     , m_settings(settings)
-    , m_self(std::make_shared<SoundServerRecorder *>(this))
 {
+    m_tellDelegate.setSingleShot(true);
+    QObject::connect(&m_tellDelegate, &QTimer::timeout, &m_tellDelegate, [this] {
+        if (m_delegate)
+            m_delegate->audioRecorderDidFinishRecordingSuccessfully(this, m_isComplete);
+    });
 }
 
 SoundServerRecorder::~SoundServerRecorder()
@@ -65,28 +69,16 @@ void SoundServerRecorder::stop()
         return;
     m_capture->pause();
     m_capture.reset();
-    const bool successfully = m_take->finish();
+    m_isComplete = m_take->finish();
     m_lastTime = m_take->seconds();
     m_take.reset();
-    tellDelegateLater(successfully);
+    if (QCoreApplication::instance())
+        m_tellDelegate.start(0);
 }
 
 double SoundServerRecorder::currentTime() const
 {
     return m_take ? m_take->seconds() : m_lastTime;
-}
-
-void SoundServerRecorder::tellDelegateLater(bool successfully)
-{
-    if (!QCoreApplication::instance())
-        return;
-    const auto tell = [self = std::weak_ptr(m_self), successfully] {
-        const auto recorder = self.lock();
-        if (recorder && (*recorder)->m_delegate)
-            (*recorder)->m_delegate->audioRecorderDidFinishRecordingSuccessfully(*recorder,
-                                                                                 successfully);
-    };
-    QMetaObject::invokeMethod(QCoreApplication::instance(), tell, Qt::QueuedConnection);
 }
 
 } // namespace tarvelo::engine

@@ -5,6 +5,8 @@
 #include "audio/engine/RecorderSettings.h"
 #include "audio/engine/Take.h"
 
+#include <QTimer>
+
 namespace tarvelo::engine {
 
 // A recorder over the session's sound server. Connects when it is prepared, lets go when it is
@@ -26,15 +28,14 @@ public:
     void updateMeters() override {}
 
 private:
-    void tellDelegateLater(bool successfully);
-
     std::string m_path;
     RecorderSettings m_settings;
     AudioRecorderDelegate *m_delegate = nullptr;
     double m_lastTime = 0; // of the take before
     std::unique_ptr<Take> m_take;
     std::unique_ptr<PulseCapture> m_capture; // gone before the take that it fills
-    std::shared_ptr<SoundServerRecorder *> m_self;
+    bool m_isComplete = false;
+    QTimer m_tellDelegate;
 };
 
 } // namespace tarvelo::engine
