@@ -23,6 +23,7 @@ OWNERS = [
     (re.compile(r"^.unicode/"), "ICU", "src/platform"),
     (re.compile(r"^.(QtDBus|QDBus)"), "D-Bus", "src/platform"),
     (re.compile(r"^.sqlite3"), "SQLite", "src/store"),
+    (re.compile(r"^.xcb/"), "the X11 client", "src/app"),
 ]
 GENERATED = re.compile(r'^"(ui_\w+\.h|\w+\.moc|moc_\w+\.cpp)$')
 
@@ -103,7 +104,7 @@ class FloorsTest(RuleTest):
 
     def test_a_library_in_a_strange_folder_is_found(self):
         for header in ("libavcodec/avcodec.h", "libswresample/swresample.h", "pulse/pulseaudio.h", "unicode/ucal.h",
-                       "QDBusConnection", "QtDBus/QDBusMessage", "sqlite3.h", "rubberband/RubberBandStretcher.h"):
+                       "QDBusConnection", "QtDBus/QDBusMessage", "sqlite3.h", "xcb/xcb.h", "rubberband/RubberBandStretcher.h"):
             files = {"src/audio/A.cpp": f"#include <{header}>\n"}
             self.assertComplains(libraries_have_one_folder, files, header)
 
