@@ -6,6 +6,8 @@
 
 #include <QLabel>
 
+#include <compare>
+
 namespace tarvelo::calendar {
 
 using platform::setFrame;
@@ -61,8 +63,8 @@ void CKCalendarView::layoutNavigation(double height)
 void CKCalendarView::layoutCurrentMonthButtons()
 {
     const auto order = m_days.comparedWithCurrentMonth();
-    m_proceedToCurrentMonthButton->setVisible(order < 0);
-    m_backToCurrentMonthButton->setVisible(order > 0);
+    m_proceedToCurrentMonthButton->setVisible(std::is_lt(order));
+    m_backToCurrentMonthButton->setVisible(std::is_gt(order));
 }
 
 void CKCalendarView::layoutWeekdayLetters()

@@ -13,7 +13,7 @@ namespace {
 QByteArray localeOfEnvironment()
 {
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
-        const QByteArray value = qgetenv(variable);
+        QByteArray value = qgetenv(variable);
         if (!value.isEmpty())
             return value;
     }
