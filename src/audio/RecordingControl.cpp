@@ -66,7 +66,7 @@ RecordingControl::RecordingControl(engine::AudioEngine &engine, const AudioFileL
 
 QVariantMap RecordingControl::audioRecordingSettings()
 {
-    namespace Setting = engine::RecorderSetting;
+    using Setting = engine::RecorderSetting;
     return {{Setting::SampleRate, 44100.0F},
             {Setting::NumberOfChannels, 2},
             {Setting::EncoderBitRate, 80000},
