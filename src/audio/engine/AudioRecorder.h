@@ -59,8 +59,8 @@ struct RecorderSetting
     static constexpr QLatin1StringView EncoderQuality{"AVEncoderAudioQualityKey"}; // int
 };
 
-// Makes recorders. The one production implementation records from the sound server; a test that is
-// not about sound brings its own.
+// Makes recorders and players. The one production implementation is over the sound server; a test
+// that is not about sound brings its own.
 class AudioEngine
 {
 public:
@@ -74,7 +74,7 @@ public:
     virtual std::unique_ptr<AudioRecorder> makeRecorder(const QString &path,
                                                         const QVariantMap &settings) = 0;
     // A player of the file whose bytes these are. Null when they are no audio that can be played.
-    virtual std::unique_ptr<AudioPlayer> makePlayer(const QByteArray &) { return nullptr; }
+    virtual std::unique_ptr<AudioPlayer> makePlayer(const QByteArray &bytes) = 0;
 };
 
 // The engine over the sound server of the session (PulseAudio's protocol, which PipeWire serves

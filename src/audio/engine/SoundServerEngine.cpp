@@ -1,4 +1,5 @@
 #include "audio/engine/RecorderSettings.h"
+#include "audio/engine/SoundServerPlayer.h"
 #include "audio/engine/SoundServerRecorder.h"
 
 #include <QFile>
@@ -18,6 +19,11 @@ public:
             return nullptr;
         return std::make_unique<SoundServerRecorder>(QFile::encodeName(path).toStdString(),
                                                      *wanted);
+    }
+
+    std::unique_ptr<AudioPlayer> makePlayer(const QByteArray &bytes) override
+    {
+        return SoundServerPlayer::create(bytes);
     }
 };
 

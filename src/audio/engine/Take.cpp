@@ -1,7 +1,8 @@
 #include "audio/engine/Take.h"
 
+#include "audio/engine/SignalMask.h"
+
 #include <algorithm>
-#include <csignal>
 #include <system_error>
 #include <unistd.h>
 
@@ -12,24 +13,6 @@ namespace {
 // Long enough to sleep well, short enough that a killed program loses little.
 constexpr std::chrono::milliseconds WriteInterval{50};
 constexpr std::size_t SamplesInBlock = 8192;
-
-// Signals are for the main thread: a thread begins with the mask of the one that starts it.
-class AllSignalsBlocked final
-{
-public:
-    AllSignalsBlocked()
-    {
-        sigset_t all;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &m_before);
-    }
-    AllSignalsBlocked(const AllSignalsBlocked &) = delete;
-    AllSignalsBlocked &operator=(const AllSignalsBlocked &) = delete;
-    ~AllSignalsBlocked() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
-
-private:
-    sigset_t m_before{};
-};
 
 std::size_t ringSize(const PcmFormat &input)
 {

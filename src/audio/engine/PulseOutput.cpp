@@ -1,0 +1,273 @@
+#include "audio/engine/PulseOutput.h"
+
+#include <algorithm>
+
+namespace tarvelo::engine {
+
+namespace {
+
+// So much sound waits in the server: enough for a machine that has other things to do, little
+// enough for a change of speed to be heard at once.
+constexpr pa_usec_t BufferLength = 250 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t StartLength = 100 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t RetryInterval = PA_USEC_PER_SEC;
+
+constexpr std::size_t BlockFrames = 2048;
+
+pa_sample_spec specFor(const PcmFormat &format)
+{
+    return {PA_SAMPLE_FLOAT32NE, static_cast<std::uint32_t>(format.rate),
+            static_cast<std::uint8_t>(format.channels)};
+}
+
+} // namespace
+
+PulseOutput::PulseOutput(std::function<void()> tellOfEnd)
+    : m_tellOfEnd(std::move(tellOfEnd))
+{
+}
+
+PulseOutput::~PulseOutput()
+{
+    if (!m_loop)
+        return;
+    {
+        const PulseLock lock(m_loop.get());
+        m_supply = nullptr;
+        freeRetry();
+        m_stream.reset();
+        m_context.reset();
+    }
+    pa_threaded_mainloop_stop(m_loop.get());
+}
+
+bool PulseOutput::prepare()
+{
+    if (m_loop)
+        return true;
+    m_loop.reset(pa_threaded_mainloop_new());
+    if (!m_loop || pa_threaded_mainloop_start(m_loop.get()) < 0) {
+        m_loop.reset();
+        return false;
+    }
+    const PulseLock lock(m_loop.get());
+    connectContext();
+    return true;
+}
+
+void PulseOutput::start(SoundSupply &supply)
+{
+    const PulseLock lock(m_loop.get());
+    m_supply = &supply;
+    m_isPaused = false;
+    if (isContextReady())
+        openStream();
+    else if (m_retry) // nobody waits for the next second when the user asks now
+        connectContext();
+}
+
+void PulseOutput::stop()
+{
+    if (!m_loop)
+        return;
+    const PulseLock lock(m_loop.get());
+    m_supply = nullptr;
+    m_stream.reset();
+}
+
+void PulseOutput::pause()
+{
+    const PulseLock lock(m_loop.get());
+    m_isPaused = true;
+    if (isStreamReady())
+        forget(pa_stream_cork(m_stream.get(), 1, nullptr, nullptr));
+}
+
+void PulseOutput::resume()
+{
+    const PulseLock lock(m_loop.get());
+    m_isPaused = false;
+    if (isStreamReady()) {
+        forget(pa_stream_cork(m_stream.get(), 0, nullptr, nullptr));
+        fill();
+    } else if (m_retry) {
+        connectContext();
+    }
+}
+
+double PulseOutput::seconds()
+{
+    if (!m_loop)
+        return 0;
+    const PulseLock lock(m_loop.get());
+    return m_supply ? m_supply->secondsAt(heardFrames()) : 0;
+}
+
+void PulseOutput::moreIsThere()
+{
+    const PulseLock lock(m_loop.get());
+    fill();
+}
+
+void PulseOutput::connectContext()
+{
+    freeRetry();
+    m_stream.reset();
+    m_context.reset(pa_context_new(pa_threaded_mainloop_get_api(m_loop.get()), "Tarvelo"));
+    if (!m_context)
+        return;
+    pa_context_set_state_callback(
+        m_context.get(),
+        [](pa_context *, void *self) { static_cast<PulseOutput *>(self)->contextChanged(); }, this);
+    if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
+        retryLater();
+}
+
+void PulseOutput::contextChanged()
+{
+    const pa_context_state_t state = pa_context_get_state(m_context.get());
+    if (!PA_CONTEXT_IS_GOOD(state))
+        lost();
+    else if (state == PA_CONTEXT_READY && m_supply)
+        openStream();
+}
+
+void PulseOutput::openStream()
+{
+    m_lastHeard = 0;
+    m_framesWritten = 0;
+    m_isDraining = false;
+    const pa_sample_spec spec = specFor(m_supply->format());
+    m_stream.reset(pa_stream_new(m_context.get(), "Lecture", &spec, nullptr));
+    if (!m_stream) {
+        retryLater();
+        return;
+    }
+    pa_stream_set_state_callback(
+        m_stream.get(),
+        [](pa_stream *, void *self) { static_cast<PulseOutput *>(self)->streamChanged(); }, this);
+    pa_stream_set_write_callback(
+        m_stream.get(),
+        [](pa_stream *, std::size_t, void *self) { static_cast<PulseOutput *>(self)->fill(); },
+        this);
+    constexpr auto Any = static_cast<std::uint32_t>(-1);
+    const auto length = static_cast<std::uint32_t>(pa_usec_to_bytes(BufferLength, &spec));
+    const auto start = static_cast<std::uint32_t>(pa_usec_to_bytes(StartLength, &spec));
+    const pa_buffer_attr buffer{Any, length, start, Any, Any};
+    const int flags = PA_STREAM_ADJUST_LATENCY | PA_STREAM_INTERPOLATE_TIMING |
+                      PA_STREAM_AUTO_TIMING_UPDATE | (m_isPaused ? PA_STREAM_START_CORKED : 0);
+    if (pa_stream_connect_playback(m_stream.get(), nullptr, &buffer,
+                                   static_cast<pa_stream_flags_t>(flags), nullptr, nullptr) < 0)
+        lost();
+}
+
+void PulseOutput::streamChanged()
+{
+    const pa_stream_state_t state = pa_stream_get_state(m_stream.get());
+    if (state == PA_STREAM_READY) {
+        forget(pa_stream_cork(m_stream.get(), m_isPaused ? 1 : 0, nullptr, nullptr));
+        fill();
+    } else if (!PA_STREAM_IS_GOOD(state)) {
+        lost();
+    }
+}
+
+// Runs inside callbacks of the very handles that are lost: they go when the retry makes new ones.
+void PulseOutput::lost()
+{
+    if (m_supply)
+        m_supply->restartAt(m_lastHeard);
+    m_lastHeard = 0;
+    m_framesWritten = 0;
+    retryLater();
+}
+
+void PulseOutput::retryLater()
+{
+    if (m_retry)
+        return;
+    m_retry = pa_context_rttime_new(
+        m_context.get(), pa_rtclock_now() + RetryInterval,
+        [](pa_mainloop_api *, pa_time_event *, const timeval *, void *self) {
+            static_cast<PulseOutput *>(self)->connectContext();
+        },
+        this);
+}
+
+void PulseOutput::freeRetry()
+{
+    if (m_retry)
+        pa_threaded_mainloop_get_api(m_loop.get())->time_free(m_retry);
+    m_retry = nullptr;
+}
+
+void PulseOutput::fill()
+{
+    if (!m_supply || !isStreamReady() || m_retry)
+        return;
+    heardFrames();
+    const auto channels = static_cast<std::size_t>(m_supply->format().channels);
+    m_block.resize(BlockFrames * channels);
+    for (;;) {
+        const std::size_t writable = pa_stream_writable_size(m_stream.get());
+        if (writable == static_cast<std::size_t>(-1))
+            return;
+        const std::size_t frames = std::min(BlockFrames, writable / (sizeof(float) * channels));
+        if (frames == 0)
+            return;
+        const std::size_t count = m_supply->take(std::span(m_block).first(frames * channels));
+        if (count > 0)
+            pa_stream_write(m_stream.get(), m_block.data(), count * channels * sizeof(float),
+                            nullptr, 0, PA_SEEK_RELATIVE);
+        m_framesWritten += static_cast<double>(count);
+        if (count < frames)
+            break;
+    }
+    drain();
+}
+
+void PulseOutput::drain()
+{
+    if (m_isDraining || m_isPaused || !m_supply->isAtEnd())
+        return;
+    m_isDraining = true;
+    forget(pa_stream_drain(
+        m_stream.get(),
+        [](pa_stream *, int success, void *self) {
+            auto output = static_cast<PulseOutput *>(self);
+            output->m_isDraining = false;
+            if (success)
+                output->drained();
+        },
+        this));
+}
+
+void PulseOutput::drained()
+{
+    if (m_supply && !m_isPaused && m_supply->isAtEnd())
+        m_tellOfEnd();
+    else
+        fill();
+}
+
+double PulseOutput::heardFrames()
+{
+    pa_usec_t time = 0;
+    if (isStreamReady() && !m_retry && pa_stream_get_time(m_stream.get(), &time) >= 0) {
+        const double frames = static_cast<double>(time) * m_supply->format().rate / 1e6;
+        m_lastHeard = std::clamp(frames, m_lastHeard, std::max(m_framesWritten, m_lastHeard));
+    }
+    return m_lastHeard;
+}
+
+bool PulseOutput::isContextReady() const
+{
+    return m_context && pa_context_get_state(m_context.get()) == PA_CONTEXT_READY;
+}
+
+bool PulseOutput::isStreamReady() const
+{
+    return m_stream && pa_stream_get_state(m_stream.get()) == PA_STREAM_READY;
+}
+
+} // namespace tarvelo::engine

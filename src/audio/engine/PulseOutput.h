@@ -1,0 +1,65 @@
+#pragma once
+
+#include "audio/engine/PulseHandles.h"
+#include "audio/engine/SoundSupply.h"
+
+#include <functional>
+#include <vector>
+
+namespace tarvelo::engine {
+
+// The default output of the session's sound server. Connects in the background, and again when the
+// server was away; what is to be played waits for that. For the main thread, none of whose calls
+// waits for the server.
+class PulseOutput final
+{
+public:
+    // `tellOfEnd` is called on the server's thread when the last frame of a supply has been heard.
+    explicit PulseOutput(std::function<void()> tellOfEnd);
+    PulseOutput(const PulseOutput &) = delete;
+    PulseOutput &operator=(const PulseOutput &) = delete;
+    ~PulseOutput();
+
+    // False when there can be no connection, ever.
+    bool prepare();
+    // Plays the supply, which begins at its frame 0, until stop() has returned.
+    void start(SoundSupply &supply);
+    void stop();
+    // Stops at once, without losing a frame, and goes on from there.
+    void pause();
+    void resume();
+    // The second of the sound that is heard now; 0 without a supply.
+    double seconds();
+    // For any thread: the supply has more than it had.
+    void moreIsThere();
+
+private:
+    // All below run with the loop's lock held.
+    void connectContext();
+    void contextChanged();
+    void openStream();
+    void streamChanged();
+    void lost();
+    void retryLater();
+    void freeRetry();
+    void fill();
+    void drain();
+    void drained();
+    double heardFrames();
+    bool isContextReady() const;
+    bool isStreamReady() const;
+
+    std::function<void()> m_tellOfEnd;
+    PulseLoopPointer m_loop;
+    PulseContextPointer m_context;
+    PulseStreamPointer m_stream;
+    pa_time_event *m_retry = nullptr;
+    SoundSupply *m_supply = nullptr;
+    std::vector<float> m_block;
+    double m_lastHeard = 0; // frames
+    double m_framesWritten = 0;
+    bool m_isPaused = false;
+    bool m_isDraining = false;
+};
+
+} // namespace tarvelo::engine

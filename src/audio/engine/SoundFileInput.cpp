@@ -1,0 +1,168 @@
+#include "audio/engine/SoundFileInput.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+
+namespace tarvelo::engine {
+
+namespace {
+
+constexpr int BufferSize = 64 * 1024;
+
+// Files of sound. Play lists and the like, which lead to other files, are not among them.
+constexpr const char *Formats = "mov,aac,mp3,wav,w64,flac,ogg,aiff,caf,au,ac3,amr";
+
+// A name and an empty list would both be asked of the file system or the net.
+int refuseToOpen(AVFormatContext *, AVIOContext **, const char *, int, AVDictionary **)
+{
+    return AVERROR(EPERM);
+}
+
+} // namespace
+
+std::unique_ptr<SoundFileInput> SoundFileInput::open(const QByteArray &bytes)
+{
+    keepFfmpegQuiet();
+    std::unique_ptr<SoundFileInput> input(new SoundFileInput(bytes));
+    return !bytes.isEmpty() && input->openDemuxer() ? std::move(input) : nullptr;
+}
+
+SoundFileInput::SoundFileInput(const QByteArray &bytes)
+    : m_bytes(bytes)
+{
+}
+
+SoundFileInput::~SoundFileInput()
+{
+    avformat_close_input(&m_demuxer);
+    if (m_io)
+        av_freep(&m_io->buffer);
+    avio_context_free(&m_io);
+}
+
+bool SoundFileInput::openDemuxer()
+{
+    m_io =
+        avio_alloc_context(static_cast<std::uint8_t *>(av_malloc(BufferSize)), BufferSize, 0, this,
+                           &SoundFileInput::readBytes, nullptr, &SoundFileInput::seekBytes);
+    const AVInputFormat *format = nullptr;
+    // What is taken for sound only because nothing else is more like it, is noise.
+    if (!m_io || av_probe_input_buffer2(m_io, &format, "", nullptr, 0, 0) <= AVPROBE_SCORE_RETRY)
+        return false;
+    m_demuxer = avformat_alloc_context();
+    if (!m_demuxer)
+        return false;
+    m_demuxer->pb = m_io;
+    m_demuxer->io_open = &refuseToOpen;
+    AVDictionary *options = nullptr;
+    av_dict_set(&options, "format_whitelist", Formats, 0);
+    const int result = avformat_open_input(&m_demuxer, "", format, &options);
+    av_dict_free(&options);
+    if (result < 0 || avformat_find_stream_info(m_demuxer, nullptr) < 0)
+        return false;
+    m_track = av_find_best_stream(m_demuxer, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
+    return m_track >= 0;
+}
+
+std::int64_t SoundFileInput::origin() const
+{
+    // Below zero lies the encoder's run-up, which is no part of the sound.
+    const std::int64_t start = track().start_time;
+    return start == AV_NOPTS_VALUE ? 0 : std::max<std::int64_t>(start, 0);
+}
+
+double SoundFileInput::seconds()
+{
+    const bool headerSays = !holdsFragments() && track().duration > 0 &&
+                            m_demuxer->duration_estimation_method != AVFMT_DURATION_FROM_BITRATE;
+    const std::int64_t end = headerSays ? endByHeader() : endByReading();
+    return std::max(0.0, static_cast<double>(end - origin()) * av_q2d(track().time_base));
+}
+
+std::int64_t SoundFileInput::endByReading()
+{
+    const PacketPointer packet(av_packet_alloc());
+    std::int64_t end = origin();
+    for (; packet && read(*packet); av_packet_unref(packet.get()))
+        if (packet->pts != AV_NOPTS_VALUE)
+            end = std::max(end, packet->pts + packet->duration);
+    seek(origin());
+    return end;
+}
+
+std::int64_t SoundFileInput::endByHeader() const
+{
+    AVStream *stream = m_demuxer->streams[m_track];
+    const std::int64_t end = origin() + stream->duration;
+    const auto isWhole = [this](const AVIndexEntry &entry) {
+        return entry.pos + entry.size <= m_bytes.size();
+    };
+    int count = avformat_index_get_entries_count(stream);
+    std::int64_t cut = end;
+    for (; count > 0; --count) {
+        const AVIndexEntry *entry = avformat_index_get_entry(stream, count - 1);
+        if (isWhole(*entry))
+            break;
+        cut = entry->timestamp;
+    }
+    return std::min(cut, end);
+}
+
+// Walks the boxes that a file of MPEG-4 is a row of. The header of one that grew while it was
+// recorded knows nothing of what came later.
+bool SoundFileInput::holdsFragments() const
+{
+    constexpr qsizetype HeaderSize = 8;
+    for (qsizetype at = 0; m_bytes.size() - at >= HeaderSize;) {
+        const char *box = m_bytes.constData() + at;
+        const qsizetype size = qFromBigEndian<quint32>(box);
+        if (std::memcmp(box + 4, "moof", 4) == 0)
+            return true;
+        if (size < HeaderSize)
+            return false;
+        at += size;
+    }
+    return false;
+}
+
+bool SoundFileInput::read(AVPacket &packet)
+{
+    while (!m_isCancelled && av_read_frame(m_demuxer, &packet) >= 0) {
+        if (packet.stream_index == m_track)
+            return true;
+        av_packet_unref(&packet);
+    }
+    return false;
+}
+
+bool SoundFileInput::seek(std::int64_t timestamp)
+{
+    return av_seek_frame(m_demuxer, m_track, timestamp, AVSEEK_FLAG_BACKWARD) >= 0;
+}
+
+int SoundFileInput::readBytes(void *self, std::uint8_t *bytes, int count)
+{
+    auto input = static_cast<SoundFileInput *>(self);
+    const std::int64_t left = input->m_bytes.size() - input->m_position;
+    const auto given = static_cast<int>(std::min<std::int64_t>(left, count));
+    if (given <= 0 || input->m_isCancelled)
+        return AVERROR_EOF;
+    std::memcpy(bytes, input->m_bytes.constData() + input->m_position,
+                static_cast<std::size_t>(given));
+    input->m_position += given;
+    return given;
+}
+
+std::int64_t SoundFileInput::seekBytes(void *self, std::int64_t offset, int whence)
+{
+    auto input = static_cast<SoundFileInput *>(self);
+    if (whence == AVSEEK_SIZE)
+        return input->m_bytes.size();
+    if (whence != SEEK_SET || offset < 0)
+        return AVERROR(EINVAL);
+    return input->m_position = std::min<std::int64_t>(offset, input->m_bytes.size());
+}
+
+} // namespace tarvelo::engine
