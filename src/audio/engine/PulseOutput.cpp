@@ -6,10 +6,13 @@ namespace tarvelo::engine {
 
 namespace {
 
-// So much sound waits in the server: enough for a machine that has other things to do, little
-// enough for a change of speed to be heard at once.
-constexpr pa_usec_t BufferLength = 250 * PA_USEC_PER_MSEC;
+// So much sound waits in the server: enough for a machine that has other things to do. It is
+// replaced there when the user wants to hear something else at once.
+constexpr pa_usec_t BufferLength = 2 * PA_USEC_PER_SEC;
 constexpr pa_usec_t StartLength = 100 * PA_USEC_PER_MSEC;
+// The speaker takes its sound out of that in portions of this length, which then stay as they are.
+constexpr pa_usec_t PortionLength = 50 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t SafetyLength = 30 * PA_USEC_PER_MSEC;
 constexpr pa_usec_t RetryInterval = PA_USEC_PER_SEC;
 
 constexpr std::size_t BlockFrames = 2048;
@@ -109,6 +112,17 @@ void PulseOutput::moreIsThere()
     fill();
 }
 
+std::int64_t PulseOutput::firstReplaceableFrame()
+{
+    const PulseLock lock(m_loop.get());
+    if (!m_supply || !isStreamReady() || m_retry)
+        return 0;
+    const pa_timing_info *timing = pa_stream_get_timing_info(m_stream.get());
+    const pa_usec_t taken = timing ? std::max(timing->configured_sink_usec, PortionLength) : 0;
+    const auto seconds = static_cast<double>(taken + SafetyLength) / 1e6;
+    return static_cast<std::int64_t>(heardFrames() + seconds * m_supply->format().rate);
+}
+
 void PulseOutput::connectContext()
 {
     freeRetry();
@@ -136,6 +150,8 @@ void PulseOutput::openStream()
 {
     m_lastHeard = 0;
     m_framesWritten = 0;
+    m_stepBack = 0;
+    m_framesToReplace = 0;
     m_isDraining = false;
     const pa_sample_spec spec = specFor(m_supply->format());
     m_stream.reset(pa_stream_new(m_context.get(), "Lecture", &spec, nullptr));
@@ -153,8 +169,9 @@ void PulseOutput::openStream()
     constexpr auto Any = static_cast<std::uint32_t>(-1);
     const auto length = static_cast<std::uint32_t>(pa_usec_to_bytes(BufferLength, &spec));
     const auto start = static_cast<std::uint32_t>(pa_usec_to_bytes(StartLength, &spec));
-    const pa_buffer_attr buffer{Any, length, start, Any, Any};
-    const int flags = PA_STREAM_ADJUST_LATENCY | PA_STREAM_INTERPOLATE_TIMING |
+    const auto portion = static_cast<std::uint32_t>(pa_usec_to_bytes(PortionLength, &spec));
+    const pa_buffer_attr buffer{Any, length, start, portion, Any};
+    const int flags = PA_STREAM_EARLY_REQUESTS | PA_STREAM_INTERPOLATE_TIMING |
                       PA_STREAM_AUTO_TIMING_UPDATE | (m_isPaused ? PA_STREAM_START_CORKED : 0);
     if (pa_stream_connect_playback(m_stream.get(), nullptr, &buffer,
                                    static_cast<pa_stream_flags_t>(flags), nullptr, nullptr) < 0)
@@ -212,24 +229,43 @@ void PulseOutput::fill()
         const std::size_t writable = pa_stream_writable_size(m_stream.get());
         if (writable == static_cast<std::size_t>(-1))
             return;
-        const std::size_t frames = std::min(BlockFrames, writable / (sizeof(float) * channels));
+        const std::int64_t back = m_supply->takeStepBack();
+        m_stepBack += back;
+        m_framesToReplace += back;
+        const std::size_t room = writable / (sizeof(float) * channels);
+        const std::size_t frames =
+            std::min(BlockFrames, room + static_cast<std::size_t>(m_stepBack));
         if (frames == 0)
             return;
         const std::size_t count = m_supply->take(std::span(m_block).first(frames * channels));
-        if (count > 0)
-            pa_stream_write(m_stream.get(), m_block.data(), count * channels * sizeof(float),
-                            nullptr, 0, PA_SEEK_RELATIVE);
-        m_framesWritten += static_cast<double>(count);
+        write(count);
         if (count < frames)
             break;
     }
     drain();
 }
 
+void PulseOutput::write(std::size_t frames)
+{
+    if (frames == 0)
+        return;
+    const std::size_t frameSize = m_block.size() / BlockFrames * sizeof(float);
+    const std::int64_t offset = -m_stepBack * static_cast<std::int64_t>(frameSize);
+    pa_stream_write(m_stream.get(), m_block.data(), frames * frameSize, nullptr, offset,
+                    PA_SEEK_RELATIVE);
+    const auto count = static_cast<std::int64_t>(frames);
+    m_framesWritten += count - m_stepBack;
+    m_framesToReplace = std::max<std::int64_t>(m_framesToReplace - count, 0);
+    m_stepBack = 0;
+}
+
 void PulseOutput::drain()
 {
     if (m_isDraining || m_isPaused || !m_supply->isAtEnd())
         return;
+    std::ranges::fill(m_block, 0.0F);
+    while (m_framesToReplace > 0)
+        write(std::min(BlockFrames, static_cast<std::size_t>(m_framesToReplace)));
     m_isDraining = true;
     forget(pa_stream_drain(
         m_stream.get(),
@@ -255,7 +291,8 @@ double PulseOutput::heardFrames()
     pa_usec_t time = 0;
     if (isStreamReady() && !m_retry && pa_stream_get_time(m_stream.get(), &time) >= 0) {
         const double frames = static_cast<double>(time) * m_supply->format().rate / 1e6;
-        m_lastHeard = std::clamp(frames, m_lastHeard, std::max(m_framesWritten, m_lastHeard));
+        const auto written = static_cast<double>(m_framesWritten);
+        m_lastHeard = std::clamp(frames, m_lastHeard, std::max(written, m_lastHeard));
     }
     return m_lastHeard;
 }

@@ -11,14 +11,14 @@ namespace tarvelo::engine {
 // The default output of the session's sound server. Connects in the background, and again when the
 // server was away; what is to be played waits for that. For the main thread, none of whose calls
 // waits for the server.
-class PulseOutput final
+class PulseOutput final : public SoundTaker
 {
 public:
     // `tellOfEnd` is called on the server's thread when the last frame of a supply has been heard.
     explicit PulseOutput(std::function<void()> tellOfEnd);
     PulseOutput(const PulseOutput &) = delete;
     PulseOutput &operator=(const PulseOutput &) = delete;
-    ~PulseOutput();
+    ~PulseOutput() override;
 
     // False when there can be no connection, ever.
     bool prepare();
@@ -30,8 +30,9 @@ public:
     void resume();
     // The second of the sound that is heard now; 0 without a supply.
     double seconds();
-    // For any thread: the supply has more than it had.
-    void moreIsThere();
+
+    void moreIsThere() override;
+    std::int64_t firstReplaceableFrame() override;
 
 private:
     // All below run with the loop's lock held.
@@ -43,6 +44,7 @@ private:
     void retryLater();
     void freeRetry();
     void fill();
+    void write(std::size_t frames);
     void drain();
     void drained();
     double heardFrames();
@@ -57,7 +59,9 @@ private:
     SoundSupply *m_supply = nullptr;
     std::vector<float> m_block;
     double m_lastHeard = 0; // frames
-    double m_framesWritten = 0;
+    std::int64_t m_framesWritten = 0;
+    std::int64_t m_stepBack = 0;        // the next frames begin so many before the last written
+    std::int64_t m_framesToReplace = 0; // that still wait in the server, and are not wanted
     bool m_isPaused = false;
     bool m_isDraining = false;
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <system_error>
+#include <utility>
 
 namespace tarvelo::engine {
 
@@ -12,8 +13,9 @@ namespace {
 
 constexpr std::size_t BlockFrames = 4096;
 
-// A change happens this far ahead of what has been taken, and further when that proves too near.
-constexpr double SpliceAhead = 0.1;
+// A change happens this far behind what can no longer be changed, since that moves on meanwhile;
+// and further when that proves too near.
+constexpr double SpliceAhead = 0.05;
 // Two sounds that do not fit are laid over each other for so long.
 constexpr double FadeSeconds = 0.01;
 
@@ -43,8 +45,10 @@ bool SoundAhead::start(double seconds, double rate)
     {
         const std::lock_guard lock(m_mutex);
         m_order = Order{true, seconds, rate};
-        m_ready.clear();
+        m_kept.clear();
+        m_keptFrom = 0;
         m_taken = 0;
+        m_stepBack = 0;
         m_stretches.assign(1, Stretch{0, seconds, rate, false});
         m_isComplete = false;
         m_isShort = false;
@@ -86,26 +90,40 @@ void SoundAhead::jump(double seconds)
     m_wake.notify_one();
 }
 
+std::int64_t SoundAhead::takeStepBack()
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_stepBack, 0);
+}
+
 std::size_t SoundAhead::take(std::span<float> interleaved)
 {
     std::size_t given = 0;
     {
         const std::lock_guard lock(m_mutex);
-        given = std::min(interleaved.size(), m_ready.size());
-        const auto last = m_ready.begin() + static_cast<std::ptrdiff_t>(given);
-        std::copy(m_ready.begin(), last, interleaved.begin());
-        m_ready.erase(m_ready.begin(), last);
+        const auto ready = m_kept.begin() + static_cast<std::ptrdiff_t>(offsetOf(m_taken));
+        given = std::min(interleaved.size(), m_kept.size() - offsetOf(m_taken));
+        std::copy_n(ready, given, interleaved.begin());
         m_taken += static_cast<std::int64_t>(given / channels());
         m_isShort = given < interleaved.size();
+        const auto oldest = std::max(m_keptFrom, m_taken - framesIn(SecondsBehind));
+        m_kept.erase(m_kept.begin(),
+                     m_kept.begin() + static_cast<std::ptrdiff_t>(offsetOf(oldest)));
+        m_keptFrom = oldest;
     }
     m_wake.notify_one();
     return given / channels();
 }
 
+std::size_t SoundAhead::offsetOf(std::int64_t frame) const
+{
+    return static_cast<std::size_t>(std::max<std::int64_t>(frame - m_keptFrom, 0)) * channels();
+}
+
 bool SoundAhead::isAtEnd() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_isComplete && m_ready.empty() && !m_order;
+    return m_isComplete && m_taken == end() && !m_order;
 }
 
 double SoundAhead::secondsAt(double frame) const
@@ -173,38 +191,51 @@ void SoundAhead::restart(Lock &lock)
 
 void SoundAhead::splice(Lock &lock)
 {
-    Order order = *m_order;
     for (double ahead = SpliceAhead;; ahead *= 2) {
-        const Stretch stretch = stretchFrom(std::min(end(), m_taken + framesIn(ahead)), order);
+        const Order order = *m_order;
+        lock.unlock();
+        const std::int64_t first = m_taker->firstReplaceableFrame();
+        lock.lock();
+        const std::int64_t place = std::clamp(first + framesIn(ahead), m_keptFrom, end());
+        const Stretch stretch = stretchFrom(place, order);
         lock.unlock();
         auto sound = soundFrom(stretch);
         m_block.resize(BlockFrames * channels());
         const std::size_t count = sound->read(m_block);
+        const bool isTooLate = m_taker->firstReplaceableFrame() > place;
         lock.lock();
         if (m_isLeaving || m_order->isRestart)
             return;
-        // Whoever plays has come past the place meanwhile, or the user has thought again.
-        if (m_taken > stretch.frame)
+        const bool isOldNews = m_order->rate != order.rate || m_order->seconds != order.seconds;
+        if (isOldNews || (isTooLate && place < end()))
             continue;
-        if (m_order->rate != order.rate || m_order->seconds != order.seconds) {
-            order = *m_order;
-            continue;
-        }
-        m_order.reset();
         m_sound = std::move(sound);
-        const auto made = std::span(m_block).first(count * channels());
-        fadeIn(stretch.frame, made);
-        cutAt(stretch.frame);
-        m_stretches.push_back(stretch);
-        m_isComplete = false;
-        append(made);
+        replaceFrom(stretch, std::span(m_block).first(count * channels()));
         break;
     }
-    if (std::exchange(m_isShort, false)) {
-        lock.unlock();
-        m_tellOfMore();
-        lock.lock();
-    }
+    tellTaker(lock);
+}
+
+void SoundAhead::replaceFrom(const Stretch &stretch, std::span<float> samples)
+{
+    m_order.reset();
+    fadeIn(stretch.frame, samples);
+    cutAt(stretch.frame);
+    m_stretches.push_back(stretch);
+    append(samples);
+    m_isComplete = false;
+    m_stepBack += std::max<std::int64_t>(m_taken - stretch.frame, 0);
+    m_taken = std::min(m_taken, stretch.frame);
+    m_isShort = true;
+}
+
+void SoundAhead::tellTaker(Lock &lock)
+{
+    if (!std::exchange(m_isShort, false))
+        return;
+    lock.unlock();
+    m_taker->moreIsThere();
+    lock.lock();
 }
 
 SoundAhead::Stretch SoundAhead::stretchFrom(std::int64_t frame, const Order &order) const
@@ -227,22 +258,18 @@ void SoundAhead::produce(Lock &lock)
         return;
     append(std::span(m_block).first(count * channels()));
     m_isComplete = count < BlockFrames;
-    if (std::exchange(m_isShort, false)) {
-        lock.unlock();
-        m_tellOfMore();
-        lock.lock();
-    }
+    tellTaker(lock);
 }
 
 void SoundAhead::append(std::span<const float> samples)
 {
-    m_ready.insert(m_ready.end(), samples.begin(), samples.end());
+    m_kept.insert(m_kept.end(), samples.begin(), samples.end());
 }
 
 // The sound that is ready goes while the new one comes.
 void SoundAhead::fadeIn(std::int64_t at, std::span<float> samples) const
 {
-    const auto offset = static_cast<std::size_t>(std::max<std::int64_t>(at - m_taken, 0));
+    const std::size_t offset = offsetOf(at) / channels();
     const std::size_t fade =
         std::min(static_cast<std::size_t>(framesIn(FadeSeconds)), samples.size() / channels());
     for (std::size_t frame = 0; frame < fade; ++frame) {
@@ -251,16 +278,15 @@ void SoundAhead::fadeIn(std::int64_t at, std::span<float> samples) const
             const std::size_t old = (offset + frame) * channels() + channel;
             float &sample = samples[frame * channels() + channel];
             sample *= share;
-            if (old < m_ready.size())
-                sample += m_ready[old] * (1 - share);
+            if (old < m_kept.size())
+                sample += m_kept[old] * (1 - share);
         }
     }
 }
 
 void SoundAhead::cutAt(std::int64_t frame)
 {
-    const auto left = static_cast<std::size_t>(std::max<std::int64_t>(frame - m_taken, 0));
-    m_ready.resize(std::min(m_ready.size(), left * channels()));
+    m_kept.resize(std::min(m_kept.size(), offsetOf(frame)));
     std::erase_if(m_stretches, [frame](const Stretch &it) { return it.frame >= frame; });
 }
 
@@ -271,7 +297,7 @@ bool SoundAhead::hasRoom() const
 
 std::int64_t SoundAhead::end() const
 {
-    return m_taken + static_cast<std::int64_t>(m_ready.size() / channels());
+    return m_keptFrom + static_cast<std::int64_t>(m_kept.size() / channels());
 }
 
 std::int64_t SoundAhead::framesIn(double seconds) const

@@ -5,7 +5,6 @@
 
 #include <condition_variable>
 #include <deque>
-#include <functional>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -19,6 +18,8 @@ class SoundAhead final : public SoundSupply
 {
 public:
     static constexpr int SecondsAhead = 3;
+    // Of what has been taken, so much may be wanted again.
+    static constexpr int SecondsBehind = 3;
 
     explicit SoundAhead(std::unique_ptr<DecodedSource> source);
     ~SoundAhead() override;
@@ -32,10 +33,11 @@ public:
     // without a gap.
     void changeRate(double rate);
     void jump(double seconds);
-    // Called, on the thread of this object, when there is sound for who got too little.
-    void whenThereIsMore(std::function<void()> tell) { m_tellOfMore = std::move(tell); }
+    // Who takes the sound, and outlives this object. To be set before it starts.
+    void setTaker(SoundTaker *taker) { m_taker = taker; }
 
     PcmFormat format() const override { return m_format; }
+    std::int64_t takeStepBack() override;
     std::size_t take(std::span<float> interleaved) override;
     bool isAtEnd() const override;
     double secondsAt(double frame) const override;
@@ -62,10 +64,13 @@ private:
     void workOnce(Lock &lock);
     void restart(Lock &lock);
     void splice(Lock &lock);
+    void replaceFrom(const Stretch &stretch, std::span<float> samples);
     void produce(Lock &lock);
     void append(std::span<const float> samples);
     void fadeIn(std::int64_t at, std::span<float> samples) const;
     void cutAt(std::int64_t frame);
+    void tellTaker(Lock &lock);
+    std::size_t offsetOf(std::int64_t frame) const;
     Stretch stretchFrom(std::int64_t frame, const Order &order) const;
     double soundAt(double frame) const;
     bool hasRoom() const;
@@ -79,13 +84,15 @@ private:
     std::vector<float> m_block;              // the thread's
     const PcmFormat m_format;
     const double m_seconds;
-    std::function<void()> m_tellOfMore;
+    SoundTaker *m_taker = nullptr;
 
     mutable std::mutex m_mutex;
     std::condition_variable m_wake;
     std::optional<Order> m_order;
-    std::deque<float> m_ready;
-    std::int64_t m_taken = 0; // the frame at the beginning of what is ready
+    std::deque<float> m_kept;    // what was taken last, and what is ready
+    std::int64_t m_keptFrom = 0; // its first frame
+    std::int64_t m_taken = 0;    // the first frame of what is ready
+    std::int64_t m_stepBack = 0;
     std::vector<Stretch> m_stretches{Stretch()};
     bool m_isComplete = false; // nothing comes behind what is ready
     bool m_isShort = false;    // somebody got too little

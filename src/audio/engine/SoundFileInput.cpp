@@ -26,12 +26,37 @@ std::unique_ptr<SoundFileInput> SoundFileInput::open(const QByteArray &bytes)
 {
     keepFfmpegQuiet();
     std::unique_ptr<SoundFileInput> input(new SoundFileInput(bytes));
-    return !bytes.isEmpty() && input->openDemuxer() ? std::move(input) : nullptr;
+    return input->m_size > 0 && input->openDemuxer() ? std::move(input) : nullptr;
 }
 
 SoundFileInput::SoundFileInput(const QByteArray &bytes)
     : m_bytes(bytes)
+    , m_size(bytes.size())
 {
+    walkBoxes();
+}
+
+// The boxes that a file of MPEG-4 is a row of. One that grew while it was recorded has fragments,
+// of which its header knows nothing. Where it was cut off in the description of a fragment, it ends
+// for us before that: the demuxer would refuse all of it.
+void SoundFileInput::walkBoxes()
+{
+    constexpr qsizetype HeaderSize = 8;
+    qsizetype at = 0;
+    while (m_bytes.size() - at >= HeaderSize) {
+        const char *box = m_bytes.constData() + at;
+        const QByteArrayView type(box + 4, 4);
+        const qsizetype size = qFromBigEndian<quint32>(box);
+        if (size < HeaderSize || (at == 0 && type != "ftyp"))
+            return;
+        m_holdsFragments = m_holdsFragments || type == "moof";
+        if (size > m_bytes.size() - at) {
+            m_size = type == "moof" ? at : m_size;
+            return;
+        }
+        at += size;
+    }
+    m_size = at;
 }
 
 SoundFileInput::~SoundFileInput()
@@ -75,7 +100,7 @@ std::int64_t SoundFileInput::origin() const
 
 double SoundFileInput::seconds()
 {
-    const bool headerSays = !holdsFragments() && track().duration > 0 &&
+    const bool headerSays = !m_holdsFragments && track().duration > 0 &&
                             m_demuxer->duration_estimation_method != AVFMT_DURATION_FROM_BITRATE;
     const std::int64_t end = headerSays ? endByHeader() : endByReading();
     return std::max(0.0, static_cast<double>(end - origin()) * av_q2d(track().time_base));
@@ -97,7 +122,7 @@ std::int64_t SoundFileInput::endByHeader() const
     AVStream *stream = m_demuxer->streams[m_track];
     const std::int64_t end = origin() + stream->duration;
     const auto isWhole = [this](const AVIndexEntry &entry) {
-        return entry.pos + entry.size <= m_bytes.size();
+        return entry.pos + entry.size <= m_size;
     };
     int count = avformat_index_get_entries_count(stream);
     std::int64_t cut = end;
@@ -110,27 +135,11 @@ std::int64_t SoundFileInput::endByHeader() const
     return std::min(cut, end);
 }
 
-// Walks the boxes that a file of MPEG-4 is a row of. The header of one that grew while it was
-// recorded knows nothing of what came later.
-bool SoundFileInput::holdsFragments() const
-{
-    constexpr qsizetype HeaderSize = 8;
-    for (qsizetype at = 0; m_bytes.size() - at >= HeaderSize;) {
-        const char *box = m_bytes.constData() + at;
-        const qsizetype size = qFromBigEndian<quint32>(box);
-        if (std::memcmp(box + 4, "moof", 4) == 0)
-            return true;
-        if (size < HeaderSize)
-            return false;
-        at += size;
-    }
-    return false;
-}
-
 bool SoundFileInput::read(AVPacket &packet)
 {
     while (!m_isCancelled && av_read_frame(m_demuxer, &packet) >= 0) {
-        if (packet.stream_index == m_track)
+        // A packet that the file's end cuts through would be heard as a crack.
+        if (packet.stream_index == m_track && !(packet.flags & AV_PKT_FLAG_CORRUPT))
             return true;
         av_packet_unref(&packet);
     }
@@ -145,7 +154,7 @@ bool SoundFileInput::seek(std::int64_t timestamp)
 int SoundFileInput::readBytes(void *self, std::uint8_t *bytes, int count)
 {
     auto input = static_cast<SoundFileInput *>(self);
-    const std::int64_t left = input->m_bytes.size() - input->m_position;
+    const std::int64_t left = input->m_size - input->m_position;
     const auto given = static_cast<int>(std::min<std::int64_t>(left, count));
     if (given <= 0 || input->m_isCancelled)
         return AVERROR_EOF;
@@ -159,10 +168,10 @@ std::int64_t SoundFileInput::seekBytes(void *self, std::int64_t offset, int when
 {
     auto input = static_cast<SoundFileInput *>(self);
     if (whence == AVSEEK_SIZE)
-        return input->m_bytes.size();
+        return input->m_size;
     if (whence != SEEK_SET || offset < 0)
         return AVERROR(EINVAL);
-    return input->m_position = std::min<std::int64_t>(offset, input->m_bytes.size());
+    return input->m_position = std::min(offset, input->m_size);
 }
 
 } // namespace tarvelo::engine

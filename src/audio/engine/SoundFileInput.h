@@ -37,8 +37,8 @@ public:
 
 private:
     explicit SoundFileInput(const QByteArray &bytes);
+    void walkBoxes();
     bool openDemuxer();
-    bool holdsFragments() const;
     std::int64_t endByReading();
     std::int64_t endByHeader() const;
 
@@ -46,6 +46,8 @@ private:
     static std::int64_t seekBytes(void *self, std::int64_t offset, int whence);
 
     const QByteArray m_bytes;
+    std::int64_t m_size; // of what is shown to the demuxer
+    bool m_holdsFragments = false;
     std::int64_t m_position = 0;
     std::atomic<bool> m_isCancelled = false;
     AVIOContext *m_io = nullptr;

@@ -35,7 +35,7 @@ SoundServerPlayer::SoundServerPlayer(std::unique_ptr<DecodedSource> source)
         QMetaObject::invokeMethod(QCoreApplication::instance(), end, Qt::QueuedConnection);
     };
     m_output = std::make_unique<PulseOutput>(tellOfEnd);
-    m_ahead->whenThereIsMore([output = m_output.get()] { output->moreIsThere(); });
+    m_ahead->setTaker(m_output.get());
 }
 
 SoundServerPlayer::~SoundServerPlayer()

@@ -1,0 +1,376 @@
+#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/Recordings.h"
+#include "audio/engine/SpeakerRecording.h"
+#include "support/TestCase.h"
+#include "support/TestSound.h"
+
+#include <utility>
+
+using namespace tarvelo::engine;
+using namespace tarvelo::tests;
+
+constexpr int Patience = 60000; // milliseconds: a machine with much to do is slow, not broken
+
+namespace {
+
+struct Listener final : AudioPlayerDelegate
+{
+    void audioPlayerDidFinishPlayingSuccessfully(AudioPlayer *player, bool successfully) override
+    {
+        finished.push_back(player);
+        wasSuccessful = successfully;
+        wasOnMainThread = QThread::currentThread() == qApp->thread();
+    }
+
+    std::vector<AudioPlayer *> finished;
+    bool wasSuccessful = false;
+    bool wasOnMainThread = false;
+};
+
+} // namespace
+
+// Sound from a file in memory through a real server to its speaker.
+class SoundServerPlayerTest final : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatIsHeardIsWhatWasRecorded()
+    {
+        begin();
+        const auto sound = tune(44100, 4);
+        const auto player = playerOf(sound);
+
+        QVERIFY(player->prepareToPlay());
+        QVERIFY(player->play());
+
+        const auto heard = untilSilence();
+        const auto likeness = compare(sound, heard, 44100, 1);
+        QVERIFY2(likeness.correlation > 0.98, qPrintable(QString::number(likeness.correlation)));
+        QVERIFY(likeness.drift < 0.005);
+    }
+
+    void theSoundIsAsLongAsTheRateMakesIt_data()
+    {
+        QTest::addColumn<float>("rate");
+        QTest::newRow("1") << 1.0F;
+        QTest::newRow("half") << 0.5F;
+        QTest::newRow("third") << 1.0F / 3.0F;
+        QTest::newRow("quarter") << 0.25F;
+        QTest::newRow("fifth") << 1.0F / 5.0F;
+    }
+    void theSoundIsAsLongAsTheRateMakesIt()
+    {
+        QFETCH(float, rate);
+        begin();
+        const auto player = playerOf(tone(44100, 1.5, 440));
+
+        player->setRate(rate);
+        player->play();
+
+        QCOMPARE(player->rate(), rate);
+        const double length = seconds(untilSilence());
+        const double expected = player->duration() / static_cast<double>(rate);
+        QVERIFY2(std::abs(length - expected) < 0.03, qPrintable(QString::number(length)));
+    }
+
+    void theDelegateHearsOfTheNaturalEndOnTheMainThread()
+    {
+        begin();
+        Listener listener;
+        const auto player = playerOf(tune(44100, 0.5));
+        player->setDelegate(&listener);
+
+        player->play();
+        QVERIFY(player->isPlaying());
+        QTRY_COMPARE_WITH_TIMEOUT(listener.finished.size(), 1U, Patience);
+
+        QCOMPARE(listener.finished.front(), player.get());
+        QVERIFY(listener.wasSuccessful);
+        QVERIFY(listener.wasOnMainThread);
+        QVERIFY(!player->isPlaying());
+        QCOMPARE(player->currentTime(), 0.0);
+    }
+
+    void afterTheEndItPlaysAgainFromTheStart()
+    {
+        begin();
+        Listener listener;
+        const auto player = playerOf(tune(44100, 0.5));
+        player->setDelegate(&listener);
+        player->play();
+        QTRY_COMPARE_WITH_TIMEOUT(listener.finished.size(), 1U, Patience);
+
+        QVERIFY(player->play());
+
+        QTRY_COMPARE_WITH_TIMEOUT(listener.finished.size(), 2U, Patience);
+        player->setCurrentTime(player->duration());
+        QVERIFY(player->play());
+        QVERIFY(player->currentTime() < 0.4);
+    }
+
+    void aChangeOfRateIsHeardAtOnceAtTheSamePlace_data()
+    {
+        QTest::addColumn<float>("from");
+        QTest::addColumn<float>("to");
+        QTest::newRow("slower") << 1.0F << 0.5F;
+        QTest::newRow("faster") << 0.5F << 1.0F;
+        QTest::newRow("much slower") << 1.0F << 0.2F;
+        QTest::newRow("slow to slow") << 1.0F / 3.0F << 0.25F;
+    }
+    void aChangeOfRateIsHeardAtOnceAtTheSamePlace()
+    {
+        QFETCH(float, from);
+        QFETCH(float, to);
+        begin();
+        const auto player = playerOf(tone(44100, 3, 440));
+        player->setRate(from);
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 1, Patience);
+
+        player->setRate(to);
+
+        const double changed = player->currentTime();
+        QVERIFY(player->isPlaying());
+        const auto heard = untilSilence();
+        // What was on its way to the speaker stays as it is: a moment at most.
+        const double length = seconds(heard);
+        const double rest = player->duration() - changed;
+        const double expected =
+            changed / static_cast<double>(from) + rest / static_cast<double>(to);
+        const double moment = 0.5 * std::abs(1 - static_cast<double>(from / to));
+        QVERIFY2(std::abs(length - expected) < moment + 0.03,
+                 qPrintable(QStringLiteral("%1 of %2").arg(length).arg(expected)));
+        const double disturbance = longestDisturbance(heard, 44100, 440);
+        QVERIFY2(disturbance < 0.02, qPrintable(QString::number(disturbance)));
+    }
+
+    void rateAndPlaceMayChangeAsOftenAsOneLikes()
+    {
+        begin();
+        Listener listener;
+        const auto player = playerOf(tune(44100, 2));
+        player->setDelegate(&listener);
+        player->play();
+
+        for (int round = 0; round < 20; ++round) {
+            player->setRate(round % 2 == 0 ? 0.25F : 1.0F);
+            player->setCurrentTime(0.1 * round);
+            QVERIFY(std::abs(player->currentTime() - 0.1 * round) < 0.2);
+        }
+
+        QTRY_COMPARE_WITH_TIMEOUT(listener.finished.size(), 1U, Patience);
+    }
+
+    void aPausedPlayerStandsStillAndGoesOnWhereItWas()
+    {
+        begin();
+        const auto sound = tune(44100, 4);
+        const auto player = playerOf(sound);
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 1, Patience);
+
+        player->pause();
+
+        QVERIFY(!player->isPlaying());
+        const double place = player->currentTime();
+        const auto before = untilSilence();
+        QCOMPARE(player->currentTime(), place);
+        // Of what the speaker has taken already some is heard after the pause.
+        QVERIFY2(std::abs(seconds(before) - place) < 0.4, qPrintable(QString::number(place)));
+
+        player->play();
+        const auto both = withoutPause(untilSilenceAfter(before.size()));
+        const auto likeness = compare(sound, both, 44100, 1);
+        QVERIFY2(std::abs(seconds(both) - 4) < 0.05, qPrintable(QString::number(seconds(both))));
+        QVERIFY2(likeness.correlation > 0.97, qPrintable(QString::number(likeness.correlation)));
+    }
+
+    void aPausedPlayerTakesAnotherPlaceAndAnotherRate()
+    {
+        begin();
+        const auto player = playerOf(tone(44100, 2, 440));
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 0.3, Patience);
+        player->pause();
+        const std::size_t before = untilSilence().size();
+
+        player->setCurrentTime(1.5);
+        player->setRate(0.5F);
+        QCOMPARE(player->currentTime(), 1.5);
+        player->play();
+
+        const std::size_t both = withoutPause(untilSilenceAfter(before)).size();
+        const double length = static_cast<double>(both - before) / 44100;
+        QVERIFY2(std::abs(length - 1) < 0.05, qPrintable(QString::number(length)));
+    }
+
+    void aStoppedPlayerKeepsItsPlace()
+    {
+        begin();
+        const auto player = playerOf(tune(44100, 3));
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 1, Patience);
+
+        player->stop();
+
+        QVERIFY(!player->isPlaying());
+        const double place = player->currentTime();
+        QVERIFY(place > 1 && place < 3);
+        QVERIFY(player->play());
+        QVERIFY(player->currentTime() >= place);
+    }
+
+    void aPlayerThatIsGoneTellsNobody()
+    {
+        begin();
+        Listener listener;
+        auto player = playerOf(tune(44100, 0.3));
+        player->setDelegate(&listener);
+        player->play();
+        // The event loop stands still, so that the news of the end waits in it.
+        while (m_speaker->soundBeforeSilence().empty())
+            QVERIFY(m_speaker->waitForMore());
+        QVERIFY(listener.finished.empty());
+
+        player.reset();
+        QCoreApplication::processEvents();
+
+        QVERIFY(listener.finished.empty());
+    }
+
+    void aDelegateThatHasLeftHearsNothing()
+    {
+        begin();
+        Listener listener;
+        const auto player = playerOf(tune(44100, 0.3));
+        player->setDelegate(&listener);
+        player->play();
+
+        player->setDelegate(nullptr);
+
+        QTRY_VERIFY_WITH_TIMEOUT(!player->isPlaying(), Patience);
+        QVERIFY(listener.finished.empty());
+    }
+
+    void withoutAServerEverythingAnswers()
+    {
+        m_server = std::make_unique<PrivateSoundServer>();
+        const auto player = playerOf(tune(44100, 3));
+
+        QVERIFY(player->prepareToPlay());
+        QVERIFY(player->play());
+        QVERIFY(player->isPlaying());
+        QCOMPARE(player->currentTime(), 0.0);
+        player->setRate(0.5F);
+        player->setCurrentTime(2);
+        QCOMPARE(player->currentTime(), 2.0);
+        player->pause();
+        QVERIFY(!player->isPlaying());
+        QCOMPARE(player->currentTime(), 2.0);
+        player->stop();
+        QCOMPARE(player->rate(), 0.5F);
+    }
+
+    void aServerThatComesLaterIsHeard()
+    {
+        m_server = std::make_unique<PrivateSoundServer>();
+        const auto player = playerOf(tune(44100, 1));
+        player->play();
+        player->pause();
+
+        QVERIFY(m_server->start());
+        m_speaker = std::make_unique<SpeakerRecording>();
+        QVERIFY(m_speaker->start());
+        QVERIFY(player->play());
+
+        QVERIFY(std::abs(seconds(untilSilence()) - 1) < 0.05);
+    }
+
+    void aServerThatGoesAwayWhileItPlaysIsHeardAgainWhenItIsBack()
+    {
+        begin();
+        const auto player = playerOf(tune(44100, 3));
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 1, Patience);
+
+        m_server->kill();
+        // It stands still: asked twice in a row, it says the same.
+        double place = -1;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            std::exchange(place, player->currentTime()) == player->currentTime(), Patience);
+        QVERIFY(place > 0.7 && place < 3);
+        QVERIFY(player->isPlaying());
+
+        m_speaker.reset();
+        QVERIFY(m_server->start());
+        m_speaker = std::make_unique<SpeakerRecording>();
+        QVERIFY(m_speaker->start());
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(m_speaker->hearsSound(), Patience);
+        QVERIFY(player->currentTime() >= place);
+    }
+
+private:
+    static double seconds(const std::vector<float> &sound)
+    {
+        return static_cast<double>(sound.size()) / 44100;
+    }
+
+    static std::vector<float> withoutPause(const std::vector<float> &sound)
+    {
+        std::vector<float> both;
+        std::size_t silent = 0;
+        for (const float sample : sound) {
+            silent = std::abs(sample) > 0.004F ? 0 : silent + 1;
+            both.push_back(sample);
+            if (silent == 4410)
+                both.resize(both.size() - silent);
+            else if (silent > 4410)
+                both.pop_back();
+        }
+        return both;
+    }
+
+    std::vector<float> untilSilenceAfter(std::size_t before)
+    {
+        std::vector<float> heard;
+        const auto isThere = [&] {
+            return (heard = m_speaker->soundBeforeSilence()).size() > before + 4410;
+        };
+        return QTest::qWaitFor(isThere, Patience) ? heard : std::vector<float>();
+    }
+
+    void finish() override
+    {
+        m_speaker.reset();
+        m_server.reset();
+    }
+
+    void begin()
+    {
+        m_server = std::make_unique<PrivateSoundServer>();
+        QVERIFY(m_server->start());
+        m_speaker = std::make_unique<SpeakerRecording>();
+        QVERIFY(m_speaker->start());
+    }
+
+    std::unique_ptr<AudioPlayer> playerOf(std::span<const float> sound)
+    {
+        return m_engine->makePlayer(recordingOf(sound));
+    }
+
+    std::vector<float> untilSilence()
+    {
+        std::vector<float> heard;
+        const auto isThere = [&] { return !(heard = m_speaker->soundBeforeSilence()).empty(); };
+        return QTest::qWaitFor(isThere, Patience) ? heard : std::vector<float>();
+    }
+
+    std::unique_ptr<PrivateSoundServer> m_server;
+    std::unique_ptr<SpeakerRecording> m_speaker;
+    std::unique_ptr<AudioEngine> m_engine = makeSoundServerEngine();
+};
+
+QTEST_GUILESS_MAIN(SoundServerPlayerTest)
+#include "SoundServerPlayerTest.moc"
