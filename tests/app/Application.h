@@ -28,6 +28,7 @@ public:
     {
         return nullptr;
     }
+    std::unique_ptr<engine::AudioPlayer> makePlayer(const QByteArray &) override { return nullptr; }
 };
 
 // Keeps what was to be shown, and its end handler for the test to call.

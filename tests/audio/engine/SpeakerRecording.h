@@ -4,9 +4,9 @@
 
 #include <QTest>
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <vector>
 
 namespace tarvelo::tests {
 
@@ -34,33 +34,55 @@ public:
         m_process.waitForFinished(Patience);
     }
 
-    std::vector<float> samples()
-    {
-        m_bytes += m_process.readAllStandardOutput();
-        std::vector<float> all(static_cast<std::size_t>(m_bytes.size()) / sizeof(float));
-        std::memcpy(all.data(), m_bytes.constData(), all.size() * sizeof(float));
-        return all;
-    }
-    // From the first sound to the last, where silence ends it that lasts a second; empty before.
+    // All since the first sound, once it has been followed by silence for a second; empty before.
     std::vector<float> soundBeforeSilence()
     {
-        const auto all = samples();
-        const auto first = std::ranges::find_if(all, isLoud);
-        const auto last = std::find_if(all.rbegin(), all.rend(), isLoud).base();
-        if (first == all.end() || all.end() - last < Rate)
+        take();
+        if (m_end == 0 || m_samples.size() - m_end < Rate)
             return {};
-        return {first, last};
+        return {m_samples.begin() + static_cast<std::ptrdiff_t>(m_begin),
+                m_samples.begin() + static_cast<std::ptrdiff_t>(m_end)};
     }
     // Without the event loop.
     bool waitForMore() { return m_process.waitForReadyRead(Patience); }
-    bool hearsSound() { return std::ranges::any_of(samples(), isLoud); }
+    bool hearsSound()
+    {
+        take();
+        return m_end > 0;
+    }
+    // What was heard by now is no longer of interest.
+    void forget()
+    {
+        take();
+        m_samples.clear();
+        m_begin = m_end = 0;
+    }
 
 private:
     static constexpr int Patience = 60000;
+    // Looks at every sample once, so that asking often keeps no processor from making sound.
+    void take()
+    {
+        m_bytes += m_process.readAllStandardOutput();
+        const auto count = static_cast<std::size_t>(m_bytes.size()) / sizeof(float);
+        const std::size_t before = m_samples.size();
+        m_samples.resize(before + count);
+        std::memcpy(m_samples.data() + before, m_bytes.constData(), count * sizeof(float));
+        m_bytes.remove(0, static_cast<qsizetype>(count * sizeof(float)));
+        for (std::size_t at = before; at < m_samples.size(); ++at) {
+            if (!isLoud(m_samples[at]))
+                continue;
+            m_begin = m_end == 0 ? at : m_begin;
+            m_end = at + 1;
+        }
+    }
     static bool isLoud(float sample) { return std::abs(sample) > 0.004F; }
 
     QProcess m_process;
-    QByteArray m_bytes;
+    QByteArray m_bytes; // of an unfinished sample
+    std::vector<float> m_samples;
+    std::size_t m_begin = 0; // of what is loud
+    std::size_t m_end = 0;
 };
 
 } // namespace tarvelo::tests
