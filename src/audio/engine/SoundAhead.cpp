@@ -12,6 +12,8 @@ namespace tarvelo::engine {
 namespace {
 
 constexpr std::size_t BlockFrames = 4096;
+// What replaces other sound lasts until more has been made, also on a machine with much to do.
+constexpr std::size_t SpliceFrames = 5 * BlockFrames;
 
 // A change happens this far behind what can no longer be changed, since that moves on meanwhile;
 // and further when that proves too near.
@@ -200,7 +202,7 @@ void SoundAhead::splice(Lock &lock)
         const Stretch stretch = stretchFrom(place, order);
         lock.unlock();
         auto sound = soundFrom(stretch);
-        m_block.resize(BlockFrames * channels());
+        m_block.resize(SpliceFrames * channels());
         const std::size_t count = sound->read(m_block);
         const bool isTooLate = m_taker->firstReplaceableFrame() > place;
         lock.lock();
