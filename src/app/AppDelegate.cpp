@@ -162,10 +162,6 @@ void AppDelegate::calendarDidSelectDate(calendar::CKCalendarView *, const QDateT
     showDateHeader(m_dateOfButtonClicked);
     m_mediaLinksArrayController.prepareViewForDate(date);
     m_window.setFrameWidth(ListShownWidth, true);
-
-    const bool isOpen = m_mediaLinksArrayController.isDayOpen();
-    m_menus.action(Command::NewLecture)->setEnabled(isOpen);
-    m_menus.action(Command::NewLectureFromStatusItem)->setEnabled(isOpen);
 }
 
 void AppDelegate::setRecordingStateForButton(bool recording)
@@ -290,10 +286,13 @@ void AppDelegate::showTaskbarEntries(bool shown)
 
 void AppDelegate::addLecture()
 {
-    // A past day gets no new lectures, whichever way they are asked for. It is asked again here
-    // because the day may have passed since it was chosen.
-    if (m_mediaLinksArrayController.isDayOpen())
-        m_mediaLinksArrayController.onAddItem(nullptr);
+    // A past day gets no new lectures. Whoever asks for one from a menu while such a day shows, or
+    // one that has passed since it was chosen, wants to record now: today comes up first.
+    if (!m_mediaLinksArrayController.isDayOpen()) {
+        m_calendarView.setMonthShowing(m_services.dates.now());
+        m_calendarView.postInit();
+    }
+    m_mediaLinksArrayController.onAddItem(nullptr);
 }
 
 void AppDelegate::run(Command command)

@@ -22,7 +22,7 @@ struct RecordingOutlets
     widgets::ImageButton *btnTimeTag = nullptr;
     widgets::ImageButton *btnStartStopRecording = nullptr;
     widgets::LevelIndicator *audioLevelMeter = nullptr;
-    QLabel *imgLevelIndicatorBG = nullptr;
+    QWidget *imgLevelIndicatorBG = nullptr;
     QLabel *lblRecordingDuration = nullptr;
     QSlider *sliderPlayProgress2 = nullptr;
     QLabel *lblElapsedTimeTemp = nullptr;

@@ -180,8 +180,7 @@ void LectureWindows::buildNewLectureWindow()
     ui.txtSubjectForNewNote->setFont(platform::fontNamed(Face, 16));
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
     fill(*ui.recordingPanel, QColor(247, 247, 249));
-    ui.imgLevelIndicatorBG->setPixmap(
-        imageNamed(QStringLiteral("levelBackground")).icon().pixmap(64, 64));
+    ui.imgLevelIndicatorBG->setImage(imageNamed(QStringLiteral("levelBackground")));
     ui.btnStartRecord->setImage(imageNamed(QStringLiteral("record")));
     ui.btnStartRecord->setAlternateImage(imageNamed(QStringLiteral("recordH")));
     ui.btnPauseResumeRecording->setLook(QStringLiteral("BtnPause"), QStringLiteral("BtnPauseH"),

@@ -82,30 +82,29 @@ private Q_SLOTS:
         QVERIFY(program.delegate.isRecordingNow());
     }
 
-    void aPastDayGetsNoNewLectureFromAMenu()
+    void aNewLectureFromAMenuOnAPastDayGoesToTodayFirst()
     {
         Application program;
         program.launch();
         program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 1));
 
-        QVERIFY(!program.delegate.menus().action(Command::NewLecture)->isEnabled());
-        QVERIFY(!program.delegate.menus().action(Command::NewLectureFromStatusItem)->isEnabled());
+        choose(program, Command::NewLecture);
 
-        program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 22));
-        QVERIFY(program.delegate.menus().action(Command::NewLecture)->isEnabled());
+        QVERIFY(program.delegate.isRecordingNow());
+        QCOMPARE(program.delegate.getSelectedDate().date(), program.clock.now().date());
     }
 
-    void aDayThatPassedSinceItWasChosenGetsNoNewLectureFromAMenu()
+    void aNewLectureFromAMenuOnADayThatPassedSinceItWasChosenGoesToTodayFirst()
     {
         Application program;
         program.launch();
         program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 22));
-        program.clock.set(noonOf(2024, 3, 23));
+        program.clock.set(noonOf(2024, 4, 2));
 
-        choose(program, Command::NewLecture);
         choose(program, Command::NewLectureFromStatusItem);
 
-        QVERIFY(!program.delegate.isRecordingNow());
+        QVERIFY(program.delegate.isRecordingNow());
+        QCOMPARE(program.delegate.getSelectedDate().date(), program.clock.now().date());
     }
 
     void allListShowsItsTitleAtTheListsWidth()
