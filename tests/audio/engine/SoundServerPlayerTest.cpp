@@ -109,44 +109,6 @@ private Q_SLOTS:
         QVERIFY(player->currentTime() < 0.4);
     }
 
-    void aChangeOfRateIsHeardAtOnceAtTheSamePlace_data()
-    {
-        QTest::addColumn<float>("from");
-        QTest::addColumn<float>("to");
-        QTest::newRow("slower") << 1.0F << 0.5F;
-        QTest::newRow("faster") << 0.5F << 1.0F;
-        QTest::newRow("much slower") << 1.0F << 0.2F;
-        QTest::newRow("slow to slow") << 1.0F / 3.0F << 0.25F;
-    }
-    void aChangeOfRateIsHeardAtOnceAtTheSamePlace()
-    {
-        QFETCH(float, from);
-        QFETCH(float, to);
-        begin();
-        const auto player = playerOf(tone(44100, 3, 440));
-        player->setRate(from);
-        player->play();
-        QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 1, Patience);
-
-        player->setRate(to);
-
-        const double changed = player->currentTime();
-        QVERIFY(player->isPlaying());
-        const auto heard = untilSilence();
-        // What was on its way to the speaker stays as it is: a moment at most.
-        const double length = seconds(heard);
-        const double rest = player->duration() - changed;
-        const double expected =
-            changed / static_cast<double>(from) + rest / static_cast<double>(to);
-        const double moment = 1.5 * std::abs(1 - static_cast<double>(from / to));
-        QVERIFY2(std::abs(length - expected) < moment + 0.03,
-                 qPrintable(QStringLiteral("%1 of %2").arg(length).arg(expected)));
-        // Slow sound swells and fades at its two ends.
-        const auto middle = std::span(heard).subspan(8820, heard.size() - 2 * 8820);
-        const double disturbance = longestDisturbance(middle, 44100, 440);
-        QVERIFY2(disturbance < 0.02, qPrintable(QString::number(disturbance)));
-    }
-
     void rateAndPlaceMayChangeAsOftenAsOneLikes()
     {
         begin();
