@@ -138,6 +138,9 @@ TerminateReply AppDelegate::applicationShouldTerminate(QObject *)
 {
     if (!isRecordingNow())
         return TerminateReply::Now;
+    // One sheet says it; asking again while it stands adds no other.
+    if (platform::hasAttachedSheet(m_window))
+        return TerminateReply::Cancel;
     m_services.alerts.beginSheet(
         {QStringLiteral("Recording is on process!"), QStringLiteral("Ok"),
          QStringLiteral("Please click Done to save or Cancel to exit.")},
@@ -158,9 +161,10 @@ void AppDelegate::alerDeletedDidEndReturnCodeContextInfo(QWidget *alertWindow, i
 
 void AppDelegate::calendarDidSelectDate(calendar::CKCalendarView *, const QDateTime &date)
 {
-    m_dateOfButtonClicked = date;
+    // A cell that never had a date counts as today; a lecture filed under no day would be lost.
+    m_dateOfButtonClicked = date.isValid() ? date : m_services.dates.now();
     showDateHeader(m_dateOfButtonClicked);
-    m_mediaLinksArrayController.prepareViewForDate(date);
+    m_mediaLinksArrayController.prepareViewForDate(m_dateOfButtonClicked);
     m_window.setFrameWidth(ListShownWidth, true);
 }
 
@@ -288,7 +292,9 @@ void AppDelegate::addLecture()
 {
     // A past day gets no new lectures. Whoever asks for one from a menu while such a day shows, or
     // one that has passed since it was chosen, wants to record now: today comes up first.
-    if (!m_mediaLinksArrayController.isDayOpen()) {
+    // A lecture that is open keeps its day, also past midnight.
+    if (!isRecordingNow() && !m_mediaLinksArrayController.bIsOnRecordingView() &&
+        !m_mediaLinksArrayController.isDayOpen()) {
         m_calendarView.setMonthShowing(m_services.dates.now());
         m_calendarView.postInit();
     }

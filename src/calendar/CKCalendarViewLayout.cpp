@@ -96,6 +96,8 @@ void CKCalendarView::addDayCell(int index, const QDateTime &day)
     DateButton *cell = m_dateButtons.at(static_cast<size_t>(index));
     cell->setDate(day);
     setFrame(*cell, calculateDayCellFrame(day));
+    // Over the weekday letters, which reach into the first row and would keep the mouse from it.
+    cell->raise();
     cell->show();
     cell->setMouseReady();
     cell->update();

@@ -61,6 +61,7 @@ void DayList::showAllList(const QDateTime &date)
     // The month alone counts, so this shows it of every year, in the order of the file: wanted so.
     fill(m_database.lecturesOfMonth(m_dates.formatFixed(date, QStringLiteral("MM"))));
     m_outlets.lblDateDisplay->setText(QStringLiteral("All List"));
+    m_outlets.lblDateDisplay->setAccessibleName(QStringLiteral("All List"));
     m_reload();
     showWhetherEmpty();
     m_outlets.mainWindow->setFrameWidth(ListShownWidth, true);

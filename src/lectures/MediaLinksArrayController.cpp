@@ -111,6 +111,12 @@ void MediaLinksArrayController::connectControls()
     connect(main.tblRecordSubjectList, &LectureTable::selectedRowChanged, this,
             [this](int row) { setSelectedIndexes(row < 0 ? QList<int>() : QList<int>{row}); });
     main.tblRecordSubjectList->setModel(this);
+
+    const LectureViewOutlets &lectureView = m_windows.lectureViewOutlets();
+    lectureView.btnSlidetoView->setAction(
+        {"viewEditView", [this](QWidget *sender) { viewEditView(sender); }});
+    lectureView.btnSlideToListView->setAction(
+        {"goToCalendarView", [this](QWidget *sender) { goToCalendarView(sender); }});
 }
 
 void MediaLinksArrayController::watchTexts()

@@ -136,6 +136,7 @@ public:
     void onAddItem(QWidget *sender) { m_newLecture.onAddItem(sender); }
     void onDoneNewLectureOrCloseWindow(QWidget *sender);
     void doSaveNewAudioInfos() { m_newLecture.doSaveNewAudioInfos(); }
+    void saveWhatWaits() { m_newLecture.saveWhatWaits(); }
     void onCancelAddNewLecture(QWidget *sender) { m_newLecture.onCancelAddNewLecture(sender); }
     void onCloseLectureWindow(QWidget *sender) { m_newLecture.onCloseLectureWindow(sender); }
     void onDone(QWidget *sender) { m_newLecture.onDone(sender); }

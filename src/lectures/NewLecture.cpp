@@ -62,12 +62,8 @@ void NewLecture::onAddItem(QWidget *)
         m_with.alerts.beginSheet(AlreadyOpen, *m_outlets.main.mainWindow, {});
         return;
     }
-    // A lecture that waits for its save is saved now: the new one would empty its fields and delete
-    // its take.
-    if (m_save.pendingCount() > 0) {
-        m_save.cancel();
-        doSaveNewAudioInfos();
-    }
+    // The new one would empty the fields of a lecture that waits for its save, and delete its take.
+    saveWhatWaits();
     if (m_with.recording.recording())
         m_with.recording.discardTake();
 
@@ -93,6 +89,14 @@ void NewLecture::onAddItem(QWidget *)
     m_outlets.window.txtSubjectForNewNote->setFocus();
     platform::centreOver(*m_outlets.window.newNoteWindow, *m_outlets.main.mainWindow);
     platform::makeKeyAndOrderFront(*m_outlets.window.newNoteWindow);
+}
+
+void NewLecture::saveWhatWaits()
+{
+    if (m_save.pendingCount() == 0)
+        return;
+    m_save.cancel();
+    doSaveNewAudioInfos();
 }
 
 NewLecture::Audio NewLecture::takeAudioToItsPlace()

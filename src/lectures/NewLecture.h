@@ -73,6 +73,9 @@ public:
     // Stores the new lecture under the day shown. Files that cannot be moved are left where they
     // are, and the row is stored with their new path all the same.
     void doSaveNewAudioInfos();
+    // Brings a save forward that Done has scheduled; to be called before anything that would undo
+    // it.
+    void saveWhatWaits();
 
 private:
     struct Audio

@@ -171,7 +171,10 @@ void Sqlite::bindObjectToColumnInStatament(const QVariant &object, int column, S
         break;
     }
     case QMetaType::QDateTime:
-        sqlite3_bind_double(handle, column, secondsSince1970(object.toDateTime()));
+        if (!object.toDateTime().isValid())
+            sqlite3_bind_null(handle, column);
+        else
+            sqlite3_bind_double(handle, column, secondsSince1970(object.toDateTime()));
         break;
     case QMetaType::Bool:
         sqlite3_bind_int(handle, column, object.toBool() ? 1 : 0);
@@ -216,7 +219,8 @@ QVariant Sqlite::columnDataColumnIndex(const Statement &statement, int column) c
 
 QString Sqlite::columnNameColumnIndex(const Statement &statement, int column) const
 {
-    return QString::fromUtf8(sqlite3_column_name(statement.get(), column));
+    return statement.get() ? QString::fromUtf8(sqlite3_column_name(statement.get(), column))
+                           : QString();
 }
 
 QVariantList Sqlite::takeOnePerQuestionMark(const QString &sql, const QVariantList &given)

@@ -23,6 +23,18 @@ class AppDelegateTest final : public tests::TestCase
 private Q_SLOTS:
     void initTestCase() { platform::installTexts(); }
 
+    void aDayThatIsNoneIsToday()
+    {
+        Application program;
+        program.launch();
+
+        program.delegate.calendarDidSelectDate(nullptr, QDateTime());
+
+        QCOMPARE(program.delegate.getSelectedDate(), program.clock.now());
+        QCOMPARE(program.controller.dateOfButtonClicked(), program.clock.now());
+        QVERIFY(!program.header().isEmpty());
+    }
+
     // -- Set-up
 
     void theSetUpShowsTheListWidthAndTodaysHeader()

@@ -94,6 +94,19 @@ private Q_SLOTS:
         QCOMPARE(program.delegate.getSelectedDate().date(), program.clock.now().date());
     }
 
+    void anOpenLectureKeepsItsDayWhenAnotherIsAskedForPastMidnight()
+    {
+        Application program;
+        program.launch();
+        program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 22));
+        choose(program, Command::NewLecture);
+        program.clock.set(noonOf(2024, 3, 23));
+
+        choose(program, Command::NewLecture);
+
+        QCOMPARE(program.delegate.getSelectedDate(), noonOf(2024, 3, 22));
+    }
+
     void aNewLectureFromAMenuOnADayThatPassedSinceItWasChosenGoesToTodayFirst()
     {
         Application program;

@@ -271,6 +271,19 @@ private Q_SLOTS:
         QCOMPARE(letters().front(), QStringLiteral("س").front());
     }
 
+    void aCellThatNeverHadADateCountsAsToday()
+    {
+        // April has 30 days, so the cell after the 31 of March is the first without a date.
+        m_view->moveCalendarToNextMonth();
+        m_delegate.selected.clear();
+
+        m_clock.advance(std::chrono::milliseconds(500));
+
+        QCOMPARE(m_view->selectedCell(), cell(31));
+        QCOMPARE(m_delegate.selected.size(), 1);
+        QVERIFY(!m_delegate.selected.front().isValid());
+    }
+
     void aPressTellsTheDayAndSelectsTheCell()
     {
         m_view->dateButtonPressed(cell(19));

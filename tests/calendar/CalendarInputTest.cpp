@@ -42,6 +42,17 @@ private Q_SLOTS:
         QCOMPARE(m_view->monthShowing(), day(2024, 3, 1));
     }
 
+    void aDayOfTheFirstRowIsWholeForTheMouse()
+    {
+        // 1 March 2024 stands in the first row, into which the weekday letters reach.
+        showWindow();
+        const QPoint nearItsTop = cell(0)->mapTo(m_view, QPoint(25, 3));
+
+        QVERIFY(m_view->hitTest(nearItsTop) == cell(0));
+        QWidget *hit = m_window->childAt(m_view->mapTo(m_window.get(), nearItsTop));
+        QCOMPARE(hit, static_cast<QWidget *>(cell(0)));
+    }
+
     void duringARecordingNoClickReachesArrowsOrDays()
     {
         showWindow();

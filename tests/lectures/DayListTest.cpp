@@ -170,6 +170,7 @@ private Q_SLOTS:
 
         QCOMPARE(subjects(), QStringList({u"March"_s, u"Long Ago"_s, u"Later"_s}));
         QCOMPARE(outlets().lblDateDisplay->text(), u"All List"_s);
+        QCOMPARE(outlets().lblDateDisplay->accessibleName(), u"All List"_s);
         QVERIFY(outlets().btnDeleteItem->isEnabled());
         QVERIFY(m_program->emptyDayPanel().isHidden());
     }

@@ -485,6 +485,18 @@ private Q_SLOTS:
         QCOMPARE(subject().text(), u"Acoustics"_s);
     }
 
+    void aLectureThatWaitsForItsSaveIsSavedBeforeTheProgramLeaves()
+    {
+        m_program->recordNewLecture(3);
+        m_program->windows.newLectureOutlets().BtnDoneOrClose->click();
+
+        controller().saveWhatWaits();
+        controller().saveWhatWaits();
+        m_program->clock.advance(1s);
+
+        QCOMPARE(m_program->storedRows().size(), 1);
+    }
+
     void withoutADatabaseTheLectureStillShows()
     {
         const auto without = programWithoutDatabase();

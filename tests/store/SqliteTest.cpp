@@ -191,6 +191,7 @@ private Q_SLOTS:
 
         const QVariant null = nullMarker();
         QTest::newRow("absent") << QVariant() << u"null"_s << null;
+        QTest::newRow("no date") << QVariant(QDateTime()) << u"null"_s << null;
         QTest::newRow("null marker") << null << u"null"_s << null;
         QTest::newRow("true") << QVariant(true) << u"integer"_s << QVariant(1);
         QTest::newRow("false") << QVariant(false) << u"integer"_s << QVariant(0);
@@ -353,6 +354,7 @@ private Q_SLOTS:
         QVERIFY(!statement.get());
         QVERIFY(!m_memory->executeStatament(statement));
         QVERIFY(!m_memory->hasData(statement));
+        QVERIFY(m_memory->columnNameColumnIndex(statement, 0).isEmpty());
     }
 
     void executingAStatementThatYieldsARowIsAFailure()
