@@ -19,7 +19,7 @@ struct Listener final : AudioPlayerDelegate
     {
         finished.push_back(player);
         wasSuccessful = successfully;
-        wasOnMainThread = QThread::currentThread() == qApp->thread();
+        wasOnMainThread = QThread::currentThread() == QCoreApplication::instance()->thread();
     }
 
     std::vector<AudioPlayer *> finished;
