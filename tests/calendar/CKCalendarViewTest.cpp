@@ -562,6 +562,41 @@ private Q_SLOTS:
         QCOMPARE(m_view->layer().shadowOpacity, 0.4);
     }
 
+    void theViewAndItsPartsAskForTheirLayers()
+    {
+        const auto layerOf = [this](const char *name) {
+            return m_view->findChild<tarvelo::widgets::LayerView *>(QLatin1String(name))->layer();
+        };
+
+        const auto &own = m_view->layer();
+        QCOMPARE(own.cornerRadius, 6.0);
+        QCOMPARE(own.borderWidth, 1.0);
+        QCOMPARE(own.borderColor, QColor(Qt::black));
+        QCOMPARE(own.shadowOffset, QPointF(2, 2));
+        QCOMPARE(own.shadowRadius, 2.0);
+        QCOMPARE(own.shadowOpacity, 0.4);
+        QCOMPARE(layerOf("highlight").cornerRadius, 6.0);
+        QCOMPARE(layerOf("calendarContainer").borderWidth, 1.0);
+        QCOMPARE(layerOf("calendarContainer").borderColor, QColor(Qt::gray));
+    }
+
+    void theNavigationButtonsHaveNoTitleAndNoAlternateImage()
+    {
+        for (const char *name : {"prevButton", "nextButton", "proceedToCurrentMonthButton",
+                                 "backToCurrentMonthButton"}) {
+            QVERIFY2(button(name)->text().isEmpty(), name);
+            QVERIFY2(button(name)->alternateImage().isNull(), name);
+        }
+        QCOMPARE(button("proceedToCurrentMonthButton")->toolTip(),
+                 button("backToCurrentMonthButton")->toolTip());
+        QVERIFY(!button("backToCurrentMonthButton")->toolTip().isEmpty());
+    }
+
+    void aCellThatNeverHadADayIsTitledByItsIndex()
+    {
+        QCOMPARE(cell(42)->text(), QStringLiteral("42"));
+    }
+
     void layerColoursAreInRgb()
     {
         QVERIFY(!CKCalendarView::getCGColorFromNSColor(QColor()).has_value());
