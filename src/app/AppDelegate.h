@@ -10,6 +10,7 @@
 #include "calendar/CalendarDelegate.h"
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureRowHost.h"
+#include "lectures/WindowWidths.h"
 #include "platform/DelayedCall.h"
 #include "widgets/ImageButton.h"
 
@@ -75,7 +76,7 @@ class AppDelegate final : public QObject,
 
 public:
     // In points. The list shown is also what counts as the lecture view showing.
-    static constexpr int ListShownWidth = 833;
+    static constexpr int ListShownWidth = lectures::ListShownWidth;
     static constexpr int FoldedWidth = 452;
     static constexpr int SlideBy = 400;
     static constexpr std::chrono::milliseconds FirstWindowDelay{400};

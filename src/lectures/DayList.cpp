@@ -1,4 +1,5 @@
 #include "lectures/DayList.h"
+#include "lectures/WindowWidths.h"
 
 #include "platform/Dates.h"
 #include "store/LectureDatabase.h"
@@ -11,10 +12,6 @@
 namespace tarvelo::lectures {
 
 using platform::Dates;
-
-namespace {
-constexpr int ListShownWidth = 833;
-}
 
 DayList::DayList(const Dates &dates, store::LectureDatabase &database,
                  const MainWindowOutlets &outlets, std::function<void()> reload)

@@ -3,6 +3,7 @@
 #include "calendar/CKCalendarView.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LightPalette.h"
+#include "lectures/WindowWidths.h"
 #include "platform/Dates.h"
 #include "platform/Fonts.h"
 #include "platform/Frames.h"
@@ -28,7 +29,6 @@ using widgets::ImageButton;
 namespace {
 
 // The canvas: the calendar pane from the left edge, then the list, then the lecture view.
-constexpr int ListShownWidth = 833;
 constexpr int CanvasHeight = 540;
 const QRectF CalendarFrame(-2, 0, 450, 489);
 

@@ -2,6 +2,7 @@
 
 #include "calendar/CKCalendarView.h"
 #include "lectures/Slides.h"
+#include "lectures/WindowWidths.h"
 #include "platform/Frames.h"
 #include "widgets/ImageButton.h"
 #include "widgets/SlidingWindow.h"
@@ -17,7 +18,6 @@ using platform::setFrame;
 
 namespace {
 
-constexpr int ListShownWidth = 833;
 constexpr int ExpandedWidth = 1234;
 constexpr int SingleViewWidth = 400;
 constexpr double LectureViewX = 833;

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace tarvelo::lectures {
+
+// The main window with calendar and list, in points. At just this width the list counts as showing.
+constexpr int ListShownWidth = 833;
+
+} // namespace tarvelo::lectures
