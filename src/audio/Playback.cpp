@@ -3,10 +3,10 @@
 #include "audio/AudioFileLocations.h"
 #include "audio/DurationText.h"
 #include "audio/engine/AudioRecorder.h"
+#include "audio/engine/SoundBytes.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
 
-#include <QFile>
 #include <QLabel>
 #include <QSlider>
 
@@ -17,13 +17,6 @@ namespace {
 // The tags under which the stop button, turned into a play button, knows what a press means.
 constexpr int TagPaused = 1;
 constexpr int TagPlaying = 2;
-
-// Invalid, not empty, when the file cannot be read.
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -37,7 +30,7 @@ Playback::Playback(engine::AudioEngine &engine, const AudioFileLocations &locati
 
 void Playback::playRecordTemp(QWidget *)
 {
-    m_player = m_engine.makePlayer(bytesOf(m_locations.tempAudioSavePath()));
+    m_player = m_engine.makePlayer(engine::soundBytesOf(m_locations.tempAudioSavePath()));
     if (m_player) {
         m_player->prepareToPlay();
         m_player->play();
