@@ -44,6 +44,10 @@ class Desktop:
         subprocess.run(["import", "-window", "root", os.path.join(folder, f"{name}.png")],
                        check=True, stdin=subprocess.DEVNULL)
 
+    def end_screen(self):
+        """As a user who logs out all at once: whatever shows on the screen loses it."""
+        self._screen.terminate()
+
     def _set_environment(self):
         environment = {
             "PATH": os.environ["PATH"],
@@ -66,8 +70,8 @@ class Desktop:
 
     def _start_screen(self):
         reading, writing = os.pipe()
-        self._children.start("Xvfb", "-displayfd", str(writing), "-screen", "0", SCREEN,
-                             "-nolisten", "tcp", "-noreset", pass_fds=[writing])
+        self._screen = self._children.start("Xvfb", "-displayfd", str(writing), "-screen", "0", SCREEN,
+                                            "-nolisten", "tcp", "-noreset", pass_fds=[writing])
         os.close(writing)
         with os.fdopen(reading) as pipe:
             os.environ["DISPLAY"] = ":" + pipe.readline().strip()

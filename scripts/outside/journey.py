@@ -2,11 +2,10 @@
 
 import datetime
 import os
-import subprocess
 
 from . import names, proof, sound
-from .hands import Hands
-from .waiting import Children, Failed, wait_for
+from .program import Program
+from .waiting import Failed
 
 SUBJECT = "Geometric Optics"
 NOTES = "Lenses bend light. Ask about Fermat."
@@ -19,37 +18,37 @@ class Journey:
     """One program in a desktop with a sound server; steps are told one a line."""
 
     def __init__(self, program, desktop, server, tell=lambda line: print(line, flush=True)):
-        self._program = os.path.abspath(program)
+        self._program = Program(program, desktop)
+        self._hands = self._program.hands
         self._desktop = desktop
         self._server = server
         self._tell = tell
-        self._children = Children()
-        self._hands = Hands(names.APPLICATION)
 
     def run(self):
         try:
             before, paused, after = self._prepare_speech()
             day = datetime.date.today().isoformat()
-            process = self._start("first")
+            self._start("first")
             self._record(before, paused, after)
             row = self._find_row(day)
             agreements = proof.audio(row, [before, after], [paused])
             self._tell("Audio: what was spoken is in it, correlation "
                        + " and ".join(f"{agreement:.4f}" for agreement in agreements)
                        + "; what was spoken during the pause is not")
-            self._quit(process)
-            process = self._start("second")
+            self._quit()
+            self._start("second")
             self._hands.row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
             self._shot("after-restart", "After a restart the lecture stands under its day")
-            self._quit(process)
-            self._check_silence()
+            self._quit()
+            self._program.expect_silence()
+            self._tell("Tarvelo wrote nothing to its output")
         except Failed:
             self._desktop.screenshot("failed")
             with open(os.path.join(self._desktop.folder, "failed.txt"), "w", encoding="utf-8") as file:
                 file.write(self._hands.describe() + "\n")
             raise
         finally:
-            self._children.stop()
+            self._program.stop()
 
     def _prepare_speech(self):
         paths = []
@@ -61,13 +60,8 @@ class Journey:
         return paths
 
     def _start(self, which):
-        with open(os.path.join(self._desktop.folder, f"output-{which}.txt"), "wb") as output:
-            process = self._children.start(self._program, stdout=output, stderr=output)
-        self._hands.watch(process)
-        self._hands.window(names.MAIN_WINDOW)
-        self._hands.control(names.MAIN_WINDOW, names.NEW_LECTURE)
+        self._program.start(which)
         self._shot(f"{which}-start", f"Tarvelo has started ({which} time) and shows today")
-        return process
 
     def _record(self, before, paused, after):
         window = names.NEW_LECTURE_WINDOW
@@ -109,24 +103,9 @@ class Journey:
                    f"{os.path.basename(row['audioFileFullPath'])}")
         return row
 
-    def _quit(self, process):
-        self._hands.press(names.MAIN_WINDOW, names.QUIT_KEYS)
-        try:
-            status = process.wait(30)
-        except subprocess.TimeoutExpired:
-            raise Failed("Tarvelo does not quit") from None
-        if status != 0:
-            raise Failed(f"Tarvelo ended with status {status}")
+    def _quit(self):
+        self._program.quit()
         self._tell("Tarvelo has quit")
-
-    def _check_silence(self):
-        for which in ("first", "second"):
-            path = os.path.join(self._desktop.folder, f"output-{which}.txt")
-            with open(path, encoding="utf-8", errors="replace") as file:
-                said = file.read()
-            if said:
-                raise Failed(f"Tarvelo wrote to its output ({which} start):\n{said}")
-        self._tell("Tarvelo wrote nothing to its output")
 
     def _shot(self, name, line):
         self._desktop.screenshot(name)

@@ -13,6 +13,7 @@ PAUSE = "Pause"
 RESUME = "Resume"
 STOP = "Stop"
 PLAY = "Play"
+RECORDING_ON_PROCESS = "Recording is on process!"
 DONE = "Done"
 
 QUIT_KEYS = "ctrl+q"

@@ -63,8 +63,13 @@ class SoundServer:
         shape = ["--raw", f"--rate={RATE}", "--channels=2", "--latency-msec=20"]
         with open("/dev/zero", "rb") as silence:
             self._children.start("pacat", "--playback", "-d", "mic", *shape, stdin=silence)
-        self._children.start("pacat", "--record", "-d", "microphone", *shape)
-        wait_for("a microphone that is awake", lambda: self._count("sink-inputs") and self._count("source-outputs"))
+        listening = ["pacat", "--record", "-d", "microphone", *shape]
+        self._children.start(*listening)
+        wait_for("both ends of the microphone", lambda: self._count("sink-inputs") and self._count("source-outputs"))
+        # The block that was under way when they came is still a long one; behind it the microphone is awake.
+        with subprocess.Popen(listening, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE) as first:
+            first.stdout.read(1)
+            first.terminate()
 
     @staticmethod
     def _count(kind):

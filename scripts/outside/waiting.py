@@ -58,3 +58,5 @@ class Children:
             except subprocess.TimeoutExpired:
                 child.kill()
                 child.wait()
+            if child.stdout:
+                child.stdout.close()

@@ -1,6 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/SingleInstance.h"
-#include "app/TerminationSignals.h"
+#include "app/WaysOut.h"
 #include "audio/engine/AudioRecorder.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/MediaLinksArrayController.h"
@@ -13,7 +13,6 @@
 #include "store/LectureDatabase.h"
 
 #include <QApplication>
-#include <QSessionManager>
 
 using namespace tarvelo;
 
@@ -38,16 +37,6 @@ void describe(QApplication &application)
     QApplication::setStyle(QStringLiteral("Fusion"));
     application.setLayoutDirection(platform::text("LAYOUT_DIRECTION") == u"RTL" ? Qt::RightToLeft
                                                                                 : Qt::LeftToRight);
-}
-
-// The end of the session is put off while a lecture is being recorded, when that may be asked.
-void commitData(app::AppDelegate &delegate, QSessionManager &session)
-{
-    if (!delegate.isRecordingNow() || !session.allowsInteraction())
-        return;
-    delegate.applicationShouldTerminate(&session);
-    session.cancel();
-    session.release();
 }
 
 } // namespace
@@ -82,19 +71,9 @@ int main(int argc, char **argv)
          app::LoginItem(app::LoginItem::standardFolder(), QApplication::applicationFilePath()),
          flags});
 
-    const app::TerminationSignals signalsToEnd;
-    // Not quit(), which first asks every window whether it may be closed. A lecture that was done a
-    // moment ago is saved first.
-    const auto leave = [&controller] {
-        controller.saveWhatWaits();
-        QApplication::exit(0);
-    };
-    QObject::connect(&signalsToEnd, &app::TerminationSignals::terminationRequested, leave);
-    QObject::connect(&delegate, &app::AppDelegate::terminationAllowed, leave);
+    const app::WaysOut waysOut(application, delegate, controller);
     QObject::connect(&instance, &app::SingleInstance::reopenRequested, &delegate,
                      &app::AppDelegate::reopen);
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,
-                     [&](QSessionManager &session) { commitData(delegate, session); });
 
     controller.awakeFromNib();
     delegate.awakeFromNib();

@@ -272,6 +272,12 @@ void RecordingControl::onSetTimeTag(QWidget *)
     notes.setTextCursor(cursor);
 }
 
+void RecordingControl::closeTake()
+{
+    if (m_recorder)
+        m_recorder->stop();
+}
+
 void RecordingControl::discardTake()
 {
     m_recording = false;

@@ -67,6 +67,9 @@ public:
     // Stops the recorder, deletes its file and clears the display; the recorder itself goes with
     // the next take.
     void discardTake();
+    // The process ends: the file of a take that runs is made whole and stays where it is. No window
+    // is touched, for there may be none any more.
+    void closeTake();
     // The take was moved to its place as a lecture, or none was there.
     void takeWasSaved();
     void forgetSavedTake() { m_bIsRecordingSaved = false; }

@@ -126,6 +126,7 @@ public:
     void stopRecording(QWidget *sender) { m_recordingControl.stopRecording(sender); }
     void pauseResumeRecording(QWidget *sender) { m_recordingControl.pauseResumeRecording(sender); }
     void startStopRecording(QWidget *sender) { m_recordingControl.startStopRecording(sender); }
+    void closeTake() { m_recordingControl.closeTake(); }
     void postRecordingFinished() { m_recordingControl.postRecordingFinished(); }
     void onMaxRecordingTimeReached() { m_recordingControl.onMaxRecordingTimeReached(); }
     void onSetTimeTag(QWidget *sender) { m_recordingControl.onSetTimeTag(sender); }

@@ -201,7 +201,7 @@ private Q_SLOTS:
         program.delegate.terminate(nullptr);
 
         QCOMPARE(ends.size(), 1);
-        QVERIFY(program.alerts.shown.isEmpty());
+        QVERIFY(program.alerts.sheets.isEmpty());
     }
 
     void quittingWhileRecordingShowsASheetAndGoesOn()
@@ -213,14 +213,14 @@ private Q_SLOTS:
         program.delegate.terminate(nullptr);
 
         QCOMPARE(ends.size(), 0);
-        QCOMPARE(program.alerts.shown.size(), 1);
-        const auto &[alert, window, didEnd] = program.alerts.shown.first();
-        QCOMPARE(alert.message, QStringLiteral("Recording is on process!"));
-        QCOMPARE(alert.button, QStringLiteral("Ok"));
-        QCOMPARE(alert.informativeText,
+        QCOMPARE(program.alerts.sheets.size(), 1);
+        const tests::FakeAlerts::Sheet &sheet = program.alerts.sheets.first();
+        QCOMPARE(sheet.message, QStringLiteral("Recording is on process!"));
+        QCOMPARE(sheet.button, QStringLiteral("Ok"));
+        QCOMPARE(sheet.informativeText,
                  QStringLiteral("Please click Done to save or Cancel to exit."));
-        QCOMPARE(window, &program.window());
-        QVERIFY(didEnd);
+        QCOMPARE(sheet.window, &program.window());
+        QVERIFY(sheet.didEnd);
     }
 
     void quittingIsNotTriedAgainWhenTheSheetEnds()
@@ -231,7 +231,7 @@ private Q_SLOTS:
         program.delegate.terminate(nullptr);
 
         program.windows.newLectureOutlets().newNoteWindow->hide();
-        program.alerts.shown.first().didEnd(1);
+        program.alerts.sheets.first().didEnd(1);
 
         QCOMPARE(ends.size(), 0);
         QCOMPARE(program.delegate.applicationShouldTerminate(nullptr), app::TerminateReply::Now);

@@ -141,7 +141,7 @@ private Q_SLOTS:
 
         choose(program, Command::ShowFolder);
 
-        QCOMPARE(program.workspace.revealed,
+        QCOMPARE(program.workspace.shown.value(0),
                  QList<QUrl>{QUrl::fromLocalFile(program.controller.getAudioFolderPath())});
     }
 

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "app/AppDelegate.h"
-#include "audio/engine/AudioRecorder.h"
 #include "calendar/CKCalendarView.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/MediaLinksArrayController.h"
-#include "platform/Alerts.h"
 #include "platform/Dates.h"
 #include "platform/UserDefaults.h"
-#include "platform/Workspace.h"
 #include "store/LectureDatabase.h"
+#include "support/FakeAlerts.h"
+#include "support/FakeAudioEngine.h"
 #include "support/FakeClock.h"
+#include "support/FakeWorkspace.h"
 #include "support/TemporaryPlaces.h"
 #include "widgets/SlidingWindow.h"
 
@@ -18,45 +18,6 @@
 #include <QLabel>
 
 namespace tarvelo::tests {
-
-// A machine without sound.
-class SilentEngine final : public engine::AudioEngine
-{
-public:
-    std::unique_ptr<engine::AudioRecorder> makeRecorder(const QString &,
-                                                        const QVariantMap &) override
-    {
-        return nullptr;
-    }
-    std::unique_ptr<engine::AudioPlayer> makePlayer(const QByteArray &) override { return nullptr; }
-};
-
-// Keeps what was to be shown, and its end handler for the test to call.
-class KeptAlerts final : public platform::Alerts
-{
-public:
-    struct Shown
-    {
-        platform::Alert alert;
-        QWidget *window;
-        std::function<void(int)> didEnd;
-    };
-    QList<Shown> shown;
-
-    void beginSheet(const platform::Alert &alert, QWidget &window,
-                    std::function<void(int)> didEnd) override
-    {
-        shown.append({alert, &window, std::move(didEnd)});
-    }
-};
-
-class KeptWorkspace final : public platform::Workspace
-{
-public:
-    QList<QUrl> revealed;
-
-    void activateFileViewerSelectingURLs(const QList<QUrl> &urls) override { revealed << urls; }
-};
 
 // The whole program but for its process: real windows, controller, settings and store, in a home
 // and at a time of its own. Each one is a process of its own as far as its flags go.
@@ -106,9 +67,9 @@ struct Application
     QString settingsFile;
     platform::UserDefaults defaults;
     store::LectureDatabase database;
-    SilentEngine engine;
-    KeptAlerts alerts;
-    KeptWorkspace workspace;
+    FakeAudioEngine engine;
+    FakeAlerts alerts;
+    FakeWorkspace workspace;
     app::ProcessFlags flags;
     lectures::LectureWindows windows;
     lectures::MediaLinksArrayController controller;
