@@ -179,6 +179,10 @@
         <source></source>
         <translation>تعديل</translation>
     </message>
+    <message id="ROW_EXPORT">
+        <source></source>
+        <translation>تصدير إلى مكتبة الموسيقى</translation>
+    </message>
     <message id="ROW_INFO">
         <source></source>
         <translation>المزيد</translation>
@@ -186,6 +190,10 @@
     <message id="ROW_PLAY">
         <source></source>
         <translation>تشغيل</translation>
+    </message>
+    <message id="ROW_SHARE">
+        <source></source>
+        <translation>مشاركة عبر البريد الإلكتروني</translation>
     </message>
     <message id="ROW_SHOW_FILE">
         <source></source>

@@ -179,6 +179,10 @@
         <source></source>
         <translation>Bearbeiten</translation>
     </message>
+    <message id="ROW_EXPORT">
+        <source></source>
+        <translation>In die Musiksammlung exportieren</translation>
+    </message>
     <message id="ROW_INFO">
         <source></source>
         <translation>Mehr</translation>
@@ -186,6 +190,10 @@
     <message id="ROW_PLAY">
         <source></source>
         <translation>Abspielen</translation>
+    </message>
+    <message id="ROW_SHARE">
+        <source></source>
+        <translation>Per E-Mail teilen</translation>
     </message>
     <message id="ROW_SHOW_FILE">
         <source></source>

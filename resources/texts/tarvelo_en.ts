@@ -179,6 +179,10 @@
         <source></source>
         <translation>Edit</translation>
     </message>
+    <message id="ROW_EXPORT">
+        <source></source>
+        <translation>Export to the music library</translation>
+    </message>
     <message id="ROW_INFO">
         <source></source>
         <translation>More</translation>
@@ -186,6 +190,10 @@
     <message id="ROW_PLAY">
         <source></source>
         <translation>Play</translation>
+    </message>
+    <message id="ROW_SHARE">
+        <source></source>
+        <translation>Share via Email</translation>
     </message>
     <message id="ROW_SHOW_FILE">
         <source></source>

@@ -1,21 +1,33 @@
 #include "lectures/CustomTableCellView.h"
 
+#include "lectures/LectureRowHost.h"
 #include "platform/Fonts.h"
 #include "platform/Texts.h"
 #include "widgets/ImageButton.h"
+#include "widgets/ImageView.h"
 
-#include <QHBoxLayout>
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
 
 namespace tarvelo::lectures {
 
+using widgets::ImageButton;
+
 namespace {
 
 const QColor SubjectColour(60, 57, 66);
 const QColor DetailColour(120, 116, 128);
 const QColor LineColour(232, 231, 235);
+
+constexpr int Margin = 14;
+constexpr int PlaySide = 36;
+constexpr int TextX = Margin + PlaySide + 12;
+constexpr int ButtonSide = 24;
+constexpr int ButtonGap = 6;
+constexpr QRect Line1(0, 12, 0, 22);
+constexpr QRect Line2(0, 35, 0, 22);
 
 // The notes' first words, on one line.
 QString beginningOf(const QString &notes)
@@ -42,32 +54,22 @@ protected:
 
 CustomTableCellView::CustomTableCellView(QWidget *parent)
     : QFrame(parent)
+    , m_imageView(new widgets::ImageView(this))
+    , m_tracking(*this, {[this] { mouseEntered(); }, [this] { mouseExited(); }})
 {
+    m_imageView->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_subject = makeLabel("lblSubject", 15, SubjectColour);
     m_notes = makeLabel("lblNotes", 12, DetailColour);
     m_duration = makeLabel("lblDuration", 13, DetailColour);
-    m_btnBrowse = new widgets::ImageButton(this);
-    m_btnBrowse->setObjectName(QStringLiteral("btnBrowse"));
-    m_btnBrowse->setLook(QStringLiteral("folder"), QString(), platform::text("ROW_SHOW_FILE"));
-    m_btnBrowse->setFixedSize(28, 28);
-    // Durations stand under each other, whether or not there is a file to show.
-    QSizePolicy policy = m_btnBrowse->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_btnBrowse->setSizePolicy(policy);
-
-    auto *texts = new QVBoxLayout;
-    texts->setSpacing(2);
-    texts->addWidget(m_subject);
-    texts->addWidget(m_notes);
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(16, 10, 12, 10);
-    layout->setSpacing(12);
-    layout->addLayout(texts, 1);
-    layout->addWidget(m_duration);
-    layout->addWidget(m_btnBrowse);
-    // A long subject is cut at the row's edge instead of widening the row.
-    m_subject->setMinimumWidth(1);
-    m_notes->setMinimumWidth(1);
+    m_btnPlay = makeButton("btnPlay", "play", "ROW_PLAY");
+    m_btnPlay->setAlternateImage(platform::imageNamed(QStringLiteral("playH")));
+    m_btnEdit = makeButton("btnEdit", "edit", "ROW_EDIT");
+    m_btnDelete = makeButton("btnDelete", "trash", "ROW_DELETE");
+    m_btnBrowse = makeButton("btnBrowse", "folder", "ROW_SHOW_FILE");
+    m_btnInfo = makeButton("btnInfo", "more", "ROW_INFO");
+    m_btnEmail = makeButton("btnEmail", "mail", "ROW_SHARE");
+    m_btnExport = makeButton("btnExport", "export", "ROW_EXPORT");
+    m_btnPlay->show();
 }
 
 QLabel *CustomTableCellView::makeLabel(const char *name, double size, const QColor &colour)
@@ -85,17 +87,35 @@ QLabel *CustomTableCellView::makeLabel(const char *name, double size, const QCol
     return label;
 }
 
+ImageButton *CustomTableCellView::makeButton(const char *name, const char *image,
+                                             const char *textKey)
+{
+    auto *button = new ImageButton(this);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setLook(QString::fromLatin1(image), QString(), platform::text(textKey));
+    button->setFocusPolicy(Qt::NoFocus);
+    button->hide();
+    return button;
+}
+
+std::array<ImageButton *, 7> CustomTableCellView::buttons() const
+{
+    return {m_btnPlay, m_btnDelete, m_btnEmail, m_btnEdit, m_btnBrowse, m_btnExport, m_btnInfo};
+}
+
 void CustomTableCellView::setObjectValue(const Lecture &lecture)
 {
+    // A menu is about the lecture that it was opened for.
+    if (lecture != m_lecture)
+        closeMenu();
     m_lecture = lecture;
     const QString subject = lecture ? lecture->strSubject() : QString();
     m_subject->setText(subject);
     m_subject->setToolTip(subject.toHtmlEscaped());
     m_notes->setText(lecture ? beginningOf(lecture->strNotes()) : QString());
-    m_notes->setHidden(m_notes->text().isEmpty());
     m_duration->setText(lecture ? lecture->strRecordingDuration() : QString());
-    m_btnBrowse->setVisible(lecture && !lecture->getLectureAudioPath().isEmpty());
     setAccessibleName(subject + QStringLiteral(", ") + m_duration->text());
+    showButtons();
 }
 
 void CustomTableCellView::setCurrent(bool current)
@@ -103,13 +123,117 @@ void CustomTableCellView::setCurrent(bool current)
     if (m_isCurrent == current)
         return;
     m_isCurrent = current;
+    for (ImageButton *button : buttons())
+        button->setFocusPolicy(current ? Qt::TabFocus : Qt::NoFocus);
+    showButtons();
     update();
+}
+
+// At rest a row has its play button alone; what else it can do shows when someone turns to it. Mail
+// and export are reached by the menu.
+void CustomTableCellView::showButtons()
+{
+    const bool isTurnedTo = m_lecture && (m_isMouseOver || m_isCurrent);
+    m_btnEdit->setVisible(isTurnedTo);
+    m_btnDelete->setVisible(isTurnedTo);
+    m_btnBrowse->setVisible(isTurnedTo && !m_lecture->getLectureAudioPath().isEmpty());
+    layoutSubviews();
+}
+
+void CustomTableCellView::layoutSubviews()
+{
+    const auto place = [this](QWidget &view, const QRect &frame) {
+        view.setGeometry(QStyle::visualRect(layoutDirection(), rect(), frame));
+    };
+    place(*m_imageView, rect());
+    place(*m_btnPlay, {Margin, (height() - PlaySide) / 2, PlaySide, PlaySide});
+
+    const int right = width() - Margin;
+    int x = right - ButtonSide;
+    int notesEnd = right;
+    for (ImageButton *button : {m_btnInfo, m_btnDelete, m_btnEdit, m_btnBrowse}) {
+        place(*button, {x, Line2.y() - 1, ButtonSide, ButtonSide});
+        if (!button->isHidden())
+            notesEnd = x - 2 * ButtonGap;
+        x -= ButtonSide + ButtonGap;
+    }
+    // They never show; a pop-over about them points to the end of the row.
+    m_btnEmail->setGeometry(m_btnInfo->geometry());
+    m_btnExport->setGeometry(m_btnInfo->geometry());
+
+    const int durationWidth = m_duration->sizeHint().width();
+    place(*m_duration, {right - durationWidth, Line1.y(), durationWidth, Line1.height()});
+    place(*m_subject,
+          {TextX, Line1.y(), right - durationWidth - 2 * ButtonGap - TextX, Line1.height()});
+    place(*m_notes, {TextX, Line2.y(), notesEnd - TextX, Line2.height()});
+}
+
+void CustomTableCellView::awakeFromNib()
+{
+    trackMouse();
+}
+
+void CustomTableCellView::trackMouse()
+{
+    m_tracking.removeTrackingRect(m_trackingTag);
+    m_trackingTag = m_tracking.addTrackingRect(rect());
+}
+
+bool CustomTableCellView::isConfirmDeleteShowing() const
+{
+    return m_host && m_host->isConfirmDeleteShowing();
+}
+
+void CustomTableCellView::mouseEntered()
+{
+    if (isConfirmDeleteShowing())
+        return;
+    m_isMouseOver = true;
+    m_btnInfo->show();
+    m_imageView->setImage(platform::imageNamed(QStringLiteral("cellimageH")));
+    showButtons();
+}
+
+// The row has no image at rest, and not the one called "cellimage", which is wanted.
+void CustomTableCellView::mouseExited()
+{
+    if (isConfirmDeleteShowing())
+        return;
+    m_isMouseOver = false;
+    m_btnInfo->hide();
+    m_imageView->setImage({});
+    showButtons();
+}
+
+void CustomTableCellView::setMouseOver(bool over)
+{
+    if (over == m_isMouseOver)
+        return;
+    if (over)
+        mouseEntered();
+    else
+        mouseExited();
+}
+
+void CustomTableCellView::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    layoutSubviews();
+    if (m_trackingTag != 0)
+        trackMouse();
+}
+
+void CustomTableCellView::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        layoutSubviews();
 }
 
 void CustomTableCellView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QRect line(16, height() - 1, width() - 16, 1);
+    const QRect line(TextX, height() - 1, width() - TextX, 1);
     painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), LineColour);
     if (!m_isCurrent)
         return;

@@ -11,6 +11,7 @@ class CKCalendarView;
 namespace tarvelo::widgets {
 class ImageButton;
 class LayerView;
+class PopOver;
 class SlidingWindow;
 } // namespace tarvelo::widgets
 
@@ -86,13 +87,17 @@ struct PlayAudioOutlets
     QLineEdit *txtFieldForAudio = nullptr;
 };
 
-// What the two pop-overs show.
+// The two pop-overs and what they show.
 struct PopoverOutlets
 {
+    widgets::PopOver *popoverAudioConfirmClose = nullptr;
+    widgets::PopOver *popoverConfirmRecordDelete = nullptr;
     QLabel *lblRecordDeleteConfirmation = nullptr;
     QLabel *lblPopoverNoAudio = nullptr;
     widgets::ImageButton *btnConfirmNo = nullptr;
     widgets::ImageButton *btnConfirmYes = nullptr;
+    // Closes the pop-over about a lecture without audio.
+    widgets::ImageButton *btnClosePopover = nullptr;
 };
 
 } // namespace tarvelo::lectures

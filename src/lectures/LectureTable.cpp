@@ -149,6 +149,7 @@ CustomTableCellView *LectureTable::takeView()
     }
     auto *view = new CustomTableCellView(viewport());
     view->setRowHost(m_host);
+    view->awakeFromNib();
     Q_EMIT rowViewMade(view);
     return view;
 }

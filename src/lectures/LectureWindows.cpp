@@ -11,6 +11,7 @@
 #include "widgets/ImageButton.h"
 #include "widgets/LayerView.h"
 #include "widgets/LevelIndicator.h"
+#include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
 
 #include "ui_EditLectureWindow.h"
@@ -66,6 +67,38 @@ void keepRoom(QWidget &view)
     QSizePolicy policy = view.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     view.setSizePolicy(policy);
+}
+
+// A text over a row of buttons.
+std::unique_ptr<widgets::PopOver> makePopover(const char *labelName)
+{
+    auto content = std::make_unique<QWidget>();
+    auto *layout = new QVBoxLayout(content.get());
+    layout->setContentsMargins(18, 16, 18, 14);
+    layout->setSpacing(12);
+    auto *label = new QLabel(content.get());
+    label->setObjectName(QString::fromLatin1(labelName));
+    label->setTextFormat(Qt::PlainText);
+    layout->addWidget(label);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    layout->addLayout(buttons);
+    auto popover = std::make_unique<widgets::PopOver>(std::move(content));
+    setLightPalette(*popover);
+    style(*label, 14, Ink);
+    return popover;
+}
+
+ImageButton *addButton(QWidget &popoverContent, const char *name, const char *textKey)
+{
+    auto *button = new ImageButton(&popoverContent);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setText(platform::text(textKey));
+    button->setFont(platform::fontNamed(Face, 14));
+    // Return presses the button that has the keyboard.
+    button->setAutoDefault(true);
+    popoverContent.layout()->itemAt(1)->layout()->addWidget(button);
+    return button;
 }
 
 } // namespace
@@ -223,28 +256,17 @@ void LectureWindows::buildPlayAudioWindow()
 
 void LectureWindows::buildPopovers()
 {
-    const auto makeContent = [](std::unique_ptr<QWidget> &content, const char *labelName) {
-        content = std::make_unique<QWidget>();
-        setLightPalette(*content);
-        auto *layout = new QHBoxLayout(content.get());
-        auto *label = new QLabel(content.get());
-        label->setObjectName(QString::fromLatin1(labelName));
-        style(*label, 14, Ink);
-        layout->addWidget(label);
-        return label;
-    };
-    const auto makeButton = [this](const char *name, const char *textKey) {
-        auto *button = new ImageButton(m_confirmDeleteContent.get());
-        button->setObjectName(QString::fromLatin1(name));
-        button->setText(platform::text(textKey));
-        m_confirmDeleteContent->layout()->addWidget(button);
-        return button;
-    };
-    m_popovers.lblRecordDeleteConfirmation =
-        makeContent(m_confirmDeleteContent, "lblRecordDeleteConfirmation");
-    m_popovers.lblPopoverNoAudio = makeContent(m_noAudioContent, "lblPopoverNoAudio");
-    m_popovers.btnConfirmNo = makeButton("btnConfirmNo", "BUTTON_NO");
-    m_popovers.btnConfirmYes = makeButton("btnConfirmYes", "BUTTON_YES");
+    m_popoverConfirmRecordDelete = makePopover("lblRecordDeleteConfirmation");
+    m_popoverAudioConfirmClose = makePopover("lblPopoverNoAudio");
+    QWidget &confirmation = m_popoverConfirmRecordDelete->content();
+    QWidget &noAudio = m_popoverAudioConfirmClose->content();
+    m_popovers = {m_popoverAudioConfirmClose.get(),
+                  m_popoverConfirmRecordDelete.get(),
+                  confirmation.findChild<QLabel *>(),
+                  noAudio.findChild<QLabel *>(),
+                  addButton(confirmation, "btnConfirmNo", "BUTTON_NO"),
+                  addButton(confirmation, "btnConfirmYes", "BUTTON_YES"),
+                  addButton(noAudio, "btnClosePopover", "BUTTON_CLOSE")};
 }
 
 } // namespace tarvelo::lectures

@@ -44,8 +44,8 @@ private:
     std::unique_ptr<QWidget> m_newNoteWindow;
     std::unique_ptr<QWidget> m_windowEditLecture;
     std::unique_ptr<QWidget> m_playAudioWindow;
-    std::unique_ptr<QWidget> m_confirmDeleteContent;
-    std::unique_ptr<QWidget> m_noAudioContent;
+    std::unique_ptr<widgets::PopOver> m_popoverConfirmRecordDelete;
+    std::unique_ptr<widgets::PopOver> m_popoverAudioConfirmClose;
     MainWindowOutlets m_main;
     LectureViewOutlets m_lectureView;
     NewLectureOutlets m_newLecture;

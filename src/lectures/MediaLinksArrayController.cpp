@@ -9,6 +9,7 @@
 #include "store/LectureDatabase.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LayerView.h"
+#include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
 
 #include <QFileInfo>
@@ -103,6 +104,8 @@ void MediaLinksArrayController::connectControls()
     wire(newLecture.btnCloseNewLecture, "onDoneNewLectureOrCloseWindow", end);
     wire(newLecture.BtnCancelAddNewLecture, "onCancelAddNewLecture",
          [this](QWidget *sender) { onCancelAddNewLecture(sender); });
+    wire(m_windows.popoverOutlets().btnClosePopover, "onClosePopoverConfirm",
+         [this](QWidget *sender) { onClosePopoverConfirm(sender); });
     watchTexts();
 
     m_closeGuards.guard(*main.mainWindow);
@@ -261,7 +264,7 @@ void MediaLinksArrayController::onDoneNewLectureOrCloseWindow(QWidget *sender)
 
 void MediaLinksArrayController::onClosePopoverConfirm(QWidget *)
 {
-    m_windows.popoverOutlets().lblPopoverNoAudio->window()->hide();
+    m_windows.popoverOutlets().popoverAudioConfirmClose->close();
 }
 
 void MediaLinksArrayController::sheetDidEndReturnCodeContextInfo(QWidget *sheet, int, void *)
@@ -271,7 +274,7 @@ void MediaLinksArrayController::sheetDidEndReturnCodeContextInfo(QWidget *sheet,
 
 bool MediaLinksArrayController::isConfirmDeleteShowing() const
 {
-    return m_windows.popoverOutlets().btnConfirmYes->window()->isVisible();
+    return m_windows.popoverOutlets().popoverConfirmRecordDelete->isVisible();
 }
 
 bool MediaLinksArrayController::isSupportedIniTunes(QWidget *cell) const

@@ -4,7 +4,6 @@
 #include "widgets/ImageButton.h"
 
 #include <QLabel>
-#include <QLayout>
 
 using namespace Qt::StringLiterals;
 using tarvelo::lectures::CustomTableCellView;
@@ -41,6 +40,7 @@ private Q_SLOTS:
 
     void aLectureWithoutAudioHasNoFileToShow()
     {
+        m_row->mouseEntered();
         m_row->setObjectValue(lecture(u"optics"_s, u"Lenses"_s, QString()));
         QVERIFY(m_row->btnBrowse()->isHidden());
         QCOMPARE(label("lblDuration").text(), u"No Audio"_s);
@@ -107,7 +107,6 @@ private Q_SLOTS:
         const QRgb lineStart = m_row->grab().toImage().pixel(2, CustomTableCellView::RowHeight - 1);
 
         m_row->setLayoutDirection(Qt::RightToLeft);
-        m_row->layout()->activate();
 
         QVERIFY(m_row->btnBrowse()->x() < m_row->width() / 2);
         QVERIFY(m_row->grab().toImage().pixel(2, CustomTableCellView::RowHeight - 1) != lineStart);
