@@ -1,0 +1,106 @@
+#include "widgets/MouseDownTextField.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace tarvelo::widgets {
+
+namespace {
+
+// Keys that open a heading for typing. What is typed goes into it at once.
+bool wantsToType(const QKeyEvent &key)
+{
+    const bool isPlain = !(key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    return key.key() == Qt::Key_F2 || (isPlain && !key.text().isEmpty() && key.text()[0].isPrint());
+}
+
+} // namespace
+
+MouseDownTextField::MouseDownTextField(QWidget *parent)
+    : QLineEdit(parent)
+{
+}
+
+// The mouse gives the keyboard to a text only; Tab reaches a heading too.
+void MouseDownTextField::setEditable(bool editable)
+{
+    setReadOnly(!editable);
+    setFocusPolicy(editable ? Qt::StrongFocus : Qt::TabFocus);
+}
+
+void MouseDownTextField::setDrawsBackground(bool draws)
+{
+    m_drawsBackground = draws;
+    const QPalette around = parentWidget() ? parentWidget()->palette() : QPalette();
+    QPalette colours = palette();
+    colours.setBrush(QPalette::Base, draws ? around.brush(QPalette::Base) : Qt::transparent);
+    setPalette(colours);
+}
+
+void MouseDownTextField::mouseDown(QMouseEvent *)
+{
+    if (m_delegate)
+        m_delegate->mouseDownTextFieldClicked(*this);
+}
+
+// The press that opens the field is no press in its text. Once someone writes there, a press places
+// the insertion point, as everywhere.
+void MouseDownTextField::mousePressEvent(QMouseEvent *event)
+{
+    m_pressIsForTheText = isBeingEdited();
+    mouseDown(event);
+    if (m_pressIsForTheText)
+        QLineEdit::mousePressEvent(event);
+}
+
+void MouseDownTextField::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_pressIsForTheText)
+        QLineEdit::mouseMoveEvent(event);
+}
+
+void MouseDownTextField::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (m_pressIsForTheText)
+        QLineEdit::mouseReleaseEvent(event);
+}
+
+void MouseDownTextField::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (m_pressIsForTheText)
+        QLineEdit::mouseDoubleClickEvent(event);
+}
+
+void MouseDownTextField::keyPressEvent(QKeyEvent *event)
+{
+    if (isEditable() || !wantsToType(*event)) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    if (m_delegate)
+        m_delegate->mouseDownTextFieldClicked(*this);
+    if (isEditable() && event->key() != Qt::Key_F2)
+        QLineEdit::keyPressEvent(event);
+}
+
+void MouseDownTextField::focusInEvent(QFocusEvent *event)
+{
+    const Qt::FocusReason reason = event->reason();
+    m_showsFocus = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                   reason == Qt::ShortcutFocusReason;
+    QLineEdit::focusInEvent(event);
+}
+
+void MouseDownTextField::paintEvent(QPaintEvent *event)
+{
+    QLineEdit::paintEvent(event);
+    if (!hasFocus() || !m_showsFocus || isEditable())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+}
+
+} // namespace tarvelo::widgets
