@@ -37,6 +37,8 @@ struct ProcessFlags
     bool windowSetUp = false;
     bool firstActivationSeen = false;
     bool controllerIsAwake = false;
+    // The row that the confirmation of a deletion is about, -1 until the first.
+    int pendingRow = -1;
 
     static ProcessFlags &ofProcess();
 };

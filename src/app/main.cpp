@@ -63,9 +63,10 @@ int main(int argc, char **argv)
     app::ProcessFlags &flags = app::ProcessFlags::ofProcess();
 
     const lectures::LectureWindows windows(dates);
-    lectures::MediaLinksArrayController controller(
-        {dates, places, defaults, database, *engine, alerts, workspace, flags.controllerIsAwake},
-        windows);
+    lectures::MediaLinksArrayController controller({dates, places, defaults, database, *engine,
+                                                    alerts, workspace, flags.controllerIsAwake,
+                                                    flags.pendingRow},
+                                                   windows);
     app::AppDelegate delegate(
         {dates, defaults, alerts, windows, controller,
          app::LoginItem(app::LoginItem::standardFolder(), QApplication::applicationFilePath()),

@@ -42,6 +42,8 @@ public:
     widgets::ImageButton *btnExport() const { return m_btnExport; }
     // Shows only while the mouse is over the row.
     widgets::ImageButton *btnInfo() const { return m_btnInfo; }
+    // From where a line begins to its end.
+    std::array<widgets::ImageButton *, 7> buttons() const;
     // The tag of the rectangle in which the row hears the mouse.
     int trackingTag() const { return m_trackingTag; }
     // Lies behind everything.
@@ -84,7 +86,6 @@ protected:
 private:
     QLabel *makeLabel(const char *name, double size, const QColor &colour);
     widgets::ImageButton *makeButton(const char *name, const char *image, const char *textKey);
-    std::array<widgets::ImageButton *, 7> buttons() const;
     QMenu *newMenu();
     void closeMenu();
     bool isConfirmDeleteShowing() const;

@@ -70,6 +70,12 @@ void DayList::append(const Lecture &lecture)
     m_reload();
 }
 
+void DayList::removeObject(int row)
+{
+    if (row >= 0 && row < static_cast<int>(m_arrangedObjects.size()))
+        m_arrangedObjects.erase(m_arrangedObjects.begin() + row);
+}
+
 void DayList::showWhetherEmpty()
 {
     enableDeleteItem();

@@ -42,6 +42,8 @@ public:
     // Stands last until the list is next built from the store, though the store gives the newest
     // first: wanted so.
     void append(const Lecture &lecture);
+    // A row that is not there is ignored. The table is not told.
+    void removeObject(int row);
     // The delete button and the empty-day panel after a lecture came or went. The panel follows the
     // list alone, whether or not the day is open, which is wanted.
     void showWhetherEmpty();

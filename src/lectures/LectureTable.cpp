@@ -1,10 +1,15 @@
 #include "lectures/LectureTable.h"
 
 #include "lectures/CustomTableCellView.h"
+#include "lectures/RowSlideUp.h"
+#include "lectures/RowSwipe.h"
+#include "widgets/ImageButton.h"
 
-#include <QKeyEvent>
+#include <QApplication>
+#include <QCursor>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -12,15 +17,30 @@ namespace tarvelo::lectures {
 
 LectureTable::LectureTable(QWidget *parent)
     : QAbstractScrollArea(parent)
+    , m_slideUp(new RowSlideUp(this))
+    , m_swipe(new RowSwipe(*viewport()))
 {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Base);
     verticalScrollBar()->setSingleStep(CustomTableCellView::RowHeight / 3);
+    connect(m_slideUp, &RowSlideUp::moved, this, [this] {
+        updateScrollBar();
+        layoutRows();
+        viewport()->update();
+    });
+    connect(m_swipe, &RowSwipe::moved, this, &LectureTable::layoutRows);
+    connect(qApp, &QApplication::focusChanged, this, &LectureTable::showCurrentRow);
 }
 
-LectureTable::~LectureTable() = default;
+// Its children and the focus must not find it half gone.
+LectureTable::~LectureTable()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+    m_slideUp->disconnect(this);
+    m_swipe->disconnect(this);
+}
 
 int LectureTable::rowCount() const
 {
@@ -73,11 +93,13 @@ void LectureTable::setSelectionHighlightStyle(SelectionHighlightStyle style)
 
 void LectureTable::reloadData()
 {
+    m_swipe->coverAtOnce();
     updateScrollBar();
     layoutRows();
     for (const auto &[row, view] : m_shown)
         bind(*view, row);
-    selectRow(m_selectedRow);
+    setSelection(m_selectedRows, m_selectedRow);
+    m_slideUp->finish();
 }
 
 void LectureTable::scrollRowToVisible(int row)
@@ -95,27 +117,102 @@ void LectureTable::scrollRowToVisible(int row)
 
 void LectureTable::selectRow(int row)
 {
-    const int chosen = row >= 0 && row < rowCount() ? row : -1;
-    if (chosen == m_selectedRow)
+    setSelection({row}, row);
+}
+
+void LectureTable::selectRowIndexesByExtendingSelection(const QList<int> &rows, bool extend)
+{
+    const int current = rows.isEmpty() ? -1 : rows.last();
+    setSelection(extend ? m_selectedRows + rows : rows,
+                 extend && current < 0 ? m_selectedRow : current);
+}
+
+void LectureTable::setSelection(const QList<int> &rows, int current)
+{
+    const auto isThere = [this](int row) { return row >= 0 && row < rowCount(); };
+    QList<int> chosen;
+    std::copy_if(rows.cbegin(), rows.cend(), std::back_inserter(chosen), isThere);
+    std::sort(chosen.begin(), chosen.end());
+    chosen.erase(std::unique(chosen.begin(), chosen.end()), chosen.end());
+    const int keyboard = isThere(current) ? current : -1;
+    if (chosen == m_selectedRows && keyboard == m_selectedRow)
         return;
-    m_selectedRow = chosen;
+    m_selectedRows = chosen;
+    m_selectedRow = keyboard;
     showCurrentRow();
     viewport()->update();
-    Q_EMIT selectedRowChanged(m_selectedRow);
+    Q_EMIT selectionChanged(m_selectedRows);
+}
+
+void LectureTable::removeRow(int row, std::chrono::milliseconds duration,
+                             std::function<void()> completion)
+{
+    m_slideUp->finish();
+    const int height = CustomTableCellView::RowHeight;
+    const int top = row * height - verticalScrollBar()->value();
+    const QPixmap picture =
+        m_shown.contains(row) ? viewport()->grab({0, top, viewport()->width(), height}) : QPixmap();
+    m_swipe->coverAtOnce();
+    forgetRow(row);
+    m_slideUp->start(row, height, picture, duration, std::move(completion));
+    updateScrollBar();
+    layoutRows();
+}
+
+void LectureTable::finishRemoval()
+{
+    m_slideUp->finish();
+}
+
+// The rows below it, their views and their selection move up by one; the keyboard stays at its
+// place.
+void LectureTable::forgetRow(int row)
+{
+    if (const auto found = m_shown.find(row); found != m_shown.end())
+        putAway(*found->second);
+    std::map<int, CustomTableCellView *> shown;
+    for (const auto &[index, view] : m_shown) {
+        if (index != row)
+            shown[index > row ? index - 1 : index] = view;
+    }
+    m_shown = std::move(shown);
+
+    QList<int> selected;
+    for (const int index : std::as_const(m_selectedRows)) {
+        if (index != row)
+            selected.append(index > row ? index - 1 : index);
+    }
+    int current = m_selectedRow > row ? m_selectedRow - 1 : m_selectedRow;
+    if (m_selectedRow == row) {
+        current = std::min(row, rowCount() - 1);
+        selected.append(current);
+    }
+    m_selectedRow = -2; // the row of that number is another one now
+    setSelection(selected, current);
 }
 
 void LectureTable::updateScrollBar()
 {
-    const int content = rowCount() * CustomTableCellView::RowHeight;
+    const int content = rowCount() * CustomTableCellView::RowHeight + m_slideUp->gap();
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setRange(0, std::max(0, content - viewport()->height()));
+}
+
+void LectureTable::putAway(CustomTableCellView &view)
+{
+    // The keyboard does not leave the table with the row.
+    if (view.isAncestorOf(window()->focusWidget()))
+        setFocus();
+    view.hide();
+    view.setObjectValue(nullptr);
+    m_spare.push_back(&view);
 }
 
 void LectureTable::layoutRows()
 {
     const int height = CustomTableCellView::RowHeight;
     const int offset = verticalScrollBar()->value();
-    const int first = offset / height;
+    const int first = std::max(0, offset - m_slideUp->gap()) / height;
     const int last = std::min(rowCount() - 1, (offset + viewport()->height() - 1) / height);
 
     for (auto it = m_shown.begin(); it != m_shown.end();) {
@@ -123,21 +220,44 @@ void LectureTable::layoutRows()
             ++it;
             continue;
         }
-        it->second->hide();
-        m_spare.push_back(it->second);
+        putAway(*it->second);
         it = m_shown.erase(it);
     }
+    const int direction = layoutDirection() == Qt::RightToLeft ? 1 : -1;
     for (int row = first; row <= last; ++row) {
         const bool isNew = !m_shown.contains(row);
         if (isNew)
             m_shown[row] = takeView();
         CustomTableCellView &view = *m_shown[row];
-        view.setGeometry(0, row * height - offset, viewport()->width(), height);
+        const int aside = row == m_swipe->row() ? m_swipe->offset() * direction : 0;
+        view.setGeometry(aside, row * height - offset + m_slideUp->gapAbove(row),
+                         viewport()->width(), height);
         if (isNew) {
             bind(view, row);
             view.show();
         }
     }
+    placeRowAction();
+    updateMouseOver();
+}
+
+void LectureTable::placeRowAction()
+{
+    const int row = m_swipe->row();
+    if (row < 0)
+        return;
+    const int y = row * CustomTableCellView::RowHeight - verticalScrollBar()->value();
+    const QRect frame(viewport()->width() - m_swipe->offset(), y, m_swipe->offset(),
+                      CustomTableCellView::RowHeight - 1);
+    m_swipe->button()->setGeometry(
+        QStyle::visualRect(layoutDirection(), viewport()->rect(), frame));
+}
+
+void LectureTable::updateMouseOver()
+{
+    const QPoint mouse = viewport()->mapFromGlobal(QCursor::pos());
+    for (const auto &[row, view] : m_shown)
+        view->setMouseOver(viewport()->underMouse() && view->geometry().contains(mouse));
 }
 
 CustomTableCellView *LectureTable::takeView()
@@ -157,7 +277,7 @@ CustomTableCellView *LectureTable::takeView()
 void LectureTable::bind(CustomTableCellView &view, int row) const
 {
     view.setObjectValue(m_model->index(row, 0).data(LectureRole).value<Lecture>());
-    view.setCurrent(row == m_selectedRow && hasFocus());
+    view.setCurrent(row == m_selectedRow && hasKeyboard());
 }
 
 void LectureTable::resizeEvent(QResizeEvent *event)
@@ -172,65 +292,33 @@ void LectureTable::scrollContentsBy(int, int)
     layoutRows();
 }
 
-void LectureTable::keyPressEvent(QKeyEvent *event)
-{
-    const int page = std::max(1, viewport()->height() / CustomTableCellView::RowHeight);
-    int row = m_selectedRow;
-    switch (event->key()) {
-    case Qt::Key_Down:
-        row += 1;
-        break;
-    case Qt::Key_Up:
-        row = row < 0 ? 0 : row - 1;
-        break;
-    case Qt::Key_PageDown:
-        row += page;
-        break;
-    case Qt::Key_PageUp:
-        row -= page;
-        break;
-    case Qt::Key_Home:
-        row = 0;
-        break;
-    case Qt::Key_End:
-        row = rowCount() - 1;
-        break;
-    default:
-        QAbstractScrollArea::keyPressEvent(event);
-        return;
-    }
-    if (rowCount() == 0)
-        return;
-    row = std::clamp(row, 0, rowCount() - 1);
-    scrollRowToVisible(row);
-    selectRow(row);
-}
-
-void LectureTable::focusInEvent(QFocusEvent *event)
-{
-    QAbstractScrollArea::focusInEvent(event);
-    showCurrentRow();
-}
-
-void LectureTable::focusOutEvent(QFocusEvent *event)
-{
-    QAbstractScrollArea::focusOutEvent(event);
-    showCurrentRow();
-}
-
 void LectureTable::showCurrentRow()
 {
+    const bool has = hasKeyboard();
     for (const auto &[row, view] : m_shown)
-        view->setCurrent(row == m_selectedRow && hasFocus());
+        view->setCurrent(has && row == m_selectedRow);
+    if (!has || !m_shown.contains(m_selectedRow))
+        return;
+    // From the table the Tab key goes to the buttons of the row.
+    QWidget *before = this;
+    for (QWidget *button : m_shown[m_selectedRow]->buttons()) {
+        setTabOrder(before, button);
+        before = button;
+    }
 }
 
 void LectureTable::paintEvent(QPaintEvent *)
 {
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
-    const auto selected = m_shown.find(m_selectedRow);
-    if (m_highlightStyle == SelectionHighlightStyle::Regular && selected != m_shown.end())
-        painter.fillRect(selected->second->geometry(), palette().color(QPalette::Midlight));
+    if (m_highlightStyle == SelectionHighlightStyle::Regular) {
+        for (const auto &[row, view] : m_shown) {
+            if (m_selectedRows.contains(row))
+                painter.fillRect(view->geometry(), palette().color(QPalette::Midlight));
+        }
+    }
+    m_slideUp->paint(painter, m_slideUp->row() * CustomTableCellView::RowHeight -
+                                  verticalScrollBar()->value());
 }
 
 } // namespace tarvelo::lectures

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "lectures/LectureList.h"
+#include "lectures/RowAction.h"
 
 #include <QAbstractItemModel>
 #include <QAbstractScrollArea>
 #include <QPointer>
 
+#include <chrono>
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -13,6 +16,8 @@ namespace tarvelo::lectures {
 
 class CustomTableCellView;
 class LectureRowHost;
+class RowSlideUp;
+class RowSwipe;
 
 // The table of lectures: one column of rows of one height. A row has a view only while it shows;
 // the views of rows that scroll out are used again for those that scroll in, so that ten thousand
@@ -27,6 +32,8 @@ public:
 
     enum class SelectionHighlightStyle { None, Regular };
 
+    using RowActions = std::function<QList<RowAction>(int row, RowActionEdge edge)>;
+
     explicit LectureTable(QWidget *parent = nullptr);
     ~LectureTable() override;
 
@@ -36,7 +43,10 @@ public:
     // The row that `view` is, or lies in; -1 when it is none.
     int rowForView(const QWidget *view) const;
     int viewCount() const { return static_cast<int>(m_shown.size() + m_spare.size()); }
+    // The row that the keyboard is on; -1 for none.
     int selectedRow() const { return m_selectedRow; }
+    // All of them, in ascending order.
+    const QList<int> &selectedRowIndexes() const { return m_selectedRows; }
     SelectionHighlightStyle selectionHighlightStyle() const { return m_highlightStyle; }
 
     // The model must outlive the table or be taken off it. Its resets reload the table.
@@ -46,28 +56,55 @@ public:
     // Whether the selected row lies on a ground of its own. The mark of the row that the keyboard
     // is on shows under both styles.
     void setSelectionHighlightStyle(SelectionHighlightStyle style);
+    // What a swipe uncovers. Only the first action at the trailing edge is shown.
+    void setRowActions(RowActions actions) { m_rowActions = std::move(actions); }
+    // A row that still slides out is gone at once.
     void reloadData();
     void scrollRowToVisible(int row);
-    // The row that the keyboard is on; -1 for none.
+    // That row alone; -1 for none.
     void selectRow(int row);
+    // Rows that are not there are left out. The keyboard goes to the last one.
+    void selectRowIndexesByExtendingSelection(const QList<int> &rows, bool extend);
+    // For a row that the model has no longer: it slides out of sight under the one above. The
+    // completion hears of it once, when the time is over or the table is reloaded before, and never
+    // when the table is gone before.
+    void removeRow(int row, std::chrono::milliseconds duration, std::function<void()> completion);
+    // Ends a slide at once.
+    void finishRemoval();
+    // Looks anew where the mouse is, after something else lay over the rows.
+    void updateMouseOver();
 
 Q_SIGNALS:
     // A row view came into being; whoever drives the table wires its buttons.
     void rowViewMade(tarvelo::lectures::CustomTableCellView *view);
-    void selectedRowChanged(int row);
+    void selectionChanged(const QList<int> &rows);
+    // By a double click, or by Return.
+    void rowOpened(int row);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    int rowAt(const QPoint &position) const;
+    bool hasKeyboard() const;
+    bool moveByKey(int key);
+    bool commandByKey(const QKeyEvent &event);
+    void showMenuOfSelectedRow();
+    bool swipe(const QWheelEvent &event);
     void updateScrollBar();
+    void putAway(CustomTableCellView &view);
+    void forgetRow(int row);
+    void setSelection(const QList<int> &rows, int current);
     // Gives every row that shows its view, in its place, and takes the others' away.
     void layoutRows();
+    void placeRowAction();
     CustomTableCellView *takeView();
     void bind(CustomTableCellView &view, int row) const;
     void showCurrentRow();
@@ -76,6 +113,10 @@ private:
     LectureRowHost *m_host = nullptr;
     std::map<int, CustomTableCellView *> m_shown;
     std::vector<CustomTableCellView *> m_spare;
+    RowActions m_rowActions;
+    RowSlideUp *m_slideUp;
+    RowSwipe *m_swipe;
+    QList<int> m_selectedRows;
     int m_selectedRow = -1;
     SelectionHighlightStyle m_highlightStyle = SelectionHighlightStyle::Regular;
 };

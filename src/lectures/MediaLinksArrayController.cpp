@@ -41,6 +41,10 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
     , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })
     , m_viewChanges(windows.mainOutlets(), windows.lectureViewOutlets())
     , m_editing(windows.editLectureOutlets())
+    , m_deletion({services.database, m_dayList, [this](int row) { removeArrangedObject(row); },
+                  [this] { reloadData(); }, [this] { goToCalendarView(nullptr); },
+                  services.pendingRow},
+                 windows.mainOutlets(), windows.popoverOutlets())
     , m_newLecture({services.dates, services.database, m_locations, m_recordingControl, m_playback,
                     m_dayList, m_editing, services.alerts},
                    {windows.mainOutlets(), windows.newLectureOutlets(), windows.recordingOutlets(),
@@ -61,7 +65,9 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
 
 MediaLinksArrayController::~MediaLinksArrayController()
 {
-    m_windows.mainOutlets().tblRecordSubjectList->setModel(nullptr);
+    LectureTable &table = *m_windows.mainOutlets().tblRecordSubjectList;
+    table.setRowActions(nullptr);
+    table.setModel(nullptr);
 }
 
 void MediaLinksArrayController::setApplication(LectureApplication *application)
@@ -106,13 +112,21 @@ void MediaLinksArrayController::connectControls()
          [this](QWidget *sender) { onCancelAddNewLecture(sender); });
     wire(m_windows.popoverOutlets().btnClosePopover, "onClosePopoverConfirm",
          [this](QWidget *sender) { onClosePopoverConfirm(sender); });
+    for (ImageButton *button :
+         {m_windows.popoverOutlets().btnConfirmNo, m_windows.popoverOutlets().btnConfirmYes})
+        wire(button, "onConfirmOrCancelRecordDeletion",
+             [this](QWidget *sender) { onConfirmOrCancelRecordDeletion(sender); });
     watchTexts();
 
     m_closeGuards.guard(*main.mainWindow);
     connect(main.tblRecordSubjectList, &LectureTable::rowViewMade, this,
             [this](CustomTableCellView *row) { wireRow(*row); });
-    connect(main.tblRecordSubjectList, &LectureTable::selectedRowChanged, this,
-            [this](int row) { setSelectedIndexes(row < 0 ? QList<int>() : QList<int>{row}); });
+    connect(main.tblRecordSubjectList, &LectureTable::selectionChanged, this,
+            &MediaLinksArrayController::setSelectedIndexes);
+    main.tblRecordSubjectList->setRowActions([this](int row, RowActionEdge edge) {
+        return tableViewRowActionsForRowEdge(m_windows.mainOutlets().tblRecordSubjectList, row,
+                                             edge);
+    });
     main.tblRecordSubjectList->setModel(this);
 
     const LectureViewOutlets &lectureView = m_windows.lectureViewOutlets();
@@ -136,6 +150,8 @@ void MediaLinksArrayController::wireRow(CustomTableCellView &row)
 {
     row.btnBrowse()->setAction(
         {"openAudioFolderPath", [this](QWidget *sender) { openAudioFolderPath(sender); }});
+    row.btnDelete()->setAction(
+        {"onRemoveNotesRecord", [this](QWidget *sender) { onRemoveNotesRecord(sender); }});
 }
 
 store::Sqlite *MediaLinksArrayController::openDb()
@@ -189,11 +205,14 @@ QVariant MediaLinksArrayController::data(const QModelIndex &index, int role) con
 void MediaLinksArrayController::prepareViewForDate(const QDateTime &date)
 {
     m_stopSoundPlayEdit.schedule(StopAfterChange);
+    // A row that still slides out belongs to the list shown until now.
+    m_windows.mainOutlets().tblRecordSubjectList->finishRemoval();
     m_dayList.prepareViewForDate(date);
 }
 
 void MediaLinksArrayController::showList(QWidget *)
 {
+    m_windows.mainOutlets().tblRecordSubjectList->finishRemoval();
     m_dayList.showAllList(m_application ? m_application->getCurrentDate() : QDateTime());
 }
 
@@ -272,9 +291,16 @@ void MediaLinksArrayController::sheetDidEndReturnCodeContextInfo(QWidget *sheet,
     sheet->hide();
 }
 
-bool MediaLinksArrayController::isConfirmDeleteShowing() const
+void MediaLinksArrayController::onConfirmOrCancelRecordDeletion(QWidget *sender)
 {
-    return m_windows.popoverOutlets().popoverConfirmRecordDelete->isVisible();
+    m_deletion.onConfirmOrCancelRecordDeletion(sender);
+}
+
+QList<RowAction> MediaLinksArrayController::tableViewRowActionsForRowEdge(LectureTable *table,
+                                                                          int row,
+                                                                          RowActionEdge edge)
+{
+    return m_deletion.tableViewRowActionsForRowEdge(table, row, edge);
 }
 
 bool MediaLinksArrayController::isSupportedIniTunes(QWidget *cell) const
@@ -295,6 +321,13 @@ void MediaLinksArrayController::reloadData()
 {
     beginResetModel();
     endResetModel();
+}
+
+void MediaLinksArrayController::removeArrangedObject(int row)
+{
+    beginRemoveRows({}, row, row);
+    m_dayList.removeObject(row);
+    endRemoveRows();
 }
 
 } // namespace tarvelo::lectures

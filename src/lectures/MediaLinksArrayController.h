@@ -5,6 +5,7 @@
 #include "audio/RecordingControl.h"
 #include "lectures/CloseGuards.h"
 #include "lectures/DayList.h"
+#include "lectures/LectureDeletion.h"
 #include "lectures/LectureEditing.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/NewLecture.h"
@@ -42,6 +43,8 @@ struct LectureServices
     platform::Workspace &workspace;
     // Whether the one start-up of this process has been done; whoever runs the process keeps it.
     bool &isAwake;
+    // The row that a confirmation of a deletion is about, -1 at first; kept in the same way.
+    int &pendingRow;
 };
 
 // The one face of the lecture windows, and the model of the lecture table, whose rows are the
@@ -56,6 +59,7 @@ struct LectureServices
 //   openAudioFolderPath
 // - recording: startRecording ... updateTimeDisplay
 // - new lecture: onAddItem ... onClosePopoverConfirm
+// - deleting: onDelete ... tableViewRowActionsForRowEdge
 // - closing: windowShouldClose ... onClosePlayAudioWindow
 class MediaLinksArrayController final : public QAbstractTableModel
 {
@@ -143,6 +147,15 @@ public:
     void onDone(QWidget *sender) { m_newLecture.onDone(sender); }
     void onClosePopoverConfirm(QWidget *sender);
 
+    // -- Deleting
+    void onDelete(int row) { m_deletion.onDelete(row); }
+    void onDeleteItem(QWidget *sender) { m_deletion.onDeleteItem(sender); }
+    void onRemoveNotesRecord(QWidget *sender) { m_deletion.onRemoveNotesRecord(sender); }
+    void onConfirmOrCancelRecordDeletion(QWidget *sender);
+    QList<RowAction> tableViewRowActionsForRowEdge(LectureTable *table, int row,
+                                                   RowActionEdge edge);
+    bool isConfirmDeleteShowing() const { return m_deletion.isConfirmDeleteShowing(); }
+
     // -- Closing
     bool bHasChangesInNote() const { return m_editing.bHasChangesInNote(); }
     bool bHasChangesInNoteTitle() const { return m_editing.bHasChangesInNoteTitle(); }
@@ -154,7 +167,6 @@ public:
     {
         m_recordingControl.setBIsRecordingNeedPreventingQuit(need);
     }
-    bool isConfirmDeleteShowing() const;
     bool isSupportedIniTunes(QWidget *cell) const;
     bool windowShouldClose(QWidget *window) { return m_closeGuards.windowShouldClose(window); }
     void windowWillClose(QWidget *window) { m_closeGuards.windowWillClose(window); }
@@ -177,6 +189,7 @@ private:
     void setInsertionPointColors();
     void tagConfirmButtons();
     void reloadData();
+    void removeArrangedObject(int row);
 
     LectureServices m_services;
     const LectureWindows &m_windows;
@@ -191,6 +204,7 @@ private:
     DayList m_dayList;
     ViewChanges m_viewChanges;
     LectureEditing m_editing;
+    LectureDeletion m_deletion;
     NewLecture m_newLecture;
     CloseGuards m_closeGuards;
     platform::DelayedCall m_setTemporaryPath;

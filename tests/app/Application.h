@@ -30,7 +30,7 @@ struct Application
         , database(home.places())
         , windows(dates)
         , controller({dates, home.places(), defaults, database, engine, alerts, workspace,
-                      flags.controllerIsAwake},
+                      flags.controllerIsAwake, flags.pendingRow},
                      windows)
         , delegate({dates, defaults, alerts, windows, controller,
                     app::LoginItem(home.places().applicationSupport + QStringLiteral("/autostart"),

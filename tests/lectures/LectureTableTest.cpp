@@ -198,7 +198,7 @@ private Q_SLOTS:
 
     void theKeyboardMovesOverTheRowsAndScrolls()
     {
-        const QSignalSpy changes(m_table.get(), &LectureTable::selectedRowChanged);
+        const QSignalSpy changes(m_table.get(), &LectureTable::selectionChanged);
         QCOMPARE(m_table->selectedRow(), -1);
 
         press(Qt::Key_Down);
@@ -242,7 +242,7 @@ private Q_SLOTS:
     void aSelectionThatIsGoneAfterAReloadIsNone()
     {
         m_table->selectRow(10);
-        const QSignalSpy changes(m_table.get(), &LectureTable::selectedRowChanged);
+        const QSignalSpy changes(m_table.get(), &LectureTable::selectionChanged);
 
         m_lectures->setCount(5);
 

@@ -118,8 +118,10 @@ public:
     FakeLectureApplication application;
     lectures::LectureWindows windows{dates};
     bool isAwake = false;
-    lectures::MediaLinksArrayController controller{
-        {dates, places.places(), defaults, database, engine, alerts, workspace, isAwake}, windows};
+    int pendingRow = -1;
+    lectures::MediaLinksArrayController controller{{dates, places.places(), defaults, database,
+                                                    engine, alerts, workspace, isAwake, pendingRow},
+                                                   windows};
 };
 
 } // namespace tarvelo::tests

@@ -1,0 +1,181 @@
+#include "lectures/CustomTableCellView.h"
+#include "lectures/LectureTable.h"
+#include "lectures/RowSwipe.h"
+#include "widgets/ImageButton.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace tarvelo::lectures {
+
+namespace {
+
+// How far a swipe goes across, in points to the right.
+int acrossOf(const QWheelEvent &event)
+{
+    const QPoint delta = event.pixelDelta().isNull() ? event.angleDelta() : event.pixelDelta();
+    if (event.modifiers() & Qt::ShiftModifier)
+        return delta.x() != 0 ? delta.x() : delta.y();
+    return std::abs(delta.x()) > std::abs(delta.y()) ? delta.x() : 0;
+}
+
+// A wheel goes from notch to notch; a touchpad follows the fingers.
+bool hasNotches(const QWheelEvent &event)
+{
+    return event.pixelDelta().isNull() && event.angleDelta().manhattanLength() >= 120;
+}
+
+} // namespace
+
+int LectureTable::rowAt(const QPoint &position) const
+{
+    const auto found = std::find_if(m_shown.cbegin(), m_shown.cend(), [&](const auto &shown) {
+        const QRect row = shown.second->geometry();
+        return position.y() >= row.top() && position.y() <= row.bottom();
+    });
+    return found == m_shown.cend() ? -1 : found->first;
+}
+
+// The table and what lies in it count, also while the window is not the active one.
+bool LectureTable::hasKeyboard() const
+{
+    const QWidget *focus = window()->focusWidget();
+    return focus && (focus == this || isAncestorOf(focus));
+}
+
+void LectureTable::keyPressEvent(QKeyEvent *event)
+{
+    if (!moveByKey(event->key()) && !commandByKey(*event))
+        QAbstractScrollArea::keyPressEvent(event);
+}
+
+bool LectureTable::moveByKey(int key)
+{
+    const int page = std::max(1, viewport()->height() / CustomTableCellView::RowHeight);
+    int row = m_selectedRow;
+    switch (key) {
+    case Qt::Key_Down:
+        row += 1;
+        break;
+    case Qt::Key_Up:
+        row = row < 0 ? 0 : row - 1;
+        break;
+    case Qt::Key_PageDown:
+        row += page;
+        break;
+    case Qt::Key_PageUp:
+        row -= page;
+        break;
+    case Qt::Key_Home:
+        row = 0;
+        break;
+    case Qt::Key_End:
+        row = rowCount() - 1;
+        break;
+    default:
+        return false;
+    }
+    if (rowCount() > 0) {
+        row = std::clamp(row, 0, rowCount() - 1);
+        scrollRowToVisible(row);
+        selectRow(row);
+    }
+    return true;
+}
+
+bool LectureTable::commandByKey(const QKeyEvent &event)
+{
+    CustomTableCellView *view = viewAtColumnRowMakeIfNecessary(0, m_selectedRow, true);
+    if (!view)
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT rowOpened(m_selectedRow);
+        return true;
+    case Qt::Key_Space:
+        view->btnPlay()->click();
+        return true;
+    case Qt::Key_Delete:
+        view->btnDelete()->click();
+        return true;
+    case Qt::Key_F10:
+        if (!(event.modifiers() & Qt::ShiftModifier))
+            return false;
+        showMenuOfSelectedRow();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void LectureTable::showMenuOfSelectedRow()
+{
+    CustomTableCellView *view = viewAtColumnRowMakeIfNecessary(0, m_selectedRow, true);
+    if (!view)
+        return;
+    QMenu *menu = view->getMenu();
+    menu->popup(view->mapToGlobal(view->rect().center()));
+    menu->setActiveAction(menu->actions().constFirst());
+}
+
+// The mouse's menu comes from the row that is pressed.
+void LectureTable::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        showMenuOfSelectedRow();
+}
+
+void LectureTable::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        selectRow(rowAt(event->position().toPoint()));
+}
+
+void LectureTable::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const int row = rowAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && row >= 0)
+        Q_EMIT rowOpened(row);
+}
+
+void LectureTable::wheelEvent(QWheelEvent *event)
+{
+    if (swipe(*event)) {
+        event->accept();
+        return;
+    }
+    m_swipe->cover();
+    QAbstractScrollArea::wheelEvent(event);
+}
+
+// Fingers that go towards the leading edge uncover what lies at the trailing one.
+bool LectureTable::swipe(const QWheelEvent &event)
+{
+    if (event.phase() == Qt::ScrollEnd && m_swipe->row() >= 0) {
+        m_swipe->settle();
+        return true;
+    }
+    const int across = acrossOf(event);
+    if (across == 0)
+        return false;
+    const int row = rowAt(event.position().toPoint());
+    const QList<RowAction> actions =
+        row >= 0 && m_rowActions ? m_rowActions(row, RowActionEdge::Trailing) : QList<RowAction>();
+    if (actions.isEmpty()) {
+        m_swipe->cover();
+        return true;
+    }
+    const int points = layoutDirection() == Qt::RightToLeft ? across : -across;
+    if (hasNotches(event))
+        m_swipe->moveToEnd(row, actions.first(), points > 0);
+    else
+        m_swipe->moveBy(row, actions.first(), points);
+    return true;
+}
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,189 @@
+#include "lectures/RowSwipe.h"
+
+#include "platform/Fonts.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace tarvelo::lectures {
+
+namespace {
+
+const QColor Destructive(252, 39, 52);
+const QColor Regular(120, 116, 128);
+
+constexpr int TitleMargin = 22;
+constexpr int MoveMilliseconds = 200;
+// Fingers that rest so long are taken to have left, where the system does not say so.
+constexpr int RestMilliseconds = 250;
+
+} // namespace
+
+RowActionButton::RowActionButton(QWidget *parent)
+    : QAbstractButton(parent)
+{
+    setObjectName(QStringLiteral("rowActionButton"));
+    setFont(platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), 14));
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    hide();
+}
+
+void RowActionButton::setAction(const RowAction &action)
+{
+    m_action = action;
+    setText(action.title);
+    setAccessibleName(action.title);
+}
+
+QSize RowActionButton::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(text()) + 2 * TitleMargin, fontMetrics().height()};
+}
+
+// The title keeps its distance from the row that moves aside.
+void RowActionButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QColor ground = m_action.style == RowAction::Style::Destructive ? Destructive : Regular;
+    painter.fillRect(rect(), isDown() ? ground.darker(115) : ground);
+    painter.setPen(Qt::white);
+    QRect title(0, 0, sizeHint().width(), height());
+    if (layoutDirection() == Qt::RightToLeft)
+        title.moveRight(rect().right());
+    painter.drawText(title, Qt::AlignCenter, text());
+    if (hasFocus())
+        painter.drawRect(rect().adjusted(4, 4, -5, -5));
+}
+
+RowSwipe::RowSwipe(QWidget &viewport)
+    : QObject(&viewport)
+    , m_viewport(viewport)
+{
+    m_animation.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&m_animation, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) {
+        if (m_animation.state() == QAbstractAnimation::Running)
+            setOffset(value.toInt());
+    });
+    connect(&m_animation, &QVariantAnimation::finished, this, [this] {
+        if (m_offset == 0)
+            coverAtOnce();
+    });
+}
+
+int RowSwipe::fullOffset() const
+{
+    return m_button->sizeHint().width();
+}
+
+bool RowSwipe::isHalfOpen() const
+{
+    return m_offset * 2 >= fullOffset();
+}
+
+void RowSwipe::turnTo(int row, const RowAction &action)
+{
+    m_animation.stop();
+    if (row == m_row)
+        return;
+    coverAtOnce();
+    m_row = row;
+    if (!m_button) {
+        m_button = new RowActionButton(&m_viewport);
+        connect(m_button, &QAbstractButton::clicked, this, &RowSwipe::run);
+    }
+    m_button->setAction(action);
+    qApp->installEventFilter(this);
+}
+
+void RowSwipe::moveBy(int row, const RowAction &action, int points)
+{
+    if (row != m_row && points <= 0)
+        return;
+    turnTo(row, action);
+    setOffset(m_offset + points);
+    if (m_offset == 0)
+        coverAtOnce();
+    else
+        animate(isHalfOpen() ? fullOffset() : 0,
+                double(RestMilliseconds) / (RestMilliseconds + MoveMilliseconds));
+}
+
+void RowSwipe::moveToEnd(int row, const RowAction &action, bool open)
+{
+    if (row != m_row && !open)
+        return;
+    turnTo(row, action);
+    animate(open ? fullOffset() : 0, 0);
+}
+
+void RowSwipe::settle()
+{
+    if (m_row >= 0)
+        animate(isHalfOpen() ? fullOffset() : 0, 0);
+}
+
+void RowSwipe::cover()
+{
+    if (m_row >= 0)
+        animate(0, 0);
+}
+
+void RowSwipe::coverAtOnce()
+{
+    m_animation.stop();
+    if (m_row < 0)
+        return;
+    qApp->removeEventFilter(this);
+    setOffset(0);
+    m_row = -1;
+}
+
+void RowSwipe::animate(int to, double restPart)
+{
+    m_animation.stop();
+    m_animation.setKeyValues({});
+    m_animation.setDuration(restPart > 0 ? RestMilliseconds + MoveMilliseconds : MoveMilliseconds);
+    m_animation.setStartValue(m_offset);
+    if (restPart > 0)
+        m_animation.setKeyValueAt(restPart, m_offset);
+    m_animation.setEndValue(to);
+    m_animation.start();
+}
+
+void RowSwipe::setOffset(int offset)
+{
+    m_offset = std::clamp(offset, 0, fullOffset());
+    m_button->setVisible(m_offset > 0);
+    Q_EMIT moved();
+}
+
+// The row is given back only after the action, so that a row that it removes leaves as it is.
+void RowSwipe::run()
+{
+    const auto handler = m_button->action().handler;
+    const int row = m_row;
+    if (handler)
+        handler(row);
+    if (m_row == row)
+        cover();
+}
+
+bool RowSwipe::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!watched->isWidgetType())
+        return false;
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        cover();
+        return true;
+    }
+    if (event->type() == QEvent::MouseButtonPress && watched != m_button)
+        cover();
+    return false;
+}
+
+} // namespace tarvelo::lectures
