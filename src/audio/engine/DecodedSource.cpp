@@ -43,7 +43,11 @@ bool DecodedSource::openDecoder()
         return false;
     m_codec->pkt_timebase = track.time_base;
     m_codec->thread_count = 1;
-    return avcodec_open2(m_codec.get(), decoder, nullptr) >= 0;
+    AVDictionary *options = nullptr;
+    av_dict_set(&options, "codec_whitelist", SoundFileInput::Codecs, 0);
+    const int result = avcodec_open2(m_codec.get(), decoder, &options);
+    av_dict_free(&options);
+    return result >= 0;
 }
 
 bool DecodedSource::decodeFirst()
@@ -82,9 +86,11 @@ std::size_t DecodedSource::read(std::span<float> samples)
 
 void DecodedSource::seek(std::int64_t frame)
 {
+    frame = std::clamp<std::int64_t>(frame, 0, m_end);
     const AVRational frames{1, m_format.rate};
     const std::int64_t start = std::max<std::int64_t>(frame - RunUp, 0);
-    m_input->seek(m_input->origin() + av_rescale_q(start, frames, m_input->track().time_base));
+    m_input->seek(
+        av_sat_add64(m_input->origin(), av_rescale_q(start, frames, m_input->track().time_base)));
     avcodec_flush_buffers(m_codec.get());
     m_pending.clear();
     m_pendingStart = 0;
@@ -166,9 +172,10 @@ void DecodedSource::dropUntilWanted(const AVFrame &frame)
         return;
     }
     const AVRational frames{1, m_format.rate};
-    const std::int64_t start =
-        av_rescale_q(frame.pts - m_input->origin(), m_input->track().time_base, frames);
-    const auto early = static_cast<std::size_t>(std::max<std::int64_t>(m_position - start, 0));
+    const std::int64_t start = av_rescale_q(av_sat_sub64(frame.pts, m_input->origin()),
+                                            m_input->track().time_base, frames);
+    const auto early =
+        static_cast<std::size_t>(std::max<std::int64_t>(av_sat_sub64(m_position, start), 0));
     m_isPlaced = early < pendingFrames();
     m_pendingStart = std::min(early, pendingFrames()) * channels();
 }

@@ -1,5 +1,7 @@
 #include "audio/engine/SoundFileInput.h"
 
+#include "audio/engine/SoundSignature.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -11,8 +13,15 @@ namespace {
 
 constexpr int BufferSize = 64 * 1024;
 
-// Files of sound. Play lists and the like, which lead to other files, are not among them.
-constexpr const char *Formats = "mov,aac,mp3,wav,w64,flac,ogg,aiff,caf,au,ac3,amr";
+// What a lecture may have come in, and no more: every reader that is not there can be fooled by no
+// file. Play lists and the like, which lead to other files, are not among them.
+constexpr const char *Formats = "mov,aac,mp3,wav,flac,ogg,aiff,caf";
+
+// One of sound, and some of pictures and chapters.
+constexpr const char *MostTracks = "16";
+
+// A file that says it lasts longer lies.
+constexpr double MostSeconds = 1e7;
 
 // A name and an empty list would both be asked of the file system or the net.
 int refuseToOpen(AVFormatContext *, AVIOContext **, const char *, int, AVDictionary **)
@@ -25,8 +34,10 @@ int refuseToOpen(AVFormatContext *, AVIOContext **, const char *, int, AVDiction
 std::unique_ptr<SoundFileInput> SoundFileInput::open(const QByteArray &bytes)
 {
     keepFfmpegQuiet();
+    if (!beginsLikeSound(QByteArrayView(bytes).first(std::min(bytes.size(), SignatureLength))))
+        return nullptr;
     std::unique_ptr<SoundFileInput> input(new SoundFileInput(bytes));
-    return input->m_size > 0 && input->openDemuxer() ? std::move(input) : nullptr;
+    return input->openDemuxer() ? std::move(input) : nullptr;
 }
 
 SoundFileInput::SoundFileInput(const QByteArray &bytes)
@@ -83,11 +94,26 @@ bool SoundFileInput::openDemuxer()
     m_demuxer->io_open = &refuseToOpen;
     AVDictionary *options = nullptr;
     av_dict_set(&options, "format_whitelist", Formats, 0);
+    av_dict_set(&options, "codec_whitelist", Codecs, 0);
+    av_dict_set(&options, "max_streams", MostTracks, 0);
     const int result = avformat_open_input(&m_demuxer, "", format, &options);
     av_dict_free(&options);
-    if (result < 0 || avformat_find_stream_info(m_demuxer, nullptr) < 0)
-        return false;
+    return result >= 0 && avformat_find_stream_info(m_demuxer, nullptr) >= 0 && chooseTrack();
+}
+
+// A film is not taken for its sound.
+bool SoundFileInput::chooseTrack()
+{
     m_track = av_find_best_stream(m_demuxer, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
+    for (unsigned number = 0; number < m_demuxer->nb_streams; ++number) {
+        AVStream *stream = m_demuxer->streams[number];
+        const bool isFilm = stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO &&
+                            !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC);
+        if (isFilm)
+            return false;
+        if (static_cast<int>(number) != m_track)
+            stream->discard = AVDISCARD_ALL;
+    }
     return m_track >= 0;
 }
 
@@ -103,16 +129,18 @@ double SoundFileInput::seconds()
     const bool headerSays = !m_holdsFragments && track().duration > 0 &&
                             m_demuxer->duration_estimation_method != AVFMT_DURATION_FROM_BITRATE;
     const std::int64_t end = headerSays ? endByHeader() : endByReading();
-    return std::max(0.0, static_cast<double>(end - origin()) * av_q2d(track().time_base));
+    const double units = static_cast<double>(end) - static_cast<double>(origin());
+    return std::clamp(units * av_q2d(track().time_base), 0.0, MostSeconds);
 }
 
 std::int64_t SoundFileInput::endByReading()
 {
     const PacketPointer packet(av_packet_alloc());
     std::int64_t end = origin();
+    seek(origin());
     for (; packet && read(*packet); av_packet_unref(packet.get()))
         if (packet->pts != AV_NOPTS_VALUE)
-            end = std::max(end, packet->pts + packet->duration);
+            end = std::max(end, av_sat_add64(packet->pts, packet->duration));
     seek(origin());
     return end;
 }
@@ -120,7 +148,7 @@ std::int64_t SoundFileInput::endByReading()
 std::int64_t SoundFileInput::endByHeader() const
 {
     AVStream *stream = m_demuxer->streams[m_track];
-    const std::int64_t end = origin() + stream->duration;
+    const std::int64_t end = av_sat_add64(origin(), stream->duration);
     const auto isWhole = [this](const AVIndexEntry &entry) {
         return entry.pos + entry.size <= m_size;
     };
@@ -137,8 +165,12 @@ std::int64_t SoundFileInput::endByHeader() const
 
 bool SoundFileInput::read(AVPacket &packet)
 {
+    const bool isPlain = av_get_bits_per_sample(track().codecpar->codec_id) > 0;
     while (!m_isCancelled && av_read_frame(m_demuxer, &packet) >= 0) {
-        // A packet that the file's end cuts through would be heard as a crack.
+        // A packet that the file's end cuts through would be heard as a crack; of plain samples
+        // what there is of it is as good as all.
+        if (isPlain)
+            packet.flags &= ~AV_PKT_FLAG_CORRUPT;
         if (packet.stream_index == m_track && !(packet.flags & AV_PKT_FLAG_CORRUPT))
             return true;
         av_packet_unref(&packet);

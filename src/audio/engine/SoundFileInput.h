@@ -15,6 +15,11 @@ namespace tarvelo::engine {
 class SoundFileInput final
 {
 public:
+    // What decoders may be used for it.
+    static constexpr const char *Codecs =
+        "aac,alac,mp3float,flac,vorbis,opus,pcm_u8,pcm_s8,pcm_s16le,pcm_s16be,pcm_s24le,pcm_s24be,"
+        "pcm_s32le,pcm_s32be,pcm_f32le,pcm_f32be,pcm_f64le,pcm_f64be,pcm_alaw,pcm_mulaw";
+
     // Null when the bytes are no file with sound. They are shared, not copied.
     static std::unique_ptr<SoundFileInput> open(const QByteArray &bytes);
     SoundFileInput(const SoundFileInput &) = delete;
@@ -39,6 +44,7 @@ private:
     explicit SoundFileInput(const QByteArray &bytes);
     void walkBoxes();
     bool openDemuxer();
+    bool chooseTrack();
     std::int64_t endByReading();
     std::int64_t endByHeader() const;
 
