@@ -63,6 +63,10 @@
         <source></source>
         <translation>الانتقال إلى الشهر الحالي</translation>
     </message>
+    <message id="DAY_HAS_LECTURES">
+        <source></source>
+        <translation>فيه محاضرات</translation>
+    </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
         <translation>اضغط زر الإضافة لتسجيل محاضرة.</translation>

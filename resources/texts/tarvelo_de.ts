@@ -63,6 +63,10 @@
         <source></source>
         <translation>Zum aktuellen Monat</translation>
     </message>
+    <message id="DAY_HAS_LECTURES">
+        <source></source>
+        <translation>Hat Vorlesungen</translation>
+    </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
         <translation>Mit der Plus-Taste eine aufnehmen.</translation>

@@ -63,6 +63,10 @@
         <source></source>
         <translation>Go to the current month</translation>
     </message>
+    <message id="DAY_HAS_LECTURES">
+        <source></source>
+        <translation>Has lectures</translation>
+    </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
         <translation>Press the plus button to record one.</translation>

@@ -1,5 +1,6 @@
 """A sound server of its own, whose microphone hears what is spoken into it, and the comparison of sounds."""
 
+import contextlib
 import os
 import subprocess
 
@@ -52,6 +53,21 @@ class SoundServer:
         """Returns when the microphone has heard all of it."""
         subprocess.run(["paplay", "-d", "mic", path], check=True, stdin=subprocess.DEVNULL)
 
+    @contextlib.contextmanager
+    def listen(self, path):
+        """Writes what comes out of the speaker to the path, from before the block begins until it ends."""
+        shape = ["--raw", f"--rate={RATE}", "--channels=1", "--format=float32le", "--latency-msec=20"]
+        with open("/dev/zero", "rb") as silence, open(path, "wb") as heard:
+            # The silence keeps the speaker's blocks short, as it does for the microphone.
+            children = Children()
+            try:
+                children.start("pacat", "--playback", "-d", "speaker", *shape, stdin=silence)
+                children.start("pacat", "--record", "-d", "speaker.monitor", *shape, stdout=heard)
+                wait_for("the first sound of the speaker", lambda: os.path.getsize(path) > 0)
+                yield
+            finally:
+                children.stop()
+
     @staticmethod
     def _is_ready():
         asked = subprocess.run(["pactl", "get-default-source"], capture_output=True, text=True, check=False)
@@ -92,6 +108,24 @@ def samples(path):
     if decoded.returncode != 0 or decoded.stderr:
         raise Failed(f"{path} cannot be decoded: {decoded.stderr.decode(errors='replace').strip()}")
     return numpy.frombuffer(decoded.stdout, dtype=numpy.float32).astype(numpy.float64)
+
+
+def heard(path):
+    """What was listened to, as one channel."""
+    with open(path, "rb") as file:
+        data = file.read()
+    return numpy.frombuffer(data[: len(data) // 4 * 4], dtype=numpy.float32).astype(numpy.float64)
+
+
+def without_silence(samples, below=0.002):
+    """From the first to the last sample that can be heard."""
+    loud = numpy.flatnonzero(numpy.abs(samples) > below)
+    return samples[loud[0] : loud[-1] + 1] if len(loud) else samples[:0]
+
+
+def loudness(samples, count):
+    """How loud it is in each of `count` equal stretches."""
+    return numpy.array([numpy.sqrt(numpy.mean(part**2)) for part in numpy.array_split(samples, count)])
 
 
 def correlation(whole, part):

@@ -4,6 +4,7 @@
 #include "platform/Alerts.h"
 #include "platform/Dates.h"
 #include "platform/Images.h"
+#include "platform/Texts.h"
 #include "store/Sqlite.h"
 #include "store/Statements.h"
 
@@ -112,6 +113,7 @@ void DateButton::paintEvent(QPaintEvent *)
     if (text().isNull())
         return;
     const bool hasLectures = numberOfLectures() > 0;
+    tellOfBadge(hasLectures);
     drawNumber(painter, hasLectures);
     if (hasLectures)
         drawBadge(painter);
@@ -146,6 +148,14 @@ void DateButton::drawNumber(QPainter &painter, bool hasLectures) const
     painter.setPen(numberColor(hasLectures));
     painter.setLayoutDirection(Qt::LeftToRight);
     painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, text());
+}
+
+// Who does not see the badge hears of it.
+void DateButton::tellOfBadge(bool hasLectures)
+{
+    const QString told = hasLectures ? platform::text("DAY_HAS_LECTURES") : QString();
+    if (accessibleDescription() != told)
+        setAccessibleDescription(told);
 }
 
 // Its lower edge lies 8 points below the upper edge of the cell.

@@ -51,6 +51,7 @@ private:
     QColor numberColor(bool hasLectures) const;
     void drawNumber(QPainter &painter, bool hasLectures) const;
     void drawBadge(QPainter &painter) const;
+    void tellOfBadge(bool hasLectures);
 
     const platform::Dates &m_dates;
     CalendarDelegate *m_delegate = nullptr;

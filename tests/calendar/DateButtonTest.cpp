@@ -3,6 +3,7 @@
 #include "calendar/CalendarDouble.h"
 #include "platform/Dates.h"
 #include "platform/Fonts.h"
+#include "platform/Texts.h"
 #include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
 #include "support/TemporaryPlaces.h"
@@ -272,6 +273,19 @@ private Q_SLOTS:
         QVERIFY(ink(image, WithoutLectures, everywhere()).isEmpty());
         QVERIFY(!ink(image, Red, above(9)).isEmpty());
         QVERIFY(ink(image, Red, below(9)).isEmpty());
+    }
+
+    void whoDoesNotSeeTheBadgeHearsOfIt()
+    {
+        keepLectureOn("2024-03-06");
+        m_cell->setDate(day(6));
+        drawn();
+        QCOMPARE(m_cell->accessibleDescription(), tarvelo::platform::text("DAY_HAS_LECTURES"));
+
+        m_cell->setDate(day(7));
+        drawn();
+
+        QVERIFY(m_cell->accessibleDescription().isEmpty());
     }
 
     void theBadgeOfAOneDigitDayEnds21PointsFromTheRight()
