@@ -17,8 +17,13 @@ constexpr int BufferSize = 64 * 1024;
 // file. Play lists and the like, which lead to other files, are not among them.
 constexpr const char *Formats = "mov,aac,mp3,wav,flac,ogg,aiff,caf";
 
+// A file may say that it has more packets than there are bytes in the world, and the table of them
+// is made before they are looked for. This is a table of several days; it holds for all that FFmpeg
+// does in this program.
+constexpr std::size_t MostMemory = std::size_t(256) << 20;
+
 // One of sound, and some of pictures and chapters.
-constexpr const char *MostTracks = "16";
+constexpr const char *MostTracks = "8";
 
 // A file that says it lasts longer lies.
 constexpr double MostSeconds = 1e7;
@@ -34,6 +39,7 @@ int refuseToOpen(AVFormatContext *, AVIOContext **, const char *, int, AVDiction
 std::unique_ptr<SoundFileInput> SoundFileInput::open(const QByteArray &bytes)
 {
     keepFfmpegQuiet();
+    av_max_alloc(MostMemory);
     if (!beginsLikeSound(QByteArrayView(bytes).first(std::min(bytes.size(), SignatureLength))))
         return nullptr;
     std::unique_ptr<SoundFileInput> input(new SoundFileInput(bytes));
