@@ -55,9 +55,11 @@ PrivateSoundServer::~PrivateSoundServer()
 
 bool PrivateSoundServer::writeScript(const Options &options) const
 {
+    // The speaker plays what it has taken: when it takes some back, what listens to it hears that
+    // moment twice or not at all.
     QString script;
     if (options.hasMicrophone)
-        script += QStringLiteral("load-module module-null-sink sink_name=speaker\n"
+        script += QStringLiteral("load-module module-null-sink sink_name=speaker norewinds=1\n"
                                  "load-module module-null-sink sink_name=mic rate=%1 channels=%2\n"
                                  "load-module module-remap-source source_name=microphone "
                                  "master=mic.monitor\n"

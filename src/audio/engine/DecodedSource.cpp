@@ -88,9 +88,13 @@ void DecodedSource::seek(std::int64_t frame)
 {
     frame = std::clamp<std::int64_t>(frame, 0, m_end);
     const AVRational frames{1, m_format.rate};
-    const std::int64_t start = std::max<std::int64_t>(frame - RunUp, 0);
-    m_input->seek(
-        av_sat_add64(m_input->origin(), av_rescale_q(start, frames, m_input->track().time_base)));
+    const AVRational stamps = m_input->track().time_base;
+    const std::int64_t origin = m_input->origin();
+    const std::int64_t place = av_sat_add64(origin, av_rescale_q(frame, frames, stamps));
+    // Also the beginning has a packet before it, which nobody hears and the first sound needs.
+    const std::int64_t early = av_sat_sub64(place, av_rescale_q(RunUp, frames, stamps));
+    if (!m_input->seek(early))
+        m_input->seek(std::max(early, origin));
     avcodec_flush_buffers(m_codec.get());
     m_pending.clear();
     m_pendingStart = 0;

@@ -6,13 +6,12 @@ namespace tarvelo::engine {
 
 namespace {
 
-// So much sound waits in the server: enough for a machine that has other things to do. It is
-// replaced there when the user wants to hear something else at once.
-constexpr pa_usec_t BufferLength = 2 * PA_USEC_PER_SEC;
-constexpr pa_usec_t StartLength = 100 * PA_USEC_PER_MSEC;
-// The speaker takes its sound out of that in portions of this length, which then stay as they are.
-constexpr pa_usec_t PortionLength = 50 * PA_USEC_PER_MSEC;
-constexpr pa_usec_t SafetyLength = 30 * PA_USEC_PER_MSEC;
+// So much sound waits in the server: enough for a thread that is not always woken at once, and
+// little enough for a change to be heard soon.
+constexpr pa_usec_t BufferLength = 200 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t StartLength = 50 * PA_USEC_PER_MSEC;
+// The speaker takes its sound out of that in portions of this length.
+constexpr pa_usec_t PortionLength = 25 * PA_USEC_PER_MSEC;
 constexpr pa_usec_t RetryInterval = PA_USEC_PER_SEC;
 
 constexpr std::size_t BlockFrames = 2048;
@@ -63,6 +62,7 @@ void PulseOutput::start(SoundSupply &supply)
     const PulseLock lock(m_loop.get());
     m_supply = &supply;
     m_isPaused = false;
+    m_isFinished = false;
     if (isContextReady())
         openStream();
     else if (m_retry) // nobody waits for the next second when the user asks now
@@ -112,15 +112,10 @@ void PulseOutput::moreIsThere()
     fill();
 }
 
-std::int64_t PulseOutput::firstReplaceableFrame()
+bool PulseOutput::isFinished()
 {
     const PulseLock lock(m_loop.get());
-    if (!m_supply || !isStreamReady() || m_retry)
-        return 0;
-    const pa_timing_info *timing = pa_stream_get_timing_info(m_stream.get());
-    const pa_usec_t taken = timing ? std::max(timing->configured_sink_usec, PortionLength) : 0;
-    const auto seconds = static_cast<double>(taken + SafetyLength) / 1e6;
-    return static_cast<std::int64_t>(heardFrames() + seconds * m_supply->format().rate);
+    return m_supply && m_isFinished && m_supply->isAtEnd();
 }
 
 void PulseOutput::connectContext()
@@ -148,10 +143,9 @@ void PulseOutput::contextChanged()
 
 void PulseOutput::openStream()
 {
+    m_report = Report();
     m_lastHeard = 0;
     m_framesWritten = 0;
-    m_stepBack = 0;
-    m_framesToReplace = 0;
     m_isDraining = false;
     const pa_sample_spec spec = specFor(m_supply->format());
     m_stream.reset(pa_stream_new(m_context.get(), "Lecture", &spec, nullptr));
@@ -166,13 +160,16 @@ void PulseOutput::openStream()
         m_stream.get(),
         [](pa_stream *, std::size_t, void *self) { static_cast<PulseOutput *>(self)->fill(); },
         this);
+    pa_stream_set_latency_update_callback(
+        m_stream.get(),
+        [](pa_stream *, void *self) { static_cast<PulseOutput *>(self)->timingChanged(); }, this);
     constexpr auto Any = static_cast<std::uint32_t>(-1);
     const auto length = static_cast<std::uint32_t>(pa_usec_to_bytes(BufferLength, &spec));
     const auto start = static_cast<std::uint32_t>(pa_usec_to_bytes(StartLength, &spec));
     const auto portion = static_cast<std::uint32_t>(pa_usec_to_bytes(PortionLength, &spec));
     const pa_buffer_attr buffer{Any, length, start, portion, Any};
-    const int flags = PA_STREAM_EARLY_REQUESTS | PA_STREAM_INTERPOLATE_TIMING |
-                      PA_STREAM_AUTO_TIMING_UPDATE | (m_isPaused ? PA_STREAM_START_CORKED : 0);
+    const int flags = PA_STREAM_EARLY_REQUESTS | PA_STREAM_AUTO_TIMING_UPDATE |
+                      (m_isPaused ? PA_STREAM_START_CORKED : 0);
     if (pa_stream_connect_playback(m_stream.get(), nullptr, &buffer,
                                    static_cast<pa_stream_flags_t>(flags), nullptr, nullptr) < 0)
         lost();
@@ -193,7 +190,8 @@ void PulseOutput::streamChanged()
 void PulseOutput::lost()
 {
     if (m_supply)
-        m_supply->restartAt(m_lastHeard);
+        m_supply->restartAt(heardFrames());
+    m_report = Report();
     m_lastHeard = 0;
     m_framesWritten = 0;
     retryLater();
@@ -222,19 +220,13 @@ void PulseOutput::fill()
 {
     if (!m_supply || !isStreamReady() || m_retry)
         return;
-    heardFrames();
     const auto channels = static_cast<std::size_t>(m_supply->format().channels);
     m_block.resize(BlockFrames * channels);
     for (;;) {
         const std::size_t writable = pa_stream_writable_size(m_stream.get());
         if (writable == static_cast<std::size_t>(-1))
             return;
-        const std::int64_t back = m_supply->takeStepBack();
-        m_stepBack += back;
-        m_framesToReplace += back;
-        const std::size_t room = writable / (sizeof(float) * channels);
-        const std::size_t frames =
-            std::min(BlockFrames, room + static_cast<std::size_t>(m_stepBack));
+        const std::size_t frames = std::min(BlockFrames, writable / (sizeof(float) * channels));
         if (frames == 0)
             return;
         const std::size_t count = m_supply->take(std::span(m_block).first(frames * channels));
@@ -250,50 +242,71 @@ void PulseOutput::write(std::size_t frames)
     if (frames == 0)
         return;
     const std::size_t frameSize = m_block.size() / BlockFrames * sizeof(float);
-    const std::int64_t offset = -m_stepBack * static_cast<std::int64_t>(frameSize);
-    pa_stream_write(m_stream.get(), m_block.data(), frames * frameSize, nullptr, offset,
+    pa_stream_write(m_stream.get(), m_block.data(), frames * frameSize, nullptr, 0,
                     PA_SEEK_RELATIVE);
-    const auto count = static_cast<std::int64_t>(frames);
-    m_framesWritten += count - m_stepBack;
-    m_framesToReplace = std::max<std::int64_t>(m_framesToReplace - count, 0);
-    m_stepBack = 0;
+    m_framesWritten += static_cast<std::int64_t>(frames);
+    m_isFinished = false;
 }
 
+// Also starts what is too short to start by itself. One question at a time: the server forgets the
+// first when it is asked a second one.
 void PulseOutput::drain()
 {
     if (m_isDraining || m_isPaused || !m_supply->isAtEnd())
         return;
-    std::ranges::fill(m_block, 0.0F);
-    while (m_framesToReplace > 0)
-        write(std::min(BlockFrames, static_cast<std::size_t>(m_framesToReplace)));
     m_isDraining = true;
+    m_framesToDrain = m_framesWritten;
     forget(pa_stream_drain(
         m_stream.get(),
         [](pa_stream *, int success, void *self) {
-            auto output = static_cast<PulseOutput *>(self);
-            output->m_isDraining = false;
-            if (success)
-                output->drained();
+            static_cast<PulseOutput *>(self)->drained(success != 0);
         },
         this));
 }
 
-void PulseOutput::drained()
+// More may have been written since the question, a pause may have come between, or the user has
+// gone elsewhere.
+void PulseOutput::drained(bool isTrue)
 {
-    if (m_supply && !m_isPaused && m_supply->isAtEnd())
-        m_tellOfEnd();
-    else
+    m_isDraining = false;
+    if (!m_supply || m_retry || m_isPaused)
+        return;
+    if (!isTrue || m_framesToDrain != m_framesWritten || !m_supply->isAtEnd()) {
         fill();
+        return;
+    }
+    m_lastHeard = static_cast<double>(m_framesWritten);
+    m_isFinished = true;
+    m_tellOfEnd();
+}
+
+// What the speaker has taken is still to be heard; but a stream that stands still has either got it
+// back or plays it to its end, and stands exactly where it was read.
+void PulseOutput::timingChanged()
+{
+    const pa_timing_info *timing = pa_stream_get_timing_info(m_stream.get());
+    if (!m_supply || !timing || timing->read_index_corrupt)
+        return;
+    const PcmFormat format = m_supply->format();
+    const double frameSize = static_cast<double>(sizeof(float)) * format.channels;
+    const double read = static_cast<double>(timing->read_index) / frameSize;
+    if (timing->playing == 0) {
+        m_report = {read, pa_rtclock_now(), false};
+        m_lastHeard = read;
+        return;
+    }
+    const double inSpeaker = static_cast<double>(timing->sink_usec) * format.rate / 1e6;
+    const pa_usec_t age = pa_timeval_age(&timing->timestamp);
+    m_report = {read - inSpeaker, pa_rtclock_now() - age, read > 0};
 }
 
 double PulseOutput::heardFrames()
 {
-    pa_usec_t time = 0;
-    if (isStreamReady() && !m_retry && pa_stream_get_time(m_stream.get(), &time) >= 0) {
-        const double frames = static_cast<double>(time) * m_supply->format().rate / 1e6;
-        const auto written = static_cast<double>(m_framesWritten);
-        m_lastHeard = std::clamp(frames, m_lastHeard, std::max(written, m_lastHeard));
-    }
+    const pa_usec_t passed = m_report.isMoving ? pa_rtclock_now() - m_report.time : 0;
+    const double rate = m_supply ? m_supply->format().rate : 0;
+    const double frame = m_report.frame + static_cast<double>(passed) * rate / 1e6;
+    const auto written = static_cast<double>(m_framesWritten);
+    m_lastHeard = std::clamp(frame, m_lastHeard, std::max(written, m_lastHeard));
     return m_lastHeard;
 }
 

@@ -9,8 +9,9 @@
 namespace tarvelo::engine {
 
 // The default output of the session's sound server. Connects in the background, and again when the
-// server was away; what is to be played waits for that. For the main thread, none of whose calls
-// waits for the server.
+// server was away; what is to be played waits for that. Little of it waits in the server, and
+// nothing there is ever changed: a change is heard a quarter of a second later. For the main
+// thread, none of whose calls waits for the server.
 class PulseOutput final : public SoundTaker
 {
 public:
@@ -28,11 +29,13 @@ public:
     // Stops at once, without losing a frame, and goes on from there.
     void pause();
     void resume();
-    // The second of the sound that is heard now; 0 without a supply.
+    // The second of the sound that is heard now; 0 without a supply. A pause is estimated until the
+    // server has said, some milliseconds later, with which frame it began.
     double seconds();
+    // All of the supply has been heard, and it has no more.
+    bool isFinished();
 
     void moreIsThere() override;
-    std::int64_t firstReplaceableFrame() override;
 
 private:
     // All below run with the loop's lock held.
@@ -40,16 +43,25 @@ private:
     void contextChanged();
     void openStream();
     void streamChanged();
+    void timingChanged();
     void lost();
     void retryLater();
     void freeRetry();
     void fill();
     void write(std::size_t frames);
     void drain();
-    void drained();
+    void drained(bool isTrue);
     double heardFrames();
     bool isContextReady() const;
     bool isStreamReady() const;
+
+    // What the server said last of the frame that is heard.
+    struct Report
+    {
+        double frame = 0;
+        pa_usec_t time = 0;
+        bool isMoving = false;
+    };
 
     std::function<void()> m_tellOfEnd;
     PulseLoopPointer m_loop;
@@ -58,12 +70,13 @@ private:
     pa_time_event *m_retry = nullptr;
     SoundSupply *m_supply = nullptr;
     std::vector<float> m_block;
+    Report m_report;
     double m_lastHeard = 0; // frames
     std::int64_t m_framesWritten = 0;
-    std::int64_t m_stepBack = 0;        // the next frames begin so many before the last written
-    std::int64_t m_framesToReplace = 0; // that still wait in the server, and are not wanted
-    bool m_isPaused = false;
+    std::int64_t m_framesToDrain = 0; // were written when the server was asked to tell of the end
     bool m_isDraining = false;
+    bool m_isPaused = false;
+    bool m_isFinished = false;
 };
 
 } // namespace tarvelo::engine

@@ -11,15 +11,17 @@ namespace tarvelo::engine {
 
 namespace {
 
-constexpr std::size_t BlockFrames = 4096;
-// What replaces other sound lasts until more has been made, also on a machine with much to do.
-constexpr std::size_t SpliceFrames = 5 * BlockFrames;
+constexpr std::size_t BlockFrames = 2048;
 
-// A change happens this far behind what can no longer be changed, since that moves on meanwhile;
-// and further when that proves too near.
-constexpr double SpliceAhead = 0.05;
+// A change happens so far ahead of what has been taken: to make its first sound takes 10 to 20 ms.
+// When that proves too near, since the machine has other things to do, it is tried further ahead.
+constexpr double FirstMargin = 0.05;
+// Before a change, so much of the old sound is made: it is what is heard while that is tried.
+constexpr double ReadyForChange = 0.5;
 // Two sounds that do not fit are laid over each other for so long.
 constexpr double FadeSeconds = 0.01;
+// What an output has taken is heard sooner than this.
+constexpr double LongestDelay = 10;
 
 } // namespace
 
@@ -46,14 +48,7 @@ bool SoundAhead::start(double seconds, double rate)
 {
     {
         const std::lock_guard lock(m_mutex);
-        m_order = Order{true, seconds, rate};
-        m_kept.clear();
-        m_keptFrom = 0;
-        m_taken = 0;
-        m_stepBack = 0;
-        m_stretches.assign(1, Stretch{0, seconds, rate, false});
-        m_isComplete = false;
-        m_isShort = false;
+        beginAt(seconds, rate);
     }
     m_wake.notify_one();
     try {
@@ -66,15 +61,24 @@ bool SoundAhead::start(double seconds, double rate)
     }
 }
 
+void SoundAhead::beginAt(double seconds, double rate)
+{
+    m_order = Order{true, seconds, rate};
+    m_ready.clear();
+    m_taken = 0;
+    m_stretches.assign(1, Stretch{0, seconds, rate, false});
+    m_isComplete = false;
+    m_isShort = false;
+}
+
 void SoundAhead::changeRate(double rate)
 {
     {
         const std::lock_guard lock(m_mutex);
-        if (!m_order)
-            m_order = Order();
-        m_order->rate = rate;
-        if (m_order->isRestart)
-            m_stretches.assign(1, Stretch{0, *m_order->seconds, rate, false});
+        if (m_order && m_order->isRestart)
+            beginAt(*m_order->seconds, rate);
+        else
+            m_order = Order{false, m_order ? m_order->seconds : std::nullopt, rate};
     }
     m_wake.notify_one();
 }
@@ -83,19 +87,13 @@ void SoundAhead::jump(double seconds)
 {
     {
         const std::lock_guard lock(m_mutex);
-        if (!m_order)
-            m_order = Order{false, std::nullopt, m_stretches.back().rate};
-        m_order->seconds = seconds;
-        if (m_order->isRestart)
-            m_stretches.assign(1, Stretch{0, seconds, m_order->rate, false});
+        const double rate = m_order ? m_order->rate : m_stretches.back().rate;
+        if (m_order && m_order->isRestart)
+            beginAt(seconds, rate);
+        else
+            m_order = Order{false, seconds, rate};
     }
     m_wake.notify_one();
-}
-
-std::int64_t SoundAhead::takeStepBack()
-{
-    const std::lock_guard lock(m_mutex);
-    return std::exchange(m_stepBack, 0);
 }
 
 std::size_t SoundAhead::take(std::span<float> interleaved)
@@ -103,41 +101,39 @@ std::size_t SoundAhead::take(std::span<float> interleaved)
     std::size_t given = 0;
     {
         const std::lock_guard lock(m_mutex);
-        const auto ready = m_kept.begin() + static_cast<std::ptrdiff_t>(offsetOf(m_taken));
-        given = std::min(interleaved.size(), m_kept.size() - offsetOf(m_taken));
-        std::copy_n(ready, given, interleaved.begin());
+        given = std::min(interleaved.size(), m_ready.size());
+        const auto end = m_ready.begin() + static_cast<std::ptrdiff_t>(given);
+        std::copy(m_ready.begin(), end, interleaved.begin());
+        m_ready.erase(m_ready.begin(), end);
         m_taken += static_cast<std::int64_t>(given / channels());
         m_isShort = given < interleaved.size();
-        const auto oldest = std::max(m_keptFrom, m_taken - framesIn(SecondsBehind));
-        m_kept.erase(m_kept.begin(),
-                     m_kept.begin() + static_cast<std::ptrdiff_t>(offsetOf(oldest)));
-        m_keptFrom = oldest;
     }
     m_wake.notify_one();
     return given / channels();
 }
 
-std::size_t SoundAhead::offsetOf(std::int64_t frame) const
-{
-    return static_cast<std::size_t>(std::max<std::int64_t>(frame - m_keptFrom, 0)) * channels();
-}
-
 bool SoundAhead::isAtEnd() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_isComplete && m_taken == end() && !m_order;
+    return m_isComplete && m_ready.empty() && !m_order;
 }
 
 double SoundAhead::secondsAt(double frame) const
 {
     const std::lock_guard lock(m_mutex);
+    return heardAt(frame);
+}
+
+double SoundAhead::heardAt(double frame) const
+{
     if (m_order && m_order->seconds)
         return *m_order->seconds;
     // Who has jumped is there, though the sound takes a moment to follow.
-    const Stretch &last = m_stretches.back();
-    if (last.isJump && frame < static_cast<double>(last.frame))
-        return last.seconds;
-    return soundAt(frame);
+    const auto isAhead = [frame](const Stretch &it) {
+        return it.isJump && static_cast<double>(it.frame) > frame;
+    };
+    const auto found = std::find_if(m_stretches.rbegin(), m_stretches.rend(), isAhead);
+    return found == m_stretches.rend() ? soundAt(frame) : found->seconds;
 }
 
 double SoundAhead::soundAt(double frame) const
@@ -154,13 +150,11 @@ double SoundAhead::soundAt(double frame) const
 
 void SoundAhead::restartAt(double frame)
 {
-    const double seconds = secondsAt(frame);
-    double rate = 1;
     {
         const std::lock_guard lock(m_mutex);
-        rate = m_order ? m_order->rate : m_stretches.back().rate;
+        beginAt(heardAt(frame), m_order ? m_order->rate : m_stretches.back().rate);
     }
-    start(seconds, rate);
+    m_wake.notify_one();
 }
 
 void SoundAhead::work()
@@ -174,8 +168,8 @@ void SoundAhead::workOnce(Lock &lock)
 {
     if (m_order && m_order->isRestart)
         restart(lock);
-    else if (m_order)
-        splice(lock);
+    else if (m_order && canChange())
+        change(lock);
     else if (hasRoom())
         produce(lock);
     else
@@ -191,63 +185,60 @@ void SoundAhead::restart(Lock &lock)
     lock.lock();
 }
 
-void SoundAhead::splice(Lock &lock)
+bool SoundAhead::canChange() const
 {
-    for (double ahead = SpliceAhead;; ahead *= 2) {
+    return m_sound && (m_isComplete || end() - m_taken >= framesIn(ReadyForChange));
+}
+
+// The old sound cannot go on once the source has been moved for the new one: when the new one is
+// too late again and again, it begins where the old one ends.
+void SoundAhead::change(Lock &lock)
+{
+    for (double margin = FirstMargin; !m_isLeaving && !m_order->isRestart; margin *= 2) {
         const Order order = *m_order;
+        const Stretch next = stretchFrom(placeForChange(margin), order);
         lock.unlock();
-        const std::int64_t first = m_taker->firstReplaceableFrame();
-        lock.lock();
-        const std::int64_t place = std::clamp(first + framesIn(ahead), m_keptFrom, end());
-        const Stretch stretch = stretchFrom(place, order);
-        lock.unlock();
-        auto sound = soundFrom(stretch);
-        m_block.resize(SpliceFrames * channels());
+        auto sound = soundFrom(next);
+        m_block.resize(BlockFrames * channels());
         const std::size_t count = sound->read(m_block);
-        const bool isTooLate = m_taker->firstReplaceableFrame() > place;
         lock.lock();
-        if (m_isLeaving || m_order->isRestart)
-            return;
-        const bool isOldNews = m_order->rate != order.rate || m_order->seconds != order.seconds;
-        if (isOldNews || (isTooLate && place < end()))
+        if (*m_order != order || m_taken > next.frame)
             continue;
         m_sound = std::move(sound);
-        replaceFrom(stretch, std::span(m_block).first(count * channels()));
-        break;
-    }
-    tellTaker(lock);
-}
-
-void SoundAhead::replaceFrom(const Stretch &stretch, std::span<float> samples)
-{
-    m_order.reset();
-    fadeIn(stretch.frame, samples);
-    cutAt(stretch.frame);
-    m_stretches.push_back(stretch);
-    append(samples);
-    m_isComplete = false;
-    m_stepBack += std::max<std::int64_t>(m_taken - stretch.frame, 0);
-    m_taken = std::min(m_taken, stretch.frame);
-    m_isShort = true;
-}
-
-void SoundAhead::tellTaker(Lock &lock)
-{
-    if (!std::exchange(m_isShort, false))
+        m_order.reset();
+        replaceFrom(next, std::span(m_block).first(count * channels()));
+        m_isComplete = count < BlockFrames;
+        tellTaker(lock);
         return;
-    lock.unlock();
-    m_taker->moreIsThere();
-    lock.lock();
+    }
+}
+
+std::int64_t SoundAhead::placeForChange(double margin) const
+{
+    const std::int64_t place = std::min(m_taken + framesIn(margin), end() - framesIn(FadeSeconds));
+    return std::max(place, m_taken);
 }
 
 SoundAhead::Stretch SoundAhead::stretchFrom(std::int64_t frame, const Order &order) const
 {
     if (order.seconds)
         return {frame, *order.seconds, order.rate, true};
+    // It takes the place of a jump that nobody has heard yet.
     const Stretch &last = m_stretches.back();
-    if (last.isJump && frame < last.frame)
+    if (last.isJump && frame <= last.frame)
         return {frame, last.seconds, order.rate, true};
     return {frame, soundAt(static_cast<double>(frame)), order.rate, false};
+}
+
+void SoundAhead::replaceFrom(const Stretch &stretch, std::span<float> samples)
+{
+    const std::size_t kept = static_cast<std::size_t>(stretch.frame - m_taken) * channels();
+    fadeIn(samples, kept);
+    m_ready.resize(std::min(m_ready.size(), kept));
+    std::erase_if(m_stretches, [&](const Stretch &it) { return it.frame >= stretch.frame; });
+    forgetOldStretches();
+    m_stretches.push_back(stretch);
+    append(samples);
 }
 
 void SoundAhead::produce(Lock &lock)
@@ -265,31 +256,35 @@ void SoundAhead::produce(Lock &lock)
 
 void SoundAhead::append(std::span<const float> samples)
 {
-    m_kept.insert(m_kept.end(), samples.begin(), samples.end());
+    m_ready.insert(m_ready.end(), samples.begin(), samples.end());
 }
 
-// The sound that is ready goes while the new one comes.
-void SoundAhead::fadeIn(std::int64_t at, std::span<float> samples) const
+void SoundAhead::tellTaker(Lock &lock)
 {
-    const std::size_t offset = offsetOf(at) / channels();
-    const std::size_t fade =
-        std::min(static_cast<std::size_t>(framesIn(FadeSeconds)), samples.size() / channels());
-    for (std::size_t frame = 0; frame < fade; ++frame) {
-        const float share = static_cast<float>(frame + 1) / static_cast<float>(fade + 1);
-        for (std::size_t channel = 0; channel < channels(); ++channel) {
-            const std::size_t old = (offset + frame) * channels() + channel;
-            float &sample = samples[frame * channels() + channel];
-            sample *= share;
-            if (old < m_kept.size())
-                sample += m_kept[old] * (1 - share);
-        }
+    if (!std::exchange(m_isShort, false))
+        return;
+    lock.unlock();
+    m_taker->moreIsThere();
+    lock.lock();
+}
+
+// The sound that is ready from the sample on goes while the new one comes.
+void SoundAhead::fadeIn(std::span<float> samples, std::size_t from) const
+{
+    const auto fade = static_cast<std::size_t>(framesIn(FadeSeconds)) * channels();
+    for (std::size_t at = 0; at < std::min(fade, samples.size()); ++at) {
+        const auto frame = static_cast<float>(at / channels() + 1);
+        const float share = frame / static_cast<float>(fade / channels() + 1);
+        const float old = from + at < m_ready.size() ? m_ready[from + at] : 0;
+        samples[at] = share * samples[at] + (1 - share) * old;
     }
 }
 
-void SoundAhead::cutAt(std::int64_t frame)
+void SoundAhead::forgetOldStretches()
 {
-    m_kept.resize(std::min(m_kept.size(), offsetOf(frame)));
-    std::erase_if(m_stretches, [frame](const Stretch &it) { return it.frame >= frame; });
+    const std::int64_t heard = m_taken - framesIn(LongestDelay);
+    while (m_stretches.size() > 1 && m_stretches[1].frame < heard)
+        m_stretches.erase(m_stretches.begin());
 }
 
 bool SoundAhead::hasRoom() const
@@ -299,7 +294,7 @@ bool SoundAhead::hasRoom() const
 
 std::int64_t SoundAhead::end() const
 {
-    return m_keptFrom + static_cast<std::int64_t>(m_kept.size() / channels());
+    return m_taken + static_cast<std::int64_t>(m_ready.size() / channels());
 }
 
 std::int64_t SoundAhead::framesIn(double seconds) const

@@ -11,15 +11,16 @@
 
 namespace tarvelo::engine {
 
-// Keeps a few seconds of sound ready ahead of what is heard, decoded and stretched in a thread of
-// its own. Knows which second of the sound every frame comes from, over all changes of rate. For
-// any thread.
+// Keeps a few seconds of sound ready ahead of what is taken, decoded and stretched in a thread of
+// its own. Knows which second of the sound every frame comes from, over all changes of rate.
+//
+// A change touches only what nobody has taken yet: the new sound is made ready for a place a little
+// ahead, and the old one goes on to be taken until it is there. So a slow machine makes a change
+// late, and never makes a gap. For any thread.
 class SoundAhead final : public SoundSupply
 {
 public:
-    static constexpr int SecondsAhead = 3;
-    // Of what has been taken, so much may be wanted again.
-    static constexpr int SecondsBehind = 3;
+    static constexpr double SecondsAhead = 3;
 
     explicit SoundAhead(std::unique_ptr<DecodedSource> source);
     ~SoundAhead() override;
@@ -37,7 +38,6 @@ public:
     void setTaker(SoundTaker *taker) { m_taker = taker; }
 
     PcmFormat format() const override { return m_format; }
-    std::int64_t takeStepBack() override;
     std::size_t take(std::span<float> interleaved) override;
     bool isAtEnd() const override;
     double secondsAt(double frame) const override;
@@ -57,22 +57,28 @@ private:
         bool isRestart = false;
         std::optional<double> seconds;
         double rate = 1;
+
+        bool operator==(const Order &) const = default;
     };
     using Lock = std::unique_lock<std::mutex>;
 
+    // All below run with the lock held; those that take it let go of it for a while.
     void work();
     void workOnce(Lock &lock);
     void restart(Lock &lock);
-    void splice(Lock &lock);
+    void change(Lock &lock);
     void replaceFrom(const Stretch &stretch, std::span<float> samples);
     void produce(Lock &lock);
     void append(std::span<const float> samples);
-    void fadeIn(std::int64_t at, std::span<float> samples) const;
-    void cutAt(std::int64_t frame);
     void tellTaker(Lock &lock);
-    std::size_t offsetOf(std::int64_t frame) const;
+    void fadeIn(std::span<float> samples, std::size_t from) const;
+    std::int64_t placeForChange(double margin) const;
+    void beginAt(double seconds, double rate);
     Stretch stretchFrom(std::int64_t frame, const Order &order) const;
     double soundAt(double frame) const;
+    double heardAt(double frame) const;
+    void forgetOldStretches();
+    bool canChange() const;
     bool hasRoom() const;
     std::int64_t end() const;
     std::int64_t framesIn(double seconds) const;
@@ -89,10 +95,8 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_wake;
     std::optional<Order> m_order;
-    std::deque<float> m_kept;    // what was taken last, and what is ready
-    std::int64_t m_keptFrom = 0; // its first frame
-    std::int64_t m_taken = 0;    // the first frame of what is ready
-    std::int64_t m_stepBack = 0;
+    std::deque<float> m_ready;
+    std::int64_t m_taken = 0; // the first frame of what is ready
     std::vector<Stretch> m_stretches{Stretch()};
     bool m_isComplete = false; // nothing comes behind what is ready
     bool m_isShort = false;    // somebody got too little

@@ -63,7 +63,7 @@ bool SoundServerPlayer::play()
         m_output->resume();
         return true;
     }
-    if (m_lastTime >= duration())
+    if (currentTime() >= duration())
         setCurrentTime(0);
     if (!prepareToPlay())
         return false;
@@ -81,7 +81,6 @@ void SoundServerPlayer::pause()
     if (!m_isPlaying)
         return;
     m_output->pause();
-    m_lastTime = m_output->seconds();
     m_isPlaying = false;
 }
 
@@ -93,7 +92,7 @@ void SoundServerPlayer::stop()
 
 double SoundServerPlayer::currentTime() const
 {
-    return m_isPlaying ? m_output->seconds() : m_lastTime;
+    return m_sound == Sound::Streaming ? m_output->seconds() : m_lastTime;
 }
 
 void SoundServerPlayer::setCurrentTime(double seconds)
@@ -103,8 +102,8 @@ void SoundServerPlayer::setCurrentTime(double seconds)
         m_ahead->jump(wanted);
         return;
     }
-    m_lastTime = wanted;
     forgetSound();
+    m_lastTime = wanted;
 }
 
 void SoundServerPlayer::setRate(float rate)
@@ -120,6 +119,7 @@ void SoundServerPlayer::setRate(float rate)
 
 void SoundServerPlayer::forgetSound()
 {
+    m_lastTime = currentTime();
     m_output->stop();
     m_sound = Sound::None;
 }
@@ -127,11 +127,11 @@ void SoundServerPlayer::forgetSound()
 // The news was on its way while the user may have gone elsewhere.
 void SoundServerPlayer::ended()
 {
-    if (!m_isPlaying || !m_ahead->isAtEnd())
+    if (!m_isPlaying || !m_output->isFinished())
         return;
     m_isPlaying = false;
-    m_lastTime = 0;
     forgetSound();
+    m_lastTime = 0;
     if (m_delegate)
         m_delegate->audioPlayerDidFinishPlayingSuccessfully(this, true);
 }

@@ -45,7 +45,7 @@ private:
     float m_rate = 1.0F;
     bool m_isPlaying = false;
     Sound m_sound = Sound::None;
-    double m_lastTime = 0; // where it stands while it does not play
+    double m_lastTime = 0; // where it stands without a stream
     std::shared_ptr<SoundServerPlayer *> m_self;
     std::unique_ptr<PulseOutput> m_output;
     std::unique_ptr<SoundAhead> m_ahead; // gone before the output that it tells of more

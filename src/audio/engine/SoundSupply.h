@@ -9,7 +9,7 @@
 namespace tarvelo::engine {
 
 // What an output plays. Called on the output's thread, never waits. Frames are counted from the
-// last restart.
+// last restart; what has been taken is heard as it is.
 class SoundSupply
 {
 public:
@@ -19,9 +19,6 @@ public:
     virtual ~SoundSupply() = default;
 
     virtual PcmFormat format() const = 0;
-    // By how many frames what is taken next begins before the end of what was taken: so much is to
-    // be replaced, since the user wants to hear something else. 0 when asked again.
-    virtual std::int64_t takeStepBack() = 0;
     // How many frames there were. Who got fewer than asked for is told when there are more.
     virtual std::size_t take(std::span<float> interleaved) = 0;
     // The last frame has been taken.
@@ -41,10 +38,8 @@ public:
     SoundTaker &operator=(const SoundTaker &) = delete;
     virtual ~SoundTaker() = default;
 
-    // The supply has more than it had, or something else.
+    // The supply has more than it had when it had too little.
     virtual void moreIsThere() = 0;
-    // The first frame that is far enough from being heard to be replaced.
-    virtual std::int64_t firstReplaceableFrame() = 0;
 };
 
 } // namespace tarvelo::engine

@@ -43,12 +43,24 @@ public:
         return {m_samples.begin() + static_cast<std::ptrdiff_t>(m_begin),
                 m_samples.begin() + static_cast<std::ptrdiff_t>(m_end)};
     }
+    // All of it, silence too.
+    const std::vector<float> &all()
+    {
+        take();
+        return m_samples;
+    }
     // Without the event loop.
     bool waitForMore() { return m_process.waitForReadyRead(Patience); }
     bool hearsSound()
     {
         take();
         return m_end > 0;
+    }
+    // The last so many seconds were silent.
+    bool isSilentFor(double seconds)
+    {
+        take();
+        return static_cast<double>(m_samples.size() - m_end) > seconds * Rate;
     }
     // What was heard by now is no longer of interest.
     void forget()
