@@ -1,13 +1,15 @@
 #pragma once
 
 #include "audio/engine/DecodedSource.h"
+#include "audio/engine/OnsetKeeper.h"
 
 #include <rubberband/RubberBandStretcher.h>
 
 namespace tarvelo::engine {
 
 // The sound from one place on, as it is heard at one rate, its pitch kept. As long as what is left
-// of the sound divided by the rate, to the frame.
+// of the sound divided by the rate, to the frame; what happens in it begins, and has its middle,
+// within 20 ms of its place.
 class SoundAtRate final
 {
 public:
@@ -30,6 +32,7 @@ private:
     std::int64_t m_startFrame;
     double m_rate;
     std::unique_ptr<RubberBand::RubberBandStretcher> m_stretcher; // none at the recorded rate
+    std::unique_ptr<OnsetKeeper> m_onsets;
     std::size_t m_delayLeft = 0;
     std::int64_t m_framesGiven = 0;
     std::int64_t m_framesInAll = -1; // unknown until the source has come to its end
