@@ -1,57 +1,60 @@
 #include "platform/Workspace.h"
 
-#include <QDBusConnection>
+#include "platform/DetachedCommand.h"
+
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QFileInfo>
-#include <QProcess>
 #include <QStringList>
 
 namespace tarvelo::platform {
 
 namespace {
 
-void openFolderOf(const QUrl &url)
+// A whole path begins with a slash, so that the command cannot take it for an option.
+void open(const QString &path)
 {
-    const QFileInfo file(url.toLocalFile());
-    // Started detached with nothing of ours on its streams: what the opener prints is not ours to
-    // show.
-    QProcess opener;
-    opener.setProgram(QStringLiteral("xdg-open"));
-    opener.setArguments({file.absolutePath()});
-    opener.setStandardOutputFile(QProcess::nullDevice());
-    opener.setStandardErrorFile(QProcess::nullDevice());
-    opener.startDetached();
+    if (path.startsWith(u'/'))
+        runDetached(QStringLiteral("xdg-open"), {path});
+}
+
+// File managers compare addresses by their letters, and would not find a path with a doubled slash
+// among the files of its folder.
+QString addressOf(const QUrl &file)
+{
+    return QString::fromUtf8(file.adjusted(QUrl::NormalizePathSegments).toEncoded());
+}
+
+QStringList addressesOf(const QList<QUrl> &urls)
+{
+    QStringList addresses;
+    for (const QUrl &url : urls) {
+        if (url.path().startsWith(u'/'))
+            addresses.append(addressOf(url));
+    }
+    return addresses;
 }
 
 } // namespace
 
 void DesktopWorkspace::activateFileViewerSelectingURLs(const QList<QUrl> &urls)
 {
-    if (urls.isEmpty())
+    const QStringList addresses = addressesOf(urls);
+    if (addresses.isEmpty())
         return;
-    QStringList addresses;
-    for (const QUrl &url : urls)
-        addresses.append(QString::fromUtf8(url.toEncoded()));
-
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
-        openFolderOf(urls.first());
-        return;
-    }
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.FileManager1"),
         QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
-    call.setArguments({addresses, QString()});
-    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(call));
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-                     [watcher, first = urls.first()] {
-                         if (QDBusPendingReply<>(*watcher).isError())
-                             openFolderOf(first);
-                         watcher->deleteLater();
-                     });
+    const QString noStartupId;
+    call.setArguments({addresses, noStartupId});
+    callSessionService(call, m_patience, [file = QUrl(addresses.first()).toLocalFile()] {
+        open(QFileInfo(file).absolutePath());
+    });
+}
+
+void DesktopWorkspace::openFileWithApplication(const QString &path)
+{
+    open(path);
 }
 
 } // namespace tarvelo::platform

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "platform/SessionService.h"
+
 #include <QList>
 #include <QUrl>
 
 namespace tarvelo::platform {
 
-// What the desktop does for us with files: all of it silent, whether or not it succeeds.
+// What the desktop does for us with files: all of it silent, whether or not it succeeds, and none
+// of it waited for.
 class Workspace
 {
 public:
@@ -16,14 +19,25 @@ public:
 
     // Shows the files in the file manager, selected in their folders.
     virtual void activateFileViewerSelectingURLs(const QList<QUrl> &urls) = 0;
+    // Opens the file with the application that the user has chosen for its kind.
+    virtual void openFileWithApplication(const QString &path) = 0;
 };
 
 // Asks the file manager over the session bus; without one that answers, the folder of the first
-// file is opened with the desktop's default application.
+// file is opened. Neither needs the file to be there.
 class DesktopWorkspace final : public Workspace
 {
 public:
+    explicit DesktopWorkspace(std::chrono::milliseconds patience = PatienceWithServices)
+        : m_patience(patience)
+    {
+    }
+
     void activateFileViewerSelectingURLs(const QList<QUrl> &urls) override;
+    void openFileWithApplication(const QString &path) override;
+
+private:
+    std::chrono::milliseconds m_patience;
 };
 
 } // namespace tarvelo::platform

@@ -2,6 +2,8 @@
 
 #include "platform/Workspace.h"
 
+#include <QStringList>
+
 namespace tarvelo::tests {
 
 // A desktop that opens nothing and remembers what it was asked for.
@@ -9,8 +11,10 @@ class FakeWorkspace final : public platform::Workspace
 {
 public:
     QList<QList<QUrl>> shown;
+    QStringList opened;
 
     void activateFileViewerSelectingURLs(const QList<QUrl> &urls) override { shown.append(urls); }
+    void openFileWithApplication(const QString &path) override { opened.append(path); }
 };
 
 } // namespace tarvelo::tests
