@@ -27,6 +27,14 @@
         <source></source>
         <translation>لا</translation>
     </message>
+    <message id="BUTTON_PAUSE">
+        <source></source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message id="BUTTON_PLAY">
+        <source></source>
+        <translation>تشغيل</translation>
+    </message>
     <message id="BUTTON_SLIDE_TO_LIST">
         <source></source>
         <translation>العودة إلى القائمة</translation>
@@ -83,6 +91,14 @@
         <source></source>
         <translation>صوت MPEG-4 (.m4a)</translation>
     </message>
+    <message id="HINT_PAUSE">
+        <source></source>
+        <translation>إيقاف مؤقت (مسافة)</translation>
+    </message>
+    <message id="HINT_PLAY">
+        <source></source>
+        <translation>تشغيل (مسافة)</translation>
+    </message>
     <message id="LABEL_CONFIRM_RECORDDELETE">
         <source></source>
         <translation>هل تريد حذف هذه المحاضرة وتسجيلها؟</translation>
@@ -90,6 +106,10 @@
     <message id="LABEL_DAY_SHOWN">
         <source></source>
         <translation>اليوم المعروض</translation>
+    </message>
+    <message id="LABEL_ELAPSED_TIME">
+        <source></source>
+        <translation>الوقت المنقضي</translation>
     </message>
     <message id="LABEL_LECTURES">
         <source></source>
@@ -110,6 +130,14 @@
     <message id="LABEL_RECORDING_LEVEL">
         <source></source>
         <translation>مستوى التسجيل</translation>
+    </message>
+    <message id="LABEL_REMAINING_TIME">
+        <source></source>
+        <translation>الوقت المتبقي</translation>
+    </message>
+    <message id="LABEL_SPEED">
+        <source></source>
+        <translation>السرعة</translation>
     </message>
     <message id="LABEL_SUBJECT">
         <source></source>
@@ -230,6 +258,26 @@
     <message id="SETTING_WINDOWONTOP">
         <source></source>
         <translation>إبقاء النافذة في المقدمة</translation>
+    </message>
+    <message id="SPEED_FIFTH">
+        <source></source>
+        <translation>خُمس السرعة</translation>
+    </message>
+    <message id="SPEED_HALF">
+        <source></source>
+        <translation>نصف السرعة</translation>
+    </message>
+    <message id="SPEED_QUARTER">
+        <source></source>
+        <translation>ربع السرعة</translation>
+    </message>
+    <message id="SPEED_RECORDED">
+        <source></source>
+        <translation>السرعة المسجّلة</translation>
+    </message>
+    <message id="SPEED_THIRD">
+        <source></source>
+        <translation>ثلث السرعة</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,14 @@
         <source></source>
         <translation>Nein</translation>
     </message>
+    <message id="BUTTON_PAUSE">
+        <source></source>
+        <translation>Pause</translation>
+    </message>
+    <message id="BUTTON_PLAY">
+        <source></source>
+        <translation>Abspielen</translation>
+    </message>
     <message id="BUTTON_SLIDE_TO_LIST">
         <source></source>
         <translation>Zurück zur Liste</translation>
@@ -83,6 +91,14 @@
         <source></source>
         <translation>MPEG-4-Audio (.m4a)</translation>
     </message>
+    <message id="HINT_PAUSE">
+        <source></source>
+        <translation>Anhalten (Leertaste)</translation>
+    </message>
+    <message id="HINT_PLAY">
+        <source></source>
+        <translation>Abspielen (Leertaste)</translation>
+    </message>
     <message id="LABEL_CONFIRM_RECORDDELETE">
         <source></source>
         <translation>Diese Vorlesung und ihre Aufnahme löschen?</translation>
@@ -90,6 +106,10 @@
     <message id="LABEL_DAY_SHOWN">
         <source></source>
         <translation>Gezeigter Tag</translation>
+    </message>
+    <message id="LABEL_ELAPSED_TIME">
+        <source></source>
+        <translation>Verstrichene Zeit</translation>
     </message>
     <message id="LABEL_LECTURES">
         <source></source>
@@ -110,6 +130,14 @@
     <message id="LABEL_RECORDING_LEVEL">
         <source></source>
         <translation>Aufnahmepegel</translation>
+    </message>
+    <message id="LABEL_REMAINING_TIME">
+        <source></source>
+        <translation>Verbleibende Zeit</translation>
+    </message>
+    <message id="LABEL_SPEED">
+        <source></source>
+        <translation>Geschwindigkeit</translation>
     </message>
     <message id="LABEL_SUBJECT">
         <source></source>
@@ -230,6 +258,26 @@
     <message id="SETTING_WINDOWONTOP">
         <source></source>
         <translation>Fenster im Vordergrund halten</translation>
+    </message>
+    <message id="SPEED_FIFTH">
+        <source></source>
+        <translation>Ein Fünftel der Geschwindigkeit</translation>
+    </message>
+    <message id="SPEED_HALF">
+        <source></source>
+        <translation>Halbe Geschwindigkeit</translation>
+    </message>
+    <message id="SPEED_QUARTER">
+        <source></source>
+        <translation>Ein Viertel der Geschwindigkeit</translation>
+    </message>
+    <message id="SPEED_RECORDED">
+        <source></source>
+        <translation>Aufgenommene Geschwindigkeit</translation>
+    </message>
+    <message id="SPEED_THIRD">
+        <source></source>
+        <translation>Ein Drittel der Geschwindigkeit</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,14 @@
         <source></source>
         <translation>No</translation>
     </message>
+    <message id="BUTTON_PAUSE">
+        <source></source>
+        <translation>Pause</translation>
+    </message>
+    <message id="BUTTON_PLAY">
+        <source></source>
+        <translation>Play</translation>
+    </message>
     <message id="BUTTON_SLIDE_TO_LIST">
         <source></source>
         <translation>Back to List</translation>
@@ -83,6 +91,14 @@
         <source></source>
         <translation>MPEG-4 audio (.m4a)</translation>
     </message>
+    <message id="HINT_PAUSE">
+        <source></source>
+        <translation>Pause (Space)</translation>
+    </message>
+    <message id="HINT_PLAY">
+        <source></source>
+        <translation>Play (Space)</translation>
+    </message>
     <message id="LABEL_CONFIRM_RECORDDELETE">
         <source></source>
         <translation>Delete this lecture and its recording?</translation>
@@ -90,6 +106,10 @@
     <message id="LABEL_DAY_SHOWN">
         <source></source>
         <translation>Day shown</translation>
+    </message>
+    <message id="LABEL_ELAPSED_TIME">
+        <source></source>
+        <translation>Elapsed time</translation>
     </message>
     <message id="LABEL_LECTURES">
         <source></source>
@@ -110,6 +130,14 @@
     <message id="LABEL_RECORDING_LEVEL">
         <source></source>
         <translation>Recording level</translation>
+    </message>
+    <message id="LABEL_REMAINING_TIME">
+        <source></source>
+        <translation>Remaining time</translation>
+    </message>
+    <message id="LABEL_SPEED">
+        <source></source>
+        <translation>Speed</translation>
     </message>
     <message id="LABEL_SUBJECT">
         <source></source>
@@ -230,6 +258,26 @@
     <message id="SETTING_WINDOWONTOP">
         <source></source>
         <translation>Keep the window on top</translation>
+    </message>
+    <message id="SPEED_FIFTH">
+        <source></source>
+        <translation>A fifth of the speed</translation>
+    </message>
+    <message id="SPEED_HALF">
+        <source></source>
+        <translation>Half the speed</translation>
+    </message>
+    <message id="SPEED_QUARTER">
+        <source></source>
+        <translation>A quarter of the speed</translation>
+    </message>
+    <message id="SPEED_RECORDED">
+        <source></source>
+        <translation>The recorded speed</translation>
+    </message>
+    <message id="SPEED_THIRD">
+        <source></source>
+        <translation>A third of the speed</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

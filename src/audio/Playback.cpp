@@ -1,68 +1,157 @@
 #include "audio/Playback.h"
 
 #include "audio/AudioFileLocations.h"
-#include "audio/DurationText.h"
+#include "audio/PlayerDisplay.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
+#include "widgets/SegmentedControl.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QSlider>
+
+#include <optional>
 
 namespace tarvelo::audio {
 
+using engine::soundBytesOf;
+using widgets::ImageButton;
+
 namespace {
+
+// The tags under which the play window's buttons say what a press means.
+constexpr int TagPlay = 1;
+constexpr int TagPause = 2;
 
 // The tags under which the stop button, turned into a play button, knows what a press means.
 constexpr int TagPaused = 1;
 constexpr int TagPlaying = 2;
 
+// Of a control that is no button of ours, one that means nothing.
+int tagOf(const QWidget *sender)
+{
+    const auto *button = qobject_cast<const ImageButton *>(sender);
+    return button ? button->tag() : -1;
+}
+
+void showPlay(ImageButton &button)
+{
+    button.setImage(platform::imageNamed(QStringLiteral("play")));
+    button.setAlternateImage(platform::imageNamed(QStringLiteral("playH")));
+}
+
+// In single precision, each from the base: a third is 1.0 ÷ 3.0, not 0.333.
+std::optional<float> rateOfSegment(int segment, float base)
+{
+    switch (segment) {
+    case 0:
+        return base / 5.0F;
+    case 1:
+        return base * 0.25F;
+    case 2:
+        return base / 3.0F;
+    case 3:
+        return base * 0.5F;
+    case 4:
+        return base;
+    default:
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 Playback::Playback(engine::AudioEngine &engine, const AudioFileLocations &locations,
-                   const RecordingOutlets &outlets)
+                   const Outlets &outlets)
     : m_engine(engine)
     , m_locations(locations)
-    , m_outlets(outlets)
+    , m_recording(outlets.recording)
+    , m_lecture(outlets.lecture)
+    , m_edit(engine, outlets.edit)
 {
 }
 
-void Playback::playRecordTemp(QWidget *)
+void Playback::playLecture(const QString &path, const QString &subject)
 {
-    m_player = m_engine.makePlayer(engine::soundBytesOf(m_locations.tempAudioSavePath()));
-    if (m_player) {
+    m_player = m_engine.makePlayer(soundBytesOf(path));
+    if (m_player && !m_player->isPlaying()) {
+        m_player->setDelegate(this);
         m_player->prepareToPlay();
-        m_player->play();
+        m_player->updateMeters();
+        setRange(*m_lecture.sliderPlayProgress, *m_player);
+        m_isPlayerPlaying = true;
     }
-    m_outlets.btnStopRecord->setLook(QStringLiteral("pause"), QStringLiteral("pauseH"),
-                                     QStringLiteral("Pause"));
-    m_outlets.btnStopRecord->setAction(
-        {"pauseResumeRecordTemp", [this](QWidget *sender) { pauseResumeRecordTemp(sender); }});
-    m_outlets.btnStopRecord->setTag(TagPlaying);
+    if (m_player)
+        m_player->play();
+    m_lecture.btnPlayLecture->setEnabled(false);
+    m_lecture.btnPauseLecture->setEnabled(true);
 
-    m_outlets.audioLevelMeter->hide();
-    m_outlets.imgLevelIndicatorBG->hide();
-    m_outlets.lblRecordingDuration->hide();
-    m_outlets.sliderPlayProgress2->show();
-    m_outlets.lblElapsedTimeTemp->show();
-    m_outlets.lblRemainingTimeTemp->show();
+    m_lecture.txtSubjectName->setText(subject);
+    m_lecture.txtSubjectName->setCursorPosition(0);
+    QWidget &window = *m_lecture.playAudioWindow;
+    window.setWindowTitle(subject);
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
 }
 
-void Playback::pauseResumeRecordTemp(QWidget *)
+void Playback::onPlayPauseLecture(QWidget *sender)
 {
     if (!m_player)
         return;
-    widgets::ImageButton &button = *m_outlets.btnStopRecord;
-    if (button.tag() == TagPlaying) {
+    const int tag = tagOf(sender);
+    if (tag == TagPause)
         m_player->pause();
-        button.setLook(QStringLiteral("play"), QStringLiteral("playH"), QStringLiteral("Play"));
-        button.setTag(TagPaused);
-    } else if (button.tag() == TagPaused) {
+    else if (tag == TagPlay)
         m_player->play();
-        button.setLook(QStringLiteral("pause"), QStringLiteral("pauseH"), QStringLiteral("Pause"));
-        button.setTag(TagPlaying);
-    }
+    m_lecture.btnPauseLecture->setEnabled(tag != TagPause);
+    m_lecture.btnPlayLecture->setEnabled(tag == TagPause);
+}
+
+void Playback::onPlaySpeedChanged(QWidget *)
+{
+    if (!m_player)
+        return;
+    const int segment = m_lecture.segPlaySpeed->selectedSegment();
+    if (segment == m_currentPlaySpeed)
+        return;
+    m_currentPlaySpeed = segment;
+    if (const auto rate = rateOfSegment(segment, m_currentPlayRate))
+        m_player->setRate(*rate);
+    // Who changes the speed of a paused lecture hears it go on, which is wanted.
+    m_player->play();
+}
+
+void Playback::onSetForwardOrBackward(QWidget *)
+{
+    if (!m_player || m_player->url().isEmpty())
+        return;
+    const QSlider &slider = *m_lecture.sliderPlayProgress;
+    // By the time that has passed, not by the whole length, which is wanted.
+    const double share =
+        slider.maximum() > 0 ? static_cast<double>(slider.value()) / slider.maximum() : 0;
+    m_player->setCurrentTime(share * m_player->currentTime());
+    setRemainingAndElapsedTime();
+}
+
+void Playback::setRemainingAndElapsedTime()
+{
+    const QString none = QStringLiteral("00:00:00");
+    m_lecture.txtElapsedTime->setText(m_player ? elapsedText(m_player.get()) : none);
+    m_lecture.txtRemainingTime->setText(m_player ? remainingText(m_player.get()) : none);
+}
+
+void Playback::stopPlaying(QWidget *)
+{
+    if (!m_player)
+        return;
+    m_player->stop();
+    m_lecture.btnPlayLecture->setState(0);
+    showPlay(*m_lecture.btnPlayLecture);
+    m_recording.audioLevelMeter->setFloatValue(0);
 }
 
 void Playback::stopSoundPlay()
@@ -80,14 +169,98 @@ void Playback::discardPlayer()
     m_isPlayerPlaying = false;
 }
 
+void Playback::playRecordTemp(QWidget *)
+{
+    m_player = m_engine.makePlayer(soundBytesOf(m_locations.tempAudioSavePath()));
+    if (m_player) {
+        m_player->prepareToPlay();
+        m_player->play();
+    }
+    m_recording.btnStopRecord->setLook(QStringLiteral("pause"), QStringLiteral("pauseH"),
+                                       QStringLiteral("Pause"));
+    m_recording.btnStopRecord->setAction(
+        {"pauseResumeRecordTemp", [this](QWidget *sender) { pauseResumeRecordTemp(sender); }});
+    m_recording.btnStopRecord->setTag(TagPlaying);
+
+    m_recording.audioLevelMeter->hide();
+    m_recording.imgLevelIndicatorBG->hide();
+    m_recording.lblRecordingDuration->hide();
+    m_recording.sliderPlayProgress2->show();
+    m_recording.lblElapsedTimeTemp->show();
+    m_recording.lblRemainingTimeTemp->show();
+}
+
+void Playback::pauseResumeRecordTemp(QWidget *)
+{
+    if (!m_player)
+        return;
+    ImageButton &button = *m_recording.btnStopRecord;
+    if (button.tag() == TagPlaying) {
+        m_player->pause();
+        button.setLook(QStringLiteral("play"), QStringLiteral("playH"), QStringLiteral("Play"));
+        button.setTag(TagPaused);
+    } else if (button.tag() == TagPaused) {
+        m_player->play();
+        button.setLook(QStringLiteral("pause"), QStringLiteral("pauseH"), QStringLiteral("Pause"));
+        button.setTag(TagPlaying);
+    }
+}
+
+bool Playback::openEditPlayer(const QString &path)
+{
+    if (!m_edit.open(path, *this))
+        return false;
+    // The play window's slider begins anew as well, which is wanted.
+    setSeconds(*m_lecture.sliderPlayProgress, 0);
+    return true;
+}
+
+void Playback::onPlayPauseLectureEdit(QWidget *sender)
+{
+    m_edit.onPlayPauseLectureEdit(tagOf(sender));
+}
+
+void Playback::audioPlayerDidFinishPlayingSuccessfully(engine::AudioPlayer *player, bool)
+{
+    if (m_edit.isEditPlayer(player))
+        m_edit.ended();
+    else if (player)
+        lectureEnded(*player);
+}
+
+// The labels read "0:00:00" here and "00:00:00" where there is no player, which is wanted.
+void Playback::lectureEnded(engine::AudioPlayer &player)
+{
+    m_lecture.txtElapsedTime->setText(QStringLiteral("0:00:00"));
+    m_lecture.txtRemainingTime->setText(QStringLiteral("0:00:00"));
+    setSeconds(*m_lecture.sliderPlayProgress, 0);
+    player.stop();
+    m_lecture.btnPlayLecture->setEnabled(true);
+    m_lecture.btnPlayLecture->setTag(TagPlay);
+    showPlay(*m_lecture.btnPlayLecture);
+    m_lecture.btnPauseLecture->setEnabled(false);
+    if (!m_recording.lblElapsedTimeTemp->isVisible())
+        return;
+    m_recording.btnStopRecord->setLook(QStringLiteral("play"), QStringLiteral("playH"),
+                                       QStringLiteral("Play"));
+    m_recording.btnStopRecord->setTag(TagPaused);
+}
+
 void Playback::updateTimeDisplay()
 {
-    if (!m_outlets.lblElapsedTimeTemp->isVisible())
-        return;
-    const double elapsed = m_player ? m_player->currentTime() : 0;
-    const double remaining = m_player ? m_player->duration() - elapsed : 0;
-    m_outlets.lblElapsedTimeTemp->setText(getDuration(wholeSeconds(elapsed)));
-    m_outlets.lblRemainingTimeTemp->setText(u'-' + getDuration(wholeSeconds(remaining)));
+    m_edit.updateTimeDisplay();
+    // Goes on after a pause and after the end, which is wanted.
+    if (m_isPlayerPlaying) {
+        if (m_player) {
+            setSeconds(*m_lecture.sliderPlayProgress, m_player->currentTime());
+            m_player->updateMeters();
+        }
+        setRemainingAndElapsedTime();
+    }
+    if (m_recording.lblElapsedTimeTemp->isVisible()) {
+        m_recording.lblElapsedTimeTemp->setText(elapsedText(m_player.get()));
+        m_recording.lblRemainingTimeTemp->setText(remainingText(m_player.get()));
+    }
 }
 
 } // namespace tarvelo::audio

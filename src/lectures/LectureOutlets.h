@@ -79,6 +79,7 @@ struct EditLectureOutlets
     widgets::ImageButton *btnDoneEdit = nullptr;
 };
 
+// What the play window has besides the controls of its player.
 struct PlayAudioOutlets
 {
     QWidget *playAudioWindow = nullptr;

@@ -12,6 +12,7 @@
 #include "widgets/LayerView.h"
 #include "widgets/LevelIndicator.h"
 #include "widgets/PopOver.h"
+#include "widgets/SegmentedControl.h"
 #include "widgets/SlidingWindow.h"
 
 #include "ui_EditLectureWindow.h"
@@ -171,6 +172,7 @@ void LectureWindows::buildLectureView()
     m_lectureView = {ui.tSubjectName,       ui.tViewNoteForEdit,  ui.lblNotesForView,
                      ui.tEditTime,          ui.tEditDate,         ui.btnSlidetoView,
                      ui.btnSlideToListView, ui.btnDoneEditLecture};
+    m_editPlayer = {ui.bPlay, ui.bPause, ui.sliderEditProgress, ui.tElapsedTime, ui.tRemainingTime};
     giveMargins(*ui.tSubjectName, *ui.tViewNoteForEdit);
     for (QLabel *label : {ui.lblNotesForView, ui.tEditTime, ui.tEditDate})
         style(*label, 13, Faint);
@@ -252,6 +254,28 @@ void LectureWindows::buildPlayAudioWindow()
     ui.setupUi(m_playAudioWindow.get());
     m_playAudio = {m_playAudioWindow.get(), ui.txtSubjectName, ui.txtCourseName,
                    ui.txtFieldForAudio};
+    m_lecturePlayer = {m_playAudioWindow.get(), ui.txtSubjectName,     ui.btnPlayLecture,
+                       ui.btnPauseLecture,      ui.sliderPlayProgress, ui.txtElapsedTime,
+                       ui.txtRemainingTime,     ui.segPlaySpeed};
+
+    // The window itself is clear.
+    fill(*ui.playPanel, Qt::white);
+    ui.txtSubjectName->setFont(platform::fontNamed(Face, 18));
+    for (QLabel *label : {ui.txtElapsedTime, ui.txtRemainingTime, ui.lblSpeed})
+        style(*label, 13, Faint);
+    ui.btnPlayLecture->setImage(imageNamed(QStringLiteral("play")));
+    ui.btnPlayLecture->setAlternateImage(imageNamed(QStringLiteral("playH")));
+    ui.btnPlayLecture->setTag(1);
+    ui.btnPauseLecture->setImage(imageNamed(QStringLiteral("pause")));
+    ui.btnPauseLecture->setAlternateImage(imageNamed(QStringLiteral("pauseH")));
+    ui.btnPauseLecture->setTag(2);
+    ui.segPlaySpeed->addSegment(QStringLiteral("⅕×"), platform::text("SPEED_FIFTH"));
+    ui.segPlaySpeed->addSegment(QStringLiteral("¼×"), platform::text("SPEED_QUARTER"));
+    ui.segPlaySpeed->addSegment(QStringLiteral("⅓×"), platform::text("SPEED_THIRD"));
+    ui.segPlaySpeed->addSegment(QStringLiteral("½×"), platform::text("SPEED_HALF"));
+    ui.segPlaySpeed->addSegment(QStringLiteral("1×"), platform::text("SPEED_RECORDED"));
+    // That of a lecture that was just opened.
+    ui.segPlaySpeed->setSelectedSegment(4);
 }
 
 void LectureWindows::buildPopovers()

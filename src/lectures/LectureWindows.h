@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/PlaybackOutlets.h"
 #include "audio/RecordingOutlets.h"
 #include "lectures/LectureOutlets.h"
 
@@ -29,6 +30,8 @@ public:
     const audio::RecordingOutlets &recordingOutlets() const { return m_recording; }
     const EditLectureOutlets &editLectureOutlets() const { return m_editLecture; }
     const PlayAudioOutlets &playAudioOutlets() const { return m_playAudio; }
+    const audio::LecturePlayerOutlets &lecturePlayerOutlets() const { return m_lecturePlayer; }
+    const audio::EditPlayerOutlets &editPlayerOutlets() const { return m_editPlayer; }
     const PopoverOutlets &popoverOutlets() const { return m_popovers; }
     audio::ClockOutlets clockOutlets() const;
 
@@ -52,6 +55,8 @@ private:
     audio::RecordingOutlets m_recording;
     EditLectureOutlets m_editLecture;
     PlayAudioOutlets m_playAudio;
+    audio::LecturePlayerOutlets m_lecturePlayer;
+    audio::EditPlayerOutlets m_editPlayer;
     PopoverOutlets m_popovers;
 };
 

@@ -35,7 +35,9 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
     : m_services(services)
     , m_windows(windows)
     , m_locations(services.places, services.defaults, services.dates)
-    , m_playback(services.engine, m_locations, windows.recordingOutlets())
+    , m_playback(
+          services.engine, m_locations,
+          {windows.recordingOutlets(), windows.lecturePlayerOutlets(), windows.editPlayerOutlets()})
     , m_recordingControl(services.engine, m_locations, services.dates, m_playback,
                          windows.recordingOutlets(), windows.clockOutlets())
     , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })
@@ -128,6 +130,7 @@ void MediaLinksArrayController::connectControls()
                                              edge);
     });
     main.tblRecordSubjectList->setModel(this);
+    connectPlayer();
 
     const LectureViewOutlets &lectureView = m_windows.lectureViewOutlets();
     lectureView.btnSlidetoView->setAction(
@@ -148,6 +151,7 @@ void MediaLinksArrayController::watchTexts()
 
 void MediaLinksArrayController::wireRow(CustomTableCellView &row)
 {
+    row.btnPlay()->setAction({"onPlayLecture", [this](QWidget *sender) { onPlayLecture(sender); }});
     row.btnBrowse()->setAction(
         {"openAudioFolderPath", [this](QWidget *sender) { openAudioFolderPath(sender); }});
     row.btnDelete()->setAction(

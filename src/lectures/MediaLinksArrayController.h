@@ -58,6 +58,7 @@ struct LectureServices
 // - audio files: setTempAudioSavePathWithFormat, getAudio..., browseRecordingFolder,
 //   openAudioFolderPath
 // - recording: startRecording ... updateTimeDisplay
+// - playing: onPlayLecture ... audioDidEndPlayingEdit
 // - new lecture: onAddItem ... onClosePopoverConfirm
 // - deleting: onDelete ... tableViewRowActionsForRowEdge
 // - closing: windowShouldClose ... onClosePlayAudioWindow
@@ -136,6 +137,34 @@ public:
     void onSetTimeTag(QWidget *sender) { m_recordingControl.onSetTimeTag(sender); }
     void updateTimeDisplay() { m_recordingControl.updateTimeDisplay(); }
 
+    // -- Playing
+    const audio::Playback &playback() const { return m_playback; }
+    // `sender` is a control in a row; from anywhere else nothing is played. A lecture without audio
+    // says so in a pop-over.
+    void onPlayLecture(QWidget *sender);
+    void onPlayPauseLecture(QWidget *sender) { m_playback.onPlayPauseLecture(sender); }
+    void onPlayPauseLectureEdit(QWidget *sender) { m_playback.onPlayPauseLectureEdit(sender); }
+    void onPlaySpeedChanged(QWidget *sender) { m_playback.onPlaySpeedChanged(sender); }
+    void onSetForwardOrBackward(QWidget *sender) { m_playback.onSetForwardOrBackward(sender); }
+    void onSetForwardOrBackwardEdit(QWidget *sender)
+    {
+        m_playback.onSetForwardOrBackwardEdit(sender);
+    }
+    void setRemainingAndElapsedTime() { m_playback.setRemainingAndElapsedTime(); }
+    void setRemainingAndElapsedTime2() { m_playback.setRemainingAndElapsedTime2(); }
+    void setRemainingAndElapsedTimeEdit() { m_playback.setRemainingAndElapsedTimeEdit(); }
+    void playRecordTemp(QWidget *sender) { m_playback.playRecordTemp(sender); }
+    void pauseResumeRecordTemp(QWidget *sender) { m_playback.pauseResumeRecordTemp(sender); }
+    void stopPlaying(QWidget *sender) { m_playback.stopPlaying(sender); }
+    void stopSoundPlay() { m_playback.stopSoundPlay(); }
+    void stopSoundPlayEdit() { m_playback.stopSoundPlayEdit(); }
+    void updatePlayAudioLevels(QWidget *sender) { m_playback.updatePlayAudioLevels(sender); }
+    void updatePlayAudioLevels2(QWidget *sender) { m_playback.updatePlayAudioLevels2(sender); }
+    void updateEditAudioLevels(QWidget *sender) { m_playback.updateEditAudioLevels(sender); }
+    void audioDidEndPlaying(QWidget *sender) { m_playback.audioDidEndPlaying(sender); }
+    void audioDidEndPlaying2(QWidget *sender) { m_playback.audioDidEndPlaying2(sender); }
+    void audioDidEndPlayingEdit(QWidget *sender) { m_playback.audioDidEndPlayingEdit(sender); }
+
     // -- New lecture
     bool bIsOnRecordingView() const { return m_newLecture.bIsOnRecordingView(); }
     void onAddItem(QWidget *sender) { m_newLecture.onAddItem(sender); }
@@ -178,6 +207,7 @@ public:
 
 private:
     void connectControls();
+    void connectPlayer();
     void watchTexts();
     void wireRow(CustomTableCellView &row);
     std::array<QWidget *, 3> secondaryWindows() const;

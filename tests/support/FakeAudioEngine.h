@@ -11,7 +11,7 @@
 namespace tarvelo::tests {
 
 // Neither hears nor plays anything: writes down what it was asked, in order, and does as the test
-// tells it. One recorder and one player at a time. Needs tarvelo_engine.
+// tells it. One recorder at a time. Needs tarvelo_engine.
 class FakeAudioEngine final : public engine::AudioEngine
 {
 public:
@@ -32,12 +32,21 @@ public:
     double playedSeconds = 0;
     double playerDuration = 0;
     QByteArray playerBytes;
+    QUrl playerUrl;
+    // The one made last, as long as it lives.
     engine::AudioPlayer *player = nullptr;
+    engine::AudioPlayerDelegate *playerDelegate = nullptr; // of that one
 
     std::unique_ptr<engine::AudioRecorder> makeRecorder(const QString &path,
                                                         const QVariantMap &with) override;
     std::unique_ptr<engine::AudioPlayer> makePlayer(const QByteArray &bytes) override;
 
+    // The player made last comes to its natural end.
+    void endPlayer() const
+    {
+        if (playerDelegate)
+            playerDelegate->audioPlayerDidFinishPlayingSuccessfully(player, true);
+    }
     // What it was asked since this was last called.
     QStringList takeAsked() { return std::exchange(asked, {}); }
 
@@ -108,7 +117,11 @@ public:
             m_engine.player = nullptr;
     }
 
-    void setDelegate(engine::AudioPlayerDelegate *) override { note("setDelegate"); }
+    void setDelegate(engine::AudioPlayerDelegate *delegate) override
+    {
+        note("setDelegate");
+        m_engine.playerDelegate = delegate;
+    }
     bool prepareToPlay() override { return note("prepareToPlay"); }
     bool play() override { return m_isPlaying = note("play"); }
     void pause() override { m_isPlaying = !note("pause"); }
@@ -118,7 +131,16 @@ public:
     void setCurrentTime(double seconds) override { m_engine.playedSeconds = seconds; }
     double duration() const override { return m_engine.playerDuration; }
     float rate() const override { return m_rate; }
-    void setRate(float rate) override { m_rate = rate; }
+    void setRate(float rate) override
+    {
+        note("setRate");
+        m_rate = rate;
+    }
+    QUrl url() const override { return m_engine.playerUrl; }
+    void setMeteringEnabled(bool enabled) override
+    {
+        note(enabled ? "metering on" : "metering off");
+    }
     void updateMeters() override { note("updateMeters"); }
 
 private:
@@ -155,6 +177,7 @@ inline std::unique_ptr<engine::AudioPlayer> FakeAudioEngine::makePlayer(const QB
         return nullptr;
     auto made = std::make_unique<Player>(*this);
     player = made.get();
+    playerDelegate = nullptr;
     return made;
 }
 

@@ -17,7 +17,7 @@ class RecordingStage final
 {
 public:
     explicit RecordingStage(engine::AudioEngine &engine)
-        : playback(engine, locations, window.outlets())
+        : playback(engine, locations, window.playbackOutlets())
         , control(engine, locations, dates, playback, window.outlets(), window.clockOutlets())
     {
         locations.createFolders();

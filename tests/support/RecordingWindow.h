@@ -1,17 +1,20 @@
 #pragma once
 
-#include "audio/RecordingOutlets.h"
+#include "audio/Playback.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
+#include "widgets/SegmentedControl.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QSlider>
 #include <QTextEdit>
 
 namespace tarvelo::tests {
 
-// The recording controls of the new-lecture window in a bare window of their own, as they stand
-// before a take: shown, with no pause button and no time tag. Needs tarvelo_audio.
+// The controls of recording and playing in bare windows of their own, as they stand before a take:
+// shown, with no pause button and no time tag. The speed control has a sixth segment, which has no
+// speed. Needs tarvelo_audio.
 class RecordingWindow final
 {
 public:
@@ -21,6 +24,12 @@ public:
         window.show();
         btnPauseResumeRecording.hide();
         btnTimeTag.hide();
+        btnPlayLecture.setTag(1);
+        btnPauseLecture.setTag(2);
+        bPlay.setTag(1);
+        bPause.setTag(0);
+        for (int segment = 0; segment < 6; ++segment)
+            segPlaySpeed.addSegment(QString::number(segment), QString::number(segment));
     }
 
     audio::RecordingOutlets outlets()
@@ -38,6 +47,13 @@ public:
                 &lblElapsedTimeTemp,
                 &lblRemainingTimeTemp,
                 &txtView};
+    }
+    audio::Playback::Outlets playbackOutlets()
+    {
+        return {outlets(),
+                {&playAudioWindow, &txtSubjectName, &btnPlayLecture, &btnPauseLecture,
+                 &sliderPlayProgress, &txtElapsedTime, &txtRemainingTime, &segPlaySpeed},
+                {&bPlay, &bPause, &sliderEditProgress, &tElapsedTime, &tRemainingTime}};
     }
     audio::ClockOutlets clockOutlets()
     {
@@ -57,6 +73,21 @@ public:
     QLabel lblElapsedTimeTemp{&window};
     QLabel lblRemainingTimeTemp{&window};
     QTextEdit txtView{&window};
+
+    QWidget playAudioWindow;
+    QLineEdit txtSubjectName{&playAudioWindow};
+    widgets::ImageButton btnPlayLecture{&playAudioWindow};
+    widgets::ImageButton btnPauseLecture{&playAudioWindow};
+    QSlider sliderPlayProgress{&playAudioWindow};
+    QLabel txtElapsedTime{&playAudioWindow};
+    QLabel txtRemainingTime{&playAudioWindow};
+    widgets::SegmentedControl segPlaySpeed{&playAudioWindow};
+
+    widgets::ImageButton bPlay{&window};
+    widgets::ImageButton bPause{&window};
+    QSlider sliderEditProgress{&window};
+    QLabel tElapsedTime{&window};
+    QLabel tRemainingTime{&window};
 
     QLabel textTime{&window};
     QLabel textEditTime{&window};

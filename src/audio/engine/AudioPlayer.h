@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QUrl>
 
 namespace tarvelo::engine {
 
@@ -16,7 +17,7 @@ public:
 };
 
 // Plays the bytes of one audio file to the default output. All operations are for the main thread
-// and never wait for sound. A player made from bytes has no URL.
+// and never wait for sound.
 class AudioPlayer
 {
 public:
@@ -38,6 +39,10 @@ public:
     virtual float rate() const = 0;
     // 1.0 is the recorded speed; takes effect at once, with the pitch kept.
     virtual void setRate(float rate) = 0;
+    // Where the sound was read from; empty for a player that was made from bytes.
+    virtual QUrl url() const = 0;
+    // No level is ever read.
+    virtual void setMeteringEnabled(bool enabled) = 0;
     virtual void updateMeters() = 0;
 };
 

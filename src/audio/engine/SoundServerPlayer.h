@@ -30,7 +30,9 @@ public:
     double duration() const override { return m_ahead->seconds(); }
     float rate() const override { return m_rate; }
     void setRate(float rate) override;
+    QUrl url() const override { return {}; }
     // There is no meter.
+    void setMeteringEnabled(bool) override {}
     void updateMeters() override {}
 
 private:

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "audio/engine/AudioPlayer.h"
+
+#include <QString>
+
+class QSlider;
+
+namespace tarvelo::audio {
+
+// What the controls of every player show: texts of whole seconds, cut and not rounded, and a slider
+// that counts milliseconds, so that it also moves through a short take.
+
+// The length of what has been played; of no player, nothing.
+QString elapsedText(const engine::AudioPlayer *player);
+// What is still to come, behind a minus sign.
+QString remainingText(const engine::AudioPlayer *player);
+
+// From the beginning to the end of the sound.
+void setRange(QSlider &slider, const engine::AudioPlayer &player);
+void setSeconds(QSlider &slider, double seconds);
+
+} // namespace tarvelo::audio

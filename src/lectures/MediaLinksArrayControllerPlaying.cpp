@@ -1,0 +1,69 @@
+#include "lectures/MediaLinksArrayController.h"
+
+#include "lectures/LectureTable.h"
+#include "widgets/ImageButton.h"
+#include "widgets/PopOver.h"
+#include "widgets/SegmentedControl.h"
+
+#include <QShortcut>
+#include <QSlider>
+
+namespace tarvelo::lectures {
+
+namespace {
+
+// The keys press whichever of the two buttons can be pressed.
+void pressInTurn(widgets::ImageButton &play, widgets::ImageButton &pause)
+{
+    (play.isEnabled() ? play : pause).performClick(nullptr);
+}
+
+} // namespace
+
+void MediaLinksArrayController::connectPlayer()
+{
+    const audio::LecturePlayerOutlets &player = m_windows.lecturePlayerOutlets();
+    const auto playPause = [this](QWidget *sender) { onPlayPauseLecture(sender); };
+    player.btnPlayLecture->setAction({"onPlayPauseLecture", playPause});
+    player.btnPauseLecture->setAction({"onPlayPauseLecture", playPause});
+    player.segPlaySpeed->setAction(
+        {"onPlaySpeedChanged", [this](QWidget *sender) { onPlaySpeedChanged(sender); }});
+    connect(player.sliderPlayProgress, &QSlider::sliderReleased, this,
+            [this, player] { onSetForwardOrBackward(player.sliderPlayProgress); });
+    for (const QKeySequence &keys : {QKeySequence(Qt::Key_Space), QKeySequence(Qt::Key_F8),
+                                     QKeySequence(Qt::Key_MediaTogglePlayPause)})
+        connect(new QShortcut(keys, player.playAudioWindow), &QShortcut::activated, this,
+                [player] { pressInTurn(*player.btnPlayLecture, *player.btnPauseLecture); });
+    connect(new QShortcut(Qt::Key_Escape, player.playAudioWindow), &QShortcut::activated,
+            player.playAudioWindow, &QWidget::close);
+
+    const audio::EditPlayerOutlets &editPlayer = m_windows.editPlayerOutlets();
+    const auto playPauseEdit = [this](QWidget *sender) { onPlayPauseLectureEdit(sender); };
+    editPlayer.bPlay->setTag(1);
+    editPlayer.bPause->setTag(0);
+    editPlayer.bPlay->setAction({"onPlayPauseLectureEdit", playPauseEdit});
+    editPlayer.bPause->setAction({"onPlayPauseLectureEdit", playPauseEdit});
+    connect(editPlayer.sliderEditProgress, &QSlider::sliderReleased, this,
+            [this, editPlayer] { onSetForwardOrBackwardEdit(editPlayer.sliderEditProgress); });
+}
+
+void MediaLinksArrayController::onPlayLecture(QWidget *sender)
+{
+    // Whatever becomes of this one, the one before it is over.
+    m_playback.discardPlayer();
+    QWidget *cell = sender ? sender->parentWidget() : nullptr;
+    if (!cell)
+        return;
+    const Lecture lecture = tableViewObjectValueForTableColumnRow(
+        0, m_windows.mainOutlets().tblRecordSubjectList->rowForView(cell));
+    if (!lecture)
+        return;
+    const QString path = lecture->getLectureAudioPath();
+    if (path.isEmpty())
+        m_windows.popoverOutlets().popoverAudioConfirmClose->showRelativeTo(sender->geometry(),
+                                                                            *cell, Qt::BottomEdge);
+    else
+        m_playback.playLecture(path, lecture->strSubject());
+}
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,114 @@
+#include "widgets/SegmentedControl.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace tarvelo::widgets {
+
+namespace {
+
+constexpr double Radius = 6;
+constexpr QSize Padding(20, 12);
+
+// One choice: filled when it is selected, with a hairline to the one before it.
+class Segment final : public QAbstractButton
+{
+public:
+    using QAbstractButton::QAbstractButton;
+
+    QSize sizeHint() const override { return fontMetrics().boundingRect(text()).size() + Padding; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QRectF inside = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
+        if (isChecked() || isDown()) {
+            painter.setPen(Qt::NoPen);
+            const QColor fill = palette().color(QPalette::Highlight);
+            painter.setBrush(isDown() && !isChecked() ? fill.lighter(150) : fill);
+            painter.drawRoundedRect(inside, Radius - 2, Radius - 2);
+        }
+        if (hasFocus()) {
+            painter.setPen(QPen(palette().color(QPalette::WindowText), 1.5, Qt::DotLine));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRoundedRect(inside.adjusted(2, 2, -2, -2), Radius - 3, Radius - 3);
+        }
+        const QPalette::ColorRole ink =
+            isChecked() ? QPalette::HighlightedText : QPalette::WindowText;
+        const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+        painter.setPen(palette().color(group, ink));
+        painter.drawText(rect(), Qt::AlignCenter, text());
+    }
+};
+
+// What the segments lie in.
+class Trough final : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.setBrush(palette().color(QPalette::Base));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
+    }
+};
+
+} // namespace
+
+SegmentedControl::SegmentedControl(QWidget *parent)
+    : QWidget(parent)
+    , m_segments(new QButtonGroup(this))
+{
+    auto *trough = new Trough(this);
+    auto *segments = new QHBoxLayout(trough);
+    segments->setContentsMargins(0, 0, 0, 0);
+    segments->setSpacing(0);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(trough);
+    connect(m_segments, &QButtonGroup::idClicked, this, [this](int) {
+        if (m_action.run)
+            m_action.run(this);
+    });
+}
+
+int SegmentedControl::segmentCount() const
+{
+    return static_cast<int>(m_segments->buttons().size());
+}
+
+int SegmentedControl::selectedSegment() const
+{
+    return m_segments->checkedId();
+}
+
+void SegmentedControl::addSegment(const QString &label, const QString &accessibleName)
+{
+    auto *segment = new Segment(this);
+    segment->setCheckable(true);
+    segment->setText(label);
+    segment->setAccessibleName(accessibleName);
+    segment->setToolTip(accessibleName);
+    segment->setFocusPolicy(Qt::StrongFocus);
+    segment->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_segments->addButton(segment, segmentCount());
+    layout()->itemAt(0)->widget()->layout()->addWidget(segment);
+}
+
+void SegmentedControl::setSelectedSegment(int segment)
+{
+    if (QAbstractButton *button = m_segments->button(segment))
+        button->setChecked(true);
+}
+
+} // namespace tarvelo::widgets
