@@ -1,0 +1,75 @@
+// How long does it take from the click to the first sound, for a minute and for three hours? From
+// the reading of the file to the first sample that leaves the speaker of a private sound server;
+// beside `ffplay`, which is started for every file, as is our own player in a second row.
+
+#include "Lecture.h"
+#include "Playing.h"
+
+#include <QThread>
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+
+using namespace tarvelo;
+
+namespace {
+
+constexpr int Rounds = 7;
+constexpr double Most = 0.1;
+
+// In seconds; nothing when it is not heard.
+std::optional<double> median(const QStringList &command,
+                             const std::function<double(bench::Playing &)> &measure)
+{
+    std::vector<double> times;
+    for (int round = 0; round < Rounds; ++round) {
+        bench::Playing playing(command);
+        if (!playing.isHeard())
+            return std::nullopt;
+        times.push_back(measure(playing));
+        QThread::msleep(20);
+    }
+    std::ranges::sort(times);
+    return times[Rounds / 2];
+}
+
+std::optional<double> fromStart(const QStringList &command)
+{
+    return median(command, [](bench::Playing &it) { return it.secondsFromStart(); });
+}
+
+void print(const char *what, int minutes, std::optional<double> seconds)
+{
+    std::printf("%-40s %4d min %10.0f\n", what, minutes, seconds.value_or(-1) * 1000);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc == 4) // --play FILE RATE
+        return bench::play(argc, argv);
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir folder;
+    tests::PrivateSoundServer server;
+    if (!server.start())
+        return 2;
+    qputenv("SDL_AUDIODRIVER", "pulseaudio");
+    std::printf("%-40s %8s %10s\n", "to the first sound, median of 7", "lecture", "ms");
+    bool isAsWanted = true;
+    for (const int minutes : {1, 180}) {
+        const QString file = bench::lectureOf(minutes, folder.path());
+        const QStringList ours{QCoreApplication::applicationFilePath(), QStringLiteral("--play"),
+                               file, QStringLiteral("1")};
+        const QStringList theirs{QStringLiteral("ffplay"), QStringLiteral("-nodisp"),
+                                 QStringLiteral("-v"), QStringLiteral("quiet"), file};
+        const auto clicked = median(ours, [](bench::Playing &it) { return it.secondsFromClick(); });
+        print("from the click in the program", minutes, clicked);
+        print("from the start of our player's process", minutes, fromStart(ours));
+        print("from the start of ffplay", minutes, fromStart(theirs));
+        isAsWanted = isAsWanted && clicked && *clicked <= Most;
+    }
+    std::printf("(at most %.0f ms wanted from the click)\n", Most * 1000);
+    return isAsWanted ? 0 : 1;
+}
