@@ -25,6 +25,9 @@ constexpr std::size_t MostMemory = std::size_t(256) << 20;
 // One of sound, and some of pictures and chapters.
 constexpr const char *MostTracks = "8";
 
+// More than a fragment of any file.
+constexpr std::int64_t TailSeconds = 10;
+
 // A file that says it lasts longer lies.
 constexpr double MostSeconds = 1e7;
 
@@ -141,13 +144,32 @@ double SoundFileInput::seconds()
 
 std::int64_t SoundFileInput::endByReading()
 {
+    // All fragments are known by now. The last of them may have been cut off, but not the one
+    // before it.
+    std::int64_t end = m_holdsFragments ? endByReadingFrom(lastSeconds()) : origin();
+    if (end == origin())
+        end = endByReadingFrom(origin());
+    seek(origin());
+    return end;
+}
+
+std::int64_t SoundFileInput::lastSeconds() const
+{
+    AVStream *stream = m_demuxer->streams[m_track];
+    const int count = avformat_index_get_entries_count(stream);
+    const std::int64_t last =
+        count > 0 ? avformat_index_get_entry(stream, count - 1)->timestamp : 0;
+    return av_sat_sub64(last, av_rescale_q(TailSeconds, {1, 1}, stream->time_base));
+}
+
+std::int64_t SoundFileInput::endByReadingFrom(std::int64_t timestamp)
+{
     const PacketPointer packet(av_packet_alloc());
     std::int64_t end = origin();
-    seek(origin());
+    seek(std::max(timestamp, origin()));
     for (; packet && read(*packet); av_packet_unref(packet.get()))
         if (packet->pts != AV_NOPTS_VALUE)
             end = std::max(end, av_sat_add64(packet->pts, packet->duration));
-    seek(origin());
     return end;
 }
 

@@ -29,8 +29,8 @@ public:
     const AVStream &track() const { return *m_demuxer->streams[m_track]; }
     // The time stamp, in the track's time base, at which playing begins.
     std::int64_t origin() const;
-    // Seconds of sound, also of a file that is cut off. Reads the whole file, without decoding,
-    // when the file does not say.
+    // Seconds of sound, also of a file that is cut off. Reads the file, without decoding, when
+    // it does not say.
     double seconds();
 
     // The next packet of the track; false when there is none.
@@ -46,6 +46,8 @@ private:
     bool openDemuxer();
     bool chooseTrack();
     std::int64_t endByReading();
+    std::int64_t endByReadingFrom(std::int64_t timestamp);
+    std::int64_t lastSeconds() const;
     std::int64_t endByHeader() const;
 
     static int readBytes(void *self, std::uint8_t *bytes, int count);

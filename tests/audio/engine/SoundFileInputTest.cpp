@@ -40,6 +40,21 @@ private Q_SLOTS:
         QVERIFY(before > 2.4);
     }
 
+    // Its length is found without reading all of it.
+    void aLongTakeCutAnywherePlaysAsFarAsItGoes()
+    {
+        const auto whole = recordingOf(tune(Rate, 16), Ending::CutOff);
+        const auto ends = packetEnds(whole);
+        const Box last = boxesOf(whole).back();
+
+        for (qsizetype size = last.at - 3000; size <= whole.size(); size += 61) {
+            const auto source = DecodedSource::open(whole.first(size));
+            const double expected = secondsBefore(ends, size);
+            QVERIFY2(source && std::abs(source->seconds() - expected) < Frame,
+                     described(size, source ? source->seconds() : 0, expected));
+        }
+    }
+
     void anIndexedFileCutInItsSoundPlaysAsFarAsItGoes()
     {
         const auto whole = withIndexFirst(recordingOf(tune(Rate, 2)));
