@@ -151,15 +151,15 @@ void CustomTableCellView::layoutSubviews()
     const int right = width() - Margin;
     int x = right - ButtonSide;
     int notesEnd = right;
-    for (ImageButton *button : {m_btnInfo, m_btnDelete, m_btnEdit, m_btnBrowse}) {
+    for (ImageButton *button :
+         {m_btnExport, m_btnEmail, m_btnInfo, m_btnDelete, m_btnEdit, m_btnBrowse}) {
+        // One that does not show lies under the last one, where a pop-over about it may point.
         place(*button, {x, Line2.y() - 1, ButtonSide, ButtonSide});
-        if (!button->isHidden())
-            notesEnd = x - 2 * ButtonGap;
+        if (button->isHidden())
+            continue;
+        notesEnd = x - 2 * ButtonGap;
         x -= ButtonSide + ButtonGap;
     }
-    // They never show; a pop-over about them points to the end of the row.
-    m_btnEmail->setGeometry(m_btnInfo->geometry());
-    m_btnExport->setGeometry(m_btnInfo->geometry());
 
     const int durationWidth = m_duration->sizeHint().width();
     place(*m_duration, {right - durationWidth, Line1.y(), durationWidth, Line1.height()});
@@ -238,8 +238,10 @@ void CustomTableCellView::paintEvent(QPaintEvent *)
     if (!m_isCurrent)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -4), 6, 6);
+    QColor mark = palette().color(QPalette::Highlight);
+    mark.setAlphaF(0.6F);
+    painter.setPen(QPen(mark, 1.5));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(4, 2.5, -4, -4.5), 8, 8);
 }
 
 } // namespace tarvelo::lectures

@@ -137,32 +137,37 @@ void PopOver::place(const QRect &anchor, Qt::Edge preferredEdge)
         m_tip.setX(within(m_tip.x(), ArrowInset, frame.width() - ArrowInset));
     else
         m_tip.setY(within(m_tip.y(), ArrowInset, frame.height() - ArrowInset));
-    setMask(QRegion(outline().toFillPolygon().toPolygon()));
+    setMask(QRegion(outline(0).toFillPolygon().toPolygon()));
 }
 
-QPainterPath PopOver::outline() const
+QPainterPath PopOver::outline(double inset) const
 {
-    const QRectF bubble = QRectF(rect()).marginsRemoved(layout()->contentsMargins().toMarginsF());
+    const QRectF bubble = QRectF(rect())
+                              .marginsRemoved(layout()->contentsMargins().toMarginsF())
+                              .adjusted(inset, inset, -inset, -inset);
+    const QPointF into = m_edge == Qt::BottomEdge  ? QPointF(0, 1)
+                         : m_edge == Qt::TopEdge   ? QPointF(0, -1)
+                         : m_edge == Qt::RightEdge ? QPointF(1, 0)
+                                                   : QPointF(-1, 0);
+    // The arrow reaches into the bubble, so that the two become one.
+    const QPointF foot = m_tip + into * (ArrowLength + 1);
+    const QPointF along = QPointF(into.y(), into.x()) * (ArrowHalfWidth - inset);
+    const QPointF tip = m_tip + into * inset;
+    QPainterPath arrow;
+    arrow.addPolygon(QPolygonF{{tip, foot + along, foot - along, tip}});
     QPainterPath path;
     path.addRoundedRect(bubble, Radius, Radius);
-    // The arrow reaches into the bubble, so that the two become one.
-    const QPointF along =
-        isVertical(m_edge) ? QPointF(ArrowHalfWidth, 0) : QPointF(0, ArrowHalfWidth);
-    const QPointF inward = m_edge == Qt::BottomEdge  ? QPointF(0, ArrowLength + 1)
-                           : m_edge == Qt::TopEdge   ? QPointF(0, -ArrowLength - 1)
-                           : m_edge == Qt::RightEdge ? QPointF(ArrowLength + 1, 0)
-                                                     : QPointF(-ArrowLength - 1, 0);
-    QPainterPath arrow;
-    arrow.addPolygon(QPolygonF{{m_tip, m_tip + inward + along, m_tip + inward - along, m_tip}});
     return path.united(arrow);
 }
 
 void PopOver::paintEvent(QPaintEvent *)
 {
+    constexpr double HalfLine = 0.5;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(outline(), palette().color(QPalette::Window));
-    painter.strokePath(outline(), QPen(palette().color(QPalette::Dark), 2));
+    painter.setPen(QPen(palette().color(QPalette::Dark), 2 * HalfLine));
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawPath(outline(HalfLine));
 }
 
 void PopOver::hideEvent(QHideEvent *event)

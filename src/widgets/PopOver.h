@@ -42,7 +42,7 @@ protected:
 private:
     QRect placeAt(const QRect &anchor, Qt::Edge edge) const;
     void place(const QRect &anchor, Qt::Edge preferredEdge);
-    QPainterPath outline() const;
+    QPainterPath outline(double inset) const;
     void anchorEvent(const QEvent &event);
 
     QWidget *m_content;
