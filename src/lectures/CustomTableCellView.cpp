@@ -93,6 +93,7 @@ ImageButton *CustomTableCellView::makeButton(const char *name, const char *image
     auto *button = new ImageButton(this);
     button->setObjectName(QString::fromLatin1(name));
     button->setLook(QString::fromLatin1(image), QString(), platform::text(textKey));
+    // The table leads the keyboard over the buttons of its selected row; a click leaves it there.
     button->setFocusPolicy(Qt::NoFocus);
     button->hide();
     return button;
@@ -100,7 +101,7 @@ ImageButton *CustomTableCellView::makeButton(const char *name, const char *image
 
 std::array<ImageButton *, 7> CustomTableCellView::buttons() const
 {
-    return {m_btnPlay, m_btnDelete, m_btnEmail, m_btnEdit, m_btnBrowse, m_btnExport, m_btnInfo};
+    return {m_btnPlay, m_btnBrowse, m_btnEdit, m_btnDelete, m_btnInfo, m_btnEmail, m_btnExport};
 }
 
 void CustomTableCellView::setObjectValue(const Lecture &lecture)
@@ -123,8 +124,6 @@ void CustomTableCellView::setCurrent(bool current)
     if (m_isCurrent == current)
         return;
     m_isCurrent = current;
-    for (ImageButton *button : buttons())
-        button->setFocusPolicy(current ? Qt::TabFocus : Qt::NoFocus);
     showButtons();
     update();
 }

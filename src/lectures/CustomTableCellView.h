@@ -53,7 +53,7 @@ public:
     void setRowHost(LectureRowHost *host) { m_host = host; }
     // None empties the row.
     void setObjectValue(const Lecture &lecture);
-    // Marks the row that the keyboard is on, whose buttons are in the Tab order.
+    // Marks the row that the keyboard is on, and shows its buttons.
     void setCurrent(bool current);
 
     // To be called once when the row has its place in a window: begins to hear the mouse.

@@ -297,14 +297,6 @@ void LectureTable::showCurrentRow()
     const bool has = hasKeyboard();
     for (const auto &[row, view] : m_shown)
         view->setCurrent(has && row == m_selectedRow);
-    if (!has || !m_shown.contains(m_selectedRow))
-        return;
-    // From the table the Tab key goes to the buttons of the row.
-    QWidget *before = this;
-    for (QWidget *button : m_shown[m_selectedRow]->buttons()) {
-        setTabOrder(before, button);
-        before = button;
-    }
 }
 
 void LectureTable::paintEvent(QPaintEvent *)

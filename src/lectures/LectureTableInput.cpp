@@ -47,6 +47,26 @@ bool LectureTable::hasKeyboard() const
     return focus && (focus == this || isAncestorOf(focus));
 }
 
+// From the table Tab goes over the buttons of the selected row, and then to what follows the table.
+bool LectureTable::focusNextPrevChild(bool next)
+{
+    QList<QWidget *> stops{this};
+    if (const auto found = m_shown.find(m_selectedRow); found != m_shown.end()) {
+        for (QWidget *button : found->second->buttons()) {
+            if (button->isVisible() && button->isEnabled())
+                stops.append(button);
+        }
+    }
+    const auto to = stops.indexOf(window()->focusWidget()) + (next ? 1 : -1);
+    if (hasKeyboard() && to >= 0 && to < stops.size()) {
+        stops[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    if (hasKeyboard())
+        setFocus();
+    return QAbstractScrollArea::focusNextPrevChild(next);
+}
+
 void LectureTable::keyPressEvent(QKeyEvent *event)
 {
     if (!moveByKey(event->key()) && !commandByKey(*event))

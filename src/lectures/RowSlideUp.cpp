@@ -32,6 +32,7 @@ void RowSlideUp::start(int row, int height, const QPixmap &picture,
     m_height = height;
     m_picture = picture;
     m_completion = std::move(completion);
+    m_gap = height;
     m_animation.setDuration(static_cast<int>(duration.count()));
     m_animation.setStartValue(height);
     m_animation.setEndValue(0);

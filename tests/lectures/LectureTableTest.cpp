@@ -2,12 +2,14 @@
 
 #include "lectures/CustomTableCellView.h"
 #include "support/TestCase.h"
+#include "widgets/ImageButton.h"
 
 #include <QAbstractListModel>
 #include <QScrollBar>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using tarvelo::lectures::CustomTableCellView;
 using tarvelo::lectures::Lecture;
 using tarvelo::lectures::LectureTable;
@@ -25,18 +27,27 @@ public:
     void setCount(int count)
     {
         beginResetModel();
-        m_count = count;
+        m_names.clear();
+        for (int row = 0; row < count; ++row)
+            m_names.append(u"Lecture %1"_s.arg(row));
         endResetModel();
     }
-    int rowCount(const QModelIndex &) const override { return m_count; }
+    // The table is not told.
+    void remove(int row)
+    {
+        beginRemoveRows({}, row, row);
+        m_names.removeAt(row);
+        endRemoveRows();
+    }
+    int rowCount(const QModelIndex &) const override { return static_cast<int>(m_names.size()); }
     QVariant data(const QModelIndex &index, int) const override
     {
         return QVariant::fromValue<Lecture>(std::make_shared<tarvelo::store::LectureInfoItem>(
-            u"Lecture %1"_s.arg(index.row()), QString(), QString(), QString(), false));
+            m_names.at(index.row()), QString(), QString(), QString(), false));
     }
 
 private:
-    int m_count = 0;
+    QStringList m_names;
 };
 
 QString subjectOf(const CustomTableCellView *view)
@@ -273,9 +284,217 @@ private Q_SLOTS:
         QCOMPARE(m_table->grab().toImage(), plain);
     }
 
+    void rowsCanBeAddedToTheSelection()
+    {
+        m_table->selectRow(3);
+        m_table->selectRowIndexesByExtendingSelection({1}, true);
+        QCOMPARE(m_table->selectedRowIndexes(), QList<int>({1, 3}));
+        QCOMPARE(m_table->selectedRow(), 1);
+
+        m_table->selectRowIndexesByExtendingSelection({5, 99, 5}, false);
+        QCOMPARE(m_table->selectedRowIndexes(), QList<int>{5});
+
+        m_table->selectRowIndexesByExtendingSelection({}, true);
+        QCOMPARE(m_table->selectedRowIndexes(), QList<int>{5});
+        m_table->selectRowIndexesByExtendingSelection({}, false);
+        QVERIFY(m_table->selectedRowIndexes().isEmpty());
+    }
+
+    void aRowThatIsRemovedSlidesOutWhileTheRowsBelowComeUp()
+    {
+        remove(1, 10s);
+
+        QCOMPARE(subjectOf(viewOf(1)), u"Lecture 2"_s);
+        QCOMPARE(viewOf(0)->y(), 0);
+        QTRY_VERIFY(viewOf(1)->y() < 2 * RowHeight);
+        QVERIFY(viewOf(1)->y() > RowHeight);
+        QCOMPARE(viewOf(2)->y(), viewOf(1)->y() + RowHeight);
+        QCOMPARE(m_completions, 0);
+    }
+
+    void aRowThatIsGoneIsToldOnce()
+    {
+        remove(1, 40ms);
+
+        QTRY_COMPARE(m_completions, 1);
+
+        QCOMPARE(viewOf(1)->y(), RowHeight);
+        m_table->reloadData();
+        QCOMPARE(m_completions, 1);
+    }
+
+    void theRowIsOutOfTheTableFromTheBeginning()
+    {
+        m_lectures->setCount(3);
+        const CustomTableCellView *view = viewOf(1);
+
+        remove(1, 10s);
+
+        QCOMPARE(m_table->rowForView(view), -1);
+        QCOMPARE(m_table->rowCount(), 2);
+        QVERIFY(!view->objectValue());
+    }
+
+    void thePictureOfTheRowLiesInTheGap()
+    {
+        m_table->selectRow(-1);
+        const QImage row = m_table->viewport()->grab({0, 0, 300, RowHeight}).toImage();
+
+        remove(0, 10s);
+
+        // At the very beginning nothing has moved.
+        QCOMPARE(m_table->viewport()->grab({0, 0, 300, RowHeight}).toImage(), row);
+    }
+
+    void reloadingEndsTheSlideAtOnce()
+    {
+        remove(1, 10s);
+
+        m_lectures->setCount(5);
+
+        QCOMPARE(m_completions, 1);
+        QCOMPARE(viewOf(1)->y(), RowHeight);
+        QCOMPARE(m_table->verticalScrollBar()->maximum(), 0);
+    }
+
+    void aSecondRemovalEndsTheFirst()
+    {
+        remove(1, 10s);
+
+        remove(1, 10s);
+
+        QCOMPARE(m_completions, 1);
+        QCOMPARE(subjectOf(viewOf(1)), u"Lecture 3"_s);
+        m_table->finishRemoval();
+        QCOMPARE(m_completions, 2);
+    }
+
+    void scrollingAndResizingGoOnWhileARowSlidesOut()
+    {
+        remove(0, 10s);
+
+        m_table->resize(320, 300);
+        m_table->verticalScrollBar()->setValue(3 * RowHeight);
+        QCOMPARE(m_completions, 0);
+        QCOMPARE(subjectOf(viewOf(4)), u"Lecture 5"_s);
+        m_table->finishRemoval();
+
+        QCOMPARE(m_completions, 1);
+        QCOMPARE(viewOf(4)->y(), RowHeight);
+        QCOMPARE(viewOf(4)->width(), m_table->viewport()->width());
+    }
+
+    void atTheBottomTheRowsAboveComeDownWithTheEndOfTheList()
+    {
+        m_table->scrollRowToVisible(19);
+        const int bottom = m_table->verticalScrollBar()->value();
+
+        remove(19, 10s);
+        QVERIFY(m_table->verticalScrollBar()->value() > bottom - RowHeight);
+        m_table->finishRemoval();
+
+        QCOMPARE(m_table->verticalScrollBar()->value(), bottom - RowHeight);
+        QCOMPARE(viewOf(18)->geometry().bottom(), 399);
+    }
+
+    void aRowOutOfSightCanBeRemoved()
+    {
+        m_table->scrollRowToVisible(19);
+
+        remove(0, 10s);
+        remove(18, 10s);
+        m_table->finishRemoval();
+
+        QCOMPARE(m_completions, 2);
+        QCOMPARE(subjectOf(viewOf(17)), u"Lecture 18"_s);
+    }
+
+    void theLastRowCanBeRemoved()
+    {
+        m_lectures->setCount(1);
+
+        remove(0, 10s);
+        m_table->finishRemoval();
+
+        QCOMPARE(m_completions, 1);
+        QVERIFY(!viewOf(0));
+    }
+
+    void aTableThatIsGoneTellsNothing()
+    {
+        remove(0, 10s);
+
+        m_table.reset();
+
+        QCOMPARE(m_completions, 0);
+    }
+
+    void theSelectionKeepsToItsLectures()
+    {
+        m_table->selectRowIndexesByExtendingSelection({1, 3, 5}, false);
+
+        remove(2, 10s);
+
+        QCOMPARE(m_table->selectedRowIndexes(), QList<int>({1, 2, 4}));
+        QCOMPARE(m_table->selectedRow(), 4);
+    }
+
+    void theKeyboardGoesToTheRowThatTakesThePlace()
+    {
+        m_table->selectRow(3);
+        const QSignalSpy changes(m_table.get(), &LectureTable::selectionChanged);
+
+        remove(3, 10s);
+
+        // The row has its number, and is another lecture.
+        QCOMPARE(m_table->selectedRowIndexes(), QList<int>{3});
+        QCOMPARE(changes.count(), 1);
+        m_table->selectRow(18);
+        remove(18, 10s);
+        QCOMPARE(m_table->selectedRow(), 17);
+    }
+
+    void theKeyboardStaysInTheTableWhenItsRowGoes()
+    {
+        m_table->setFocus();
+        m_table->selectRow(1);
+        viewOf(1)->btnPlay()->setFocus();
+
+        remove(1, 10s);
+
+        QVERIFY(m_table->hasFocus());
+    }
+
+    void theRowThatComesUnderAMouseThatStandsStillLightsUp()
+    {
+        m_table->move(0, 0);
+        QTest::mouseMove(m_table->viewport(), {100, RowHeight + 5});
+        QTRY_VERIFY(viewOf(1)->btnInfo()->isVisible());
+
+        m_table->verticalScrollBar()->setValue(2 * RowHeight);
+        QVERIFY(viewOf(3)->btnInfo()->isVisible());
+        QCOMPARE(litRows(), 1);
+
+        m_lectures->setCount(4);
+        QVERIFY(viewOf(1)->btnInfo()->isVisible());
+        remove(1, 10s);
+        m_table->finishRemoval();
+        QVERIFY(viewOf(1)->btnInfo()->isVisible());
+        QCOMPARE(litRows(), 1);
+    }
+
+    void aMouseElsewhereLightsNothingUp()
+    {
+        QCursor::setPos(700, 700);
+        m_table->reloadData();
+
+        QCOMPARE(litRows(), 0);
+    }
+
 private:
     void prepare() override
     {
+        m_completions = 0;
         m_lectures = std::make_unique<Lectures>(20);
         m_table = std::make_unique<LectureTable>();
         m_table->resize(300, 400);
@@ -290,6 +509,22 @@ private:
         m_lectures.reset();
     }
 
+    void remove(int row, std::chrono::milliseconds duration)
+    {
+        m_lectures->remove(row);
+        m_table->removeRow(row, duration, [this] { ++m_completions; });
+    }
+    CustomTableCellView *viewOf(int row) const
+    {
+        return m_table->viewAtColumnRowMakeIfNecessary(0, row, false);
+    }
+    int litRows() const
+    {
+        int lit = 0;
+        for (const auto *view : m_table->findChildren<CustomTableCellView *>())
+            lit += view->btnInfo()->isVisible() ? 1 : 0;
+        return lit;
+    }
     void press(Qt::Key key) { QTest::keyClick(m_table.get(), key); }
     QImage imageOfRow(int row)
     {
@@ -298,6 +533,7 @@ private:
 
     std::unique_ptr<Lectures> m_lectures;
     std::unique_ptr<LectureTable> m_table;
+    int m_completions = 0;
 };
 
 QTEST_MAIN(LectureTableTest)
