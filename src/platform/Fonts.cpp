@@ -16,4 +16,11 @@ QFont fontNamed(const QString &face, double size)
     return font;
 }
 
+QFont systemFontOfSize(double points)
+{
+    QFont font = QGuiApplication::font();
+    font.setPointSizeF(points);
+    return font;
+}
+
 } // namespace tarvelo::platform

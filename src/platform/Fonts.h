@@ -10,4 +10,7 @@ namespace tarvelo::platform {
 // inch at 100 % scaling, so that text keeps its place beside frames given in the same unit.
 QFont fontNamed(const QString &face, double size);
 
+// The system font in a size of points of print, for texts that leave the canvas.
+QFont systemFontOfSize(double points);
+
 } // namespace tarvelo::platform

@@ -9,6 +9,7 @@ struct Places
 {
     QString applicationSupport; // $XDG_DATA_HOME, ~/.local/share
     QString processName;        // the executable's file name
+    QString music = {};         // $XDG_MUSIC_DIR, which a desktop names in user-dirs.dirs
 
     static Places ofProcess();
 };

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 
 using tarvelo::platform::fontNamed;
+using tarvelo::platform::systemFontOfSize;
 
 class FontsTest final : public tarvelo::tests::TestCase
 {
@@ -18,6 +19,14 @@ private Q_SLOTS:
 
         QCOMPARE(font.families(), QGuiApplication::font().families());
         QCOMPARE(font.pixelSize(), 18);
+    }
+
+    void theSystemFontHasTheSizeInPointsOfPrint()
+    {
+        const QFont font = systemFontOfSize(15.0);
+
+        QCOMPARE(font.families(), QGuiApplication::font().families());
+        QCOMPARE(font.pointSizeF(), 15.0);
     }
 
     void aFaceThatIsThereIsTaken()

@@ -1,0 +1,81 @@
+#include "platform/Process.h"
+
+#include "support/EnvironmentVariable.h"
+#include "support/TestCase.h"
+
+#include <QTemporaryDir>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using tarvelo::platform::Places;
+using tarvelo::tests::EnvironmentVariable;
+
+class ProcessTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void musicLiesWhereTheEnvironmentSays()
+    {
+        const EnvironmentVariable wish("XDG_MUSIC_DIR", u"/media/My Music"_s);
+
+        QCOMPARE(Places::ofProcess().music, u"/media/My Music"_s);
+    }
+
+    void aLeadingTildeIsTheHome()
+    {
+        const EnvironmentVariable wish("XDG_MUSIC_DIR", u"~/Klang"_s);
+
+        QCOMPARE(Places::ofProcess().music, m_home->filePath(u"Klang"_s));
+    }
+
+    void musicLiesWhereTheDesktopSays()
+    {
+        writeSettings("XDG_MUSIC_DIR=\"$HOME/Musik\"\n");
+
+        QCOMPARE(Places::ofProcess().music, m_home->filePath(u"Musik"_s));
+    }
+
+    void aPathThatIsNotWholeIsNoWish()
+    {
+        const EnvironmentVariable wish("XDG_MUSIC_DIR", u"Klang"_s);
+        writeSettings("XDG_MUSIC_DIR=\"$HOME/Musik\"\n");
+
+        QCOMPARE(Places::ofProcess().music, m_home->filePath(u"Musik"_s));
+    }
+
+    void withoutAnyWishMusicLiesInTheHome()
+    {
+        QCOMPARE(Places::ofProcess().music, m_home->filePath(u"Music"_s));
+    }
+
+private:
+    void prepare() override
+    {
+        m_home.emplace();
+        m_homeBefore.emplace("HOME", m_home->path());
+        m_config.emplace("XDG_CONFIG_HOME", m_home->path());
+        m_noWish.emplace("XDG_MUSIC_DIR", QString());
+    }
+    void finish() override
+    {
+        m_noWish.reset();
+        m_config.reset();
+        m_homeBefore.reset();
+        m_home.reset();
+    }
+    void writeSettings(const QByteArray &text) const
+    {
+        QFile file(m_home->filePath(u"user-dirs.dirs"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+
+    std::optional<QTemporaryDir> m_home;
+    std::optional<EnvironmentVariable> m_homeBefore;
+    std::optional<EnvironmentVariable> m_config;
+    std::optional<EnvironmentVariable> m_noWish;
+};
+
+QTEST_GUILESS_MAIN(ProcessTest)
+#include "ProcessTest.moc"
