@@ -56,7 +56,7 @@ int main(int argc, char **argv)
         print("a player, rate 0.2", ours);
         print("ffplay", memoryOf({QStringLiteral("ffplay"), QStringLiteral("-nodisp"),
                                   QStringLiteral("-v"), QStringLiteral("quiet"), file}));
-        isAsWanted = isAsWanted && ours.most > 0 && ours.most <= size + MostBesides;
+        isAsWanted = isAsWanted && ours.now > 0 && ours.now <= size + MostBesides;
     }
     std::printf("(at most the file and %.0f MiB wanted)\n", MostBesides);
     return isAsWanted ? 0 : 1;
