@@ -96,6 +96,8 @@ void SegmentedControl::addSegment(const QString &label, const QString &accessibl
 {
     auto *segment = new Segment(this);
     segment->setCheckable(true);
+    // Tells who cannot see it that it is one choice of several.
+    segment->setAutoExclusive(true);
     segment->setText(label);
     segment->setAccessibleName(accessibleName);
     segment->setToolTip(accessibleName);

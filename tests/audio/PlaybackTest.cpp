@@ -4,203 +4,447 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
 using tarvelo::tests::FakeAudioEngine;
 using tarvelo::tests::inOrder;
-using tarvelo::tests::lookOf;
 using tarvelo::tests::RecordingStage;
+using tarvelo::tests::RecordingWindow;
 
-// The finished take that waits to be saved, listened to.
+// The lecture of the play window.
 class PlaybackTest final : public tarvelo::tests::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aNewPlayerHasNothingAndNoRate()
-    {
-        QVERIFY(!m_stage->playback.hasPlayer());
-        QVERIFY(!m_stage->playback.isPlayerPlaying());
-        QCOMPARE(m_stage->playback.currentPlayRate(), 0.0F);
+    // -- Starting
 
-        m_stage->playback.resetRate();
-
-        QCOMPARE(m_stage->playback.currentPlayRate(), 1.0F);
-    }
-
-    void theTakePlaysFromItsBytesWithoutADelegate()
-    {
-        m_stage->writeTake("what was said");
-
-        m_stage->playback.playRecordTemp(nullptr);
-
-        QCOMPARE(m_engine->playerBytes, QByteArray("what was said"));
-        QCOMPARE(m_engine->asked, inOrder({"makePlayer", "player prepareToPlay", "player play"}));
-        QVERIFY(!m_stage->playback.isPlayerPlaying());
-    }
-
-    void playingTurnsTheStopButtonIntoAPauseButton()
+    void aLecturePlaysFromTheBytesOfItsFile()
     {
         play();
 
-        QCOMPARE(lookOf(stopButton()), QStringLiteral("pause/pauseH/Pause"));
-        QCOMPARE(stopButton().actionName(), QByteArray("pauseResumeRecordTemp"));
-        QCOMPARE(stopButton().tag(), 2);
+        QCOMPARE(m_engine->playerBytes, QByteArray("a lecture"));
+        QCOMPARE(m_engine->asked,
+                 inOrder({"makePlayer", "player setDelegate", "player prepareToPlay",
+                          "player updateMeters", "player play"}));
+        QVERIFY(playback().isPlayerPlaying());
+        QCOMPARE(m_engine->playerDelegate, &playback());
     }
 
-    void playingShowsThePlayersControlsInPlaceOfTheRecorders()
+    void playingEnablesThePauseButtonAlone()
     {
         play();
 
-        QVERIFY(!m_stage->window.audioLevelMeter.isVisible());
-        QVERIFY(!m_stage->window.imgLevelIndicatorBG.isVisible());
-        QVERIFY(!m_stage->window.lblRecordingDuration.isVisible());
-        QVERIFY(m_stage->window.sliderPlayProgress2.isVisible());
-        QVERIFY(m_stage->window.lblElapsedTimeTemp.isVisible());
-        QVERIFY(m_stage->window.lblRemainingTimeTemp.isVisible());
+        QVERIFY(!window().btnPlayLecture.isEnabled());
+        QVERIFY(window().btnPauseLecture.isEnabled());
     }
 
-    void aTakeThatIsNotThereChangesTheControlsAllTheSame()
+    void theSliderRunsFromTheBeginningToTheEnd()
     {
-        m_stage->playback.playRecordTemp(nullptr);
+        m_engine->playerDuration = 65.5;
 
-        QVERIFY(m_engine->playerBytes.isNull());
-        QVERIFY(!m_stage->playback.hasPlayer());
-        QCOMPARE(lookOf(stopButton()), QStringLiteral("pause/pauseH/Pause"));
-        QVERIFY(m_stage->window.lblElapsedTimeTemp.isVisible());
+        play();
+
+        QCOMPARE(window().sliderPlayProgress.minimum(), 0);
+        QCOMPARE(window().sliderPlayProgress.maximum(), 65500);
     }
 
-    void aTakeThatCannotBePlayedLeavesNoPlayer()
+    void theWindowShowsTheSubjectAndComesToTheFront()
     {
         play();
+
+        QCOMPARE(window().txtSubjectName.text(), u"Optics"_s);
+        QCOMPARE(window().playAudioWindow.windowTitle(), u"Optics"_s);
+        QVERIFY(window().playAudioWindow.isVisible());
+    }
+
+    void aFileThatIsNotThereOpensTheWindowAllTheSame()
+    {
+        playback().playLecture(m_stage->places.folder() + u"/missing.m4a"_s, u"Optics"_s);
+
+        QVERIFY(!playback().hasPlayer());
+        QVERIFY(!playback().isPlayerPlaying());
+        QVERIFY(window().playAudioWindow.isVisible());
+        QCOMPARE(window().playAudioWindow.windowTitle(), u"Optics"_s);
+        QVERIFY(!window().btnPlayLecture.isEnabled());
+        QVERIFY(window().btnPauseLecture.isEnabled());
+    }
+
+    void aFileThatIsNoSoundOpensTheWindowAllTheSame()
+    {
         m_engine->makesPlayers = false;
 
-        m_stage->playback.playRecordTemp(nullptr);
-
-        QVERIFY(!m_stage->playback.hasPlayer());
-    }
-
-    void anEarlierPlayerIsReplacedWithoutBeingStopped()
-    {
         play();
 
-        m_stage->playback.playRecordTemp(nullptr);
+        QVERIFY(!playback().isPlayerPlaying());
+        QVERIFY(window().playAudioWindow.isVisible());
+        QVERIFY(window().btnPauseLecture.isEnabled());
+    }
 
-        QVERIFY(m_engine->asked.contains(QStringLiteral("player gone")));
-        QVERIFY(!m_engine->asked.contains(QStringLiteral("player stop")));
-        QVERIFY(m_engine->player);
+    void anotherLectureReplacesThePlayer()
+    {
+        play();
+        m_engine->takeAsked();
+
+        playback().discardPlayer();
+        play();
+
+        QCOMPARE(m_engine->takeAsked().first(2), inOrder({"player stop", "player gone"}));
         QVERIFY(m_engine->player->isPlaying());
     }
 
-    void theButtonPausesAndPlaysOnByItsTag()
+    // -- Pausing
+
+    void theButtonsPauseAndPlayByTheirTags()
     {
         play();
         m_engine->takeAsked();
 
-        m_stage->pressStop();
+        playback().onPlayPauseLecture(&window().btnPauseLecture);
         QCOMPARE(m_engine->takeAsked(), inOrder({"player pause"}));
-        QCOMPARE(lookOf(stopButton()), QStringLiteral("play/playH/Play"));
-        QCOMPARE(stopButton().tag(), 1);
+        QVERIFY(!window().btnPauseLecture.isEnabled());
+        QVERIFY(window().btnPlayLecture.isEnabled());
 
-        m_stage->pressStop();
+        playback().onPlayPauseLecture(&window().btnPlayLecture);
         QCOMPARE(m_engine->takeAsked(), inOrder({"player play"}));
-        QCOMPARE(lookOf(stopButton()), QStringLiteral("pause/pauseH/Pause"));
-        QCOMPARE(stopButton().tag(), 2);
+        QVERIFY(window().btnPauseLecture.isEnabled());
+        QVERIFY(!window().btnPlayLecture.isEnabled());
     }
 
-    void anotherTagDoesNothing()
+    void anotherTagNeitherPausesNorPlays()
     {
         play();
         m_engine->takeAsked();
-        stopButton().setTag(0);
+        window().btnPauseLecture.setTag(0);
+        window().btnPlayLecture.setEnabled(true);
 
-        m_stage->pressStop();
+        playback().onPlayPauseLecture(&window().btnPauseLecture);
 
         QCOMPARE(m_engine->takeAsked(), QStringList());
-        QCOMPARE(lookOf(stopButton()), QStringLiteral("pause/pauseH/Pause"));
-        QCOMPARE(stopButton().tag(), 0);
+        QVERIFY(window().btnPauseLecture.isEnabled());
+        QVERIFY(!window().btnPlayLecture.isEnabled());
     }
 
-    void pausingWithoutAPlayerDoesNothing()
+    void withoutAPlayerTheButtonsStayAsTheyAre()
     {
-        m_stage->playback.playRecordTemp(nullptr);
+        window().btnPlayLecture.setEnabled(true);
+        window().btnPauseLecture.setEnabled(true);
 
-        m_stage->pressStop();
+        playback().onPlayPauseLecture(&window().btnPauseLecture);
 
-        QCOMPARE(lookOf(stopButton()), QStringLiteral("pause/pauseH/Pause"));
-        QCOMPARE(stopButton().tag(), 2);
+        QVERIFY(window().btnPlayLecture.isEnabled());
+        QVERIFY(window().btnPauseLecture.isEnabled());
     }
 
-    void stoppingTheSoundKeepsThePlayer()
+    // -- Speed
+
+    void everySegmentHasItsSpeed_data()
+    {
+        QTest::addColumn<int>("segment");
+        QTest::addColumn<float>("rate");
+        QTest::newRow("a fifth") << 0 << 1.0F / 5.0F;
+        QTest::newRow("a quarter") << 1 << 0.25F;
+        QTest::newRow("a third, in single precision") << 2 << 0.333333343F;
+        QTest::newRow("half") << 3 << 0.5F;
+        QTest::newRow("as recorded") << 4 << 1.0F;
+    }
+
+    void everySegmentHasItsSpeed()
+    {
+        QFETCH(int, segment);
+        QFETCH(float, rate);
+        play();
+        choose(segment == 3 ? 4 : 3);
+        m_engine->takeAsked();
+
+        choose(segment);
+
+        // To the bit, not nearly.
+        QVERIFY(m_engine->player->rate() == rate);
+        QCOMPARE(m_engine->asked, inOrder({"player setRate", "player play"}));
+        QCOMPARE(playback().currentPlaySpeed(), segment);
+    }
+
+    void everySpeedIsDerivedFromTheRecordedOne()
+    {
+        play();
+
+        choose(4);
+        QVERIFY(m_engine->player->rate() == 1.0F);
+        choose(3);
+        QVERIFY(m_engine->player->rate() == 0.5F);
+        choose(0);
+        QVERIFY(m_engine->player->rate() == 0.2F);
+        QVERIFY(playback().currentPlayRate() == 1.0F);
+    }
+
+    void theSlowestSpeedChosenFirstDoesNothing()
     {
         play();
         m_engine->takeAsked();
 
-        m_stage->playback.stopSoundPlay();
+        choose(0);
+
+        QCOMPARE(m_engine->asked, QStringList());
+        QVERIFY(m_engine->player->rate() == 1.0F);
+    }
+
+    void theSpeedThatWasAppliedLastDoesNothing()
+    {
+        play();
+        choose(2);
+        m_engine->takeAsked();
+
+        choose(2);
+
+        QCOMPARE(m_engine->asked, QStringList());
+    }
+
+    void aSegmentWithoutASpeedPlaysAndLeavesTheRate()
+    {
+        play();
+        choose(3);
+        m_engine->takeAsked();
+
+        choose(5);
+
+        QCOMPARE(m_engine->asked, inOrder({"player play"}));
+        QVERIFY(m_engine->player->rate() == 0.5F);
+        QCOMPARE(playback().currentPlaySpeed(), 5);
+    }
+
+    void choosingASpeedResumesAPausedLecture()
+    {
+        play();
+        playback().onPlayPauseLecture(&window().btnPauseLecture);
+
+        choose(3);
+
+        QVERIFY(m_engine->player->isPlaying());
+    }
+
+    void withoutAPlayerASpeedIsNotRemembered()
+    {
+        choose(3);
+
+        QCOMPARE(playback().currentPlaySpeed(), 0);
+    }
+
+    void theNextLecturePlaysAsRecordedThoughTheControlShowsTheEarlierSpeed()
+    {
+        play();
+        choose(3);
+
+        playback().discardPlayer();
+        play();
+
+        QVERIFY(m_engine->player->rate() == 1.0F);
+        QCOMPARE(window().segPlaySpeed.selectedSegment(), 3);
+        choose(3);
+        QVERIFY(m_engine->player->rate() == 1.0F);
+    }
+
+    // -- Slider
+
+    void movingTheSliderChangesNothing()
+    {
+        m_engine->playerDuration = 100;
+        play();
+        m_engine->playedSeconds = 40;
+        window().txtElapsedTime.setText(u"as it was"_s);
+
+        window().sliderPlayProgress.setValue(50000);
+        playback().onSetForwardOrBackward(&window().sliderPlayProgress);
+
+        QCOMPARE(m_engine->playedSeconds, 40.0);
+        QCOMPARE(window().txtElapsedTime.text(), u"as it was"_s);
+    }
+
+    void aSoundWithAUrlWouldBeSoughtByTheTimeThatHasPassed()
+    {
+        m_engine->playerDuration = 100;
+        m_engine->playerUrl = QUrl(u"file:///lecture.m4a"_s);
+        play();
+        m_engine->playedSeconds = 40;
+        window().sliderPlayProgress.setValue(50000);
+
+        playback().onSetForwardOrBackward(&window().sliderPlayProgress);
+
+        QCOMPARE(m_engine->playedSeconds, 20.0);
+        QCOMPARE(window().txtElapsedTime.text(), u"00:00:20"_s);
+        QCOMPARE(window().txtRemainingTime.text(), u"-00:01:20"_s);
+    }
+
+    void anEmptySoundWithAUrlIsSoughtToItsBeginning()
+    {
+        m_engine->playerUrl = QUrl(u"file:///lecture.m4a"_s);
+        play();
+        m_engine->playedSeconds = 40;
+
+        playback().onSetForwardOrBackward(&window().sliderPlayProgress);
+
+        QCOMPARE(m_engine->playedSeconds, 0.0);
+    }
+
+    // -- Times
+
+    void remainingTimeStandsBehindAMinusSign()
+    {
+        m_engine->playerDuration = 70.9;
+        play();
+        m_engine->playedSeconds = 5.2;
+
+        playback().setRemainingAndElapsedTime();
+
+        QCOMPARE(window().txtElapsedTime.text(), u"00:00:05"_s);
+        QCOMPARE(window().txtRemainingTime.text(), u"-00:01:05"_s);
+    }
+
+    void withoutAPlayerBothTimesAreEightDigitsOfNothing()
+    {
+        playback().setRemainingAndElapsedTime();
+
+        QCOMPARE(window().txtElapsedTime.text(), u"00:00:00"_s);
+        QCOMPARE(window().txtRemainingTime.text(), u"00:00:00"_s);
+    }
+
+    void theTickMovesSliderAndTimes()
+    {
+        m_engine->playerDuration = 100;
+        play();
+        m_engine->playedSeconds = 12.5;
+        m_engine->takeAsked();
+
+        playback().updateTimeDisplay();
+
+        QCOMPARE(window().sliderPlayProgress.value(), 12500);
+        QCOMPARE(window().txtElapsedTime.text(), u"00:00:12"_s);
+        QCOMPARE(window().txtRemainingTime.text(), u"-00:01:27"_s);
+        QCOMPARE(m_engine->takeAsked(), inOrder({"player updateMeters"}));
+    }
+
+    void theTickGoesOnDuringAPause()
+    {
+        play();
+        playback().onPlayPauseLecture(&window().btnPauseLecture);
+        m_engine->playedSeconds = 3;
+
+        playback().updateTimeDisplay();
+
+        QCOMPARE(window().txtElapsedTime.text(), u"00:00:03"_s);
+    }
+
+    void withoutALectureTheTickLeavesTheTimes()
+    {
+        window().txtElapsedTime.setText(u"as it was"_s);
+
+        playback().updateTimeDisplay();
+
+        QCOMPARE(window().txtElapsedTime.text(), u"as it was"_s);
+    }
+
+    // -- The end
+
+    void theEndResetsTheControls()
+    {
+        m_engine->playerDuration = 100;
+        play();
+        window().sliderPlayProgress.setValue(100000);
+        window().btnPlayLecture.setTag(7);
+        m_engine->takeAsked();
+
+        m_engine->endPlayer();
+
+        QCOMPARE(window().txtElapsedTime.text(), u"0:00:00"_s);
+        QCOMPARE(window().txtRemainingTime.text(), u"0:00:00"_s);
+        QCOMPARE(window().sliderPlayProgress.value(), 0);
+        QCOMPARE(m_engine->takeAsked(), inOrder({"player stop"}));
+        QVERIFY(window().btnPlayLecture.isEnabled());
+        QCOMPARE(window().btnPlayLecture.tag(), 1);
+        QCOMPARE(imagesOf(window().btnPlayLecture), u"play/playH"_s);
+        QVERIFY(!window().btnPauseLecture.isEnabled());
+    }
+
+    void afterTheEndTheTimesGoOn()
+    {
+        m_engine->playerDuration = 100;
+        play();
+        m_engine->endPlayer();
+
+        playback().updateTimeDisplay();
+
+        QVERIFY(playback().isPlayerPlaying());
+        QCOMPARE(window().txtElapsedTime.text(), u"00:00:00"_s);
+        QCOMPARE(window().txtRemainingTime.text(), u"-00:01:40"_s);
+    }
+
+    void theEndLeavesTheStopButtonOfARecordingAlone()
+    {
+        play();
+        window().lblElapsedTimeTemp.hide();
+        const int tag = window().btnStopRecord.tag();
+
+        m_engine->endPlayer();
+
+        QCOMPARE(window().btnStopRecord.tag(), tag);
+        QVERIFY(window().btnStopRecord.image().isNull());
+    }
+
+    void theEndMakesATakeThatShowsPlayableAgain()
+    {
+        play();
+        window().lblElapsedTimeTemp.show();
+
+        m_engine->endPlayer();
+
+        QCOMPARE(tarvelo::tests::lookOf(window().btnStopRecord), u"play/playH/Play"_s);
+        QCOMPARE(window().btnStopRecord.tag(), 1);
+    }
+
+    // -- Stopping
+
+    void stoppingResetsThePlayButtonAndKeepsThePlayer()
+    {
+        play();
+        window().btnPlayLecture.setCheckable(true);
+        window().btnPlayLecture.setState(1);
+        window().audioLevelMeter.setFloatValue(0.5F);
+        m_engine->takeAsked();
+
+        playback().stopPlaying(nullptr);
 
         QCOMPARE(m_engine->takeAsked(), inOrder({"player stop"}));
-        QVERIFY(m_stage->playback.hasPlayer());
+        QCOMPARE(window().btnPlayLecture.state(), 0);
+        QCOMPARE(imagesOf(window().btnPlayLecture), u"play/playH"_s);
+        QCOMPARE(window().audioLevelMeter.floatValue(), 0.0F);
+        QVERIFY(playback().hasPlayer());
+        QVERIFY(playback().isPlayerPlaying());
     }
 
-    void stoppingWithoutAPlayerDoesNothing()
+    void stoppingWithoutAPlayerLeavesThePlayButton()
     {
-        m_stage->playback.stopSoundPlay();
-        m_stage->playback.discardPlayer();
+        playback().stopPlaying(nullptr);
 
-        QCOMPARE(m_engine->asked, QStringList());
+        QVERIFY(window().btnPlayLecture.image().isNull());
     }
 
-    void stoppingTheEditPlayerDoesNothing()
-    {
-        play();
-        m_engine->takeAsked();
-
-        m_stage->playback.stopSoundPlayEdit();
-
-        QCOMPARE(m_engine->asked, QStringList());
-    }
-
-    void aDiscardedPlayerIsStoppedFirst()
+    void whatIsWantedToDoNothingDoesNothing()
     {
         play();
         m_engine->takeAsked();
+        window().txtElapsedTime.setText(u"as it was"_s);
 
-        m_stage->playback.discardPlayer();
+        playback().updatePlayAudioLevels(nullptr);
+        playback().updatePlayAudioLevels2(nullptr);
+        playback().updateEditAudioLevels(nullptr);
+        playback().setRemainingAndElapsedTime2();
+        playback().setRemainingAndElapsedTimeEdit();
+        playback().onSetForwardOrBackwardEdit(nullptr);
+        playback().audioDidEndPlaying(nullptr);
+        playback().audioDidEndPlaying2(nullptr);
+        playback().audioDidEndPlayingEdit(nullptr);
 
-        QCOMPARE(m_engine->asked, inOrder({"player stop", "player gone"}));
-        QVERIFY(!m_stage->playback.hasPlayer());
-    }
-
-    void elapsedAndRemainingTimeAreCutToWholeSeconds()
-    {
-        play();
-        m_engine->playedSeconds = 5.9;
-        m_engine->playerDuration = 71.2;
-
-        m_stage->playback.updateTimeDisplay();
-
-        QCOMPARE(m_stage->window.lblElapsedTimeTemp.text(), QStringLiteral("00:00:05"));
-        QCOMPARE(m_stage->window.lblRemainingTimeTemp.text(), QStringLiteral("-00:01:05"));
-    }
-
-    void withoutAPlayerBothTimesAreZero()
-    {
-        m_stage->playback.playRecordTemp(nullptr);
-
-        m_stage->playback.updateTimeDisplay();
-
-        QCOMPARE(m_stage->window.lblElapsedTimeTemp.text(), QStringLiteral("00:00:00"));
-        QCOMPARE(m_stage->window.lblRemainingTimeTemp.text(), QStringLiteral("-00:00:00"));
-    }
-
-    void hiddenTimesStandStill()
-    {
-        play();
-        m_stage->window.lblElapsedTimeTemp.hide();
-        m_engine->playedSeconds = 5;
-
-        m_stage->playback.updateTimeDisplay();
-
-        QCOMPARE(m_stage->window.lblElapsedTimeTemp.text(), QString());
-        QCOMPARE(m_stage->window.lblRemainingTimeTemp.text(), QString());
+        QCOMPARE(m_engine->asked, QStringList());
+        QCOMPARE(window().txtElapsedTime.text(), u"as it was"_s);
     }
 
 private:
@@ -208,6 +452,8 @@ private:
     {
         m_engine.emplace();
         m_stage.emplace(*m_engine);
+        playback().resetRate();
+        window().lblElapsedTimeTemp.hide();
     }
     void finish() override
     {
@@ -215,11 +461,21 @@ private:
         m_engine.reset();
     }
 
-    tarvelo::widgets::ImageButton &stopButton() { return m_stage->window.btnStopRecord; }
+    RecordingWindow &window() { return m_stage->window; }
+    tarvelo::audio::Playback &playback() { return m_stage->playback; }
+    static QString imagesOf(const tarvelo::widgets::ImageButton &button)
+    {
+        return button.image().name() + u'/' + button.alternateImage().name();
+    }
     void play()
     {
-        m_stage->writeTake("a take");
-        m_stage->playback.playRecordTemp(&stopButton());
+        m_stage->writeTake("a lecture");
+        playback().playLecture(m_stage->takePath(), u"Optics"_s);
+    }
+    void choose(int segment)
+    {
+        window().segPlaySpeed.setSelectedSegment(segment);
+        playback().onPlaySpeedChanged(&window().segPlaySpeed);
     }
 
     std::optional<FakeAudioEngine> m_engine;
