@@ -30,9 +30,8 @@ void MediaLinksArrayController::connectPlayer()
         {"onPlaySpeedChanged", [this](QWidget *sender) { onPlaySpeedChanged(sender); }});
     connect(player.sliderPlayProgress, &QSlider::sliderReleased, this,
             [this, player] { onSetForwardOrBackward(player.sliderPlayProgress); });
-    for (const QKeySequence &keys : {QKeySequence(Qt::Key_Space), QKeySequence(Qt::Key_F8),
-                                     QKeySequence(Qt::Key_MediaTogglePlayPause)})
-        connect(new QShortcut(keys, player.playAudioWindow), &QShortcut::activated, this,
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_F8})
+        connect(new QShortcut(key, player.playAudioWindow), &QShortcut::activated, this,
                 [player] { pressInTurn(*player.btnPlayLecture, *player.btnPauseLecture); });
     connect(new QShortcut(Qt::Key_Escape, player.playAudioWindow), &QShortcut::activated,
             player.playAudioWindow, &QWidget::close);
