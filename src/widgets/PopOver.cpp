@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
@@ -67,7 +68,7 @@ PopOver::PopOver(std::unique_ptr<QWidget> content)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
     , m_content(content.release())
 {
-    // With a compositor the corners are smooth; without one the window has the outline for a mask.
+    // Where windows have no shapes (Wayland), what lies outside the outline is see-through.
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
     auto *layout = new QVBoxLayout(this);
@@ -78,6 +79,9 @@ PopOver::PopOver(std::unique_ptr<QWidget> content)
 void PopOver::showRelativeTo(const QRect &rect, QWidget &view, Qt::Edge preferredEdge)
 {
     m_anchorWindow = view.window();
+    // Who does not see it hears what it says.
+    if (const auto *label = m_content->findChild<QLabel *>())
+        setAccessibleName(label->text());
     m_anchorCorner = m_anchorWindow->pos();
     place({view.mapToGlobal(rect.topLeft()), rect.size()}, preferredEdge);
     if (QWindow *over = m_anchorWindow->windowHandle()) {
@@ -137,7 +141,8 @@ void PopOver::place(const QRect &anchor, Qt::Edge preferredEdge)
         m_tip.setX(within(m_tip.x(), ArrowInset, frame.width() - ArrowInset));
     else
         m_tip.setY(within(m_tip.y(), ArrowInset, frame.height() - ArrowInset));
-    setMask(QRegion(outline(0).toFillPolygon().toPolygon()));
+    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
+        setMask(QRegion(outline(0).toFillPolygon().toPolygon()));
 }
 
 QPainterPath PopOver::outline(double inset) const
@@ -164,6 +169,9 @@ void PopOver::paintEvent(QPaintEvent *)
 {
     constexpr double HalfLine = 0.5;
     QPainter painter(this);
+    // Without a compositor the pixels that the line half covers would be black.
+    if (!mask().isEmpty())
+        painter.fillRect(rect(), palette().color(QPalette::Dark));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::Dark), 2 * HalfLine));
     painter.setBrush(palette().color(QPalette::Window));

@@ -209,6 +209,21 @@ private Q_SLOTS:
         QCOMPARE(m_reloads, 2);
     }
 
+    void aLectureThatIsRemovedIsTakenOutWithoutReloading()
+    {
+        aLecture().named("first").insertInto(m_program->database);
+        aLecture().named("second").insertInto(m_program->database);
+        m_list->prepareViewForDate(m_program->today());
+
+        m_list->removeObject(2);
+        m_list->removeObject(-1);
+        QCOMPARE(subjects().size(), 2);
+        m_list->removeObject(0);
+
+        QCOMPARE(subjects(), QStringList{u"First"_s});
+        QCOMPARE(m_reloads, 1);
+    }
+
 private:
     void prepare() override
     {

@@ -2,6 +2,7 @@
 
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
+#include "widgets/PopOver.h"
 
 #include <QAbstractButton>
 
@@ -69,6 +70,7 @@ private Q_SLOTS:
             {windows().playAudioOutlets().txtFieldForAudio, u"txtFieldForAudio"_s},
             {windows().popoverOutlets().btnConfirmNo, u"btnConfirmNo"_s},
             {windows().popoverOutlets().lblPopoverNoAudio, u"lblPopoverNoAudio"_s},
+            {windows().popoverOutlets().btnClosePopover, u"btnClosePopover"_s},
             {recording.btnStartRecord, u"btnStartRecord"_s},
             {recording.sliderPlayProgress2, u"sliderPlayProgress2"_s},
             {recording.txtView, u"txtView"_s}};
@@ -164,6 +166,20 @@ private Q_SLOTS:
         QCOMPARE(places(), idle);
     }
 
+    void thePopOversHoldWhatTheyShow()
+    {
+        const auto &popovers = windows().popoverOutlets();
+
+        QCOMPARE(popovers.lblRecordDeleteConfirmation->window(),
+                 popovers.popoverConfirmRecordDelete);
+        QCOMPARE(popovers.btnConfirmNo->window(), popovers.popoverConfirmRecordDelete);
+        QCOMPARE(popovers.btnConfirmYes->window(), popovers.popoverConfirmRecordDelete);
+        QCOMPARE(popovers.lblPopoverNoAudio->window(), popovers.popoverAudioConfirmClose);
+        QCOMPARE(popovers.btnClosePopover->window(), popovers.popoverAudioConfirmClose);
+        QVERIFY(popovers.popoverConfirmRecordDelete->isHidden());
+        QVERIFY(popovers.popoverAudioConfirmClose->isHidden());
+    }
+
     void theWindowsStayLightUnderADarkDesktop()
     {
         QPalette dark;
@@ -189,10 +205,12 @@ private:
     const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
     QList<const QWidget *> allWindows() const
     {
-        return {&windows().mainWindow(), windows().newLectureOutlets().newNoteWindow,
+        return {&windows().mainWindow(),
+                windows().newLectureOutlets().newNoteWindow,
                 windows().editLectureOutlets().windowEditLecture,
                 windows().playAudioOutlets().playAudioWindow,
-                windows().popoverOutlets().btnConfirmYes->window()};
+                windows().popoverOutlets().popoverConfirmRecordDelete,
+                windows().popoverOutlets().popoverAudioConfirmClose};
     }
     // Controls that this program keeps and never shows.
     static QStringList mayStayHidden()

@@ -459,7 +459,10 @@ private Q_SLOTS:
         popover.show();
 
         controller().onClosePopoverConfirm(nullptr);
+        QVERIFY(popover.isHidden());
 
+        popover.show();
+        m_program->windows.popoverOutlets().btnClosePopover->click();
         QVERIFY(popover.isHidden());
     }
 

@@ -2,6 +2,7 @@
 
 #include "support/TestCase.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -161,6 +162,25 @@ private Q_SLOTS:
         QVERIFY(m_popOver->mask().contains(rect.center()));
     }
 
+    void whoDoesNotSeeItHearsWhatItSays()
+    {
+        show(Qt::BottomEdge);
+
+        QCOMPARE(m_popOver->accessibleName(), QStringLiteral("Really?"));
+    }
+
+    void shownAgainItStandsAtItsNewPlace()
+    {
+        show(Qt::BottomEdge);
+        const QSignalSpy closed(m_popOver.get(), &PopOver::closed);
+
+        m_popOver->showRelativeTo({10, 10, 30, 20}, *m_window, Qt::RightEdge);
+
+        QVERIFY(m_popOver->isVisible());
+        QCOMPARE(m_popOver->edge(), Qt::RightEdge);
+        QCOMPARE(closed.count(), 0);
+    }
+
 private:
     void prepare() override
     {
@@ -173,6 +193,7 @@ private:
 
         auto content = std::make_unique<QWidget>();
         auto *layout = new QVBoxLayout(content.get());
+        layout->addWidget(new QLabel(QStringLiteral("Really?"), content.get()));
         layout->addWidget(m_first = new QPushButton(content.get()));
         m_first->setMinimumWidth(150);
         layout->addWidget(m_second = new QPushButton(content.get()));
