@@ -157,6 +157,9 @@ void LectureTable::removeRow(int row, std::chrono::milliseconds duration,
     m_slideUp->start(row, height, picture, duration, std::move(completion));
     updateScrollBar();
     layoutRows();
+    // Where a slide was cut short, rows may have come in under their old numbers.
+    for (const auto &[index, view] : m_shown)
+        bind(*view, index);
 }
 
 void LectureTable::finishRemoval()

@@ -109,28 +109,25 @@ bool LectureTable::moveByKey(int key)
 
 bool LectureTable::commandByKey(const QKeyEvent &event)
 {
+    const bool isMenuKey = event.key() == Qt::Key_F10 && event.modifiers() & Qt::ShiftModifier;
+    const bool isCommand = isMenuKey || event.key() == Qt::Key_Return ||
+                           event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space ||
+                           event.key() == Qt::Key_Delete;
+    // A key that is held gives its command once.
+    if (!isCommand || event.isAutoRepeat())
+        return isCommand;
     CustomTableCellView *view = viewAtColumnRowMakeIfNecessary(0, m_selectedRow, true);
     if (!view)
         return false;
-    switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        Q_EMIT rowOpened(m_selectedRow);
-        return true;
-    case Qt::Key_Space:
-        view->btnPlay()->click();
-        return true;
-    case Qt::Key_Delete:
-        view->btnDelete()->click();
-        return true;
-    case Qt::Key_F10:
-        if (!(event.modifiers() & Qt::ShiftModifier))
-            return false;
+    if (isMenuKey)
         showMenuOfSelectedRow();
-        return true;
-    default:
-        return false;
-    }
+    else if (event.key() == Qt::Key_Space)
+        view->btnPlay()->click();
+    else if (event.key() == Qt::Key_Delete)
+        view->btnDelete()->click();
+    else
+        Q_EMIT rowOpened(m_selectedRow);
+    return true;
 }
 
 void LectureTable::showMenuOfSelectedRow()

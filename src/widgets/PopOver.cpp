@@ -209,7 +209,9 @@ bool PopOver::eventFilter(QObject *watched, QEvent *event)
 
 void PopOver::anchorEvent(const QEvent &event)
 {
-    if (event.type() == QEvent::Hide || event.type() == QEvent::Close)
+    const bool isMinimised =
+        event.type() == QEvent::WindowStateChange && m_anchorWindow->isMinimized();
+    if (event.type() == QEvent::Hide || event.type() == QEvent::Close || isMinimised)
         close();
     else if (event.type() == QEvent::Move) {
         move(pos() + m_anchorWindow->pos() - m_anchorCorner);

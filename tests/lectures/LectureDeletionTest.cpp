@@ -529,6 +529,22 @@ private Q_SLOTS:
         QCOMPARE(storedSubjects(), QStringList({u"Second"_s, u"Third"_s}));
     }
 
+    void theLectureThatPlaysCanBeDeleted()
+    {
+        showThree();
+        controller().onPlayLecture(viewOf(1)->btnPlay());
+        QVERIFY(m_program->engine.player);
+
+        controller().onDelete(1);
+        table().finishRemoval();
+        m_program->clock.advance(2s);
+        controller().onClosePlayAudioWindow(nullptr);
+        m_program->clock.advance(2s);
+
+        QCOMPARE(storedSubjects(), QStringList({u"First"_s, u"Third"_s}));
+        QVERIFY(!m_program->engine.player || !m_program->engine.player->isPlaying());
+    }
+
     void theSelectedLecturesAreThoseThatAreLeft()
     {
         showThree();

@@ -79,6 +79,28 @@ private Q_SLOTS:
         QVERIFY(viewOf(15));
     }
 
+    void aKeyThatIsHeldGivesItsCommandOnce()
+    {
+        const QSignalSpy opened(m_table, &LectureTable::rowOpened);
+        m_table->selectRow(1);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QString(), true);
+
+        press(Qt::Key_Return);
+        QApplication::sendEvent(m_table, &held);
+
+        QCOMPARE(opened.count(), 1);
+    }
+
+    void aKeyWithoutACommandMovesNothing()
+    {
+        m_table->selectRow(1);
+        m_table->verticalScrollBar()->setValue(600);
+
+        press(Qt::Key_Shift);
+
+        QCOMPARE(m_table->verticalScrollBar()->value(), 600);
+    }
+
     void deleteAndSpacePressTheSelectedRowsButtons()
     {
         listenToButtons();

@@ -409,6 +409,18 @@ private Q_SLOTS:
         QCOMPARE(subjectOf(viewOf(17)), u"Lecture 18"_s);
     }
 
+    void aSlideThatIsCutShortAtTheBottomLeavesEveryRowItsLecture()
+    {
+        m_table->scrollRowToVisible(19);
+
+        remove(19, 10s);
+        remove(0, 10s);
+        m_table->finishRemoval();
+
+        for (int row = 13; row < 18; ++row)
+            QCOMPARE(subjectOf(viewOf(row)), u"Lecture %1"_s.arg(row + 1));
+    }
+
     void theLastRowCanBeRemoved()
     {
         m_lectures->setCount(1);

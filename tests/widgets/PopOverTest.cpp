@@ -130,6 +130,15 @@ private Q_SLOTS:
         QVERIFY(m_popOver->isHidden());
     }
 
+    void itGoesWhenItsWindowIsMinimised()
+    {
+        show(Qt::BottomEdge);
+
+        m_window->setWindowState(Qt::WindowMinimized);
+
+        QTRY_VERIFY(m_popOver->isHidden());
+    }
+
     void aWindowThatIsGoneTakesNothingWithIt()
     {
         show(Qt::BottomEdge);
