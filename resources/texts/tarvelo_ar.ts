@@ -91,13 +91,33 @@
         <source></source>
         <translation>صوت MPEG-4 (.m4a)</translation>
     </message>
+    <message id="HINT_CANCEL_EDIT">
+        <source></source>
+        <translation>إغلاق دون حفظ</translation>
+    </message>
+    <message id="HINT_DONE">
+        <source></source>
+        <translation>حفظ (Ctrl+Return)</translation>
+    </message>
+    <message id="HINT_EDIT_SUBJECT">
+        <source></source>
+        <translation>انقر لتغيير الموضوع</translation>
+    </message>
     <message id="HINT_PAUSE">
         <source></source>
         <translation>إيقاف مؤقت (مسافة)</translation>
     </message>
+    <message id="HINT_PAUSE_EDIT">
+        <source></source>
+        <translation>إيقاف مؤقت (F8)</translation>
+    </message>
     <message id="HINT_PLAY">
         <source></source>
         <translation>تشغيل (مسافة)</translation>
+    </message>
+    <message id="HINT_PLAY_EDIT">
+        <source></source>
+        <translation>تشغيل (F8)</translation>
     </message>
     <message id="LABEL_CONFIRM_RECORDDELETE">
         <source></source>

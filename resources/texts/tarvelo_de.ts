@@ -91,13 +91,33 @@
         <source></source>
         <translation>MPEG-4-Audio (.m4a)</translation>
     </message>
+    <message id="HINT_CANCEL_EDIT">
+        <source></source>
+        <translation>Schließen ohne zu sichern</translation>
+    </message>
+    <message id="HINT_DONE">
+        <source></source>
+        <translation>Sichern (Strg+Eingabe)</translation>
+    </message>
+    <message id="HINT_EDIT_SUBJECT">
+        <source></source>
+        <translation>Zum Ändern des Themas klicken</translation>
+    </message>
     <message id="HINT_PAUSE">
         <source></source>
         <translation>Anhalten (Leertaste)</translation>
     </message>
+    <message id="HINT_PAUSE_EDIT">
+        <source></source>
+        <translation>Pause (F8)</translation>
+    </message>
     <message id="HINT_PLAY">
         <source></source>
         <translation>Abspielen (Leertaste)</translation>
+    </message>
+    <message id="HINT_PLAY_EDIT">
+        <source></source>
+        <translation>Abspielen (F8)</translation>
     </message>
     <message id="LABEL_CONFIRM_RECORDDELETE">
         <source></source>

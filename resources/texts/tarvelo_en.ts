@@ -91,13 +91,33 @@
         <source></source>
         <translation>MPEG-4 audio (.m4a)</translation>
     </message>
+    <message id="HINT_CANCEL_EDIT">
+        <source></source>
+        <translation>Close without saving</translation>
+    </message>
+    <message id="HINT_DONE">
+        <source></source>
+        <translation>Save (Ctrl+Return)</translation>
+    </message>
+    <message id="HINT_EDIT_SUBJECT">
+        <source></source>
+        <translation>Click to change the subject</translation>
+    </message>
     <message id="HINT_PAUSE">
         <source></source>
         <translation>Pause (Space)</translation>
     </message>
+    <message id="HINT_PAUSE_EDIT">
+        <source></source>
+        <translation>Pause (F8)</translation>
+    </message>
     <message id="HINT_PLAY">
         <source></source>
         <translation>Play (Space)</translation>
+    </message>
+    <message id="HINT_PLAY_EDIT">
+        <source></source>
+        <translation>Play (F8)</translation>
     </message>
     <message id="LABEL_CONFIRM_RECORDDELETE">
         <source></source>

@@ -1,43 +1,233 @@
 #include "lectures/LectureEditing.h"
 
-#include <QLineEdit>
+#include "audio/Playback.h"
+#include "lectures/DayList.h"
+#include "lectures/LectureTable.h"
+#include "lectures/RowLookup.h"
+#include "lectures/ViewChanges.h"
+#include "lectures/WindowWidths.h"
+#include "platform/Alerts.h"
+#include "platform/WindowLevel.h"
+#include "store/LectureDatabase.h"
+#include "store/Statements.h"
+#include "widgets/ImageButton.h"
+#include "widgets/MouseDownTextField.h"
+#include "widgets/PopOver.h"
+#include "widgets/SlidingWindow.h"
+
+#include <QLabel>
+#include <QSlider>
 #include <QTextEdit>
+
+using namespace std::chrono_literals;
 
 namespace tarvelo::lectures {
 
 namespace {
 
-// What is typed can be undone, unlike a text that the program sets or empties.
-bool canUndoOrRedo(const QTextDocument &document)
+constexpr auto StopAfterDone = 200ms;
+
+// Unlike the other player's, which says "00:00:00" when it is idle: wanted so.
+const QString NoTime = QStringLiteral("0:00:00");
+
+const platform::Alert BlankSubject{QStringLiteral("Subject name is blank"), QStringLiteral("Close"),
+                                   QStringLiteral("Please provide subject name.")};
+
+void show(const store::LectureInfoItem &lecture, QLineEdit &subject, QTextEdit &notes)
 {
-    return document.isUndoAvailable() || document.isRedoAvailable();
+    subject.setText(lecture.strSubject());
+    subject.setCursorPosition(0);
+    notes.setPlainText(lecture.strNotes());
+}
+
+bool isSame(const Lecture &one, const Lecture &other)
+{
+    return one && other && one->getRecordUniqueID() == other->getRecordUniqueID();
 }
 
 } // namespace
 
-LectureEditing::LectureEditing(const EditLectureOutlets &outlets)
-    : m_outlets(outlets)
+LectureEditing::LectureEditing(const Collaborators &collaborators, const Outlets &outlets)
+    : m_with(collaborators)
+    , m_outlets(outlets)
+    , m_stopSoundPlayEdit(collaborators.clock, [this] { m_with.playback.stopSoundPlayEdit(); })
 {
 }
 
-void LectureEditing::watch(QLineEdit &field)
+Lecture LectureEditing::selectedLectureOfSender(const QWidget *sender)
 {
-    // Only what is typed: a text that the program sets is no change.
-    connect(&field, &QLineEdit::textEdited, this, &LectureEditing::textDidChange);
+    LectureTable &table = *m_outlets.main.tblRecordSubjectList;
+    const int row = rowOfSender(table, sender);
+    const LectureList &lectures = m_with.dayList.arrangedObjects();
+    if (row < 0 || row >= static_cast<int>(lectures.size()))
+        return nullptr;
+    table.selectRow(row);
+    return lectures[static_cast<std::size_t>(row)];
 }
 
-void LectureEditing::watch(QTextEdit &view)
+void LectureEditing::onEditLecture(QWidget *sender)
 {
-    connect(&view, &QTextEdit::textChanged, this, [this, &view] {
-        if (view.hasFocus() && canUndoOrRedo(*view.document()))
-            textDidChange();
-    });
+    const Lecture lecture = selectedLectureOfSender(sender);
+    if (!lecture)
+        return;
+    m_itemEditingNow = lecture;
+    m_itemOfWindow = lecture;
+    show(*lecture, *m_outlets.window.txtSubjectForEdit, *m_outlets.window.txtViewNotesForEdit);
+    QWidget &window = *m_outlets.window.windowEditLecture;
+    if (!window.isVisible())
+        platform::centreOver(window, *m_outlets.main.mainWindow);
+    platform::makeKeyAndOrderFront(window);
+    m_outlets.window.txtSubjectForEdit->setFocus(Qt::NoFocusReason);
+    m_bIsEditingNow = true;
+    clearChanges();
 }
 
-void LectureEditing::textDidChange()
+void LectureEditing::openPlayEditWindow(QWidget *sender)
 {
-    m_bHasChangesInNote = true;
-    m_bHasChangesInNoteTitle = true;
+    m_with.viewChanges.prepareLectureView();
+    m_with.playback.discardEditPlayer();
+    const Lecture lecture = selectedLectureOfSender(sender);
+    if (!lecture)
+        return;
+    m_itemEditingNow = lecture;
+    m_itemOfView = lecture;
+    show(*lecture, *m_outlets.view.tSubjectName, *m_outlets.view.tViewNoteForEdit);
+    const QString path = lecture->getLectureAudioPath();
+    if (path.isEmpty())
+        showThatThereIsNoAudio(*sender);
+    else
+        openWithAudio(path);
+}
+
+void LectureEditing::openWithAudio(const QString &path)
+{
+    m_with.playback.openEditPlayer(path);
+    //  A file that cannot be read leaves nothing to play, and the button as it is: wanted so.
+    m_outlets.player.bPlay->setEnabled(true);
+    m_outlets.player.bPause->setEnabled(false);
+    m_outlets.player.sliderEditProgress->setEnabled(true);
+    m_outlets.main.mainWindow->setFrameWidth(ExpandedWidth, true);
+    m_outlets.view.tSubjectName->setFocus(Qt::NoFocusReason);
+    m_bIsEditingNow = true;
+    clearChanges();
+}
+
+// The texts are shown all the same, and what is known about changes stays: wanted so.
+void LectureEditing::showThatThereIsNoAudio(const QWidget &sender)
+{
+    m_outlets.popovers.popoverAudioConfirmClose->showRelativeTo(
+        sender.geometry(), *sender.parentWidget(), Qt::BottomEdge);
+    m_outlets.player.tElapsedTime->setText(NoTime);
+    m_outlets.player.tRemainingTime->setText(NoTime);
+    m_outlets.player.bPlay->setEnabled(false);
+    m_outlets.player.bPause->setEnabled(false);
+    m_outlets.player.sliderEditProgress->setEnabled(false);
+    m_outlets.main.mainWindow->setFrameWidth(ListShownWidth, true);
+}
+
+bool LectureEditing::refuseBlankSubject(const QLineEdit &subject, QWidget *sender)
+{
+    if (!subject.text().trimmed().isEmpty())
+        return false;
+    m_with.alerts.beginSheet(BlankSubject, sender ? *sender->window() : *subject.window(), {});
+    return true;
+}
+
+void LectureEditing::save(const Lecture &lecture, const QString &subject, const QString &notes)
+{
+    if (!lecture)
+        return;
+    m_with.database.updateToDoDatawithSqlStatementWithArguments(
+        store::statements::Update, {subject, notes, QString::number(lecture->getRecordUniqueID())});
+    lecture->setSubject(subject);
+    lecture->setNotes(notes);
+    // The list may have been built anew while the lecture was open.
+    for (const Lecture &shown : m_with.dayList.arrangedObjects()) {
+        if (!isSame(shown, lecture))
+            continue;
+        shown->setSubject(subject);
+        shown->setNotes(notes);
+    }
+}
+
+void LectureEditing::onDoneEdit(QWidget *sender)
+{
+    QLineEdit &subject = *m_outlets.window.txtSubjectForEdit;
+    QTextEdit &notes = *m_outlets.window.txtViewNotesForEdit;
+    if (refuseBlankSubject(subject, sender))
+        return;
+    const bool viewIsToFollow = lectureViewShowsUntouched(m_itemOfWindow);
+    save(m_itemOfWindow, subject.text(), notes.toPlainText());
+    if (viewIsToFollow)
+        show(*m_itemOfWindow, *m_outlets.view.tSubjectName, *m_outlets.view.tViewNoteForEdit);
+    m_outlets.main.tblRecordSubjectList->reloadData();
+    subject.clear();
+    notes.clear();
+    m_outlets.window.windowEditLecture->hide();
+}
+
+// Done there would otherwise bring the old texts back.
+bool LectureEditing::lectureViewShowsUntouched(const Lecture &lecture) const
+{
+    return isSame(m_itemOfView, lecture) &&
+           m_outlets.view.tSubjectName->text() == lecture->strSubject() &&
+           m_outlets.view.tViewNoteForEdit->toPlainText() == lecture->strNotes();
+}
+
+void LectureEditing::onCancelLectureEdit(QWidget *)
+{
+    m_outlets.window.txtSubjectForEdit->clear();
+    m_outlets.window.txtViewNotesForEdit->clear();
+    m_outlets.window.windowEditLecture->hide();
+    m_bIsEditingNow = false;
+    clearChanges();
+}
+
+void LectureEditing::onDoneLectureEdit(QWidget *sender)
+{
+    // A lecture that was opened from the list of all is not saved here: wanted so.
+    if (m_outlets.main.lblDateDisplay->text() == u"All List")
+        return;
+    m_stopSoundPlayEdit.schedule(StopAfterDone);
+    if (refuseBlankSubject(*m_outlets.view.tSubjectName, sender))
+        return;
+    save(m_itemOfView, m_outlets.view.tSubjectName->text(),
+         m_outlets.view.tViewNoteForEdit->toPlainText());
+    m_with.viewChanges.endSingleEditView();
+    m_outlets.main.mainWindow->setFrameWidth(ListShownWidth, true);
+    m_outlets.main.tblRecordSubjectList->reloadData();
+    m_bIsEditingNow = false;
+    // The keyboard does not stay in a view that has gone from sight.
+    if (m_outlets.main.editPlayView->isAncestorOf(m_outlets.main.mainWindow->focusWidget()))
+        m_outlets.main.tblRecordSubjectList->setFocus(Qt::NoFocusReason);
+}
+
+void LectureEditing::mouseDownTextFieldClicked(widgets::MouseDownTextField &field)
+{
+    field.setEditable(true);
+    field.setBordered(true);
+    field.setDrawsBackground(true);
+    field.update();
+    if (field.window() == m_outlets.main.mainWindow)
+        field.setFocus(Qt::MouseFocusReason);
+}
+
+void LectureEditing::lecturesWereDeleted()
+{
+    for (Lecture *lecture : {&m_itemEditingNow, &m_itemOfWindow, &m_itemOfView}) {
+        if (*lecture && !isStored(**lecture))
+            lecture->reset();
+    }
+}
+
+bool LectureEditing::isStored(const store::LectureInfoItem &lecture) const
+{
+    store::Sqlite *connection = m_with.database.connection();
+    const auto rows = connection ? connection->executeQueryArguments(
+                                       QStringLiteral("select ID from audioData where ID = ?"),
+                                       {lecture.getRecordUniqueID()})
+                                 : std::nullopt;
+    return !rows || !rows->isEmpty();
 }
 
 void LectureEditing::clearChanges()
@@ -46,13 +236,25 @@ void LectureEditing::clearChanges()
     m_bHasChangesInNoteTitle = false;
 }
 
-void LectureEditing::onCancelLectureEdit(QWidget *)
+void LectureEditing::textDidBeginEditing(QWidget *)
 {
-    m_outlets.txtSubjectForEdit->clear();
-    m_outlets.txtViewNotesForEdit->clear();
-    m_outlets.windowEditLecture->hide();
-    m_bIsEditingNow = false;
-    clearChanges();
+    textWasTouched();
+}
+
+void LectureEditing::textDidChange(QWidget *)
+{
+    textWasTouched();
+}
+
+void LectureEditing::textDidEndEditing(QWidget *)
+{
+    textWasTouched();
+}
+
+void LectureEditing::textWasTouched()
+{
+    m_bHasChangesInNote = true;
+    m_bHasChangesInNoteTitle = true;
 }
 
 } // namespace tarvelo::lectures

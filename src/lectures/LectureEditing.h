@@ -1,38 +1,107 @@
 #pragma once
 
+#include "audio/PlaybackOutlets.h"
+#include "lectures/LectureList.h"
 #include "lectures/LectureOutlets.h"
+#include "lectures/TextDelegate.h"
+#include "platform/DelayedCall.h"
 
-#include <QObject>
+namespace tarvelo::audio {
+class Playback;
+}
+namespace tarvelo::platform {
+class Alerts;
+class Clock;
+} // namespace tarvelo::platform
+namespace tarvelo::store {
+class LectureDatabase;
+}
+namespace tarvelo::widgets {
+class MouseDownTextField;
+}
 
 namespace tarvelo::lectures {
 
-// Knows whether texts were touched since a lecture was opened. Both flags are set together, by any
-// typing in a text view or field of the program's windows without telling which, and cleared
-// together.
-class LectureEditing final : public QObject
-{
-    Q_OBJECT
+class DayList;
+class ViewChanges;
 
+// Shows and changes a stored lecture in two places: in the edit window, and in the lecture view
+// beside the list. It knows whether texts were touched since a lecture was opened; both flags are
+// set and cleared together, and do not tell which text it was.
+class LectureEditing final : public TextDelegate
+{
 public:
-    explicit LectureEditing(const EditLectureOutlets &outlets);
+    // Who works on a stored lecture. All of them outlive it.
+    struct Collaborators
+    {
+        platform::Clock &clock;
+        store::LectureDatabase &database;
+        audio::Playback &playback;
+        const DayList &dayList;
+        ViewChanges &viewChanges;
+        platform::Alerts &alerts;
+    };
+
+    struct Outlets
+    {
+        MainWindowOutlets main;
+        EditLectureOutlets window;
+        LectureViewOutlets view;
+        audio::EditPlayerOutlets player;
+        PopoverOutlets popovers;
+    };
+
+    LectureEditing(const Collaborators &collaborators, const Outlets &outlets);
+    LectureEditing(const LectureEditing &) = delete;
+    LectureEditing &operator=(const LectureEditing &) = delete;
 
     bool bHasChangesInNote() const { return m_bHasChangesInNote; }
     bool bHasChangesInNoteTitle() const { return m_bHasChangesInNoteTitle; }
     bool bIsEditingNow() const { return m_bIsEditingNow; }
+    // The lecture that was opened last, in either place; none before the first.
+    const Lecture &itemEditingNow() const { return m_itemEditingNow; }
 
-    // Typing in these counts as a change from now on.
-    void watch(QLineEdit &field);
-    void watch(QTextEdit &view);
-    void textDidChange();
-    void clearChanges();
+    // Opening takes a control in a row; from anywhere else no lecture is opened.
+    void onEditLecture(QWidget *sender);
+    // A blank subject is refused on the sender's window.
+    void onDoneEdit(QWidget *sender);
     // Closes the edit window without saving.
     void onCancelLectureEdit(QWidget *sender);
+    void openPlayEditWindow(QWidget *sender);
+    void onDoneLectureEdit(QWidget *sender);
+    void mouseDownTextFieldClicked(widgets::MouseDownTextField &field);
+    // A lecture was deleted: what shows it saves no more, since its ID may be given again.
+    void lecturesWereDeleted();
+
+    void clearChanges();
+    void textDidBeginEditing(QWidget *view) override;
+    void textDidChange(QWidget *view) override;
+    // Counts as a change also when nothing was typed, which is wanted.
+    void textDidEndEditing(QWidget *view) override;
+    void controlTextDidEndEditing(QWidget *) override {}
 
 private:
-    EditLectureOutlets m_outlets;
+    // Selects the sender's row alone; none for a sender outside the rows.
+    Lecture selectedLectureOfSender(const QWidget *sender);
+    void openWithAudio(const QString &path);
+    void showThatThereIsNoAudio(const QWidget &sender);
+    bool refuseBlankSubject(const QLineEdit &subject, QWidget *sender);
+    void save(const Lecture &lecture, const QString &subject, const QString &notes);
+    // True also when that cannot be asked.
+    bool isStored(const store::LectureInfoItem &lecture) const;
+    bool lectureViewShowsUntouched(const Lecture &lecture) const;
+    void textWasTouched();
+
+    Collaborators m_with;
+    Outlets m_outlets;
+    Lecture m_itemEditingNow;
+    // Each place saves the lecture that it shows, also after another was opened in the other place.
+    Lecture m_itemOfWindow;
+    Lecture m_itemOfView;
+    bool m_bIsEditingNow = false;
     bool m_bHasChangesInNote = false;
     bool m_bHasChangesInNoteTitle = false;
-    bool m_bIsEditingNow = false;
+    platform::DelayedCall m_stopSoundPlayEdit;
 };
 
 } // namespace tarvelo::lectures

@@ -11,6 +11,7 @@ class CKCalendarView;
 namespace tarvelo::widgets {
 class ImageButton;
 class LayerView;
+class MouseDownTextField;
 class PopOver;
 class SlidingWindow;
 } // namespace tarvelo::widgets
@@ -44,7 +45,7 @@ struct MainWindowOutlets
 
 struct LectureViewOutlets
 {
-    QLineEdit *tSubjectName = nullptr;
+    widgets::MouseDownTextField *tSubjectName = nullptr;
     QTextEdit *tViewNoteForEdit = nullptr;
     QLabel *lblNotesForView = nullptr;
     QLabel *tEditTime = nullptr;
@@ -52,6 +53,8 @@ struct LectureViewOutlets
     widgets::ImageButton *btnSlidetoView = nullptr;
     widgets::ImageButton *btnSlideToListView = nullptr;
     widgets::ImageButton *btnDoneEditLecture = nullptr;
+    // Takes the lecture view away without saving.
+    widgets::ImageButton *btnCloseLectureView = nullptr;
 };
 
 struct NewLectureOutlets
@@ -77,6 +80,7 @@ struct EditLectureOutlets
     QLabel *textEditTime = nullptr;
     QLabel *textEditDate = nullptr;
     widgets::ImageButton *btnDoneEdit = nullptr;
+    widgets::ImageButton *btnCancelEdit = nullptr;
 };
 
 // What the play window has besides the controls of its player.

@@ -2,6 +2,7 @@
 
 #include "calendar/CKCalendarView.h"
 #include "lectures/LectureTable.h"
+#include "lectures/LectureViewMargins.h"
 #include "lectures/LightPalette.h"
 #include "lectures/WindowWidths.h"
 #include "platform/Dates.h"
@@ -169,13 +170,25 @@ void LectureWindows::buildLectureView()
     Ui::LectureView ui;
     ui.setupUi(m_main.editPlayView);
     m_main.editPlayView->setObjectName(QStringLiteral("editPlayView"));
-    m_lectureView = {ui.tSubjectName,       ui.tViewNoteForEdit,  ui.lblNotesForView,
-                     ui.tEditTime,          ui.tEditDate,         ui.btnSlidetoView,
-                     ui.btnSlideToListView, ui.btnDoneEditLecture};
+    m_lectureView = {ui.tSubjectName,       ui.tViewNoteForEdit,   ui.lblNotesForView,
+                     ui.tEditTime,          ui.tEditDate,          ui.btnSlidetoView,
+                     ui.btnSlideToListView, ui.btnDoneEditLecture, ui.btnCloseLectureView};
     m_editPlayer = {ui.bPlay, ui.bPause, ui.sliderEditProgress, ui.tElapsedTime, ui.tRemainingTime};
     giveMargins(*ui.tSubjectName, *ui.tViewNoteForEdit);
-    for (QLabel *label : {ui.lblNotesForView, ui.tEditTime, ui.tEditDate})
+    for (QLabel *label :
+         {ui.lblNotesForView, ui.tEditTime, ui.tEditDate, ui.tElapsedTime, ui.tRemainingTime})
         style(*label, 13, Faint);
+    fill(*ui.editPlayerPanel, QColor(247, 247, 249));
+    ui.bPlay->setImage(imageNamed(QStringLiteral("play")));
+    ui.bPlay->setAlternateImage(imageNamed(QStringLiteral("playH")));
+    ui.bPause->setImage(imageNamed(QStringLiteral("pause")));
+    ui.bPause->setAlternateImage(imageNamed(QStringLiteral("pauseH")));
+    // A heading until someone wants to change it.
+    ui.tSubjectName->setFont(platform::fontNamed(Face, 18));
+    ui.tSubjectName->setEditable(false);
+    ui.tSubjectName->setBordered(false);
+    ui.tSubjectName->setDrawsBackground(false);
+    keepContentInSight(*m_main.editPlayView);
 }
 
 void LectureWindows::buildNewLectureWindow()
@@ -241,8 +254,10 @@ void LectureWindows::buildEditLectureWindow()
     ui.setupUi(m_windowEditLecture.get());
     giveMargins(*ui.txtSubjectForEdit, *ui.txtViewNotesForEdit);
     m_editLecture = {m_windowEditLecture.get(), ui.txtSubjectForEdit, ui.txtViewNotesForEdit,
-                     ui.textEditTime,           ui.textEditDate,      ui.btnDoneEdit};
-    for (QLabel *label : {ui.textEditTime, ui.textEditDate})
+                     ui.textEditTime,           ui.textEditDate,      ui.btnDoneEdit,
+                     ui.btnCancelEdit};
+    ui.txtSubjectForEdit->setFont(platform::fontNamed(Face, 16));
+    for (QLabel *label : {ui.textEditTime, ui.textEditDate, ui.lblNotesForEdit})
         style(*label, 13, Faint);
 }
 

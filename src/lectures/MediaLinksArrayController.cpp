@@ -4,6 +4,7 @@
 #include "lectures/CustomTableCellView.h"
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureTable.h"
+#include "lectures/RowLookup.h"
 #include "platform/Dates.h"
 #include "platform/Workspace.h"
 #include "store/LectureDatabase.h"
@@ -42,7 +43,10 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
                          windows.recordingOutlets(), windows.clockOutlets())
     , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })
     , m_viewChanges(windows.mainOutlets(), windows.lectureViewOutlets())
-    , m_editing(windows.editLectureOutlets())
+    , m_editing({services.dates.clock(), services.database, m_playback, m_dayList, m_viewChanges,
+                 services.alerts},
+                {windows.mainOutlets(), windows.editLectureOutlets(), windows.lectureViewOutlets(),
+                 windows.editPlayerOutlets(), windows.popoverOutlets()})
     , m_deletion({services.database, m_dayList, [this](int row) { removeArrangedObject(row); },
                   [this] { reloadData(); }, [this] { goToCalendarView(nullptr); },
                   services.pendingRow},
@@ -131,27 +135,23 @@ void MediaLinksArrayController::connectControls()
     });
     main.tblRecordSubjectList->setModel(this);
     connectPlayer();
-
-    const LectureViewOutlets &lectureView = m_windows.lectureViewOutlets();
-    lectureView.btnSlidetoView->setAction(
-        {"viewEditView", [this](QWidget *sender) { viewEditView(sender); }});
-    lectureView.btnSlideToListView->setAction(
-        {"goToCalendarView", [this](QWidget *sender) { goToCalendarView(sender); }});
+    connectEditing();
 }
 
 void MediaLinksArrayController::watchTexts()
 {
-    m_editing.watch(*m_windows.newLectureOutlets().txtSubjectForNewNote);
-    m_editing.watch(*m_windows.newLectureOutlets().txtView);
-    m_editing.watch(*m_windows.editLectureOutlets().txtSubjectForEdit);
-    m_editing.watch(*m_windows.editLectureOutlets().txtViewNotesForEdit);
-    m_editing.watch(*m_windows.lectureViewOutlets().tSubjectName);
-    m_editing.watch(*m_windows.lectureViewOutlets().tViewNoteForEdit);
+    m_textActivity.watch(*m_windows.newLectureOutlets().txtSubjectForNewNote);
+    m_textActivity.watch(*m_windows.newLectureOutlets().txtView);
+    m_textActivity.watch(*m_windows.editLectureOutlets().txtSubjectForEdit);
+    m_textActivity.watch(*m_windows.editLectureOutlets().txtViewNotesForEdit);
+    m_textActivity.watch(*m_windows.lectureViewOutlets().tSubjectName);
+    m_textActivity.watch(*m_windows.lectureViewOutlets().tViewNoteForEdit);
 }
 
 void MediaLinksArrayController::wireRow(CustomTableCellView &row)
 {
     row.btnPlay()->setAction({"onPlayLecture", [this](QWidget *sender) { onPlayLecture(sender); }});
+    wireEditing(row);
     row.btnBrowse()->setAction(
         {"openAudioFolderPath", [this](QWidget *sender) { openAudioFolderPath(sender); }});
     row.btnDelete()->setAction(
@@ -271,10 +271,8 @@ void MediaLinksArrayController::browseRecordingFolder(QWidget *)
 
 void MediaLinksArrayController::openAudioFolderPath(QWidget *sender)
 {
-    const QWidget *cell = sender ? sender->parentWidget() : nullptr;
-    const LectureTable &table = *m_windows.mainOutlets().tblRecordSubjectList;
-    const int row = rowCount() < 1 || !cell ? -1 : table.rowForView(cell);
-    const Lecture lecture = tableViewObjectValueForTableColumnRow(0, row);
+    const Lecture lecture = tableViewObjectValueForTableColumnRow(
+        0, rowOfSender(*m_windows.mainOutlets().tblRecordSubjectList, sender));
     if (lecture)
         m_services.workspace.activateFileViewerSelectingURLs(
             {QUrl::fromLocalFile(lecture->getLectureAudioPath())});
@@ -292,7 +290,8 @@ void MediaLinksArrayController::onClosePopoverConfirm(QWidget *)
 
 void MediaLinksArrayController::sheetDidEndReturnCodeContextInfo(QWidget *sheet, int, void *)
 {
-    sheet->hide();
+    if (sheet)
+        sheet->hide();
 }
 
 void MediaLinksArrayController::onConfirmOrCancelRecordDeletion(QWidget *sender)
@@ -332,6 +331,7 @@ void MediaLinksArrayController::removeArrangedObject(int row)
     beginRemoveRows({}, row, row);
     m_dayList.removeObject(row);
     endRemoveRows();
+    m_editing.lecturesWereDeleted();
 }
 
 } // namespace tarvelo::lectures

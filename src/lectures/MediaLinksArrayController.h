@@ -9,8 +9,10 @@
 #include "lectures/LectureEditing.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/NewLecture.h"
+#include "lectures/TextActivity.h"
 #include "lectures/ViewChanges.h"
 #include "platform/DelayedCall.h"
+#include "widgets/MouseDownTextField.h"
 
 #include <QAbstractTableModel>
 
@@ -61,8 +63,11 @@ struct LectureServices
 // - playing: onPlayLecture ... audioDidEndPlayingEdit
 // - new lecture: onAddItem ... onClosePopoverConfirm
 // - deleting: onDelete ... tableViewRowActionsForRowEdge
+// - viewing and editing: onEditLecture ... controlTextDidEndEditing
 // - closing: windowShouldClose ... onClosePlayAudioWindow
-class MediaLinksArrayController final : public QAbstractTableModel
+class MediaLinksArrayController final : public QAbstractTableModel,
+                                        public TextDelegate,
+                                        public widgets::MouseDownTextFieldDelegate
 {
     Q_OBJECT
 
@@ -185,9 +190,30 @@ public:
                                                    RowActionEdge edge);
     bool isConfirmDeleteShowing() const { return m_deletion.isConfirmDeleteShowing(); }
 
-    // -- Closing
+    // -- Viewing and editing a stored lecture. What opens one takes a control in a row.
+    const Lecture &itemEditingNow() const { return m_editing.itemEditingNow(); }
+    bool bIsEditingNow() const { return m_editing.bIsEditingNow(); }
     bool bHasChangesInNote() const { return m_editing.bHasChangesInNote(); }
     bool bHasChangesInNoteTitle() const { return m_editing.bHasChangesInNoteTitle(); }
+    void onEditLecture(QWidget *sender) { m_editing.onEditLecture(sender); }
+    void onDoneEdit(QWidget *sender) { m_editing.onDoneEdit(sender); }
+    void onCancelLectureEdit(QWidget *sender) { m_editing.onCancelLectureEdit(sender); }
+    void openPlayEditWindow(QWidget *sender) { m_editing.openPlayEditWindow(sender); }
+    void onDoneLectureEdit(QWidget *sender) { m_editing.onDoneLectureEdit(sender); }
+    // The menu opens under the lower left corner of the sender.
+    void onClickInfo(QWidget *sender);
+    void mouseDownTextFieldClicked(widgets::MouseDownTextField &field) override;
+    // The delegate of every text. Any edit may begin and end.
+    void textDidBeginEditing(QWidget *view) override { m_editing.textDidBeginEditing(view); }
+    void textDidChange(QWidget *view) override { m_editing.textDidChange(view); }
+    void textDidEndEditing(QWidget *view) override { m_editing.textDidEndEditing(view); }
+    bool textShouldBeginEditing(QWidget *) const { return true; }
+    bool textShouldEndEditing(QWidget *) const { return true; }
+    bool controlTextShouldBeginEditing(QWidget *, QWidget *) const { return true; }
+    bool controlTextShouldEndEditing(QWidget *, QWidget *) const { return true; }
+    void controlTextDidEndEditing(QWidget *) override {}
+
+    // -- Closing
     bool bIsRecordingNeedPreventingQuit() const
     {
         return m_recordingControl.bIsRecordingNeedPreventingQuit();
@@ -210,6 +236,9 @@ private:
     void connectPlayer();
     void watchTexts();
     void wireRow(CustomTableCellView &row);
+    void connectEditing();
+    void connectEditingKeys();
+    void wireEditing(CustomTableCellView &row);
     std::array<QWidget *, 3> secondaryWindows() const;
     void setBackgroundColors();
     void becomeDelegateOfWindows();
@@ -234,6 +263,7 @@ private:
     DayList m_dayList;
     ViewChanges m_viewChanges;
     LectureEditing m_editing;
+    TextActivity m_textActivity{*this};
     LectureDeletion m_deletion;
     NewLecture m_newLecture;
     CloseGuards m_closeGuards;

@@ -135,10 +135,11 @@ void MediaLinksArrayController::setTypingAttributes()
 void MediaLinksArrayController::setInsertionPointColors()
 {
     const PlayAudioOutlets &play = m_windows.playAudioOutlets();
-    for (QLineEdit *field :
-         {play.txtSubjectName, play.txtCourseName, m_windows.editLectureOutlets().txtSubjectForEdit,
-          m_windows.newLectureOutlets().txtSubjectForNewNote, play.txtFieldForAudio,
-          m_windows.lectureViewOutlets().tSubjectName})
+    for (QLineEdit *field : std::initializer_list<QLineEdit *>{
+             play.txtSubjectName, play.txtCourseName,
+             m_windows.editLectureOutlets().txtSubjectForEdit,
+             m_windows.newLectureOutlets().txtSubjectForNewNote, play.txtFieldForAudio,
+             m_windows.lectureViewOutlets().tSubjectName})
         widgets::setInsertionPointColor(*field, Qt::lightGray);
     widgets::setInsertionPointColor(*m_windows.newLectureOutlets().txtView, Qt::lightGray);
     for (QTextEdit *view : {m_windows.editLectureOutlets().txtViewNotesForEdit,

@@ -17,6 +17,7 @@
 #include "store/Statements.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
+#include "widgets/MouseDownTextField.h"
 #include "widgets/SlidingWindow.h"
 
 #include <QFile>
@@ -86,7 +87,7 @@ void NewLecture::onAddItem(QWidget *)
     m_outlets.window.txtView->setReadOnly(false);
 
     controls.lblRecordingDuration->clear();
-    m_outlets.window.txtSubjectForNewNote->setFocus();
+    m_outlets.window.txtSubjectForNewNote->setFocus(Qt::NoFocusReason);
     platform::centreOver(*m_outlets.window.newNoteWindow, *m_outlets.main.mainWindow);
     platform::makeKeyAndOrderFront(*m_outlets.window.newNoteWindow);
 }

@@ -18,7 +18,6 @@ using platform::setFrame;
 
 namespace {
 
-constexpr int ExpandedWidth = 1234;
 constexpr int SingleViewWidth = 400;
 constexpr double LectureViewX = 833;
 constexpr double LectureViewY = -50;
@@ -101,6 +100,27 @@ void ViewChanges::viewEditView()
     m_outlets.weekDayView->setHidden(m_bIsInEditView);
     m_outlets.topHorizontalLine->setHidden(m_bIsInEditView);
     m_outlets.mainWindow->setFrameWidth(SingleViewWidth, true);
+}
+
+void ViewChanges::prepareLectureView()
+{
+    m_bIsInSingleEditView = false;
+    m_lectureView.btnSlideToListView->hide();
+    m_lectureView.btnSlidetoView->setHidden(m_bIsInSingleEditView);
+}
+
+void ViewChanges::endSingleEditView()
+{
+    if (!m_bIsInSingleEditView)
+        return;
+    m_bIsInSingleEditView = false;
+    placeSideBySide(LectureViewY);
+    m_lectureView.btnSlidetoView->setHidden(m_bIsInEditView);
+    // Unlike after the other changes, what stands over the calendar shows while the lecture view
+    // counts as slid in, as it still does: wanted so.
+    m_lectureView.btnSlideToListView->setHidden(!m_bIsInEditView);
+    m_outlets.weekDayView->setHidden(!m_bIsInEditView);
+    m_outlets.topHorizontalLine->setHidden(!m_bIsInEditView);
 }
 
 } // namespace tarvelo::lectures

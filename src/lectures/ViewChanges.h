@@ -21,6 +21,11 @@ public:
     void onExpandView();
     void goToCalendarView();
     void viewEditView();
+    // For a lecture that is opened beside the list. Nothing moves.
+    void prepareLectureView();
+    // For a lecture that was saved: back beside calendar and list, if the view stood alone. The
+    // window's width is left to the caller.
+    void endSingleEditView();
 
 private:
     // Both panes to their places beside each other, the lecture view at height `y`.

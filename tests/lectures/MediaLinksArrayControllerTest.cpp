@@ -160,12 +160,13 @@ private Q_SLOTS:
         controller().awakeFromNib();
 
         const auto &windows = m_program->windows;
-        for (const QLineEdit *field :
-             {windows.playAudioOutlets().txtSubjectName, windows.playAudioOutlets().txtCourseName,
-              windows.playAudioOutlets().txtFieldForAudio,
-              windows.editLectureOutlets().txtSubjectForEdit,
-              windows.newLectureOutlets().txtSubjectForNewNote,
-              windows.lectureViewOutlets().tSubjectName})
+        for (const QLineEdit *field : std::initializer_list<const QLineEdit *>{
+                 windows.playAudioOutlets().txtSubjectName,
+                 windows.playAudioOutlets().txtCourseName,
+                 windows.playAudioOutlets().txtFieldForAudio,
+                 windows.editLectureOutlets().txtSubjectForEdit,
+                 windows.newLectureOutlets().txtSubjectForNewNote,
+                 windows.lectureViewOutlets().tSubjectName})
             QCOMPARE(insertionPointColor(*field), QColor(Qt::lightGray));
         QCOMPARE(insertionPointColor(*windows.newLectureOutlets().txtView), QColor(Qt::lightGray));
         for (const QTextEdit *view : {windows.editLectureOutlets().txtViewNotesForEdit,

@@ -99,6 +99,65 @@ private Q_SLOTS:
         QCOMPARE(frameOf(*main().editPlayView).topLeft(), QPointF(833, -50));
     }
 
+    void aLectureThatIsOpenedOffersTheSingleViewAndMovesNothing()
+    {
+        m_changes->viewEditView();
+        QTRY_COMPARE(window().width(), 400);
+        const QRectF frame = frameOf(*main().editPlayView);
+
+        m_changes->prepareLectureView();
+
+        QVERIFY(!m_changes->bIsInSingleEditView());
+        QVERIFY(m_changes->bIsInEditView());
+        QVERIFY(!m_program->windows.lectureViewOutlets().btnSlidetoView->isHidden());
+        QVERIFY(m_program->windows.lectureViewOutlets().btnSlideToListView->isHidden());
+        QCOMPARE(frameOf(*main().editPlayView).width(), frame.width());
+        QCOMPARE(window().width(), 400);
+    }
+
+    void endingTheSingleViewShowsWhatStandsOverTheCalendar()
+    {
+        m_changes->viewEditView();
+        QTRY_COMPARE(main().editPlayView->x(), 0);
+
+        m_changes->endSingleEditView();
+
+        const QSizeF size = frameOf(*main().calendarView).size();
+        QCOMPARE(frameOf(*main().editPlayView), QRectF(QPointF(833, -50), size));
+        QCOMPARE(frameOf(*main().calendarView).topLeft(), QPointF(-2, 0));
+        QVERIFY(!m_changes->bIsInSingleEditView());
+        QVERIFY(m_changes->bIsInEditView());
+        QVERIFY(main().calendarView->isVisible() && main().tableListView->isVisible());
+        QVERIFY(!main().weekDayView->isHidden());
+        QVERIFY(!main().topHorizontalLine->isHidden());
+        QVERIFY(m_program->windows.lectureViewOutlets().btnSlidetoView->isHidden());
+        QVERIFY(!m_program->windows.lectureViewOutlets().btnSlideToListView->isHidden());
+    }
+
+    // After a deletion has brought the list back, the single view's flag alone is still set.
+    void endingTheSingleViewHidesWhatStandsOverTheCalendarWhenItIsNotSlidIn()
+    {
+        m_changes->viewEditView();
+        m_changes->goToCalendarView();
+
+        m_changes->endSingleEditView();
+
+        QVERIFY(main().weekDayView->isHidden());
+        QVERIFY(main().topHorizontalLine->isHidden());
+        QVERIFY(!m_program->windows.lectureViewOutlets().btnSlidetoView->isHidden());
+        QVERIFY(m_program->windows.lectureViewOutlets().btnSlideToListView->isHidden());
+    }
+
+    void endingTheSingleViewDoesNothingWhereThereIsNone()
+    {
+        tarvelo::platform::setFrame(*main().editPlayView, {700, -20, 401, 540});
+
+        m_changes->endSingleEditView();
+
+        QCOMPARE(frameOf(*main().editPlayView), QRectF(700, -20, 401, 540));
+        QVERIFY(!main().weekDayView->isHidden());
+    }
+
     void everyWidthKeepsOriginAndHeight()
     {
         window().move(30, 40);

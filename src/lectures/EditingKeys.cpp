@@ -1,0 +1,61 @@
+#include "lectures/EditingKeys.h"
+
+#include "widgets/ImageButton.h"
+
+#include <QLineEdit>
+#include <QShortcut>
+#include <QTextEdit>
+
+namespace tarvelo::lectures {
+
+using widgets::ImageButton;
+
+namespace {
+
+void onKey(QWidget &place, const QKeySequence &key, std::function<void()> run)
+{
+    auto *shortcut = new QShortcut(key, &place);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, &place, std::move(run));
+}
+
+// A button that has the keyboard loses it to whichever control is next when its press disables it.
+void handKeyboardOver(ImageButton &from, ImageButton &to)
+{
+    const auto hadFocus = std::make_shared<bool>(false);
+    QObject::connect(&from, &ImageButton::pressed, &to,
+                     [&from, hadFocus] { *hadFocus = from.hasFocus(); });
+    QObject::connect(&from, &ImageButton::clicked, &to, [&from, &to, hadFocus] {
+        if (*hadFocus && !from.isEnabled() && to.isEnabled())
+            to.setFocus(Qt::ShortcutFocusReason);
+    });
+}
+
+} // namespace
+
+void doneWithControlReturn(QWidget &place, ImageButton &done)
+{
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        onKey(place, QKeySequence(Qt::CTRL | key), [&done] { done.click(); });
+}
+
+void returnGoesOnToNotes(QLineEdit &subject, QTextEdit &notes)
+{
+    QObject::connect(&subject, &QLineEdit::returnPressed, &notes,
+                     [&notes] { notes.setFocus(Qt::OtherFocusReason); });
+}
+
+void escapeCloses(QWidget &window)
+{
+    onKey(window, QKeySequence(Qt::Key_Escape), [&window] { window.close(); });
+}
+
+void playAndPauseWithF8(QWidget &place, ImageButton &play, ImageButton &pause)
+{
+    onKey(place, QKeySequence(Qt::Key_F8),
+          [&play, &pause] { play.isEnabled() ? play.click() : pause.click(); });
+    handKeyboardOver(play, pause);
+    handKeyboardOver(pause, play);
+}
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+
+class QLineEdit;
+class QTextEdit;
+
+namespace tarvelo::widgets {
+class ImageButton;
+}
+
+namespace tarvelo::lectures {
+
+// What Ctrl+Return, Return and F8 do where a lecture is written or listened to, so that a student
+// who listens and writes never needs the mouse. Each key presses a button or moves the keyboard on;
+// a button that is disabled does nothing.
+
+// Ctrl+Return anywhere in `place` presses `done`.
+void doneWithControlReturn(QWidget &place, widgets::ImageButton &done);
+// Return in the subject goes on to the notes.
+void returnGoesOnToNotes(QLineEdit &subject, QTextEdit &notes);
+// Escape closes the window as its title bar does.
+void escapeCloses(QWidget &window);
+// F8 anywhere in `place` presses the one of the two that can be pressed. Many keyboards show the
+// sign for play and pause on it. Whoever presses one of them by keyboard is on the other next.
+void playAndPauseWithF8(QWidget &place, widgets::ImageButton &play, widgets::ImageButton &pause);
+
+} // namespace tarvelo::lectures

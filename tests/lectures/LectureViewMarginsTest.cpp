@@ -1,0 +1,60 @@
+#include "lectures/LectureViewMargins.h"
+
+#include "support/LectureProgram.h"
+#include "support/TestCase.h"
+
+using tarvelo::tests::LectureProgram;
+
+class LectureViewMarginsTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void besideTheListEveryControlIsInSight()
+    {
+        m_program->controller.onExpandView(nullptr);
+
+        expectControlsInSight();
+    }
+
+    void aloneEveryControlIsInSight()
+    {
+        m_program->controller.viewEditView(nullptr);
+
+        expectControlsInSight();
+    }
+
+    void besideTheListAfterItStoodAloneEveryControlIsInSight()
+    {
+        m_program->controller.viewEditView(nullptr);
+        m_program->controller.onExpandView(nullptr);
+
+        expectControlsInSight();
+    }
+
+private:
+    void prepare() override
+    {
+        m_program = std::make_unique<LectureProgram>();
+        m_program->showDay(m_program->today());
+    }
+    void finish() override { m_program.reset(); }
+
+    void expectControlsInSight() const
+    {
+        const auto &window = m_program->windows.mainWindow();
+        QTRY_COMPARE(window.width(), window.frameWidth());
+        const auto &view = m_program->windows.lectureViewOutlets();
+        for (const QWidget *control : QList<const QWidget *>{
+                 view.tSubjectName, view.tViewNoteForEdit, view.btnDoneEditLecture}) {
+            QTRY_VERIFY2(
+                window.rect().contains(QRect(control->mapTo(&window, QPoint()), control->size())),
+                qPrintable(control->objectName()));
+        }
+    }
+
+    std::unique_ptr<LectureProgram> m_program;
+};
+
+QTEST_MAIN(LectureViewMarginsTest)
+#include "LectureViewMarginsTest.moc"
