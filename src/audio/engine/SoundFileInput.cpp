@@ -2,8 +2,6 @@
 
 #include "audio/engine/SoundSignature.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 #include <cstring>
 
@@ -45,38 +43,22 @@ std::unique_ptr<SoundFileInput> SoundFileInput::open(const QByteArray &bytes)
     av_max_alloc(MostMemory);
     if (!beginsLikeSound(QByteArrayView(bytes).first(std::min(bytes.size(), SignatureLength))))
         return nullptr;
-    std::unique_ptr<SoundFileInput> input(new SoundFileInput(bytes));
+    MovieOutline outline{bytes.size()};
+    if (beginsLikeMovie(bytes)) {
+        const auto found = outlineOf(bytes);
+        if (!found)
+            return nullptr;
+        outline = *found;
+    }
+    std::unique_ptr<SoundFileInput> input(new SoundFileInput(bytes, outline));
     return input->openDemuxer() ? std::move(input) : nullptr;
 }
 
-SoundFileInput::SoundFileInput(const QByteArray &bytes)
+SoundFileInput::SoundFileInput(const QByteArray &bytes, const MovieOutline &outline)
     : m_bytes(bytes)
-    , m_size(bytes.size())
+    , m_size(outline.size)
+    , m_holdsFragments(outline.holdsFragments)
 {
-    walkBoxes();
-}
-
-// The boxes that a file of MPEG-4 is a row of. One that grew while it was recorded has fragments,
-// of which its header knows nothing. Where it was cut off in the description of a fragment, it ends
-// for us before that: the demuxer would refuse all of it.
-void SoundFileInput::walkBoxes()
-{
-    constexpr qsizetype HeaderSize = 8;
-    qsizetype at = 0;
-    while (m_bytes.size() - at >= HeaderSize) {
-        const char *box = m_bytes.constData() + at;
-        const QByteArrayView type(box + 4, 4);
-        const qsizetype size = qFromBigEndian<quint32>(box);
-        if (size < HeaderSize || (at == 0 && type != "ftyp"))
-            return;
-        m_holdsFragments = m_holdsFragments || type == "moof";
-        if (size > m_bytes.size() - at) {
-            m_size = type == "moof" ? at : m_size;
-            return;
-        }
-        at += size;
-    }
-    m_size = at;
 }
 
 SoundFileInput::~SoundFileInput()

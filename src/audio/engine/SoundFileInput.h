@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/engine/Ffmpeg.h"
+#include "audio/engine/MovieOutline.h"
 
 #include <QByteArray>
 
@@ -41,8 +42,7 @@ public:
     void cancel() { m_isCancelled = true; }
 
 private:
-    explicit SoundFileInput(const QByteArray &bytes);
-    void walkBoxes();
+    SoundFileInput(const QByteArray &bytes, const MovieOutline &outline);
     bool openDemuxer();
     bool chooseTrack();
     std::int64_t endByReading();
@@ -54,8 +54,8 @@ private:
     static std::int64_t seekBytes(void *self, std::int64_t offset, int whence);
 
     const QByteArray m_bytes;
-    std::int64_t m_size; // of what is shown to the demuxer
-    bool m_holdsFragments = false;
+    const std::int64_t m_size; // of what is shown to the demuxer
+    const bool m_holdsFragments;
     std::int64_t m_position = 0;
     std::atomic<bool> m_isCancelled = false;
     AVIOContext *m_io = nullptr;

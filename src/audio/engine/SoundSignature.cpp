@@ -1,5 +1,7 @@
 #include "audio/engine/SoundSignature.h"
 
+#include "audio/engine/MovieOutline.h"
+
 #include <algorithm>
 #include <array>
 
@@ -15,14 +17,7 @@ struct Signature
     QByteArrayView also = {};
 };
 
-constexpr std::array<Signature, 13> Signatures{{
-    // MPEG-4 and its elder brother, which may begin with any of these boxes
-    {4, "ftyp"},
-    {4, "moov"},
-    {4, "mdat"},
-    {4, "wide"},
-    {4, "free"},
-    {4, "skip"},
+constexpr std::array<Signature, 7> Signatures{{
     {0, "RIFF", 8, "WAVE"},
     {0, "FORM", 8, "AIFF"},
     {0, "FORM", 8, "AIFC"},
@@ -46,7 +41,8 @@ bool beginsLikeSound(QByteArrayView head)
     const auto has = [head](qsizetype at, QByteArrayView text) {
         return head.size() >= at + text.size() && head.sliced(at, text.size()) == text;
     };
-    return isFrame(head) || std::ranges::any_of(Signatures, [&](const Signature &it) {
+    return beginsLikeMovie(head) || isFrame(head) ||
+           std::ranges::any_of(Signatures, [&](const Signature &it) {
                return has(it.at, it.text) && has(it.alsoAt, it.also);
            });
 }
