@@ -57,7 +57,7 @@ void LoginItem::setEnabled(bool enabled)
     const QString content = QStringLiteral("[Desktop Entry]\n"
                                            "Type=Application\n"
                                            "Name=Tarvelo\n"
-                                           "Icon=tarvelo\n"
+                                           "Icon=org.tarvelo.Tarvelo\n"
                                            "Terminal=false\n"
                                            "Exec=%1\n");
     entry.write(content.arg(quotedForExec(m_program)).toUtf8());

@@ -15,7 +15,8 @@ public:
     // $XDG_CONFIG_HOME/autostart.
     static QString standardFolder();
 
-    QString file() const { return m_folder + QStringLiteral("/tarvelo.desktop"); }
+    // Named as the menu's entry, by which the desktop knows whose it is.
+    QString file() const { return m_folder + QStringLiteral("/org.tarvelo.Tarvelo.desktop"); }
     // An entry that the desktop's own settings switched off counts as off.
     bool isEnabled() const;
 

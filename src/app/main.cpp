@@ -30,7 +30,7 @@ void describe(QApplication &application)
 {
     platform::installTexts();
     QApplication::setApplicationName(QStringLiteral("Tarvelo"));
-    QApplication::setDesktopFileName(QStringLiteral("tarvelo"));
+    QApplication::setDesktopFileName(QStringLiteral("org.tarvelo.Tarvelo"));
     QApplication::setWindowIcon(platform::imageNamed(QStringLiteral("icon")).icon());
     QApplication::setQuitOnLastWindowClosed(false);
     // One look on every desktop: the windows' own drawings go with no other.

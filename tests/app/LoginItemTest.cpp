@@ -27,6 +27,8 @@ private Q_SLOTS:
         QCOMPARE(lines.first(), QByteArray("[Desktop Entry]"));
         QVERIFY(lines.contains("Type=Application"));
         QVERIFY(lines.contains("Exec=\"/opt/My Apps/Tarvelo\""));
+        QVERIFY(lines.contains("Icon=org.tarvelo.Tarvelo"));
+        QVERIFY(item.file().endsWith(QStringLiteral("/org.tarvelo.Tarvelo.desktop")));
     }
 
     void switchingOffRemovesTheEntry()
