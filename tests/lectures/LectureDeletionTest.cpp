@@ -545,6 +545,33 @@ private Q_SLOTS:
         QVERIFY(!m_program->engine.player || !m_program->engine.player->isPlaying());
     }
 
+    void theLectureThatIsOpenBesideTheListCanBeDeleted()
+    {
+        showThree();
+        controller().openPlayEditWindow(viewOf(1)->btnPlay());
+
+        press(viewOf(1)->btnDelete());
+        popovers().btnConfirmYes->click();
+        table().finishRemoval();
+        m_program->clock.advance(2s);
+        // What is saved now finds no row.
+        controller().onDoneLectureEdit(m_program->windows.lectureViewOutlets().btnDoneEditLecture);
+
+        QCOMPARE(storedSubjects(), QStringList({u"First"_s, u"Third"_s}));
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"Third"_s, u"First"_s}));
+    }
+
+    void theLectureInTheEditWindowCanBeDeleted()
+    {
+        showThree();
+        press(viewOf(1)->btnEdit());
+
+        controller().onDeleteItem(viewOf(1)->btnDelete());
+        controller().onDoneEdit(m_program->windows.editLectureOutlets().btnDoneEdit);
+
+        QCOMPARE(storedSubjects(), QStringList({u"First"_s, u"Third"_s}));
+    }
+
     void theSelectedLecturesAreThoseThatAreLeft()
     {
         showThree();
