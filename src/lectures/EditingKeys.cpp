@@ -52,8 +52,9 @@ void escapeCloses(QWidget &window)
 
 void playAndPauseWithF8(QWidget &place, ImageButton &play, ImageButton &pause)
 {
-    onKey(place, QKeySequence(Qt::Key_F8),
-          [&play, &pause] { play.isEnabled() ? play.click() : pause.click(); });
+    for (const Qt::Key key : {Qt::Key_F8, Qt::Key_MediaTogglePlayPause})
+        onKey(place, QKeySequence(key),
+              [&play, &pause] { play.isEnabled() ? play.click() : pause.click(); });
     handKeyboardOver(play, pause);
     handKeyboardOver(pause, play);
 }

@@ -21,8 +21,9 @@ void doneWithControlReturn(QWidget &place, widgets::ImageButton &done);
 void returnGoesOnToNotes(QLineEdit &subject, QTextEdit &notes);
 // Escape closes the window as its title bar does.
 void escapeCloses(QWidget &window);
-// F8 anywhere in `place` presses the one of the two that can be pressed. Many keyboards show the
-// sign for play and pause on it. Whoever presses one of them by keyboard is on the other next.
+// F8, or the media key, anywhere in `place` presses the one of the two that can be pressed. Many
+// keyboards show the sign for play and pause on it. Whoever presses one of them by keyboard is on
+// the other next.
 void playAndPauseWithF8(QWidget &place, widgets::ImageButton &play, widgets::ImageButton &pause);
 
 } // namespace tarvelo::lectures

@@ -63,6 +63,13 @@ void giveMargins(QLineEdit &field, QTextEdit &notes)
     notes.document()->setDocumentMargin(8);
 }
 
+// Room between the edge and a title that may be long.
+void giveRoomToTitle(ImageButton &button)
+{
+    const int title = button.fontMetrics().horizontalAdvance(button.text());
+    button.setMinimumWidth(std::max(button.minimumWidth(), title + 28));
+}
+
 // A hidden control keeps its room, so that nothing moves when it comes back.
 void keepRoom(QWidget &view)
 {
@@ -154,6 +161,7 @@ void LectureWindows::buildMainWindow(platform::Dates &dates)
     style(*ui.lblEmptyDayHint, 13, Faint);
     fill(*ui.topHorizontalLine, Line);
     fill(*ui.paneLine, Line);
+    fill(*ui.lectureLine, Line);
     fill(*ui.listTopLine, Line);
     fill(*ui.listBottomLine, Line);
     fill(*ui.editPlayView, Qt::white);
@@ -188,6 +196,8 @@ void LectureWindows::buildLectureView()
     ui.tSubjectName->setEditable(false);
     ui.tSubjectName->setBordered(false);
     ui.tSubjectName->setDrawsBackground(false);
+    giveRoomToTitle(*ui.btnSlidetoView);
+    giveRoomToTitle(*ui.btnSlideToListView);
     keepContentInSight(*m_main.editPlayView);
 }
 

@@ -69,7 +69,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         const auto type = event->type();
-        if (type == QEvent::FocusIn || type == QEvent::FocusOut || type == QEvent::Resize)
+        // A field that is opened for writing gets a frame, and its text moves.
+        if (type == QEvent::FocusIn || type == QEvent::FocusOut || type == QEvent::Resize ||
+            type == QEvent::ReadOnlyChange)
             QTimer::singleShot(0, this, [this] { follow(); });
         return QWidget::eventFilter(watched, event);
     }

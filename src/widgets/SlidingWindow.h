@@ -7,7 +7,8 @@ namespace tarvelo::widgets {
 
 // A window of fixed size whose width slides from one value to another, its top-left corner, and so
 // its origin and height, staying where they are. Its width is that of what it shows, without the
-// window manager's frame.
+// window manager's frame. Tab passes over what lies outside of that width: the keyboard is always
+// where it can be seen.
 class SlidingWindow : public QWidget
 {
     Q_OBJECT
@@ -23,7 +24,12 @@ public:
     void setFrameSize(int width, int height);
     void setFrameWidth(int width, bool animate);
 
+protected:
+    bool focusNextPrevChild(bool next) override;
+
 private:
+    bool canTakeFocusByTab(const QWidget &widget) const;
+
     int m_frameWidth = 0;
     QVariantAnimation m_slide;
 };

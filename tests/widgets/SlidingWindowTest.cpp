@@ -2,6 +2,9 @@
 
 #include "support/TestCase.h"
 
+#include <QLineEdit>
+#include <QPushButton>
+
 using tarvelo::widgets::SlidingWindow;
 
 class SlidingWindowTest final : public tarvelo::tests::TestCase
@@ -75,6 +78,31 @@ private Q_SLOTS:
 
         QVERIFY(!window.isSliding());
         QCOMPARE(window.width(), 400);
+    }
+
+    void tabPassesOverWhatIsOutOfSight()
+    {
+        SlidingWindow window;
+        window.setFrameSize(833, 489);
+        QPushButton first(&window);
+        QWidget pane(&window);
+        pane.setGeometry(833, 0, 400, 489);
+        QLineEdit outOfSight(&pane);
+        QLineEdit last(&window);
+        last.move(0, 100);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        first.setFocus();
+
+        QTest::keyClick(&first, Qt::Key_Tab);
+        QVERIFY(last.hasFocus());
+        QTest::keyClick(&last, Qt::Key_Backtab);
+        QVERIFY(first.hasFocus());
+
+        window.setFrameWidth(1234, false);
+        QTest::keyClick(&first, Qt::Key_Tab);
+        QVERIFY(outOfSight.hasFocus());
     }
 
     void theUserCannotResizeIt()
