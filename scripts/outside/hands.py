@@ -80,6 +80,12 @@ class Hands:
         x, y = self._resting_place(self.control(window, name, ready), name)
         self._xdotool("mousemove", str(x), str(y), "click", "1")
 
+    def choose(self, window, table, subject, keys):
+        """Opens the menu of a row with the mouse and takes a command with the keys, which the menu hears from then on."""
+        x, y = self._resting_place(self.row(window, table, subject), subject)
+        # The mouse leaves: over the menu it would choose as well, whenever the menu comes to stand under it.
+        self._xdotool("mousemove", str(x), str(y), "click", "3", "mousemove", "0", "0", "key", *keys)
+
     def write(self, window, name, text):
         self.click(window, name, Atspi.StateType.EDITABLE)  # a label may bear the name too
         field = self.control(window, name, Atspi.StateType.FOCUSED)

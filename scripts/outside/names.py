@@ -16,4 +16,7 @@ PLAY = "Play"
 RECORDING_ON_PROCESS = "Recording is on process!"
 DONE = "Done"
 
+# In the menu of a row, from its upper end round to its lower one.
+SHOW_FILE_KEYS = ("Up", "Up", "Return")
+SHARE_KEYS = ("Up", "Return")
 QUIT_KEYS = "ctrl+q"

@@ -7,6 +7,7 @@
 #include "platform/Alerts.h"
 #include "platform/Dates.h"
 #include "platform/Images.h"
+#include "platform/MailComposer.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
@@ -60,12 +61,13 @@ int main(int argc, char **argv)
     const auto engine = engine::makeSoundServerEngine();
     platform::WindowAlerts alerts;
     platform::DesktopWorkspace workspace;
+    platform::DesktopMailComposer mail;
     app::ProcessFlags &flags = app::ProcessFlags::ofProcess();
 
     const lectures::LectureWindows windows(dates);
     lectures::MediaLinksArrayController controller({dates, places, defaults, database, *engine,
-                                                    alerts, workspace, flags.controllerIsAwake,
-                                                    flags.pendingRow},
+                                                    alerts, workspace, mail,
+                                                    flags.controllerIsAwake, flags.pendingRow},
                                                    windows);
     app::AppDelegate delegate(
         {dates, defaults, alerts, windows, controller,

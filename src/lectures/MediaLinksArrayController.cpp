@@ -13,7 +13,6 @@
 #include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
 
-#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextEdit>
@@ -41,6 +40,7 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
           {windows.recordingOutlets(), windows.lecturePlayerOutlets(), windows.editPlayerOutlets()})
     , m_recordingControl(services.engine, m_locations, services.dates, m_playback,
                          windows.recordingOutlets(), windows.clockOutlets())
+    , m_sharing(services.places.music, services.mail, services.workspace)
     , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })
     , m_viewChanges(windows.mainOutlets(), windows.lectureViewOutlets())
     , m_editing({services.dates.clock(), services.database, m_playback, m_dayList, m_viewChanges,
@@ -154,6 +154,9 @@ void MediaLinksArrayController::wireRow(CustomTableCellView &row)
     wireEditing(row);
     row.btnBrowse()->setAction(
         {"openAudioFolderPath", [this](QWidget *sender) { openAudioFolderPath(sender); }});
+    row.btnEmail()->setAction({"doSendMail", [this](QWidget *sender) { doSendMail(sender); }});
+    row.btnExport()->setAction(
+        {"onExportToiTunes", [this](QWidget *sender) { onExportToiTunes(sender); }});
     row.btnDelete()->setAction(
         {"onRemoveNotesRecord", [this](QWidget *sender) { onRemoveNotesRecord(sender); }});
 }
@@ -304,13 +307,6 @@ QList<RowAction> MediaLinksArrayController::tableViewRowActionsForRowEdge(Lectur
                                                                           RowActionEdge edge)
 {
     return m_deletion.tableViewRowActionsForRowEdge(table, row, edge);
-}
-
-bool MediaLinksArrayController::isSupportedIniTunes(QWidget *cell) const
-{
-    const Lecture lecture = tableViewObjectValueForTableColumnRow(
-        0, m_windows.mainOutlets().tblRecordSubjectList->rowForView(cell));
-    return lecture && QFileInfo(lecture->strLectureAudioPath()).suffix() == u"m4a";
 }
 
 void MediaLinksArrayController::onClosePlayAudioWindow(QWidget *sender)

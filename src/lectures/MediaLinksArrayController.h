@@ -3,6 +3,7 @@
 #include "audio/AudioFileLocations.h"
 #include "audio/Playback.h"
 #include "audio/RecordingControl.h"
+#include "audio/SharingAndExport.h"
 #include "lectures/CloseGuards.h"
 #include "lectures/DayList.h"
 #include "lectures/LectureDeletion.h"
@@ -24,6 +25,7 @@ class AudioEngine;
 namespace tarvelo::platform {
 class Alerts;
 class Dates;
+class MailComposer;
 class UserDefaults;
 class Workspace;
 } // namespace tarvelo::platform
@@ -43,6 +45,7 @@ struct LectureServices
     engine::AudioEngine &engine;
     platform::Alerts &alerts;
     platform::Workspace &workspace;
+    platform::MailComposer &mail;
     // Whether the one start-up of this process has been done; whoever runs the process keeps it.
     bool &isAwake;
     // The row that a confirmation of a deletion is about, -1 at first; kept in the same way.
@@ -59,6 +62,7 @@ struct LectureServices
 // - view changes: onExpandView, goToCalendarView, viewEditView, animateRecordView
 // - audio files: setTempAudioSavePathWithFormat, getAudio..., browseRecordingFolder,
 //   openAudioFolderPath
+// - sharing: isSupportedIniTunes, doSendMail, onExportToiTunes
 // - recording: startRecording ... updateTimeDisplay
 // - playing: onPlayLecture ... audioDidEndPlayingEdit
 // - new lecture: onAddItem ... onClosePopoverConfirm
@@ -128,6 +132,11 @@ public:
     void browseRecordingFolder(QWidget *sender);
     // `sender` is a control in a row; from anywhere else nothing happens.
     void openAudioFolderPath(QWidget *sender);
+
+    // -- Sharing. `sender` is a control in a row; from anywhere else nothing happens.
+    bool isSupportedIniTunes(QWidget *cell) const;
+    void doSendMail(QWidget *sender);
+    void onExportToiTunes(QWidget *sender);
 
     // -- Recording
     const audio::RecordingControl &recordingControl() const { return m_recordingControl; }
@@ -222,7 +231,6 @@ public:
     {
         m_recordingControl.setBIsRecordingNeedPreventingQuit(need);
     }
-    bool isSupportedIniTunes(QWidget *cell) const;
     bool windowShouldClose(QWidget *window) { return m_closeGuards.windowShouldClose(window); }
     void windowWillClose(QWidget *window) { m_closeGuards.windowWillClose(window); }
     void onClosePlayAudioWindow(QWidget *sender);
@@ -260,6 +268,7 @@ private:
     audio::AudioFileLocations m_locations;
     audio::Playback m_playback;
     audio::RecordingControl m_recordingControl;
+    audio::SharingAndExport m_sharing;
     DayList m_dayList;
     ViewChanges m_viewChanges;
     LectureEditing m_editing;

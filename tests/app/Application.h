@@ -10,6 +10,7 @@
 #include "support/FakeAlerts.h"
 #include "support/FakeAudioEngine.h"
 #include "support/FakeClock.h"
+#include "support/FakeMailComposer.h"
 #include "support/FakeWorkspace.h"
 #include "support/TemporaryPlaces.h"
 #include "widgets/SlidingWindow.h"
@@ -29,7 +30,7 @@ struct Application
         , defaults(settingsFile)
         , database(home.places())
         , windows(dates)
-        , controller({dates, home.places(), defaults, database, engine, alerts, workspace,
+        , controller({dates, home.places(), defaults, database, engine, alerts, workspace, mail,
                       flags.controllerIsAwake, flags.pendingRow},
                      windows)
         , delegate({dates, defaults, alerts, windows, controller,
@@ -70,6 +71,7 @@ struct Application
     FakeAudioEngine engine;
     FakeAlerts alerts;
     FakeWorkspace workspace;
+    FakeMailComposer mail;
     app::ProcessFlags flags;
     lectures::LectureWindows windows;
     lectures::MediaLinksArrayController controller;

@@ -13,6 +13,7 @@
 #include "support/FakeAlerts.h"
 #include "support/FakeAudioEngine.h"
 #include "support/FakeClock.h"
+#include "support/FakeMailComposer.h"
 #include "support/FakeWorkspace.h"
 #include "support/LectureBuilder.h"
 #include "support/TemporaryPlaces.h"
@@ -115,12 +116,14 @@ public:
     FakeAudioEngine engine;
     FakeAlerts alerts;
     FakeWorkspace workspace;
+    FakeMailComposer mail;
     FakeLectureApplication application;
     lectures::LectureWindows windows{dates};
     bool isAwake = false;
     int pendingRow = -1;
     lectures::MediaLinksArrayController controller{{dates, places.places(), defaults, database,
-                                                    engine, alerts, workspace, isAwake, pendingRow},
+                                                    engine, alerts, workspace, mail, isAwake,
+                                                    pendingRow},
                                                    windows};
 };
 

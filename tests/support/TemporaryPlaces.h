@@ -12,7 +12,10 @@ namespace tarvelo::tests {
 class TemporaryPlaces final
 {
 public:
-    platform::Places places() const { return {m_dir.path(), QStringLiteral("Tarvelo")}; }
+    platform::Places places() const
+    {
+        return {m_dir.path(), QStringLiteral("Tarvelo"), m_dir.filePath(QStringLiteral("Music"))};
+    }
     QString folder() const { return m_dir.filePath(QStringLiteral("Tarvelo")); }
     QString databaseFile() const { return folder() + QStringLiteral("/TarveloInfo.db"); }
 
