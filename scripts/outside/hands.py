@@ -55,30 +55,41 @@ class Hands:
         wait_for(f"the window {title!r} to go", lambda: not _quietly(lambda: self._window_now(title)))
 
     def control(self, window, name, ready=Atspi.StateType.SENSITIVE):
+        return wait_for(f"{name!r} in the window {window!r}",
+                        lambda: _quietly(lambda: self._control_now(self._window_now(window), name, ready)))
+
+    def control_of_popover(self, name):
+        """A pop-over is a window without a title."""
         def look():
-            for thing in _below(self._window_now(window)):
-                if thing.get_name() == name and _state(thing, Atspi.StateType.SHOWING) and _state(thing, ready):
-                    return thing
+            for popover in self._windows():
+                found = None if popover.get_name() else self._control_now(popover, name, Atspi.StateType.SENSITIVE)
+                if found:
+                    return found
             return None
 
-        return wait_for(f"{name!r} in the window {window!r}", lambda: _quietly(look))
+        return wait_for(f"{name!r} in a pop-over", lambda: _quietly(look))
+
+    def description(self, window, name):
+        return _quietly(self.control(window, name).get_description)
 
     def row(self, window, table, subject):
         """The row of a lecture in the table, known by the subject that it begins with."""
-        def look():
-            for thing in _below(self._window_now(window)):
-                if thing.get_name() != table:
-                    continue
-                for part in _below(thing):
-                    if part.get_name().startswith(subject) and _state(part, Atspi.StateType.SHOWING):
-                        return part
-            return None
+        return wait_for(f"{subject!r} in {table!r}", lambda: _quietly(lambda: self._row_now(window, table, subject)))
 
-        return wait_for(f"{subject!r} in {table!r}", lambda: _quietly(look))
+    def row_goes(self, window, table, subject):
+        wait_for(f"{subject!r} to go", lambda: not _quietly(lambda: self._row_now(window, table, subject)))
 
     def click(self, window, name, ready=Atspi.StateType.SENSITIVE):
-        x, y = self._resting_place(self.control(window, name, ready), name)
-        self._xdotool("mousemove", str(x), str(y), "click", "1")
+        self._click_on(self.control(window, name, ready), name)
+
+    def click_in_popover(self, name):
+        self._click_on(self.control_of_popover(name), name)
+
+    def point_at_row(self, window, table, subject):
+        self._point_at(self.row(window, table, subject), subject)
+
+    def open_row(self, window, table, subject):
+        self._click_on(self.row(window, table, subject), subject, "--repeat", "2", "--delay", "60")
 
     def choose(self, window, table, subject, keys):
         """Opens the menu of a row with the mouse and takes a command with the keys, which the menu hears from then on."""
@@ -87,8 +98,10 @@ class Hands:
         self._xdotool("mousemove", str(x), str(y), "click", "3", "mousemove", "0", "0", "key", *keys)
 
     def write(self, window, name, text):
+        """What stood there goes."""
         self.click(window, name, Atspi.StateType.EDITABLE)  # a label may bear the name too
         field = self.control(window, name, Atspi.StateType.FOCUSED)
+        self._xdotool("key", "ctrl+a", "key", "Delete")
         self._xdotool("type", "--delay", "20", text)
         wait_for(f"{text!r} in {name!r}", lambda: _quietly(lambda: self._text(field) == text))
 
@@ -109,13 +122,36 @@ class Hands:
     def _window_now(self, title):
         if self._process and self._process.poll() is not None:
             raise Failed(f"{self._application} has ended by itself with status {self._process.returncode}")
-        for application in _children(self._desktop):
-            if application.get_name() != self._application:
-                continue
-            for window in _children(application):
-                if window.get_name() == title and _state(window, Atspi.StateType.SHOWING):
-                    return window
+        return next((window for window in self._windows() if window.get_name() == title), None)
+
+    def _windows(self):
+        """Those that show."""
+        return [window for application in _children(self._desktop) if application.get_name() == self._application
+                for window in _children(application) if _state(window, Atspi.StateType.SHOWING)]
+
+    @staticmethod
+    def _control_now(window, name, ready):
+        for thing in _below(window):
+            if thing.get_name() == name and _state(thing, Atspi.StateType.SHOWING) and _state(thing, ready):
+                return thing
         return None
+
+    def _row_now(self, window, table, subject):
+        for thing in _below(self._window_now(window)):
+            if thing.get_name() != table:
+                continue
+            for part in _below(thing):
+                if part.get_name().startswith(subject) and _state(part, Atspi.StateType.SHOWING):
+                    return part
+        return None
+
+    def _point_at(self, thing, name):
+        x, y = self._resting_place(thing, name)
+        self._xdotool("mousemove", str(x), str(y))
+
+    def _click_on(self, thing, name, *how):
+        self._point_at(thing, name)
+        self._xdotool("click", *how, "1")
 
     @staticmethod
     def _text(field):

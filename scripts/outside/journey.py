@@ -1,14 +1,17 @@
-"""The main job, from outside: record a lecture, save it, and find it under its day, also after a restart."""
+"""The main job, from outside: record a lecture, save it, find it under its day, play, change and delete it."""
 
 import datetime
 import os
 
 from . import names, proof, sound
 from .program import Program
-from .waiting import Failed
+from .waiting import Failed, wait_for
 
 SUBJECT = "Geometric Optics"
+NEW_SUBJECT = "Wave Optics"
 NOTES = "Lenses bend light. Ask about Fermat."
+NEW_NOTES = "Light is a wave."
+SLOW = 0.5
 BEFORE = "Good morning. Today we follow a ray of light through a lens, and we ask why it bends."
 PAUSED = "Is there any chalk left in this room? No, then somebody has to fetch some."
 AFTER = "Light takes the path that needs the least time. This is the principle of Fermat."
@@ -39,6 +42,12 @@ class Journey:
             self._start("second")
             self._hands.row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
             self._shot("after-restart", "After a restart the lecture stands under its day")
+            self._play(row)
+            self._edit(day)
+            self._quit()
+            self._start("third")
+            self._look(NEW_SUBJECT)
+            self._delete(proof.lecture(self._desktop.data, NEW_SUBJECT, NEW_NOTES, day))
             self._quit()
             self._program.expect_silence()
             self._tell("Tarvelo wrote nothing to its output")
@@ -102,6 +111,66 @@ class Journey:
         self._tell(f"Database: {row['subject']!r} on {row['recordingDate']}, {row['recordDuration']}, "
                    f"{os.path.basename(row['audioFileFullPath'])}")
         return row
+
+    def _play(self, row):
+        heard = os.path.join(self._desktop.folder, "heard.raw")
+        with self._server.listen(heard):
+            self._hands.click(names.MAIN_WINDOW, names.PLAY)
+            self._hands.window(SUBJECT)
+            self._hands.control(SUBJECT, names.PAUSE)
+            self._shot("playing", "The lecture plays in a window of its own")
+            self._hands.control(SUBJECT, names.PLAY)
+        agreement = proof.played(row, sound.heard(heard))
+        self._shot("played", f"What came out of the speaker is the recording, correlation {agreement:.4f}")
+
+        with self._server.listen(heard):
+            # The choice of a speed plays, but leaves the buttons as they are.
+            self._hands.click(SUBJECT, names.HALF_SPEED)
+            self._hands.click(SUBJECT, names.PLAY)
+            self._hands.control(SUBJECT, names.PAUSE)
+            self._shot("playing-slowly", "It plays again at half the speed")
+            self._hands.control(SUBJECT, names.PLAY)
+        length, agreement = proof.played_slowly(row, sound.heard(heard), SLOW)
+        self._tell(f"What was heard is {length:.3f} times as long as the recording and follows it, correlation {agreement:.4f}")
+        self._hands.press(SUBJECT, "Escape")
+        self._hands.window_goes(SUBJECT)
+
+    def _edit(self, day):
+        self._hands.point_at_row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
+        self._hands.click(names.MAIN_WINDOW, names.EDIT)
+        self._hands.write(names.EDIT_WINDOW, names.SUBJECT, NEW_SUBJECT)
+        self._hands.write(names.EDIT_WINDOW, names.NOTES, NEW_NOTES)
+        self._shot("editing", "Subject and notes are changed")
+        self._hands.click(names.EDIT_WINDOW, names.DONE)
+        self._hands.window_goes(names.EDIT_WINDOW)
+        self._hands.row(names.MAIN_WINDOW, names.LECTURES, NEW_SUBJECT)
+        proof.lecture(self._desktop.data, NEW_SUBJECT, NEW_NOTES, day)
+        self._tell("The change is saved and stands in today's list")
+
+    def _look(self, subject):
+        self._hands.row(names.MAIN_WINDOW, names.LECTURES, subject)
+        self._tell("After a restart the change is there")
+        self._hands.open_row(names.MAIN_WINDOW, names.LECTURES, subject)
+        self._hands.control(names.MAIN_WINDOW, names.DONE)
+        self._shot("lecture-view", "A double click shows the lecture beside the list")
+
+    def _delete(self, row):
+        self._expect_badge(names.HAS_LECTURES)
+        self._hands.point_at_row(names.MAIN_WINDOW, names.LECTURES, NEW_SUBJECT)
+        self._hands.click(names.MAIN_WINDOW, names.DELETE)
+        self._hands.control_of_popover(names.YES)
+        self._shot("delete", "Deleting is asked about first")
+        self._hands.click_in_popover(names.YES)
+        self._hands.row_goes(names.MAIN_WINDOW, names.LECTURES, NEW_SUBJECT)
+        self._hands.control(names.MAIN_WINDOW, names.NO_LECTURES)
+        self._expect_badge("")
+        proof.deleted(self._desktop.data, row)
+        self._shot("deleted", "The lecture, its sound and the badge of its day are gone")
+
+    def _expect_badge(self, described):
+        today = f"{datetime.date.today():%A, %B} {datetime.date.today().day}, {datetime.date.today().year}"
+        wait_for(f"the badge of {today!r} to be {described!r}",
+                 lambda: self._hands.description(names.MAIN_WINDOW, today) == described)
 
     def _quit(self):
         self._program.quit()

@@ -3,6 +3,7 @@
 APPLICATION = "Tarvelo"
 MAIN_WINDOW = "Tarvelo"
 NEW_LECTURE_WINDOW = "New Lecture"
+EDIT_WINDOW = "Edit Lecture"
 
 LECTURES = "Lectures"
 NEW_LECTURE = "New Lecture"
@@ -15,6 +16,12 @@ STOP = "Stop"
 PLAY = "Play"
 RECORDING_ON_PROCESS = "Recording is on process!"
 DONE = "Done"
+EDIT = "Edit"
+DELETE = "Delete"
+YES = "Yes"
+HALF_SPEED = "Half the speed"
+HAS_LECTURES = "Has lectures"
+NO_LECTURES = "No lectures on this day"
 
 # In the menu of a row, from its upper end round to its lower one.
 SHOW_FILE_KEYS = ("Up", "Up", "Return")

@@ -3,6 +3,8 @@
 import os
 import sqlite3
 
+import numpy
+
 from . import sound
 from .waiting import Failed
 
@@ -10,6 +12,9 @@ from .waiting import Failed
 HEARD = 0.98
 # Two different sentences agree by less than half of this.
 NOT_HEARD = 0.5
+# In so many stretches the loudness of a slowed sentence is compared; two sentences agree by less than half of this.
+STRETCHES = 200
+FOLLOWS = 0.9
 COLUMNS = "subject, notes, recordingDate, audioFileFullPath, recordDuration"
 
 
@@ -36,6 +41,37 @@ def lecture(data, subject, notes, day):
     if os.path.normpath(os.path.dirname(row["audioFileFullPath"])) != folder:
         raise Failed(f"the sound lies at {row['audioFileFullPath']!r}, not in {folder!r}")
     return row
+
+
+def deleted(data, row):
+    """Neither the row nor its file is left."""
+    with sqlite3.connect(f"file:{os.path.join(data, 'Tarvelo', 'TarveloInfo.db')}?mode=ro", uri=True) as database:
+        count = database.execute("SELECT count(*) FROM audioData").fetchone()[0]
+    if count:
+        raise Failed(f"the database still holds {count} lectures")
+    if os.path.exists(row["audioFileFullPath"]):
+        raise Failed(f"the sound is still at {row['audioFileFullPath']!r}")
+
+
+def played(row, heard):
+    """Compares what came out of the speaker with the sound of a row, from its first to its last loud moment."""
+    wanted = sound.without_silence(sound.samples(row["audioFileFullPath"]))
+    agreement, _ = sound.correlation(heard, wanted)
+    if agreement < HEARD:
+        raise Failed(f"what was heard agrees with the recording by {agreement:.4f} only")
+    return agreement
+
+
+def played_slowly(row, heard, rate):
+    """Gives the length of what was heard, in lengths of the recording, and how its loudness follows it."""
+    wanted, slow = (sound.without_silence(samples) for samples in (sound.samples(row["audioFileFullPath"]), heard))
+    length = len(slow) / len(wanted)
+    if abs(length * rate - 1) > 0.02:
+        raise Failed(f"what was heard is {length:.3f} times as long as the recording, not {1 / rate:.3f} times")
+    agreement = float(numpy.corrcoef(sound.loudness(wanted, STRETCHES), sound.loudness(slow, STRETCHES))[0, 1])
+    if agreement < FOLLOWS:
+        raise Failed(f"the loudness of what was heard follows the recording by {agreement:.4f} only")
+    return length, agreement
 
 
 def audio(row, spoken, unheard):

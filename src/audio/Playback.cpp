@@ -87,6 +87,7 @@ void Playback::playLecture(const QString &path, const QString &subject)
         m_player->play();
     m_lecture.btnPlayLecture->setEnabled(false);
     m_lecture.btnPauseLecture->setEnabled(true);
+    m_lecture.btnPauseLecture->setFocus();
 
     m_lecture.txtSubjectName->setText(subject);
     m_lecture.txtSubjectName->setCursorPosition(0);

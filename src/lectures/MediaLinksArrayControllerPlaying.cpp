@@ -1,6 +1,7 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include "lectures/LectureTable.h"
+#include "platform/WindowLevel.h"
 #include "widgets/ImageButton.h"
 #include "widgets/PopOver.h"
 #include "widgets/SegmentedControl.h"

@@ -76,6 +76,7 @@ SegmentedControl::SegmentedControl(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(trough);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(m_segments, &QButtonGroup::idClicked, this, [this](int) {
         if (m_action.run)
             m_action.run(this);
