@@ -71,6 +71,40 @@ class ProofTest(unittest.TestCase):
 
         self.assertRaises(Failed, proof.audio, row, self.spoken, self.paused)
 
+    def test_what_was_played_is_recognised(self):
+        row = self.recording(noise(1))
+
+        heard = numpy.concatenate([numpy.zeros(SECOND), noise(1), numpy.zeros(SECOND)])
+        self.assertGreater(proof.played(row, heard), 0.999)
+        self.assertRaises(Failed, proof.played, row, noise(2, 4.0))
+        self.assertRaises(Failed, proof.played, row, numpy.zeros(SECOND * 4))
+        self.assertRaises(Failed, proof.played, row, heard[:SECOND])
+
+    def test_what_was_played_slowly_is_recognised(self):
+        loud = numpy.repeat(numpy.random.default_rng(5).uniform(0.01, 1, 20), SECOND // 10)
+        row = self.recording(noise(1) * loud)
+        slow = noise(3, 4.0) * numpy.repeat(loud, 2)
+
+        length, agreement = proof.played_slowly(row, slow, 0.5)
+        self.assertAlmostEqual(2.0, length, places=2)
+        self.assertGreater(agreement, 0.98)
+        self.assertRaises(Failed, proof.played_slowly, row, slow, 0.45)
+        self.assertRaises(Failed, proof.played_slowly, row, slow[::-1], 0.5)
+
+    def test_what_is_left_of_a_deleted_lecture_is_noticed(self):
+        os.makedirs(self.path("Tarvelo"))
+        row = {"audioFileFullPath": self.path("a.m4a")}
+        with sqlite3.connect(self.path("Tarvelo/TarveloInfo.db")) as database:
+            database.execute(f"CREATE TABLE audioData ({proof.COLUMNS})")
+        proof.deleted(self.folder, row)
+
+        with open(row["audioFileFullPath"], "wb"):
+            self.assertRaises(Failed, proof.deleted, self.folder, row)
+        os.remove(row["audioFileFullPath"])
+        with sqlite3.connect(self.path("Tarvelo/TarveloInfo.db")) as database:
+            database.execute("INSERT INTO audioData VALUES ('a', 'b', '2024-03-05', '', '00:00:01')")
+        self.assertRaises(Failed, proof.deleted, self.folder, row)
+
     def test_a_row_is_recognised_and_a_wrong_one_is_noticed(self):
         os.makedirs(self.path("Tarvelo"))
         with sqlite3.connect(self.path("Tarvelo/TarveloInfo.db")) as database:
