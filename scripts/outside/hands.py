@@ -54,20 +54,9 @@ class Hands:
     def window_goes(self, title):
         wait_for(f"the window {title!r} to go", lambda: not _quietly(lambda: self._window_now(title)))
 
-    def control(self, window, name, ready=Atspi.StateType.SENSITIVE):
+    def control(self, window, name, ready=Atspi.StateType.SENSITIVE, seconds=30):
         return wait_for(f"{name!r} in the window {window!r}",
-                        lambda: _quietly(lambda: self._control_now(self._window_now(window), name, ready)))
-
-    def control_of_popover(self, name):
-        """A pop-over is a window without a title."""
-        def look():
-            for popover in self._windows():
-                found = None if popover.get_name() else self._control_now(popover, name, Atspi.StateType.SENSITIVE)
-                if found:
-                    return found
-            return None
-
-        return wait_for(f"{name!r} in a pop-over", lambda: _quietly(look))
+                        lambda: _quietly(lambda: self._control_now(self._window_now(window), name, ready)), seconds)
 
     def description(self, window, name):
         return _quietly(self.control(window, name).get_description)
@@ -82,8 +71,8 @@ class Hands:
     def click(self, window, name, ready=Atspi.StateType.SENSITIVE):
         self._click_on(self.control(window, name, ready), name)
 
-    def click_in_popover(self, name):
-        self._click_on(self.control_of_popover(name), name)
+    def point_at(self, window, name):
+        self._point_at(self.control(window, name), name)
 
     def point_at_row(self, window, table, subject):
         self._point_at(self.row(window, table, subject), subject)

@@ -12,6 +12,8 @@ NEW_SUBJECT = "Wave Optics"
 NOTES = "Lenses bend light. Ask about Fermat."
 NEW_NOTES = "Light is a wave."
 SLOW = 0.5
+# In seconds: longer than the lecture plays.
+LONG = 120
 BEFORE = "Good morning. Today we follow a ray of light through a lens, and we ask why it bends."
 PAUSED = "Is there any chalk left in this room? No, then somebody has to fetch some."
 AFTER = "Light takes the path that needs the least time. This is the principle of Fermat."
@@ -119,7 +121,7 @@ class Journey:
             self._hands.window(SUBJECT)
             self._hands.control(SUBJECT, names.PAUSE)
             self._shot("playing", "The lecture plays in a window of its own")
-            self._hands.control(SUBJECT, names.PLAY)
+            self._hands.control(SUBJECT, names.PLAY, seconds=LONG)
         agreement = proof.played(row, sound.heard(heard))
         self._shot("played", f"What came out of the speaker is the recording, correlation {agreement:.4f}")
 
@@ -129,7 +131,7 @@ class Journey:
             self._hands.click(SUBJECT, names.PLAY)
             self._hands.control(SUBJECT, names.PAUSE)
             self._shot("playing-slowly", "It plays again at half the speed")
-            self._hands.control(SUBJECT, names.PLAY)
+            self._hands.control(SUBJECT, names.PLAY, seconds=LONG)
         length, agreement = proof.played_slowly(row, sound.heard(heard), SLOW)
         self._tell(f"What was heard is {length:.3f} times as long as the recording and follows it, correlation {agreement:.4f}")
         self._hands.press(SUBJECT, "Escape")
@@ -151,16 +153,16 @@ class Journey:
         self._hands.row(names.MAIN_WINDOW, names.LECTURES, subject)
         self._tell("After a restart the change is there")
         self._hands.open_row(names.MAIN_WINDOW, names.LECTURES, subject)
-        self._hands.control(names.MAIN_WINDOW, names.DONE)
+        self._hands.point_at(names.MAIN_WINDOW, names.DONE)
         self._shot("lecture-view", "A double click shows the lecture beside the list")
 
     def _delete(self, row):
         self._expect_badge(names.HAS_LECTURES)
         self._hands.point_at_row(names.MAIN_WINDOW, names.LECTURES, NEW_SUBJECT)
         self._hands.click(names.MAIN_WINDOW, names.DELETE)
-        self._hands.control_of_popover(names.YES)
+        self._hands.control(names.CONFIRM_DELETE, names.YES)
         self._shot("delete", "Deleting is asked about first")
-        self._hands.click_in_popover(names.YES)
+        self._hands.click(names.CONFIRM_DELETE, names.YES)
         self._hands.row_goes(names.MAIN_WINDOW, names.LECTURES, NEW_SUBJECT)
         self._hands.control(names.MAIN_WINDOW, names.NO_LECTURES)
         self._expect_badge("")

@@ -4,6 +4,7 @@ APPLICATION = "Tarvelo"
 MAIN_WINDOW = "Tarvelo"
 NEW_LECTURE_WINDOW = "New Lecture"
 EDIT_WINDOW = "Edit Lecture"
+CONFIRM_DELETE = "Delete this lecture and its recording?"
 
 LECTURES = "Lectures"
 NEW_LECTURE = "New Lecture"

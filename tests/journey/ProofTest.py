@@ -81,13 +81,14 @@ class ProofTest(unittest.TestCase):
         self.assertRaises(Failed, proof.played, row, heard[:SECOND])
 
     def test_what_was_played_slowly_is_recognised(self):
-        loud = numpy.repeat(numpy.random.default_rng(5).uniform(0.01, 1, 20), SECOND // 10)
-        row = self.recording(noise(1) * loud)
-        slow = noise(3, 4.0) * numpy.repeat(loud, 2)
+        loud = numpy.repeat(numpy.random.default_rng(5).uniform(0.01, 1, 60), SECOND // 10)
+        row = self.recording(noise(1, 6.0) * loud)
+        slow = noise(3, 12.0) * numpy.repeat(loud, 2)
 
         length, agreement = proof.played_slowly(row, slow, 0.5)
         self.assertAlmostEqual(2.0, length, places=2)
         self.assertGreater(agreement, 0.98)
+        self.assertGreater(proof.played_slowly(row, numpy.insert(slow, SECOND, numpy.zeros(SECOND // 10)), 0.5)[1], 0.9)
         self.assertRaises(Failed, proof.played_slowly, row, slow, 0.45)
         self.assertRaises(Failed, proof.played_slowly, row, slow[::-1], 0.5)
 
