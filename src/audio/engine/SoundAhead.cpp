@@ -16,8 +16,9 @@ constexpr std::size_t BlockFrames = 2048;
 // A change happens so far ahead of what has been taken: to make its first sound takes 10 to 20 ms.
 // When that proves too near, since the machine has other things to do, it is tried further ahead.
 constexpr double FirstMargin = 0.05;
-// Before a change, so much of the old sound is made: it is what is heard while that is tried.
-constexpr double ReadyForChange = 0.5;
+// Before a change, so much of the old sound is made, unless somebody waits for more: it is what is
+// heard while that is tried.
+constexpr double ReadyForChange = 0.25;
 // Two sounds that do not fit are laid over each other for so long.
 constexpr double FadeSeconds = 0.01;
 // What an output has taken is heard sooner than this.
@@ -101,7 +102,9 @@ std::size_t SoundAhead::take(std::span<float> interleaved)
     std::size_t given = 0;
     {
         const std::lock_guard lock(m_mutex);
-        given = std::min(interleaved.size(), m_ready.size());
+        // The last moment stays until more is there, so that there is something to fade from.
+        const std::size_t kept = m_isComplete ? 0 : fadeSamples();
+        given = std::min(interleaved.size(), m_ready.size() - std::min(kept, m_ready.size()));
         const auto end = m_ready.begin() + static_cast<std::ptrdiff_t>(given);
         std::copy(m_ready.begin(), end, interleaved.begin());
         m_ready.erase(m_ready.begin(), end);
@@ -168,6 +171,8 @@ void SoundAhead::workOnce(Lock &lock)
 {
     if (m_order && m_order->isRestart)
         restart(lock);
+    else if (m_order && !m_order->seconds && m_order->rate == m_stretches.back().rate)
+        m_order.reset(); // it was taken back
     else if (m_order && canChange())
         change(lock);
     else if (hasRoom())
@@ -187,7 +192,7 @@ void SoundAhead::restart(Lock &lock)
 
 bool SoundAhead::canChange() const
 {
-    return m_sound && (m_isComplete || end() - m_taken >= framesIn(ReadyForChange));
+    return m_sound && (m_isComplete || m_isShort || end() - m_taken >= framesIn(ReadyForChange));
 }
 
 // The old sound cannot go on once the source has been moved for the new one: when the new one is
@@ -227,7 +232,9 @@ SoundAhead::Stretch SoundAhead::stretchFrom(std::int64_t frame, const Order &ord
     const Stretch &last = m_stretches.back();
     if (last.isJump && frame <= last.frame)
         return {frame, last.seconds, order.rate, true};
-    return {frame, soundAt(static_cast<double>(frame)), order.rate, false};
+    // From a whole frame on, as the source can be moved to no other place.
+    const double seconds = soundAt(static_cast<double>(frame));
+    return {frame, static_cast<double>(framesIn(seconds)) / m_format.rate, order.rate, false};
 }
 
 void SoundAhead::replaceFrom(const Stretch &stretch, std::span<float> samples)
@@ -271,7 +278,7 @@ void SoundAhead::tellTaker(Lock &lock)
 // The sound that is ready from the sample on goes while the new one comes.
 void SoundAhead::fadeIn(std::span<float> samples, std::size_t from) const
 {
-    const auto fade = static_cast<std::size_t>(framesIn(FadeSeconds)) * channels();
+    const std::size_t fade = fadeSamples();
     for (std::size_t at = 0; at < std::min(fade, samples.size()); ++at) {
         const auto frame = static_cast<float>(at / channels() + 1);
         const float share = frame / static_cast<float>(fade / channels() + 1);
@@ -300,6 +307,11 @@ std::int64_t SoundAhead::end() const
 std::int64_t SoundAhead::framesIn(double seconds) const
 {
     return std::llround(seconds * m_format.rate);
+}
+
+std::size_t SoundAhead::fadeSamples() const
+{
+    return static_cast<std::size_t>(framesIn(FadeSeconds)) * channels();
 }
 
 std::unique_ptr<SoundAtRate> SoundAhead::soundFrom(const Stretch &stretch)

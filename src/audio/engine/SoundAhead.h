@@ -82,6 +82,7 @@ private:
     bool hasRoom() const;
     std::int64_t end() const;
     std::int64_t framesIn(double seconds) const;
+    std::size_t fadeSamples() const;
     std::unique_ptr<SoundAtRate> soundFrom(const Stretch &stretch);
     std::size_t channels() const { return static_cast<std::size_t>(m_format.channels); }
 

@@ -4,6 +4,7 @@
 #include "support/TestCase.h"
 #include "support/TestSound.h"
 
+#include <array>
 #include <utility>
 
 using namespace tarvelo::engine;
@@ -74,6 +75,146 @@ private Q_SLOTS:
         const double length = seconds(untilSilence());
         const double expected = player->duration() / static_cast<double>(rate);
         QVERIFY2(std::abs(length - expected) < 0.03, qPrintable(QString::number(length)));
+    }
+
+    void whileTheRateChangesNothingIsLostOrHeardTwice()
+    {
+        begin();
+        const auto player = playerOf(beats(20));
+        player->play();
+
+        double place = 0.6;
+        for (const float rate : {0.5F, 1.0F / 3.0F, 0.25F, 0.2F, 1.0F}) {
+            QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > place, Patience);
+            player->setRate(rate);
+            place += 0.6;
+        }
+
+        const auto distances = distancesOfBeats(untilSilence());
+        QCOMPARE(distances.size(), 19U);
+        // Five of them have a change inside.
+        QVERIFY(std::ranges::count_if(distances, &fitsARate) >= 14);
+        for (const double distance : distances)
+            QVERIFY2(distance > BeatSeconds - 0.02 && distance < BeatSeconds / 0.2 + 0.02,
+                     qPrintable(QString::number(distance)));
+    }
+
+    void aChangedRateLeavesNeitherGapNorClick()
+    {
+        begin();
+        const auto player = playerOf(tone(44100, 4, 440));
+        player->play();
+
+        double place = 0.3;
+        for (const float rate : {0.2F, 1.0F, 0.25F, 0.5F, 1.0F / 3.0F, 1.0F, 0.2F, 1.0F}) {
+            QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > place, Patience);
+            player->setRate(rate);
+            place += 0.3;
+        }
+
+        const auto heard = untilSilence();
+        QVERIFY(seconds(heard) > 4);
+        const double disturbance = longestDisturbance(heard, 44100, 440);
+        QVERIFY2(disturbance < 0.02, qPrintable(QString::number(disturbance)));
+        float step = 0;
+        for (std::size_t at = 1; at < heard.size(); ++at)
+            step = std::max(step, std::abs(heard[at] - heard[at - 1]));
+        QVERIFY2(step < 0.12F, qPrintable(QString::number(step))); // the tone itself has 0.063
+    }
+
+    void aRateThatChangesNearTheEndHasOneEnd()
+    {
+        begin();
+        Listener listener;
+        const auto sound = tune(44100, 1.5);
+        const auto player = playerOf(sound);
+        player->setDelegate(&listener);
+        player->play();
+
+        for (const double place : {1.1, 1.3, 1.45}) {
+            QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > place || !player->isPlaying(),
+                                     Patience);
+            player->setRate(place > 1.2 ? 0.5F : 0.2F);
+        }
+
+        const auto heard = untilSilence();
+        QVERIFY2(seconds(heard) > 1.49, qPrintable(QString::number(seconds(heard))));
+        QTRY_COMPARE_WITH_TIMEOUT(listener.finished.size(), 1U, Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(m_speaker->isSilentFor(2), Patience);
+        QCOMPARE(listener.finished.size(), 1U);
+    }
+
+    void whoStopsHearsOfNoEnd()
+    {
+        begin();
+        Listener listener;
+        const auto player = playerOf(tune(44100, 0.5));
+        player->setDelegate(&listener);
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(m_speaker->hearsSound(), Patience);
+
+        player->stop();
+
+        QTRY_VERIFY_WITH_TIMEOUT(m_speaker->isSilentFor(1.5), Patience);
+        QVERIFY(listener.finished.empty());
+    }
+
+    void aPauseThatComesBeforeTheNewsOfTheEndIsAPause()
+    {
+        begin();
+        Listener listener;
+        const auto player = playerOf(tune(44100, 0.3));
+        player->setDelegate(&listener);
+        player->play();
+        // The event loop stands still, so that the news of the end waits in it.
+        while (m_speaker->soundBeforeSilence().empty())
+            QVERIFY(m_speaker->waitForMore());
+
+        player->pause();
+        QCoreApplication::processEvents();
+
+        QVERIFY(listener.finished.empty());
+        QVERIFY(std::abs(player->currentTime() - player->duration()) < Exact);
+        player->play();
+        QTRY_COMPARE_WITH_TIMEOUT(listener.finished.size(), 1U, Patience);
+    }
+
+    void anotherPlaceWhilePlayingIsExact()
+    {
+        begin();
+        const auto sound = tune(44100, 6);
+        const auto player = playerOf(sound);
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 0.5, Patience);
+
+        player->setCurrentTime(4);
+
+        QCOMPARE(player->currentTime(), 4.0);
+        const auto heard = untilSilence();
+        QVERIFY2(seconds(heard) < 4, qPrintable(QString::number(seconds(heard))));
+        const auto after = std::span(heard).last(80000);
+        const auto likeness = compare(sound, after, 44100, 6);
+        QVERIFY2(likeness.correlation > 0.98, qPrintable(QString::number(likeness.correlation)));
+        const double end = likeness.start + static_cast<double>(after.size()) / 44100;
+        QVERIFY2(std::abs(end - 6) < 0.005, qPrintable(QString::number(end)));
+    }
+
+    void anotherPlaceOfAStoppedPlayerIsExact()
+    {
+        begin();
+        const auto player = playerOf(tune(44100, 3));
+        player->play();
+        QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 0.3, Patience);
+        player->stop();
+        QVERIFY(!untilSilence().empty());
+        m_speaker->forget();
+
+        player->setCurrentTime(2.25);
+        QCOMPARE(player->currentTime(), 2.25);
+        player->play();
+
+        const double length = seconds(untilSilence());
+        QVERIFY2(std::abs(length - 0.75) < 0.005, qPrintable(QString::number(length)));
     }
 
     void theDelegateHearsOfTheNaturalEndOnTheMainThread()
@@ -283,6 +424,44 @@ private:
     static double seconds(const std::vector<float> &sound)
     {
         return static_cast<double>(sound.size()) / 44100;
+    }
+
+    static constexpr double BeatSeconds = 0.25;
+
+    // Short sounds at equal distances.
+    static std::vector<float> beats(int count)
+    {
+        std::vector<float> sound(static_cast<std::size_t>(44100 * BeatSeconds * (count + 1)));
+        const auto beat = tone(44100, 0.03, 1000);
+        for (int number = 1; number <= count; ++number)
+            std::ranges::copy(beat, sound.begin() + std::lround(44100 * BeatSeconds * number));
+        return sound;
+    }
+
+    // In seconds, from beginning to beginning.
+    static std::vector<double> distancesOfBeats(std::span<const float> sound)
+    {
+        std::vector<double> distances;
+        std::size_t begin = 0;
+        std::size_t loud = 0;
+        for (std::size_t at = 0; at < sound.size(); ++at) {
+            if (std::abs(sound[at]) < 0.1F)
+                continue;
+            if (at - loud > 44100 * 6 / 100) {
+                distances.push_back(static_cast<double>(at - begin) / 44100);
+                begin = at;
+            }
+            loud = at;
+        }
+        return distances;
+    }
+
+    static bool fitsARate(double distance)
+    {
+        const auto fits = [distance](double rate) {
+            return std::abs(distance - BeatSeconds / rate) < 0.02;
+        };
+        return std::ranges::any_of(std::array{1.0, 0.5, 1 / 3.0, 0.25, 0.2}, fits);
     }
 
     void finish() override

@@ -1,0 +1,306 @@
+#include "audio/engine/SoundAhead.h"
+#include "audio/engine/Recordings.h"
+#include "support/TestCase.h"
+#include "support/TestSound.h"
+
+#include <QSemaphore>
+
+#include <cmath>
+
+using namespace tarvelo::engine;
+using namespace tarvelo::tests;
+
+constexpr int Patience = 60000;
+// Seconds after a change, in which sounds lie over each other: another change may fall into the
+// fade.
+constexpr double Fade = 0.03;
+
+namespace {
+
+// Takes portions of sound, and writes down which second each frame of them is said to be.
+class Hearer final : public SoundTaker
+{
+public:
+    explicit Hearer(SoundAhead &ahead)
+        : m_ahead(ahead)
+    {
+        m_ahead.setTaker(this);
+    }
+
+    // False at the end. Waits only when there is too little.
+    bool hear(std::size_t frames)
+    {
+        std::vector<float> block(frames);
+        for (std::size_t at = 0; at < frames;) {
+            const std::size_t count = m_ahead.take(std::span(block).subspan(at));
+            for (std::size_t end = at + count; at < end; ++at) {
+                seconds.push_back(m_ahead.secondsAt(static_cast<double>(sound.size())));
+                sound.push_back(block[at]);
+            }
+            if (at < frames && m_ahead.isAtEnd())
+                return false;
+            if (at < frames && !m_more.tryAcquire(1, Patience))
+                return false;
+        }
+        return true;
+    }
+    void hearAll()
+    {
+        while (hear(4410))
+            ;
+    }
+    void moreIsThere() override { m_more.release(); }
+
+    std::vector<float> sound;
+    std::vector<double> seconds;
+
+private:
+    SoundAhead &m_ahead;
+    QSemaphore m_more;
+};
+
+} // namespace
+
+class SoundAheadTest final : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyRateLeadsToTheEndInItsTime()
+    {
+        for (const double rate : {1.0, 0.5, 1 / 3.0, 0.25, 0.2}) {
+            SoundAhead ahead(sourceOf(tune(44100, 2.5)));
+            Hearer hearer(ahead);
+
+            ahead.start(0, rate);
+            hearer.hearAll();
+
+            const double length = static_cast<double>(hearer.sound.size()) / 44100;
+            QVERIFY2(std::abs(length - 2.5 / rate) < 0.001, qPrintable(QString::number(length)));
+        }
+    }
+
+    void whatIsHeardStandsAtTheSecondThatIsSaid()
+    {
+        const auto sound = tune(44100, 12);
+        SoundAhead ahead(sourceOf(sound));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+
+        for (const double rate : {0.5, 1.0, 0.2, 1.0, 0.25, 0.5, 1.0}) {
+            hearer.hear(30000);
+            ahead.changeRate(rate);
+        }
+        hearer.hearAll();
+
+        QVERIFY(isExactWhereItIsNotStretched(hearer, sound, 3));
+        QVERIFY(leadsToTheEnd(hearer, 12));
+    }
+
+    // As a machine does that has too much to do: every change comes too late for its place.
+    void whoTakesFasterThanAnythingCanBeMadeLosesNothing()
+    {
+        const auto sound = tune(44100, 20);
+        SoundAhead ahead(sourceOf(sound));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+
+        for (int change = 0; change < 60 && hearer.hear(5000); ++change)
+            ahead.changeRate(change % 2 == 0 ? 0.5 : 1);
+        ahead.changeRate(1);
+        hearer.hearAll();
+
+        QVERIFY(leadsToTheEnd(hearer, 20));
+        QVERIFY(isExactWhereItIsNotStretched(hearer, sound, 10));
+    }
+
+    void aChangeLeavesNeitherGapNorClick()
+    {
+        SoundAhead ahead(sourceOf(tone(44100, 6, 440)));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+
+        for (const double rate : {0.2, 0.25, 1 / 3.0, 0.5, 1.0, 0.2, 1.0}) {
+            hearer.hear(20000);
+            ahead.changeRate(rate);
+        }
+        hearer.hearAll();
+
+        const double disturbance = longestDisturbance(hearer.sound, 44100, 440);
+        QVERIFY2(disturbance < 0.02, qPrintable(QString::number(disturbance)));
+        float step = 0;
+        for (std::size_t at = 1; at < hearer.sound.size(); ++at)
+            step = std::max(step, std::abs(hearer.sound[at] - hearer.sound[at - 1]));
+        QVERIFY2(step < 0.06F, qPrintable(QString::number(step))); // the tone itself has 0.032
+    }
+
+    void aJumpIsThereAtOnceAndHeardSoon()
+    {
+        const auto sound = tune(44100, 8);
+        SoundAhead ahead(sourceOf(sound));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+        hearer.hear(44100);
+
+        ahead.jump(5);
+        QCOMPARE(ahead.secondsAt(44100), 5.0);
+        hearer.hearAll();
+
+        const auto jump = std::ranges::find_if(hearer.seconds, [](double it) { return it > 5; });
+        const auto at = jump - hearer.seconds.begin();
+        QVERIFY2(at < 2 * 44100, qPrintable(QString::number(at)));
+        const auto after = std::span(hearer.sound).subspan(static_cast<std::size_t>(at) + 500);
+        QVERIFY(std::abs(std::ssize(after) + 500 - 3 * 44100) <= 2);
+        QVERIFY(correlation(after, std::span(sound).last(after.size())) > 0.9999);
+    }
+
+    void aRateThatFollowsAJumpLeavesItWhereItGoes()
+    {
+        SoundAhead ahead(sourceOf(tune(44100, 8)));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+        hearer.hear(44100);
+
+        for (const double rate : {0.5, 1.0, 0.25}) {
+            ahead.jump(6);
+            ahead.changeRate(rate);
+            QCOMPARE(ahead.secondsAt(44100), 6.0);
+        }
+        hearer.hearAll();
+
+        QVERIFY(leadsToTheEnd(hearer, 8));
+        const auto heard = static_cast<double>(
+            std::ranges::count_if(hearer.seconds, [](double it) { return it > 6; }));
+        QVERIFY2(std::abs(heard / 44100 - 2 / 0.25) < 0.001, qPrintable(QString::number(heard)));
+    }
+
+    void anOrderBeforeTheFirstSoundCounts()
+    {
+        SoundAhead ahead(sourceOf(tune(44100, 3)));
+        Hearer hearer(ahead);
+
+        ahead.start(0, 1);
+        ahead.changeRate(0.5);
+        ahead.jump(2);
+        hearer.hearAll();
+
+        QVERIFY(leadsToTheEnd(hearer, 3));
+        QVERIFY(hearer.sound.size() < 90000);
+    }
+
+    void aChangeAtTheVeryEndEndsToo()
+    {
+        SoundAhead ahead(sourceOf(tune(44100, 1)));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+        hearer.hearAll();
+        QVERIFY(ahead.isAtEnd());
+
+        ahead.changeRate(0.5);
+        hearer.hearAll();
+
+        QVERIFY(ahead.isAtEnd());
+        QCOMPARE(ahead.secondsAt(static_cast<double>(hearer.sound.size())), 1.0);
+    }
+
+    void aJumpFromTheEndGoesOnFromThere()
+    {
+        SoundAhead ahead(sourceOf(tune(44100, 1)));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+        hearer.hearAll();
+
+        ahead.jump(0.5);
+        QVERIFY(!ahead.isAtEnd());
+        hearer.hearAll();
+
+        QVERIFY(ahead.isAtEnd());
+        QCOMPARE(hearer.sound.size(), 66150U);
+    }
+
+    void whatWasTakenAndNotHeardComesAgain()
+    {
+        const auto sound = tune(44100, 4);
+        SoundAhead ahead(sourceOf(sound));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+        hearer.hear(88200);
+
+        hearer.sound.clear();
+        ahead.restartAt(44100);
+        QCOMPARE(ahead.secondsAt(0), 1.0);
+        hearer.hearAll();
+
+        QCOMPARE(hearer.sound.size(), 3 * 44100U);
+        QVERIFY(correlation(hearer.sound, std::span(sound).last(hearer.sound.size())) > 0.9999);
+    }
+
+    void aServerThatIsLostForgetsNoOrder()
+    {
+        SoundAhead ahead(sourceOf(tune(44100, 4)));
+        Hearer hearer(ahead);
+        ahead.start(0, 1);
+        hearer.hear(44100);
+
+        ahead.jump(3);
+        ahead.changeRate(0.5);
+        ahead.restartAt(44100);
+        hearer.sound.clear();
+        hearer.hearAll();
+
+        QCOMPARE(hearer.sound.size(), 2 * 44100U);
+    }
+
+    void itEndsAlsoInTheMiddleOfItsWork()
+    {
+        for (int round = 0; round < 20; ++round) {
+            SoundAhead ahead(sourceOf(tune(44100, 2)));
+            Hearer hearer(ahead);
+            QVERIFY(ahead.start(0, 0.2));
+            ahead.changeRate(0.25);
+            if (round % 2 == 0)
+                hearer.hear(100);
+        }
+    }
+
+private:
+    // As it is, with one channel.
+    static std::unique_ptr<DecodedSource> sourceOf(std::span<const float> sound)
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("sound.wav")));
+        const bool isThere = writeWav(file.fileName(), sound, 44100) && file.open(QFile::ReadOnly);
+        return DecodedSource::open(isThere ? file.readAll() : QByteArray());
+    }
+
+    // Every sample that is neither stretched nor near a change is the one of its second; and there
+    // are so many seconds of them.
+    static bool isExactWhereItIsNotStretched(const Hearer &hearer, std::span<const float> sound,
+                                             double seconds)
+    {
+        std::size_t exact = 0;
+        std::size_t since = 0; // the last moment at another rate
+        for (std::size_t at = 1; at < hearer.sound.size(); ++at) {
+            const double step = (hearer.seconds[at] - hearer.seconds[at - 1]) * 44100;
+            since = std::abs(step - 1) < 1e-3 ? since + 1 : 0;
+            if (static_cast<double>(since) < Fade * 44100)
+                continue;
+            const auto place = static_cast<std::size_t>(std::lround(hearer.seconds[at] * 44100));
+            if (place >= sound.size() || std::abs(hearer.sound[at] - sound[place] / 2) > 0.001F)
+                return false;
+            ++exact;
+        }
+        return static_cast<double>(exact) > seconds * 44100;
+    }
+
+    // The seconds go on without a step back, and the last frame is the last of the sound.
+    static bool leadsToTheEnd(const Hearer &hearer, double seconds)
+    {
+        return std::ranges::is_sorted(hearer.seconds) &&
+               std::ranges::count(hearer.seconds, seconds) <= 2 &&
+               std::abs(hearer.seconds.back() - seconds) < 2.0 / 44100;
+    }
+};
+
+QTEST_GUILESS_MAIN(SoundAheadTest)
+#include "SoundAheadTest.moc"
