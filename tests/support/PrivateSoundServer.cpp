@@ -84,6 +84,7 @@ bool PrivateSoundServer::start(const Options &options)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"XDG_RUNTIME_DIR", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"})
         environment.insert(QString::fromLatin1(name), m_folder.path());
+    // Where it may, it goes before others, as a session's own server does.
     m_server.setProcessEnvironment(environment);
     m_server.setStandardErrorFile(QProcess::nullDevice());
     m_server.setStandardOutputFile(QProcess::nullDevice());
@@ -91,7 +92,7 @@ bool PrivateSoundServer::start(const Options &options)
                    {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
                     QStringLiteral("--system=no"), QStringLiteral("--use-pid-file=no"),
                     QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--disable-shm=yes"),
-                    QStringLiteral("--realtime=no"), QStringLiteral("--high-priority=no"),
+                    QStringLiteral("--realtime=no"), QStringLiteral("--high-priority=yes"),
                     QStringLiteral("-F"), m_folder.filePath(QStringLiteral("server.pa"))});
     m_isIntact = m_server.waitForStarted(LongEnough) &&
                  waitUntil({QStringLiteral("info")}, "Server") &&

@@ -8,7 +8,7 @@ namespace {
 
 // So much sound waits in the server: enough for a thread that is not always woken at once, and
 // little enough for a change to be heard soon.
-constexpr pa_usec_t BufferLength = 200 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t BufferLength = 400 * PA_USEC_PER_MSEC;
 constexpr pa_usec_t StartLength = 50 * PA_USEC_PER_MSEC;
 // The speaker takes its sound out of that in portions of this length.
 constexpr pa_usec_t PortionLength = 25 * PA_USEC_PER_MSEC;

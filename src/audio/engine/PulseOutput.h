@@ -10,7 +10,7 @@ namespace tarvelo::engine {
 
 // The default output of the session's sound server. Connects in the background, and again when the
 // server was away; what is to be played waits for that. Little of it waits in the server, and
-// nothing there is ever changed: a change is heard a quarter of a second later. For the main
+// nothing there is ever changed: a change is heard half a second later. For the main
 // thread, none of whose calls waits for the server.
 class PulseOutput final : public SoundTaker
 {

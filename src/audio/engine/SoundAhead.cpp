@@ -13,12 +13,17 @@ namespace {
 
 constexpr std::size_t BlockFrames = 2048;
 
-// A change happens so far ahead of what has been taken: to make its first sound takes 10 to 20 ms.
-// When that proves too near, since the machine has other things to do, it is tried further ahead.
-constexpr double FirstMargin = 0.05;
+// So much of another sound is made before it takes the place of the old one, since it may be made
+// slowly at first.
+constexpr std::size_t ChangeFrames = 8 * BlockFrames;
+// A change happens so far ahead of what has been taken: to make that takes 30 ms or so. When it
+// proves too near, since the machine has other things to do, it is tried further ahead, as is the
+// next one.
+constexpr double ShortestMargin = 0.1;
+constexpr double LongestMargin = 1.6;
 // Before a change, so much of the old sound is made, unless somebody waits for more: it is what is
 // heard while that is tried.
-constexpr double ReadyForChange = 0.25;
+constexpr double ReadyForChange = 1;
 // Two sounds that do not fit are laid over each other for so long.
 constexpr double FadeSeconds = 0.01;
 // What an output has taken is heard sooner than this.
@@ -30,6 +35,7 @@ SoundAhead::SoundAhead(std::unique_ptr<DecodedSource> source)
     : m_source(std::move(source))
     , m_format(m_source->format())
     , m_seconds(m_source->seconds())
+    , m_margin(ShortestMargin)
 {
 }
 
@@ -199,28 +205,31 @@ bool SoundAhead::canChange() const
 // too late again and again, it begins where the old one ends.
 void SoundAhead::change(Lock &lock)
 {
-    for (double margin = FirstMargin; !m_isLeaving && !m_order->isRestart; margin *= 2) {
+    while (!m_isLeaving && !m_order->isRestart) {
         const Order order = *m_order;
-        const Stretch next = stretchFrom(placeForChange(margin), order);
+        const Stretch next = stretchFrom(placeForChange(), order);
         lock.unlock();
         auto sound = soundFrom(next);
-        m_block.resize(BlockFrames * channels());
+        m_block.resize(ChangeFrames * channels());
         const std::size_t count = sound->read(m_block);
         lock.lock();
-        if (*m_order != order || m_taken > next.frame)
+        const bool isTooLate = m_taken > next.frame;
+        m_margin = std::clamp(m_margin * (isTooLate ? 2 : 0.7), ShortestMargin, LongestMargin);
+        if (isTooLate || *m_order != order)
             continue;
         m_sound = std::move(sound);
         m_order.reset();
         replaceFrom(next, std::span(m_block).first(count * channels()));
-        m_isComplete = count < BlockFrames;
+        m_isComplete = count < ChangeFrames;
         tellTaker(lock);
         return;
     }
 }
 
-std::int64_t SoundAhead::placeForChange(double margin) const
+std::int64_t SoundAhead::placeForChange() const
 {
-    const std::int64_t place = std::min(m_taken + framesIn(margin), end() - framesIn(FadeSeconds));
+    const std::int64_t place =
+        std::min(m_taken + framesIn(m_margin), end() - framesIn(FadeSeconds));
     return std::max(place, m_taken);
 }
 

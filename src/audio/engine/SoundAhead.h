@@ -72,7 +72,7 @@ private:
     void append(std::span<const float> samples);
     void tellTaker(Lock &lock);
     void fadeIn(std::span<float> samples, std::size_t from) const;
-    std::int64_t placeForChange(double margin) const;
+    std::int64_t placeForChange() const;
     void beginAt(double seconds, double rate);
     Stretch stretchFrom(std::int64_t frame, const Order &order) const;
     double soundAt(double frame) const;
@@ -91,6 +91,7 @@ private:
     std::vector<float> m_block;              // the thread's
     const PcmFormat m_format;
     const double m_seconds;
+    double m_margin; // the thread's: seconds by which the next change is tried ahead
     SoundTaker *m_taker = nullptr;
 
     mutable std::mutex m_mutex;

@@ -111,7 +111,7 @@ private Q_SLOTS:
         hearer.hearAll();
 
         QVERIFY(leadsToTheEnd(hearer, 20));
-        QVERIFY(isExactWhereItIsNotStretched(hearer, sound, 10));
+        QVERIFY(isExactWhereItIsNotStretched(hearer, sound, 1));
     }
 
     void aChangeLeavesNeitherGapNorClick()
