@@ -21,10 +21,10 @@ namespace {
 class Hearer final : public SoundTaker
 {
 public:
-    explicit Hearer(SoundAhead &ahead)
-        : m_ahead(ahead)
+    explicit Hearer(std::unique_ptr<DecodedSource> source)
+        : ahead(std::move(source))
     {
-        m_ahead.setTaker(this);
+        ahead.setTaker(this);
     }
 
     // False at the end. Waits only when there is too little.
@@ -32,12 +32,12 @@ public:
     {
         std::vector<float> block(frames);
         for (std::size_t at = 0; at < frames;) {
-            const std::size_t count = m_ahead.take(std::span(block).subspan(at));
+            const std::size_t count = ahead.take(std::span(block).subspan(at));
             for (std::size_t end = at + count; at < end; ++at) {
-                seconds.push_back(m_ahead.secondsAt(static_cast<double>(sound.size())));
+                seconds.push_back(ahead.secondsAt(static_cast<double>(sound.size())));
                 sound.push_back(block[at]);
             }
-            if (at < frames && m_ahead.isAtEnd())
+            if (at < frames && ahead.isAtEnd())
                 return false;
             if (at < frames && !m_more.tryAcquire(1, Patience))
                 return false;
@@ -55,8 +55,10 @@ public:
     std::vector<double> seconds;
 
 private:
-    SoundAhead &m_ahead;
     QSemaphore m_more;
+
+public:
+    SoundAhead ahead; // gone first: it tells of more until then
 };
 
 } // namespace
@@ -69,8 +71,8 @@ private Q_SLOTS:
     void everyRateLeadsToTheEndInItsTime()
     {
         for (const double rate : {1.0, 0.5, 1 / 3.0, 0.25, 0.2}) {
-            SoundAhead ahead(sourceOf(tune(44100, 2.5)));
-            Hearer hearer(ahead);
+            Hearer hearer(sourceOf(tune(44100, 2.5)));
+            SoundAhead &ahead = hearer.ahead;
 
             ahead.start(0, rate);
             hearer.hearAll();
@@ -83,8 +85,8 @@ private Q_SLOTS:
     void whatIsHeardStandsAtTheSecondThatIsSaid()
     {
         const auto sound = tune(44100, 12);
-        SoundAhead ahead(sourceOf(sound));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(sound));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
 
         for (const double rate : {0.5, 1.0, 0.2, 1.0, 0.25, 0.5, 1.0}) {
@@ -101,8 +103,8 @@ private Q_SLOTS:
     void whoTakesFasterThanAnythingCanBeMadeLosesNothing()
     {
         const auto sound = tune(44100, 20);
-        SoundAhead ahead(sourceOf(sound));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(sound));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
 
         for (int change = 0; change < 60 && hearer.hear(5000); ++change)
@@ -116,8 +118,8 @@ private Q_SLOTS:
 
     void aChangeLeavesNeitherGapNorClick()
     {
-        SoundAhead ahead(sourceOf(tone(44100, 6, 440)));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(tone(44100, 6, 440)));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
 
         for (const double rate : {0.2, 0.25, 1 / 3.0, 0.5, 1.0, 0.2, 1.0}) {
@@ -137,8 +139,8 @@ private Q_SLOTS:
     void aJumpIsThereAtOnceAndHeardSoon()
     {
         const auto sound = tune(44100, 8);
-        SoundAhead ahead(sourceOf(sound));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(sound));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
         hearer.hear(44100);
 
@@ -156,8 +158,8 @@ private Q_SLOTS:
 
     void aRateThatFollowsAJumpLeavesItWhereItGoes()
     {
-        SoundAhead ahead(sourceOf(tune(44100, 8)));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(tune(44100, 8)));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
         hearer.hear(44100);
 
@@ -176,8 +178,8 @@ private Q_SLOTS:
 
     void anOrderBeforeTheFirstSoundCounts()
     {
-        SoundAhead ahead(sourceOf(tune(44100, 3)));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(tune(44100, 3)));
+        SoundAhead &ahead = hearer.ahead;
 
         ahead.start(0, 1);
         ahead.changeRate(0.5);
@@ -185,13 +187,14 @@ private Q_SLOTS:
         hearer.hearAll();
 
         QVERIFY(leadsToTheEnd(hearer, 3));
-        QVERIFY(hearer.sound.size() < 90000);
+        const auto heard = std::ranges::count_if(hearer.seconds, [](double it) { return it > 2; });
+        QVERIFY2(std::abs(heard - 88200) < 10, qPrintable(QString::number(heard)));
     }
 
     void aChangeAtTheVeryEndEndsToo()
     {
-        SoundAhead ahead(sourceOf(tune(44100, 1)));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(tune(44100, 1)));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
         hearer.hearAll();
         QVERIFY(ahead.isAtEnd());
@@ -205,8 +208,8 @@ private Q_SLOTS:
 
     void aJumpFromTheEndGoesOnFromThere()
     {
-        SoundAhead ahead(sourceOf(tune(44100, 1)));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(tune(44100, 1)));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
         hearer.hearAll();
 
@@ -221,8 +224,8 @@ private Q_SLOTS:
     void whatWasTakenAndNotHeardComesAgain()
     {
         const auto sound = tune(44100, 4);
-        SoundAhead ahead(sourceOf(sound));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(sound));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
         hearer.hear(88200);
 
@@ -237,8 +240,8 @@ private Q_SLOTS:
 
     void aServerThatIsLostForgetsNoOrder()
     {
-        SoundAhead ahead(sourceOf(tune(44100, 4)));
-        Hearer hearer(ahead);
+        Hearer hearer(sourceOf(tune(44100, 4)));
+        SoundAhead &ahead = hearer.ahead;
         ahead.start(0, 1);
         hearer.hear(44100);
 
@@ -254,8 +257,8 @@ private Q_SLOTS:
     void itEndsAlsoInTheMiddleOfItsWork()
     {
         for (int round = 0; round < 20; ++round) {
-            SoundAhead ahead(sourceOf(tune(44100, 2)));
-            Hearer hearer(ahead);
+            Hearer hearer(sourceOf(tune(44100, 2)));
+            SoundAhead &ahead = hearer.ahead;
             QVERIFY(ahead.start(0, 0.2));
             ahead.changeRate(0.25);
             if (round % 2 == 0)
