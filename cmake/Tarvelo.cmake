@@ -17,7 +17,7 @@ endif()
 add_library(tarvelo_options INTERFACE)
 target_compile_options(tarvelo_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor
-    -Woverloaded-virtual -Werror)
+    -Woverloaded-virtual $<$<BOOL:${TARVELO_WARNINGS_ARE_ERRORS}>:-Werror>)
 target_compile_definitions(tarvelo_options INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_DISABLE_DEPRECATED_BEFORE=0x060400
     $<$<NOT:$<CONFIG:Release,RelWithDebInfo>>:QT_FORCE_ASSERTS>)
