@@ -22,12 +22,13 @@ AFTER = "Light takes the path that needs the least time. This is the principle o
 class Journey:
     """One program in a desktop with a sound server; steps are told one a line."""
 
-    def __init__(self, program, desktop, server, tell=lambda line: print(line, flush=True)):
+    def __init__(self, program, desktop, server, tell=lambda line: print(line, flush=True), keeps=False):
         self._program = Program(program, desktop)
         self._hands = self._program.hands
         self._desktop = desktop
         self._server = server
         self._tell = tell
+        self._keeps = keeps
 
     def run(self):
         try:
@@ -49,7 +50,9 @@ class Journey:
             self._quit()
             self._start("third")
             self._look(NEW_SUBJECT)
-            self._delete(proof.lecture(self._desktop.data, NEW_SUBJECT, NEW_NOTES, day))
+            row = proof.lecture(self._desktop.data, NEW_SUBJECT, NEW_NOTES, day)
+            if not self._keeps:
+                self._delete(row)
             self._quit()
             self._program.expect_silence()
             self._tell("Tarvelo wrote nothing to its output")
