@@ -254,11 +254,15 @@ void AppDelegate::onOpenWindow(QObject *)
     makeKeyAndOrderFront(m_window);
 }
 
-void AppDelegate::reopen()
+void AppDelegate::perform(Request request)
 {
     // Opening a program that runs brings its windows forward before the program is asked.
     activateIgnoringOtherApps();
     applicationShouldHandleReopenHasVisibleWindows(qGuiApp, isOnScreen(m_window));
+    if (request == Request::NewLecture)
+        run(Command::NewLectureFromStatusItem);
+    else if (request == Request::ShowPreferences)
+        run(Command::PreferencesFromStatusItem);
 }
 
 void AppDelegate::terminate(QObject *sender)

@@ -5,6 +5,7 @@
 #include "app/DayPopover.h"
 #include "app/LoginItem.h"
 #include "app/Preferences.h"
+#include "app/Request.h"
 #include "app/StatusItem.h"
 #include "app/TaskbarEntry.h"
 #include "calendar/CalendarDelegate.h"
@@ -133,8 +134,8 @@ public:
     // -- Windows and the status item
     void openAtFront(QObject *sender);
     void onOpenWindow(QObject *sender);
-    // A second start asked for the program that runs.
-    void reopen();
+    // Someone outside asked for the program that runs, and perhaps for something that it offers.
+    void perform(Request request);
     // Quits, unless applicationShouldTerminate() is against it.
     void terminate(QObject *sender);
     void setStatusBar(QAbstractButton *sender);

@@ -37,24 +37,38 @@ void SingleInstance::listen()
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket *asking = m_server.nextPendingConnection()) {
             connect(asking, &QLocalSocket::disconnected, asking, &QObject::deleteLater);
-            asking->disconnectFromServer();
-            Q_EMIT reopenRequested();
+            connect(asking, &QLocalSocket::readyRead, this, [this, asking] { hear(*asking); });
+            hear(*asking);
         }
     });
     m_server.listen(m_socket);
 }
 
-bool SingleInstance::askFirstToReopen(std::chrono::milliseconds patience) const
+// One line is all there is to ask; it is answered by hanging up.
+void SingleInstance::hear(QLocalSocket &asking)
+{
+    if (!asking.canReadLine())
+        return;
+    const auto request = requestOf(asking.readLine().trimmed());
+    asking.disconnectFromServer();
+    if (request)
+        Q_EMIT requested(*request);
+}
+
+bool SingleInstance::askFirst(Request request, std::chrono::milliseconds patience) const
 {
     const QDeadlineTimer deadline(patience);
+    const auto timeLeft = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
     QLocalSocket socket;
-    // The first one may have its lock and not yet its socket. Connecting is all there is to ask;
-    // it answers by hanging up.
+    // The first one may have its lock and not yet its socket.
     do {
         socket.connectToServer(m_socket);
-        if (socket.waitForConnected(static_cast<int>(deadline.remainingTime())))
+        if (socket.waitForConnected(timeLeft())) {
+            socket.write(wordOf(request) + '\n');
+            socket.waitForBytesWritten(timeLeft());
             return socket.state() == QLocalSocket::UnconnectedState ||
-                   socket.waitForDisconnected(static_cast<int>(deadline.remainingTime()));
+                   socket.waitForDisconnected(timeLeft());
+        }
         QThread::msleep(static_cast<unsigned long>(RetryInterval.count()));
     } while (!deadline.hasExpired());
     return false;

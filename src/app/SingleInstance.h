@@ -1,16 +1,21 @@
 #pragma once
 
+#include "app/Request.h"
+
 #include <QLocalServer>
 #include <QLockFile>
 #include <QObject>
 
 #include <chrono>
 
+class QLocalSocket;
+
 namespace tarvelo::app {
 
 // Sees to it that a user has the program running once: the first start holds a lock, and a later
-// one asks it over a local socket to come forward. Both lie in the session's runtime folder, so
-// that no session bus is needed. When the folder cannot be written, every start is the first.
+// one tells it over a local socket what was asked of that start. Both lie in the session's runtime
+// folder, so that no session bus is needed. When the folder cannot be written, every start is the
+// first.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
@@ -23,14 +28,16 @@ public:
 
     bool isFirst() const { return m_isFirst; }
 
-    // Asks the first one to reopen. Gives up after `patience`, when it does not answer.
-    bool askFirstToReopen(std::chrono::milliseconds patience = std::chrono::seconds(2)) const;
+    // Asks the first one. Gives up after `patience`, when it does not answer.
+    bool askFirst(Request request,
+                  std::chrono::milliseconds patience = std::chrono::seconds(2)) const;
 
 Q_SIGNALS:
-    void reopenRequested();
+    void requested(tarvelo::app::Request request);
 
 private:
     void listen();
+    void hear(QLocalSocket &asking);
 
     QString m_socket;
     QLockFile m_lock;

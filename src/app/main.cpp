@@ -1,4 +1,6 @@
 #include "app/AppDelegate.h"
+#include "app/CommandLine.h"
+#include "app/DesktopService.h"
 #include "app/SingleInstance.h"
 #include "app/WaysOut.h"
 #include "audio/engine/AudioRecorder.h"
@@ -6,6 +8,7 @@
 #include "lectures/MediaLinksArrayController.h"
 #include "platform/Alerts.h"
 #include "platform/Dates.h"
+#include "platform/DelayedCall.h"
 #include "platform/Images.h"
 #include "platform/MailComposer.h"
 #include "platform/Texts.h"
@@ -27,6 +30,24 @@ void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &me
         fprintf(stderr, "%s\n", qPrintable(message));
 }
 
+// After which a day is chosen and its list shows.
+constexpr std::chrono::milliseconds LaunchTime{600};
+
+QStringList argumentsOf(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int at = 0; at < argc; ++at)
+        arguments.append(QString::fromLocal8Bit(argv[at]));
+    return arguments;
+}
+
+// The status with which the program ends.
+int give(const app::CommandLine &line)
+{
+    fputs(line.answer.constData(), line.status == 0 ? stdout : stderr);
+    return line.status;
+}
+
 void describe(QApplication &application)
 {
     platform::installTexts();
@@ -45,10 +66,17 @@ void describe(QApplication &application)
 int main(int argc, char **argv)
 {
     qInstallMessageHandler(handleMessage);
+    // Answered also where there is no display.
+    if (const app::CommandLine question = app::questionIn(argumentsOf(argc, argv));
+        question.endsAtOnce())
+        return give(question);
     QApplication application(argc, argv);
+    const app::CommandLine line = app::commandLineOf(QApplication::arguments());
+    if (line.endsAtOnce())
+        return give(line);
     const app::SingleInstance instance(app::SingleInstance::standardFolder());
     if (!instance.isFirst()) {
-        instance.askFirstToReopen();
+        instance.askFirst(line.request);
         return 0;
     }
     describe(application);
@@ -75,11 +103,16 @@ int main(int argc, char **argv)
          flags});
 
     const app::WaysOut waysOut(application, delegate, controller);
-    QObject::connect(&instance, &app::SingleInstance::reopenRequested, &delegate,
-                     &app::AppDelegate::reopen);
+    const app::DesktopService service;
+    const auto perform = [&delegate](app::Request request) { delegate.perform(request); };
+    QObject::connect(&instance, &app::SingleInstance::requested, &delegate, perform);
+    QObject::connect(&service, &app::DesktopService::requested, &delegate, perform);
 
     controller.awakeFromNib();
     delegate.awakeFromNib();
     delegate.applicationDidFinishLaunching(&application);
+    platform::DelayedCall firstRequest(clock, [&] { delegate.perform(line.request); });
+    if (line.request != app::Request::Reopen)
+        firstRequest.schedule(LaunchTime);
     return QApplication::exec();
 }

@@ -171,9 +171,32 @@ private Q_SLOTS:
     {
         Application program;
 
-        program.delegate.reopen();
+        program.delegate.perform(app::Request::Reopen);
 
         QVERIFY(program.window().isVisible());
+    }
+
+    void aRequestForANewLectureOpensOne()
+    {
+        Application program;
+        program.launch();
+        program.clock.advance(1s);
+
+        program.delegate.perform(app::Request::NewLecture);
+
+        QVERIFY(program.window().isVisible());
+        QVERIFY(program.controller.bIsOnRecordingView());
+    }
+
+    void aRequestForThePreferencesShowsThem()
+    {
+        Application program;
+        program.launch();
+        program.clock.advance(1s);
+
+        program.delegate.perform(app::Request::ShowPreferences);
+
+        QVERIFY(platform::hasAttachedSheet(program.window()));
     }
 
     void closingTheWindowOnlyHidesIt()

@@ -13,7 +13,7 @@ namespace {
 class Program final
 {
 public:
-    explicit Program(const QTemporaryDir &home)
+    explicit Program(const QTemporaryDir &home, const QStringList &arguments = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("HOME"), home.path());
@@ -23,7 +23,7 @@ public:
         environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
         environment.remove(QStringLiteral("PULSE_SERVER"));
         m_process.setProcessEnvironment(environment);
-        m_process.start(QStringLiteral(TARVELO_PROGRAM), QStringList());
+        m_process.start(QStringLiteral(TARVELO_PROGRAM), arguments);
     }
     ~Program()
     {
@@ -73,6 +73,18 @@ private Q_SLOTS:
 
         QVERIFY(program.isRunning());
         QCOMPARE(program.said(), QByteArray());
+    }
+
+    void aQuestionIsAnsweredWithoutADisplay()
+    {
+        const QTemporaryDir home;
+        Program program(home, {QStringLiteral("-platform"), QStringLiteral("none"),
+                               QStringLiteral("--version")});
+
+        QTRY_VERIFY_WITH_TIMEOUT(program.endedWell(), 60000);
+
+        QVERIFY(program.said().startsWith("Tarvelo "));
+        QVERIFY(!isLaunched(home));
     }
 
     void aSecondStartEndsAtOnceAndTheFirstGoesOn()

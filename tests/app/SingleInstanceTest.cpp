@@ -5,26 +5,28 @@
 #include <QDir>
 #include <QFile>
 #include <QFuture>
+#include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QThread>
 
 #include <memory>
 
+using tarvelo::app::Request;
 using tarvelo::app::SingleInstance;
 using namespace std::chrono_literals;
 
 namespace {
 
 // A second start, which waits for its answer, in a thread of its own.
-bool askFrom(const QString &folder, bool &answered)
+bool askFrom(const QString &folder, bool &answered, Request request = Request::Reopen)
 {
     bool wasFirst = true;
     bool ended = false;
     std::unique_ptr<QThread> second(QThread::create([&] {
         const SingleInstance instance(folder);
         wasFirst = instance.isFirst();
-        answered = instance.askFirstToReopen(30s);
+        answered = instance.askFirst(request, 30s);
     }));
     QObject::connect(second.get(), &QThread::finished, QCoreApplication::instance(),
                      [&] { ended = true; });
@@ -54,7 +56,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir runtime;
         const SingleInstance first(runtime.path());
-        QSignalSpy reopen(&first, &SingleInstance::reopenRequested);
+        QSignalSpy reopen(&first, &SingleInstance::requested);
         bool answered = false;
 
         QVERIFY(askFrom(runtime.path(), answered));
@@ -63,11 +65,40 @@ private Q_SLOTS:
         QCOMPARE(reopen.size(), 1);
     }
 
+    void whatTheSecondStartWasAskedForReachesTheFirst()
+    {
+        const QTemporaryDir runtime;
+        const SingleInstance first(runtime.path());
+        QSignalSpy asked(&first, &SingleInstance::requested);
+        bool answered = false;
+
+        QVERIFY(askFrom(runtime.path(), answered, Request::NewLecture));
+        QVERIFY(askFrom(runtime.path(), answered, Request::ShowPreferences));
+
+        QCOMPARE(asked.size(), 2);
+        QCOMPARE(asked[0][0].value<Request>(), Request::NewLecture);
+        QCOMPARE(asked[1][0].value<Request>(), Request::ShowPreferences);
+    }
+
+    void aWordThatMeansNothingIsHungUpOnAndDoesNothing()
+    {
+        const QTemporaryDir runtime;
+        const SingleInstance first(runtime.path());
+        QSignalSpy asked(&first, &SingleInstance::requested);
+        QLocalSocket socket;
+        socket.connectToServer(runtime.filePath(QStringLiteral("tarvelo.socket")));
+
+        socket.write("dance\n");
+
+        QTRY_COMPARE_WITH_TIMEOUT(socket.state(), QLocalSocket::UnconnectedState, 60000);
+        QCOMPARE(asked.size(), 0);
+    }
+
     void theFirstCanBeAskedAgainAndAgain()
     {
         const QTemporaryDir runtime;
         const SingleInstance first(runtime.path());
-        QSignalSpy reopen(&first, &SingleInstance::reopenRequested);
+        QSignalSpy reopen(&first, &SingleInstance::requested);
 
         for (int i = 0; i < 3; ++i) {
             bool answered = false;
@@ -131,7 +162,7 @@ private Q_SLOTS:
         const SingleInstance second(runtime.path());
 
         QVERIFY(!second.isFirst());
-        QVERIFY(!second.askFirstToReopen(50ms));
+        QVERIFY(!second.askFirst(Request::Reopen, 50ms));
     }
 };
 
