@@ -4,6 +4,7 @@
 #include "audio/PlayerDisplay.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
+#include "platform/WindowLevel.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
 #include "widgets/SegmentedControl.h"
@@ -87,16 +88,13 @@ void Playback::playLecture(const QString &path, const QString &subject)
         m_player->play();
     m_lecture.btnPlayLecture->setEnabled(false);
     m_lecture.btnPauseLecture->setEnabled(true);
-    m_lecture.btnPauseLecture->setFocus();
+    m_lecture.btnPauseLecture->setFocus(Qt::NoFocusReason);
 
     m_lecture.txtSubjectName->setText(subject);
     m_lecture.txtSubjectName->setCursorPosition(0);
     QWidget &window = *m_lecture.playAudioWindow;
     window.setWindowTitle(subject);
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
+    platform::makeKeyAndOrderFront(window);
 }
 
 void Playback::onPlayPauseLecture(QWidget *sender)

@@ -5,6 +5,7 @@
 #include "widgets/ImageButton.h"
 #include "widgets/PopOver.h"
 #include "widgets/SegmentedControl.h"
+#include "widgets/SlidingWindow.h"
 
 #include <QShortcut>
 #include <QSlider>
@@ -59,11 +60,16 @@ void MediaLinksArrayController::onPlayLecture(QWidget *sender)
     if (!lecture)
         return;
     const QString path = lecture->getLectureAudioPath();
-    if (path.isEmpty())
+    if (path.isEmpty()) {
         m_windows.popoverOutlets().popoverAudioConfirmClose->showRelativeTo(sender->geometry(),
                                                                             *cell, Qt::BottomEdge);
-    else
-        m_playback.playLecture(path, lecture->strSubject());
+        return;
+    }
+    // A window that is open stays where the user has put it.
+    QWidget &window = *m_windows.lecturePlayerOutlets().playAudioWindow;
+    if (!window.isVisible())
+        platform::centreOver(window, m_windows.mainWindow());
+    m_playback.playLecture(path, lecture->strSubject());
 }
 
 } // namespace tarvelo::lectures
