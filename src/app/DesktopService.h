@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Request.h"
+#include "platform/SessionObject.h"
 
 #include <QObject>
 #include <QVariantMap>
@@ -8,7 +9,7 @@
 namespace tarvelo::app {
 
 // The program on the session bus, as menus and launchers know programs: they start it there, bring
-// it forward, and ask for what its entry in the menu offers besides. Without a bus nobody asks.
+// it forward, and ask for what its entry in the menu offers besides.
 class DesktopService final : public QObject
 {
     Q_OBJECT
@@ -18,9 +19,7 @@ public:
     static constexpr const char *Name = "org.tarvelo.Tarvelo";
     static constexpr const char *Path = "/org/tarvelo/Tarvelo";
 
-    // Takes the name without waiting for the bus; the object is there before the name is.
     DesktopService();
-    ~DesktopService() override;
 
 Q_SIGNALS:
     void requested(tarvelo::app::Request request);
@@ -33,6 +32,9 @@ public Q_SLOTS:
     // An action that is not offered does nothing.
     void ActivateAction(const QString &name, const QVariantList &parameters,
                         const QVariantMap &platformData);
+
+private:
+    const platform::SessionObject m_onBus;
 };
 
 } // namespace tarvelo::app
