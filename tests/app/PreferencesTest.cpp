@@ -229,7 +229,8 @@ private Q_SLOTS:
     {
         const QTemporaryDir config;
         Run run(config);
-        const QString entry = config.filePath(QStringLiteral("autostart/org.tarvelo.Tarvelo.desktop"));
+        const QString entry =
+            config.filePath(QStringLiteral("autostart/org.tarvelo.Tarvelo.desktop"));
 
         run.box("btnOpenAtLogin")->click();
         QVERIFY(QFile::exists(entry));

@@ -37,8 +37,8 @@ public:
     virtual void setCurrentTime(double seconds) = 0;
     virtual double duration() const = 0; // seconds
     virtual float rate() const = 0;
-    // 1.0 is the recorded speed; the pitch is kept. What plays is heard so within a moment, and without
-    // a gap.
+    // 1.0 is the recorded speed; the pitch is kept. What plays is heard so within a moment, and
+    // without a gap.
     virtual void setRate(float rate) = 0;
     // Where the sound was read from; empty for a player that was made from bytes.
     virtual QUrl url() const = 0;
