@@ -30,9 +30,11 @@ constexpr int TagPause = 2;
 constexpr int TagPaused = 1;
 constexpr int TagPlaying = 2;
 
-// Of a control that is no button of ours, one that means nothing.
+// Of a control that is no button of ours, one that means nothing; of no sender, 0.
 int tagOf(const QWidget *sender)
 {
+    if (!sender)
+        return 0;
     const auto *button = qobject_cast<const ImageButton *>(sender);
     return button ? button->tag() : -1;
 }

@@ -6,6 +6,7 @@
 #include "platform/Dates.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
+#include "widgets/WholeText.h"
 
 #include <QFile>
 #include <QLabel>
@@ -263,7 +264,7 @@ void RecordingControl::onSetTimeTag(QWidget *)
 {
     QTextEdit &notes = *m_outlets.txtView;
     const QString text = QStringLiteral("%1\n\n%2\n")
-                             .arg(notes.toPlainText(), m_outlets.lblRecordingDuration->text());
+                             .arg(widgets::wholeText(notes), m_outlets.lblRecordingDuration->text());
     // One replacement with the format that typing has, so that one undo takes the tag back.
     const QTextCharFormat typing = notes.currentCharFormat();
     QTextCursor cursor = notes.textCursor();

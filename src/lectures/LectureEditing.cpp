@@ -14,6 +14,7 @@
 #include "widgets/MouseDownTextField.h"
 #include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
+#include "widgets/WholeText.h"
 
 #include <QLabel>
 #include <QSlider>
@@ -157,7 +158,7 @@ void LectureEditing::onDoneEdit(QWidget *sender)
     if (refuseBlankSubject(subject, sender))
         return;
     const bool viewIsToFollow = lectureViewShowsUntouched(m_itemOfWindow);
-    save(m_itemOfWindow, subject.text(), notes.toPlainText());
+    save(m_itemOfWindow, subject.text(), widgets::wholeText(notes));
     if (viewIsToFollow)
         show(*m_itemOfWindow, *m_outlets.view.tSubjectName, *m_outlets.view.tViewNoteForEdit);
     m_outlets.main.tblRecordSubjectList->reloadData();
@@ -171,7 +172,7 @@ bool LectureEditing::lectureViewShowsUntouched(const Lecture &lecture) const
 {
     return isSame(m_itemOfView, lecture) &&
            m_outlets.view.tSubjectName->text() == lecture->strSubject() &&
-           m_outlets.view.tViewNoteForEdit->toPlainText() == lecture->strNotes();
+           widgets::showsText(*m_outlets.view.tViewNoteForEdit, lecture->strNotes());
 }
 
 void LectureEditing::onCancelLectureEdit(QWidget *)
@@ -192,7 +193,7 @@ void LectureEditing::onDoneLectureEdit(QWidget *sender)
     if (refuseBlankSubject(*m_outlets.view.tSubjectName, sender))
         return;
     save(m_itemOfView, m_outlets.view.tSubjectName->text(),
-         m_outlets.view.tViewNoteForEdit->toPlainText());
+         widgets::wholeText(*m_outlets.view.tViewNoteForEdit));
     m_with.viewChanges.endSingleEditView();
     m_outlets.main.mainWindow->setFrameWidth(ListShownWidth, true);
     m_outlets.main.tblRecordSubjectList->reloadData();

@@ -241,6 +241,9 @@ public:
 
 private:
     void connectControls();
+    void connectList();
+    void connectNewLecture();
+    void connectPopovers();
     void connectPlayer();
     void watchTexts();
     void wireRow(CustomTableCellView &row);

@@ -19,6 +19,7 @@
 #include "widgets/LevelIndicator.h"
 #include "widgets/MouseDownTextField.h"
 #include "widgets/SlidingWindow.h"
+#include "widgets/WholeText.h"
 
 #include <QFile>
 #include <QLabel>
@@ -131,7 +132,7 @@ void NewLecture::doSaveNewAudioInfos()
     const QString day =
         m_with.dates.format(m_with.dayList.dateOfButtonClicked(), QStringLiteral("yyyy-MM-dd"));
     const QString subject = subjectToStore();
-    const QString notes = m_outlets.window.txtView->toPlainText();
+    const QString notes = widgets::wholeText(*m_outlets.window.txtView);
     m_with.database.insertIntoDbwithSqlStatementWithArguments(
         store::statements::Insert,
         {subject, Course, notes, day, StartTime, EndTime, audio.path, audio.duration});

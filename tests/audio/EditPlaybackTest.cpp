@@ -86,6 +86,18 @@ private Q_SLOTS:
         QVERIFY(!window().bPlay.isEnabled());
     }
 
+    void withoutASenderItPauses()
+    {
+        open();
+        playback().onPlayPauseLectureEdit(&window().bPlay);
+        m_engine->takeAsked();
+
+        playback().onPlayPauseLectureEdit(nullptr);
+
+        QCOMPARE(m_engine->takeAsked(), inOrder({"player pause"}));
+        QVERIFY(window().bPlay.isEnabled());
+    }
+
     void withoutAPlayerTheButtonsStayAsTheyAre()
     {
         playback().onPlayPauseLectureEdit(&window().bPlay);

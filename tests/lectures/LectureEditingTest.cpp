@@ -7,6 +7,8 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::tests::aLecture;
@@ -655,6 +657,18 @@ private Q_SLOTS:
         doneButton().click();
 
         QCOMPARE(viewSubject().text(), u"Acoustics"_s);
+    }
+
+    void blanksAtWhichNoLineBreaksAreKeptInNotes()
+    {
+        showLecturesAndOpen();
+        viewNotes().setPlainText(u"5\u00a0km"_s);
+
+        controller().onDoneLectureEdit(&doneButton());
+
+        QVERIFY(std::ranges::any_of(m_program->storedRows(), [](const auto &row) {
+            return row["notes"_L1].toString() == u"5\u00a0km"_s;
+        }));
     }
 
     void whatIsBeingWrittenInTheLectureViewIsNotTakenAway()
