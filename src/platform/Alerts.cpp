@@ -10,6 +10,8 @@ void WindowAlerts::beginSheet(const Alert &alert, QWidget &window, std::function
     auto *box = new QMessageBox(QMessageBox::Warning, QString(), alert.message,
                                 QMessageBox::NoButton, &window);
     box->setObjectName(QStringLiteral("alertSheet"));
+    // It belongs to its window, also in colour.
+    box->setPalette(window.palette());
     box->setInformativeText(alert.informativeText);
     box->setDefaultButton(box->addButton(alert.button, QMessageBox::AcceptRole));
     box->setAttribute(Qt::WA_DeleteOnClose);
