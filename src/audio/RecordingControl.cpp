@@ -263,8 +263,9 @@ void RecordingControl::onMaxRecordingTimeReached()
 void RecordingControl::onSetTimeTag(QWidget *)
 {
     QTextEdit &notes = *m_outlets.txtView;
-    const QString text = QStringLiteral("%1\n\n%2\n")
-                             .arg(widgets::wholeText(notes), m_outlets.lblRecordingDuration->text());
+    const QString text =
+        QStringLiteral("%1\n\n%2\n")
+            .arg(widgets::wholeText(notes), m_outlets.lblRecordingDuration->text());
     // One replacement with the format that typing has, so that one undo takes the tag back.
     const QTextCharFormat typing = notes.currentCharFormat();
     QTextCursor cursor = notes.textCursor();
