@@ -54,7 +54,8 @@ void OnsetKeeper::shape(std::span<float> stretched)
     constexpr float Step = 1.0F / static_cast<float>(Hop);
     while (!stretched.empty()) {
         const auto piece = stretched.first(std::min(stretched.size(), Hop * m_channels));
-        const double frames = static_cast<double>(piece.size() / m_channels) * m_rate;
+        const std::size_t count = piece.size() / m_channels;
+        const double frames = static_cast<double>(count) * m_rate;
         const float wanted = gainFor(loudestAround(m_place + frames / 2), piece);
         for (std::size_t at = 0; at < piece.size(); ++at) {
             if (at % m_channels == 0)

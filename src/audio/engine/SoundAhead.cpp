@@ -288,9 +288,10 @@ void SoundAhead::tellTaker(Lock &lock)
 void SoundAhead::fadeIn(std::span<float> samples, std::size_t from) const
 {
     const std::size_t fade = fadeSamples();
+    const std::size_t steps = fade / channels() + 1;
     for (std::size_t at = 0; at < std::min(fade, samples.size()); ++at) {
-        const auto frame = static_cast<float>(at / channels() + 1);
-        const float share = frame / static_cast<float>(fade / channels() + 1);
+        const std::size_t step = at / channels() + 1;
+        const float share = static_cast<float>(step) / static_cast<float>(steps);
         const float old = from + at < m_ready.size() ? m_ready[from + at] : 0;
         samples[at] = share * samples[at] + (1 - share) * old;
     }
