@@ -258,16 +258,18 @@ void PulseOutput::drain()
     m_framesToDrain = m_framesWritten;
     forget(pa_stream_drain(
         m_stream.get(),
-        [](pa_stream *, int success, void *self) {
-            static_cast<PulseOutput *>(self)->drained(success != 0);
+        [](pa_stream *stream, int success, void *self) {
+            static_cast<PulseOutput *>(self)->drained(stream, success != 0);
         },
         this));
 }
 
 // More may have been written since the question, a pause may have come between, or the user has
 // gone elsewhere.
-void PulseOutput::drained(bool isTrue)
+void PulseOutput::drained(const pa_stream *stream, bool isTrue)
 {
+    if (stream != m_stream.get())
+        return;
     m_isDraining = false;
     if (!m_supply || m_retry || m_isPaused)
         return;

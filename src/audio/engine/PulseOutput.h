@@ -15,7 +15,8 @@ namespace tarvelo::engine {
 class PulseOutput final : public SoundTaker
 {
 public:
-    // `tellOfEnd` is called on the server's thread when the last frame of a supply has been heard.
+    // `tellOfEnd` is called on the server's thread when the last frame of a supply has been heard;
+    // again when somebody went back, and now and then twice for one end: ask isFinished().
     explicit PulseOutput(std::function<void()> tellOfEnd);
     PulseOutput(const PulseOutput &) = delete;
     PulseOutput &operator=(const PulseOutput &) = delete;
@@ -50,7 +51,7 @@ private:
     void fill();
     void write(std::size_t frames);
     void drain();
-    void drained(bool isTrue);
+    void drained(const pa_stream *stream, bool isTrue);
     double heardFrames();
     bool isContextReady() const;
     bool isStreamReady() const;

@@ -178,13 +178,21 @@ void SoundAhead::workOnce(Lock &lock)
     if (m_order && m_order->isRestart)
         restart(lock);
     else if (m_order && !m_order->seconds && m_order->rate == m_stretches.back().rate)
-        m_order.reset(); // it was taken back
+        takeBack(lock);
     else if (m_order && canChange())
         change(lock);
     else if (hasRoom())
         produce(lock);
     else
         m_wake.wait(lock);
+}
+
+// Who took the last frame while the order stood does not know yet that it was the last one.
+void SoundAhead::takeBack(Lock &lock)
+{
+    m_order.reset();
+    if (m_isComplete)
+        tellTaker(lock);
 }
 
 void SoundAhead::restart(Lock &lock)

@@ -65,6 +65,7 @@ private:
     // All below run with the lock held; those that take it let go of it for a while.
     void work();
     void workOnce(Lock &lock);
+    void takeBack(Lock &lock);
     void restart(Lock &lock);
     void change(Lock &lock);
     void replaceFrom(const Stretch &stretch, std::span<float> samples);

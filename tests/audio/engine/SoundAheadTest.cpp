@@ -61,6 +61,33 @@ public:
     SoundAhead ahead; // gone first: it tells of more until then
 };
 
+// Changes its mind about the rate around every portion that it takes.
+class Waverer final : public SoundTaker
+{
+public:
+    explicit Waverer(std::unique_ptr<DecodedSource> source)
+        : ahead(std::move(source))
+    {
+        ahead.setTaker(this);
+    }
+
+    void moreIsThere() override
+    {
+        if (ahead.isAtEnd()) {
+            end.release();
+            return;
+        }
+        ahead.changeRate(0.5);
+        std::vector<float> portion(44100);
+        taken += ahead.take(portion);
+        ahead.changeRate(1);
+    }
+
+    std::size_t taken = 0;
+    QSemaphore end;
+    SoundAhead ahead; // gone first: it tells of more until then
+};
+
 } // namespace
 
 class SoundAheadTest final : public TestCase
@@ -204,6 +231,18 @@ private Q_SLOTS:
 
         QVERIFY(ahead.isAtEnd());
         QCOMPARE(ahead.secondsAt(static_cast<double>(hearer.sound.size())), 1.0);
+    }
+
+    void aChangeThatIsTakenBackAtTheLastFrameHidesNoEnd()
+    {
+        Waverer waverer(sourceOf(tune(44100, 0.5)));
+        waverer.ahead.start(0, 1);
+
+        std::vector<float> none(1);
+        waverer.taken += waverer.ahead.take(none);
+
+        QVERIFY(waverer.end.tryAcquire(1, Patience));
+        QCOMPARE(waverer.taken, 22050U);
     }
 
     void aJumpFromTheEndGoesOnFromThere()
