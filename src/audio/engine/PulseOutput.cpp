@@ -103,7 +103,7 @@ double PulseOutput::seconds()
     if (!m_loop)
         return 0;
     const PulseLock lock(m_loop.get());
-    return m_supply ? m_supply->secondsAt(heardFrames()) : 0;
+    return m_supply ? m_supply->secondsAt(m_heard.at(pa_rtclock_now())) : 0;
 }
 
 void PulseOutput::moreIsThere()
@@ -143,10 +143,8 @@ void PulseOutput::contextChanged()
 
 void PulseOutput::openStream()
 {
-    m_report = Report();
-    m_lastHeard = 0;
-    m_framesWritten = 0;
     m_isDraining = false;
+    m_heard.restart(m_supply->format().rate);
     const pa_sample_spec spec = specFor(m_supply->format());
     m_stream.reset(pa_stream_new(m_context.get(), "Lecture", &spec, nullptr));
     if (!m_stream) {
@@ -190,10 +188,8 @@ void PulseOutput::streamChanged()
 void PulseOutput::lost()
 {
     if (m_supply)
-        m_supply->restartAt(heardFrames());
-    m_report = Report();
-    m_lastHeard = 0;
-    m_framesWritten = 0;
+        m_supply->restartAt(m_heard.at(pa_rtclock_now()));
+    m_heard = HeardFrames();
     retryLater();
 }
 
@@ -244,7 +240,7 @@ void PulseOutput::write(std::size_t frames)
     const std::size_t frameSize = m_block.size() / BlockFrames * sizeof(float);
     pa_stream_write(m_stream.get(), m_block.data(), frames * frameSize, nullptr, 0,
                     PA_SEEK_RELATIVE);
-    m_framesWritten += static_cast<std::int64_t>(frames);
+    m_heard.wrote(static_cast<std::int64_t>(frames));
     m_isFinished = false;
 }
 
@@ -255,7 +251,7 @@ void PulseOutput::drain()
     if (m_isDraining || m_isPaused || !m_supply->isAtEnd())
         return;
     m_isDraining = true;
-    m_framesToDrain = m_framesWritten;
+    m_framesToDrain = m_heard.written();
     forget(pa_stream_drain(
         m_stream.get(),
         [](pa_stream *stream, int success, void *self) {
@@ -273,11 +269,11 @@ void PulseOutput::drained(const pa_stream *stream, bool isTrue)
     m_isDraining = false;
     if (!m_supply || m_retry || m_isPaused)
         return;
-    if (!isTrue || m_framesToDrain != m_framesWritten || !m_supply->isAtEnd()) {
+    if (!isTrue || m_framesToDrain != m_heard.written() || !m_supply->isAtEnd()) {
         fill();
         return;
     }
-    m_lastHeard = static_cast<double>(m_framesWritten);
+    m_heard.allWasHeard();
     m_isFinished = true;
     m_tellOfEnd();
 }
@@ -293,23 +289,12 @@ void PulseOutput::timingChanged()
     const double frameSize = static_cast<double>(sizeof(float)) * format.channels;
     const double read = static_cast<double>(timing->read_index) / frameSize;
     if (timing->playing == 0) {
-        m_report = {read, pa_rtclock_now(), false};
-        m_lastHeard = read;
+        m_heard.standsAt(read);
         return;
     }
     const double inSpeaker = static_cast<double>(timing->sink_usec) * format.rate / 1e6;
     const pa_usec_t age = pa_timeval_age(&timing->timestamp);
-    m_report = {read - inSpeaker, pa_rtclock_now() - age, read > 0};
-}
-
-double PulseOutput::heardFrames()
-{
-    const pa_usec_t passed = m_report.isMoving ? pa_rtclock_now() - m_report.time : 0;
-    const double rate = m_supply ? m_supply->format().rate : 0;
-    const double frame = m_report.frame + static_cast<double>(passed) * rate / 1e6;
-    const auto written = static_cast<double>(m_framesWritten);
-    m_lastHeard = std::clamp(frame, m_lastHeard, std::max(written, m_lastHeard));
-    return m_lastHeard;
+    m_heard.movedAt(read - inSpeaker, pa_rtclock_now() - age, read > 0);
 }
 
 bool PulseOutput::isContextReady() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/engine/HeardFrames.h"
 #include "audio/engine/PulseHandles.h"
 #include "audio/engine/SoundSupply.h"
 
@@ -52,17 +53,8 @@ private:
     void write(std::size_t frames);
     void drain();
     void drained(const pa_stream *stream, bool isTrue);
-    double heardFrames();
     bool isContextReady() const;
     bool isStreamReady() const;
-
-    // What the server said last of the frame that is heard.
-    struct Report
-    {
-        double frame = 0;
-        pa_usec_t time = 0;
-        bool isMoving = false;
-    };
 
     std::function<void()> m_tellOfEnd;
     PulseLoopPointer m_loop;
@@ -71,9 +63,7 @@ private:
     pa_time_event *m_retry = nullptr;
     SoundSupply *m_supply = nullptr;
     std::vector<float> m_block;
-    Report m_report;
-    double m_lastHeard = 0; // frames
-    std::int64_t m_framesWritten = 0;
+    HeardFrames m_heard;
     std::int64_t m_framesToDrain = 0; // were written when the server was asked to tell of the end
     bool m_isDraining = false;
     bool m_isPaused = false;

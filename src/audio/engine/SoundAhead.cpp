@@ -36,6 +36,8 @@ SoundAhead::SoundAhead(std::unique_ptr<DecodedSource> source)
     , m_format(m_source->format())
     , m_seconds(m_source->seconds())
     , m_margin(ShortestMargin)
+    , m_ready(m_format.channels, framesIn(FadeSeconds))
+    , m_rates(m_format.rate, m_seconds)
 {
 }
 
@@ -72,8 +74,7 @@ void SoundAhead::beginAt(double seconds, double rate)
 {
     m_order = Order{true, seconds, rate};
     m_ready.clear();
-    m_taken = 0;
-    m_stretches.assign(1, Stretch{0, seconds, rate, false});
+    m_rates.beginAt(seconds, rate);
     m_isComplete = false;
     m_isShort = false;
 }
@@ -94,7 +95,7 @@ void SoundAhead::jump(double seconds)
 {
     {
         const std::lock_guard lock(m_mutex);
-        const double rate = m_order ? m_order->rate : m_stretches.back().rate;
+        const double rate = m_order ? m_order->rate : m_rates.lastRate();
         if (m_order && m_order->isRestart)
             beginAt(seconds, rate);
         else
@@ -109,22 +110,17 @@ std::size_t SoundAhead::take(std::span<float> interleaved)
     {
         const std::lock_guard lock(m_mutex);
         // The last moment stays until more is there, so that there is something to fade from.
-        const std::size_t kept = m_isComplete ? 0 : fadeSamples();
-        given = std::min(interleaved.size(), m_ready.size() - std::min(kept, m_ready.size()));
-        const auto end = m_ready.begin() + static_cast<std::ptrdiff_t>(given);
-        std::copy(m_ready.begin(), end, interleaved.begin());
-        m_ready.erase(m_ready.begin(), end);
-        m_taken += static_cast<std::int64_t>(given / channels());
-        m_isShort = given < interleaved.size();
+        given = m_ready.take(interleaved, m_isComplete ? 0 : framesIn(FadeSeconds));
+        m_isShort = given < interleaved.size() / channels();
     }
     m_wake.notify_one();
-    return given / channels();
+    return given;
 }
 
 bool SoundAhead::isAtEnd() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_isComplete && m_ready.empty() && !m_order;
+    return m_isComplete && m_ready.isEmpty() && !m_order;
 }
 
 double SoundAhead::secondsAt(double frame) const
@@ -137,31 +133,14 @@ double SoundAhead::heardAt(double frame) const
 {
     if (m_order && m_order->seconds)
         return *m_order->seconds;
-    // Who has jumped is there, though the sound takes a moment to follow.
-    const auto isAhead = [frame](const Stretch &it) {
-        return it.isJump && static_cast<double>(it.frame) > frame;
-    };
-    const auto found = std::find_if(m_stretches.rbegin(), m_stretches.rend(), isAhead);
-    return found == m_stretches.rend() ? soundAt(frame) : found->seconds;
-}
-
-double SoundAhead::soundAt(double frame) const
-{
-    const auto isBefore = [frame](const Stretch &it) {
-        return static_cast<double>(it.frame) <= frame;
-    };
-    auto found = std::find_if(m_stretches.rbegin(), m_stretches.rend(), isBefore);
-    if (found == m_stretches.rend())
-        --found;
-    const double passed = (frame - static_cast<double>(found->frame)) / m_format.rate;
-    return std::clamp(found->seconds + passed * found->rate, 0.0, m_seconds);
+    return m_rates.secondsAt(frame);
 }
 
 void SoundAhead::restartAt(double frame)
 {
     {
         const std::lock_guard lock(m_mutex);
-        beginAt(heardAt(frame), m_order ? m_order->rate : m_stretches.back().rate);
+        beginAt(heardAt(frame), m_order ? m_order->rate : m_rates.lastRate());
     }
     m_wake.notify_one();
 }
@@ -177,7 +156,7 @@ void SoundAhead::workOnce(Lock &lock)
 {
     if (m_order && m_order->isRestart)
         restart(lock);
-    else if (m_order && !m_order->seconds && m_order->rate == m_stretches.back().rate)
+    else if (m_order && !m_order->seconds && m_order->rate == m_rates.lastRate())
         takeBack(lock);
     else if (m_order && canChange())
         change(lock);
@@ -198,7 +177,7 @@ void SoundAhead::takeBack(Lock &lock)
 void SoundAhead::restart(Lock &lock)
 {
     m_order.reset();
-    const Stretch first = m_stretches.front();
+    const RateMap::Stretch first = m_rates.first();
     lock.unlock();
     m_sound = soundFrom(first);
     lock.lock();
@@ -206,7 +185,7 @@ void SoundAhead::restart(Lock &lock)
 
 bool SoundAhead::canChange() const
 {
-    return m_sound && (m_isComplete || m_isShort || end() - m_taken >= framesIn(ReadyForChange));
+    return m_sound && (m_isComplete || m_isShort || m_ready.frames() >= framesIn(ReadyForChange));
 }
 
 // The old sound cannot go on once the source has been moved for the new one: when the new one is
@@ -215,19 +194,21 @@ void SoundAhead::change(Lock &lock)
 {
     while (!m_isLeaving && !m_order->isRestart) {
         const Order order = *m_order;
-        const Stretch next = stretchFrom(placeForChange(), order);
+        const RateMap::Stretch next = stretchFrom(placeForChange(), order);
         lock.unlock();
         auto sound = soundFrom(next);
         m_block.resize(ChangeFrames * channels());
         const std::size_t count = sound->read(m_block);
         lock.lock();
-        const bool isTooLate = m_taken > next.frame;
+        const bool isTooLate = m_ready.begin() > next.frame;
         m_margin = std::clamp(m_margin * (isTooLate ? 2 : 0.7), ShortestMargin, LongestMargin);
         if (isTooLate || *m_order != order)
             continue;
         m_sound = std::move(sound);
         m_order.reset();
-        replaceFrom(next, std::span(m_block).first(count * channels()));
+        m_ready.replaceFrom(next.frame, std::span(m_block).first(count * channels()));
+        m_rates.replaceFrom(next);
+        m_rates.forgetBefore(m_ready.begin() - framesIn(LongestDelay));
         m_isComplete = count < ChangeFrames;
         tellTaker(lock);
         return;
@@ -237,32 +218,15 @@ void SoundAhead::change(Lock &lock)
 std::int64_t SoundAhead::placeForChange() const
 {
     const std::int64_t place =
-        std::min(m_taken + framesIn(m_margin), end() - framesIn(FadeSeconds));
-    return std::max(place, m_taken);
+        std::min(m_ready.begin() + framesIn(m_margin), m_ready.end() - framesIn(FadeSeconds));
+    return std::max(place, m_ready.begin());
 }
 
-SoundAhead::Stretch SoundAhead::stretchFrom(std::int64_t frame, const Order &order) const
+RateMap::Stretch SoundAhead::stretchFrom(std::int64_t frame, const Order &order) const
 {
     if (order.seconds)
         return {frame, *order.seconds, order.rate, true};
-    // It takes the place of a jump that nobody has heard yet.
-    const Stretch &last = m_stretches.back();
-    if (last.isJump && frame <= last.frame)
-        return {frame, last.seconds, order.rate, true};
-    // From a whole frame on, as the source can be moved to no other place.
-    const double seconds = soundAt(static_cast<double>(frame));
-    return {frame, static_cast<double>(framesIn(seconds)) / m_format.rate, order.rate, false};
-}
-
-void SoundAhead::replaceFrom(const Stretch &stretch, std::span<float> samples)
-{
-    const std::size_t kept = static_cast<std::size_t>(stretch.frame - m_taken) * channels();
-    fadeIn(samples, kept);
-    m_ready.resize(std::min(m_ready.size(), kept));
-    std::erase_if(m_stretches, [&](const Stretch &it) { return it.frame >= stretch.frame; });
-    forgetOldStretches();
-    m_stretches.push_back(stretch);
-    append(samples);
+    return m_rates.goingOnFrom(frame, order.rate);
 }
 
 void SoundAhead::produce(Lock &lock)
@@ -273,14 +237,9 @@ void SoundAhead::produce(Lock &lock)
     lock.lock();
     if (m_order && m_order->isRestart)
         return;
-    append(std::span(m_block).first(count * channels()));
+    m_ready.append(std::span(m_block).first(count * channels()));
     m_isComplete = count < BlockFrames;
     tellTaker(lock);
-}
-
-void SoundAhead::append(std::span<const float> samples)
-{
-    m_ready.insert(m_ready.end(), samples.begin(), samples.end());
 }
 
 void SoundAhead::tellTaker(Lock &lock)
@@ -292,34 +251,9 @@ void SoundAhead::tellTaker(Lock &lock)
     lock.lock();
 }
 
-// The sound that is ready from the sample on goes while the new one comes.
-void SoundAhead::fadeIn(std::span<float> samples, std::size_t from) const
-{
-    const std::size_t fade = fadeSamples();
-    const std::size_t steps = fade / channels() + 1;
-    for (std::size_t at = 0; at < std::min(fade, samples.size()); ++at) {
-        const std::size_t step = at / channels() + 1;
-        const float share = static_cast<float>(step) / static_cast<float>(steps);
-        const float old = from + at < m_ready.size() ? m_ready[from + at] : 0;
-        samples[at] = share * samples[at] + (1 - share) * old;
-    }
-}
-
-void SoundAhead::forgetOldStretches()
-{
-    const std::int64_t heard = m_taken - framesIn(LongestDelay);
-    while (m_stretches.size() > 1 && m_stretches[1].frame < heard)
-        m_stretches.erase(m_stretches.begin());
-}
-
 bool SoundAhead::hasRoom() const
 {
-    return m_sound && !m_isComplete && end() - m_taken < framesIn(SecondsAhead);
-}
-
-std::int64_t SoundAhead::end() const
-{
-    return m_taken + static_cast<std::int64_t>(m_ready.size() / channels());
+    return m_sound && !m_isComplete && m_ready.frames() < framesIn(SecondsAhead);
 }
 
 std::int64_t SoundAhead::framesIn(double seconds) const
@@ -327,12 +261,7 @@ std::int64_t SoundAhead::framesIn(double seconds) const
     return std::llround(seconds * m_format.rate);
 }
 
-std::size_t SoundAhead::fadeSamples() const
-{
-    return static_cast<std::size_t>(framesIn(FadeSeconds)) * channels();
-}
-
-std::unique_ptr<SoundAtRate> SoundAhead::soundFrom(const Stretch &stretch)
+std::unique_ptr<SoundAtRate> SoundAhead::soundFrom(const RateMap::Stretch &stretch)
 {
     return std::make_unique<SoundAtRate>(*m_source, framesIn(stretch.seconds), stretch.rate);
 }

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "audio/engine/KeptSound.h"
+#include "audio/engine/RateMap.h"
 #include "audio/engine/SoundAtRate.h"
 #include "audio/engine/SoundSupply.h"
 
 #include <condition_variable>
-#include <deque>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -44,14 +45,6 @@ public:
     void restartAt(double frame) override;
 
 private:
-    // From the frame on the sound comes from the second, at the rate.
-    struct Stretch
-    {
-        std::int64_t frame = 0;
-        double seconds = 0;
-        double rate = 1;
-        bool isJump = false;
-    };
     struct Order
     {
         bool isRestart = false;
@@ -68,23 +61,16 @@ private:
     void takeBack(Lock &lock);
     void restart(Lock &lock);
     void change(Lock &lock);
-    void replaceFrom(const Stretch &stretch, std::span<float> samples);
     void produce(Lock &lock);
-    void append(std::span<const float> samples);
     void tellTaker(Lock &lock);
-    void fadeIn(std::span<float> samples, std::size_t from) const;
     std::int64_t placeForChange() const;
     void beginAt(double seconds, double rate);
-    Stretch stretchFrom(std::int64_t frame, const Order &order) const;
-    double soundAt(double frame) const;
+    RateMap::Stretch stretchFrom(std::int64_t frame, const Order &order) const;
     double heardAt(double frame) const;
-    void forgetOldStretches();
     bool canChange() const;
     bool hasRoom() const;
-    std::int64_t end() const;
     std::int64_t framesIn(double seconds) const;
-    std::size_t fadeSamples() const;
-    std::unique_ptr<SoundAtRate> soundFrom(const Stretch &stretch);
+    std::unique_ptr<SoundAtRate> soundFrom(const RateMap::Stretch &stretch);
     std::size_t channels() const { return static_cast<std::size_t>(m_format.channels); }
 
     std::unique_ptr<DecodedSource> m_source; // the thread's
@@ -98,9 +84,8 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_wake;
     std::optional<Order> m_order;
-    std::deque<float> m_ready;
-    std::int64_t m_taken = 0; // the first frame of what is ready
-    std::vector<Stretch> m_stretches{Stretch()};
+    KeptSound m_ready;
+    RateMap m_rates;
     bool m_isComplete = false; // nothing comes behind what is ready
     bool m_isShort = false;    // somebody got too little
     bool m_isLeaving = false;
