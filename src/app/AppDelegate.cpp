@@ -49,6 +49,7 @@ AppDelegate::AppDelegate(const AppServices &services)
     m_mediaLinksArrayController.setRowHost(this);
     const lectures::MainWindowOutlets &main = services.windows.mainOutlets();
     main.btnMainMenu->setMenu(&m_menus.mainMenu());
+    m_menus.openWithF10(*main.btnMainMenu);
     main.btnFoldUpList->setAction(
         {"onFoldUpList", [this](QWidget *sender) { onFoldUpList(sender); }});
     services.windows.newLectureOutlets().newNoteWindow->addAction(m_menus.action(Command::Quit));

@@ -3,6 +3,7 @@
 #include "platform/Texts.h"
 
 #include <QAction>
+#include <QShortcut>
 
 namespace tarvelo::app {
 
@@ -25,8 +26,8 @@ QList<Entry> entries()
     return {
         {Command::NewLecture, text("MENU_NEW_LECTURE"), "newLecture", Qt::CTRL | Qt::Key_N, false},
         {Command::AllList, text("MENU_ALL_LIST"), "allList", Qt::CTRL | Qt::Key_L, true},
-        {Command::FoldList, text("MENU_FOLD_LIST"), "foldList", {}, false},
-        {Command::ShowFolder, text("MENU_SHOW_FOLDER"), "showFolder", {}, false},
+        {Command::FoldList, text("MENU_FOLD_LIST"), "foldList", Qt::Key_F9, false},
+        {Command::ShowFolder, text("MENU_SHOW_FOLDER"), "showFolder", Qt::CTRL | Qt::Key_O, false},
         {Command::ShowPreferences, text("MENU_PREFERENCES"), "preferences",
          Qt::CTRL | Qt::Key_Comma, true},
         {Command::CloseWindow, text("MENU_CLOSE_WINDOW"), "closeWindow", Qt::CTRL | Qt::Key_W,
@@ -67,6 +68,14 @@ AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run)
         m_actions[static_cast<std::size_t>(command)] = action;
     }
     mainWindow.addActions(m_mainMenu.actions());
+}
+
+void AppMenus::openWithF10(QWidget &button)
+{
+    connect(new QShortcut(Qt::Key_F10, &button), &QShortcut::activated, this, [this, &button] {
+        m_mainMenu.popup(button.mapToGlobal(QPoint(0, button.height())));
+        m_mainMenu.setActiveAction(m_mainMenu.actions().constFirst());
+    });
 }
 
 } // namespace tarvelo::app

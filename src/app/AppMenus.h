@@ -37,6 +37,9 @@ public:
     // are not for one window only in the other windows too, while it is on the screen.
     AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run);
 
+    // F10 in the window of `button` opens the main menu under it, at its first command.
+    void openWithF10(QWidget &button);
+
     QMenu &mainMenu() { return m_mainMenu; }
     QMenu &statusMenu() { return m_statusMenu; }
     QAction *action(Command command) const { return m_actions[static_cast<std::size_t>(command)]; }

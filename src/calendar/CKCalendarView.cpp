@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QTextBoundaryFinder>
 
+#include <algorithm>
+
 namespace tarvelo::calendar {
 
 using platform::imageNamed;
@@ -213,15 +215,19 @@ void CKCalendarView::postInit()
 }
 
 // A cell that never had a date counts as today, since no date is now.
-void CKCalendarView::pressTodaysCell()
+DateButton *CKCalendarView::todaysCell() const
 {
     const QDateTime today = dateWithOutTime({});
-    for (DateButton *cell : m_dateButtons) {
-        if (dateWithOutTime(cell->date()) == today) {
-            dateButtonPressed(cell);
-            return;
-        }
-    }
+    const auto found =
+        std::find_if(m_dateButtons.begin(), m_dateButtons.end(),
+                     [&](DateButton *cell) { return dateWithOutTime(cell->date()) == today; });
+    return found == m_dateButtons.end() ? nullptr : *found;
+}
+
+void CKCalendarView::pressTodaysCell()
+{
+    if (DateButton *cell = todaysCell())
+        dateButtonPressed(cell);
 }
 
 void CKCalendarView::setMonthShowing(const QDateTime &date)
@@ -298,6 +304,17 @@ void CKCalendarView::showCurrentMonth(QWidget *sender)
     sender->hide();
     if (isTarveloViewShowing())
         pressTodaysCell();
+}
+
+// In another month by the button that leads to this one, which then also chooses the day.
+void CKCalendarView::goToToday()
+{
+    for (CustomButton *button : {m_proceedToCurrentMonthButton, m_backToCurrentMonthButton}) {
+        if (button->isVisibleTo(this))
+            button->click();
+    }
+    if (DateButton *cell = todaysCell())
+        cell->setFocus(Qt::TabFocusReason);
 }
 
 QWidget *CKCalendarView::hitTest(const QPoint &point)

@@ -78,6 +78,8 @@ public:
     void moveCalendarToNextMonth();
     void doProceedToCurrentMonth(QWidget *sender);
     void comeBackToCurrentMonth(QWidget *sender);
+    // Brings the keyboard to today, in the present month.
+    void goToToday();
 
     // Date arithmetic, see CalendarDates.
     int calendarStartDay() const { return m_days.calendarStartDay(); }
@@ -168,6 +170,7 @@ private:
     void hideRemovedDayCells();
     bool isTarveloViewShowing() const;
     void showCurrentMonth(QWidget *sender);
+    DateButton *todaysCell() const;
     void pressTodaysCell();
 
     inline static QPointer<DateButton> s_selectedCell;

@@ -34,7 +34,8 @@ bool isMouse(QEvent::Type type)
 bool isPressing(int key)
 {
     return key == Qt::Key_Space || key == Qt::Key_Select || key == Qt::Key_Return ||
-           key == Qt::Key_Enter || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+           key == Qt::Key_Enter || key == Qt::Key_PageUp || key == Qt::Key_PageDown ||
+           key == Qt::Key_Home;
 }
 
 int daysFor(int key)
@@ -76,6 +77,7 @@ void CalendarInput::setTabStop(DateButton &cell)
         m_tabStop->setFocusPolicy(Qt::ClickFocus);
     m_tabStop = &cell;
     cell.setFocusPolicy(Qt::StrongFocus);
+    m_view.setFocusProxy(&cell);
 }
 
 bool CalendarInput::eventFilter(QObject *watched, QEvent *event)
@@ -108,6 +110,8 @@ bool CalendarInput::keyPressed(QObject *watched, const QKeyEvent &key)
         m_view.moveCalendarToPreviousMonth();
     else if (key.key() == Qt::Key_PageDown)
         m_view.moveCalendarToNextMonth();
+    else if (key.key() == Qt::Key_Home)
+        m_view.goToToday();
     else
         return keyPressedOnButton(qobject_cast<QAbstractButton *>(watched), key.key());
     return true;

@@ -12,8 +12,8 @@ class CKCalendarView;
 class DateButton;
 
 // The calendar's mouse and keys: while a recording runs the mouse passes through every part of it
-// and no key presses anything; otherwise the arrow keys go from day to day and the page keys from
-// month to month. One day at a time is in the Tab order.
+// and no key presses anything; otherwise the arrow keys go from day to day, the page keys from
+// month to month, and Home to today. One day at a time is in the Tab order.
 class CalendarInput final : public QObject
 {
     Q_OBJECT

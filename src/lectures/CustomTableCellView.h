@@ -64,9 +64,12 @@ public:
     // For a row that came or went under a mouse that stood still.
     void setMouseOver(bool over);
 
+    // The right button opens the row's menu, and together with Ctrl that of the export.
     void rightMouseDown(QMouseEvent *event);
     // Offers the export to the music library, and nothing when that does not take the file.
     void rightMouseDown_New(QMouseEvent *event);
+    // The menu of the export, a new one as the one below; null when there is nothing to offer.
+    QMenu *exportMenu();
     // A new menu that the row owns; it is gone when it closes, when the next one is made, or when
     // the row shows another lecture.
     QMenu *getMenu();

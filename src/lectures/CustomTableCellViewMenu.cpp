@@ -35,11 +35,17 @@ void CustomTableCellView::rightMouseDown_New(QMouseEvent *event)
 {
     QFrame::mousePressEvent(event);
     event->accept();
+    if (QMenu *menu = exportMenu())
+        menu->popup(event->globalPosition().toPoint());
+}
+
+QMenu *CustomTableCellView::exportMenu()
+{
     if (!m_host || !m_host->isSupportedIniTunes(this))
-        return;
+        return nullptr;
     QMenu *menu = newMenu();
     insertItem(*menu, 0, "Export file to iTunes", "exportAction", [this] { exportAction(); });
-    menu->popup(event->globalPosition().toPoint());
+    return menu;
 }
 
 QMenu *CustomTableCellView::newMenu()
@@ -104,10 +110,12 @@ void CustomTableCellView::shareAction()
 
 void CustomTableCellView::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::RightButton)
-        rightMouseDown(event);
-    else
+    if (event->button() != Qt::RightButton)
         QFrame::mousePressEvent(event);
+    else if (event->modifiers() & Qt::ControlModifier)
+        rightMouseDown_New(event);
+    else
+        rightMouseDown(event);
 }
 
 } // namespace tarvelo::lectures

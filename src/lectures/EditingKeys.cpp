@@ -1,5 +1,6 @@
 #include "lectures/EditingKeys.h"
 
+#include "audio/RecordingOutlets.h"
 #include "widgets/ImageButton.h"
 
 #include <QLineEdit>
@@ -47,7 +48,9 @@ void returnGoesOnToNotes(QLineEdit &subject, QTextEdit &notes)
 
 void escapeCloses(QWidget &window)
 {
-    onKey(window, QKeySequence(Qt::Key_Escape), [&window] { window.close(); });
+    for (const QKeySequence &key :
+         {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)})
+        onKey(window, key, [&window] { window.close(); });
 }
 
 void playAndPauseWithF8(QWidget &place, ImageButton &play, ImageButton &pause)
@@ -57,6 +60,22 @@ void playAndPauseWithF8(QWidget &place, ImageButton &play, ImageButton &pause)
               [&play, &pause] { play.isEnabled() ? play.click() : pause.click(); });
     handKeyboardOver(play, pause);
     handKeyboardOver(pause, play);
+}
+
+// A button that does not show, or is disabled, leaves the key to the other one.
+void recordWithKeys(const audio::RecordingOutlets &controls)
+{
+    for (ImageButton *button : {controls.btnStartRecord, controls.btnPauseResumeRecording})
+        button->setShortcut(Qt::CTRL | Qt::Key_R);
+    controls.btnStopRecord->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_R);
+    controls.btnTimeTag->setShortcut(Qt::CTRL | Qt::Key_T);
+    // The button that stopped the take plays it then; it never stops a take by this key.
+    ImageButton *const stop = controls.btnStopRecord;
+    for (const Qt::Key key : {Qt::Key_F8, Qt::Key_MediaTogglePlayPause})
+        onKey(*controls.newNoteWindow, QKeySequence(key), [stop] {
+            if (stop->actionName() != "stopRecording")
+                stop->click();
+        });
 }
 
 } // namespace tarvelo::lectures

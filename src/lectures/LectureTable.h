@@ -97,7 +97,9 @@ private:
     bool hasKeyboard() const;
     bool moveByKey(int key);
     bool commandByKey(const QKeyEvent &event);
-    void showMenuOfSelectedRow();
+    void command(CustomTableCellView &row, int key);
+    // With Ctrl that of the export, where there is one.
+    void showMenuOfSelectedRow(Qt::KeyboardModifiers modifiers);
     bool swipe(const QWheelEvent &event);
     void updateScrollBar();
     void putAway(CustomTableCellView &view);

@@ -29,6 +29,13 @@ bool hasNotches(const QWheelEvent &event)
     return event.pixelDelta().isNull() && event.angleDelta().manhattanLength() >= 120;
 }
 
+// What a key does with a row: it opens, plays, deletes or changes the lecture.
+bool isRowKey(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space ||
+           key == Qt::Key_Delete || key == Qt::Key_F2;
+}
+
 } // namespace
 
 int LectureTable::rowAt(const QPoint &position) const
@@ -110,9 +117,7 @@ bool LectureTable::moveByKey(int key)
 bool LectureTable::commandByKey(const QKeyEvent &event)
 {
     const bool isMenuKey = event.key() == Qt::Key_F10 && event.modifiers() & Qt::ShiftModifier;
-    const bool isCommand = isMenuKey || event.key() == Qt::Key_Return ||
-                           event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space ||
-                           event.key() == Qt::Key_Delete;
+    const bool isCommand = isMenuKey || isRowKey(event.key());
     // A key that is held gives its command once.
     if (!isCommand || event.isAutoRepeat())
         return isCommand;
@@ -120,22 +125,32 @@ bool LectureTable::commandByKey(const QKeyEvent &event)
     if (!view)
         return false;
     if (isMenuKey)
-        showMenuOfSelectedRow();
-    else if (event.key() == Qt::Key_Space)
-        view->btnPlay()->click();
-    else if (event.key() == Qt::Key_Delete)
-        view->btnDelete()->click();
+        showMenuOfSelectedRow(event.modifiers());
     else
-        Q_EMIT rowOpened(m_selectedRow);
+        command(*view, event.key());
     return true;
 }
 
-void LectureTable::showMenuOfSelectedRow()
+void LectureTable::command(CustomTableCellView &row, int key)
+{
+    if (key == Qt::Key_Space)
+        row.btnPlay()->click();
+    else if (key == Qt::Key_Delete)
+        row.btnDelete()->click();
+    else if (key == Qt::Key_F2)
+        row.btnEdit()->click();
+    else
+        Q_EMIT rowOpened(m_selectedRow);
+}
+
+void LectureTable::showMenuOfSelectedRow(Qt::KeyboardModifiers modifiers)
 {
     CustomTableCellView *view = viewAtColumnRowMakeIfNecessary(0, m_selectedRow, true);
     if (!view)
         return;
-    QMenu *menu = view->getMenu();
+    QMenu *menu = modifiers & Qt::ControlModifier ? view->exportMenu() : view->getMenu();
+    if (!menu)
+        return;
     menu->popup(view->mapToGlobal(view->rect().center()));
     menu->setActiveAction(menu->actions().constFirst());
 }
@@ -144,7 +159,7 @@ void LectureTable::showMenuOfSelectedRow()
 void LectureTable::contextMenuEvent(QContextMenuEvent *event)
 {
     if (event->reason() == QContextMenuEvent::Keyboard)
-        showMenuOfSelectedRow();
+        showMenuOfSelectedRow(event->modifiers());
 }
 
 void LectureTable::mousePressEvent(QMouseEvent *event)

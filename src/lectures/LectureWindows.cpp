@@ -155,6 +155,8 @@ void LectureWindows::buildMainWindow(platform::Dates &dates)
               ui.btnAddItem,        ui.btnDeleteItem, ui.btnAddNewLecture2,    ui.btnShowAllList,
               ui.btnFoldUpList};
 
+    ui.tableListView->setFocusProxy(ui.tblRecordSubjectList);
+    m_mainWindow->setPanes({calendarView, ui.tableListView, ui.editPlayView});
     style(*ui.lblTarvelo, 18, Ink);
     style(*ui.lblDateDisplay, 22, Ink);
     style(*ui.lblEmptyDayTitle, 17, Ink);
@@ -178,6 +180,7 @@ void LectureWindows::buildLectureView()
     Ui::LectureView ui;
     ui.setupUi(m_main.editPlayView);
     m_main.editPlayView->setObjectName(QStringLiteral("editPlayView"));
+    m_main.editPlayView->setFocusProxy(ui.tSubjectName);
     m_lectureView = {ui.tSubjectName,       ui.tViewNoteForEdit,   ui.lblNotesForView,
                      ui.tEditTime,          ui.tEditDate,          ui.btnSlidetoView,
                      ui.btnSlideToListView, ui.btnDoneEditLecture, ui.btnCloseLectureView};

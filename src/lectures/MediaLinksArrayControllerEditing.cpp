@@ -38,6 +38,12 @@ void MediaLinksArrayController::connectEditing()
 
 void MediaLinksArrayController::connectEditingKeys()
 {
+    const NewLectureOutlets &newLecture = m_windows.newLectureOutlets();
+    recordWithKeys(m_windows.recordingOutlets());
+    doneWithControlReturn(*newLecture.newNoteWindow, *newLecture.BtnDoneOrClose);
+    returnGoesOnToNotes(*newLecture.txtSubjectForNewNote, *newLecture.txtView);
+    escapeCloses(*newLecture.newNoteWindow);
+
     const EditLectureOutlets &edit = m_windows.editLectureOutlets();
     doneWithControlReturn(*edit.windowEditLecture, *edit.btnDoneEdit);
     returnGoesOnToNotes(*edit.txtSubjectForEdit, *edit.txtViewNotesForEdit);

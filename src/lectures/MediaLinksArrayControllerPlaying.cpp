@@ -1,5 +1,6 @@
 #include "lectures/MediaLinksArrayController.h"
 
+#include "lectures/EditingKeys.h"
 #include "lectures/LectureTable.h"
 #include "platform/WindowLevel.h"
 #include "widgets/ImageButton.h"
@@ -35,8 +36,7 @@ void MediaLinksArrayController::connectPlayer()
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_F8})
         connect(new QShortcut(key, player.playAudioWindow), &QShortcut::activated, this,
                 [player] { pressInTurn(*player.btnPlayLecture, *player.btnPauseLecture); });
-    connect(new QShortcut(Qt::Key_Escape, player.playAudioWindow), &QShortcut::activated,
-            player.playAudioWindow, &QWidget::close);
+    escapeCloses(*player.playAudioWindow);
 
     const audio::EditPlayerOutlets &editPlayer = m_windows.editPlayerOutlets();
     const auto playPauseEdit = [this](QWidget *sender) { onPlayPauseLectureEdit(sender); };

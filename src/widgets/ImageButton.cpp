@@ -1,8 +1,10 @@
 #include "widgets/ImageButton.h"
 
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QToolTip>
 
 namespace tarvelo::widgets {
 
@@ -64,6 +66,16 @@ QRectF ImageButton::imageRect(const Image &image) const
         image.size().boundedTo(image.size().scaled(this->size(), Qt::KeepAspectRatio));
     return {(width() - size.width()) / 2, (height() - size.height()) / 2, size.width(),
             size.height()};
+}
+
+bool ImageButton::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || shortcut().isEmpty() || toolTip().isEmpty())
+        return QPushButton::event(event);
+    const QString keys = shortcut().toString(QKeySequence::NativeText);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       QStringLiteral("%1 (%2)").arg(toolTip(), keys), this);
+    return true;
 }
 
 // A ring around a button as narrow as an arrow would cover it: such a button is underlined.

@@ -47,6 +47,8 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    // The tool tip says the button's key too.
+    bool event(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     // Where the image goes: as large as the drawing is, in the middle; smaller buttons shrink it.

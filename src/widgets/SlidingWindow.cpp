@@ -1,5 +1,9 @@
 #include "widgets/SlidingWindow.h"
 
+#include <QShortcut>
+
+#include <algorithm>
+
 namespace tarvelo::widgets {
 
 namespace {
@@ -22,6 +26,10 @@ SlidingWindow::SlidingWindow(QWidget *parent)
     m_slide.setEasingCurve(QEasingCurve::InOutQuad);
     connect(&m_slide, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &value) { setFixedWidth(value.toInt()); });
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this,
+            [this] { focusNextPane(1); });
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F6, this), &QShortcut::activated, this,
+            [this] { focusNextPane(-1); });
 }
 
 void SlidingWindow::setFrameSize(int width, int height)
@@ -47,6 +55,25 @@ bool SlidingWindow::canTakeFocusByTab(const QWidget &widget) const
 {
     return widget.window() == this && widget.isEnabled() && widget.isVisible() &&
            widget.focusPolicy() & Qt::TabFocus && !widget.focusProxy() && isInSight(widget, *this);
+}
+
+void SlidingWindow::focusNextPane(int step)
+{
+    const auto count = m_panes.size();
+    const auto holdsFocus = [this](const QWidget *pane) {
+        return pane->isAncestorOf(focusWidget());
+    };
+    const auto from = std::find_if(m_panes.cbegin(), m_panes.cend(), holdsFocus);
+    // From outside of all parts F6 leads to the first one, and Shift+F6 to the last one.
+    auto at = from != m_panes.cend() ? from - m_panes.cbegin() : step > 0 ? -1 : count;
+    for (qsizetype tried = 0; tried < count; ++tried) {
+        at = (at + step + count) % count;
+        QWidget *target = m_panes.at(at)->focusProxy();
+        if (target && canTakeFocusByTab(*target)) {
+            target->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
 }
 
 // Those between are not touched: a text that got the keyboard in passing would count as edited.

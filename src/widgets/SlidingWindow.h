@@ -24,12 +24,18 @@ public:
     void setFrameSize(int width, int height);
     void setFrameWidth(int width, bool animate);
 
+    // Parts of the window in reading order, each with a focus proxy. F6 goes from part to part, and
+    // Shift+F6 back, over those that show.
+    void setPanes(const QList<QWidget *> &panes) { m_panes = panes; }
+
 protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
     bool canTakeFocusByTab(const QWidget &widget) const;
+    void focusNextPane(int step);
 
+    QList<QWidget *> m_panes;
     int m_frameWidth = 0;
     QVariantAnimation m_slide;
 };

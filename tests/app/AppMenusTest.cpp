@@ -34,6 +34,8 @@ private Q_SLOTS:
         QTest::newRow("New Lecture") << Command::NewLecture << QStringLiteral("Ctrl+N");
         QTest::newRow("Preferences") << Command::ShowPreferences << QStringLiteral("Ctrl+,");
         QTest::newRow("All List") << Command::AllList << QStringLiteral("Ctrl+L");
+        QTest::newRow("Fold List") << Command::FoldList << QStringLiteral("F9");
+        QTest::newRow("Show Folder") << Command::ShowFolder << QStringLiteral("Ctrl+O");
         QTest::newRow("Close Window") << Command::CloseWindow << QStringLiteral("Ctrl+W");
         QTest::newRow("Quit") << Command::Quit << QStringLiteral("Ctrl+Q");
     }
@@ -47,6 +49,21 @@ private Q_SLOTS:
 
         QTEST(action->shortcut().toString(), "shortcut");
         QVERIFY(program.window().actions().contains(const_cast<QAction *>(action)));
+    }
+
+    void f10OpensTheMainMenuAtItsFirstCommand()
+    {
+        Application program;
+        program.window().show();
+        program.window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&program.window()));
+
+        QTest::keyClick(&program.window(), Qt::Key_F10);
+
+        QMenu &menu = program.delegate.menus().mainMenu();
+        QVERIFY(menu.isVisible());
+        QCOMPARE(menu.activeAction(), program.delegate.menus().action(Command::NewLecture));
+        menu.close();
     }
 
     void everyCommandHasATitle()

@@ -205,6 +205,22 @@ private Q_SLOTS:
         QCOMPARE(m_view->monthShowing(), day(2024, 3, 1));
     }
 
+    void homeGoesToTodayInThePresentMonth()
+    {
+        showWindow();
+        m_window->activateWindow();
+        cell(0)->setFocus();
+        QTRY_VERIFY(cell(0)->hasFocus());
+
+        QTest::keyClick(cell(0), Qt::Key_Home);
+        QVERIFY(cell(4)->hasFocus());
+        QTest::keyClick(cell(4), Qt::Key_PageDown);
+        QTest::keyClick(cell(4), Qt::Key_Home);
+
+        QCOMPARE(m_view->monthShowing(), day(2024, 3, 1));
+        QVERIFY(cell(4)->hasFocus());
+    }
+
     void theFocusStaysInTheMonthWhenItsDayIsGone()
     {
         showWindow();

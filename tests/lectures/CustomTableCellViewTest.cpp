@@ -368,6 +368,19 @@ private Q_SLOTS:
         menu->close();
     }
 
+    void controlAndTheRightButtonOpenTheOtherMenu()
+    {
+        m_host.supports = true;
+        showAt({0, 0});
+
+        QTest::mouseClick(m_row.get(), Qt::RightButton, Qt::ControlModifier, {100, 20});
+
+        const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QCOMPARE(titlesOf(*menu), QStringList{u"Export file to iTunes"_s});
+        QApplication::activePopupWidget()->close();
+    }
+
     void theOtherMenuDoesNotShowForAFileThatIsNotSupported()
     {
         showAt({0, 0});

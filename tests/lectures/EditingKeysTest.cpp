@@ -1,5 +1,6 @@
 #include "lectures/EditingKeys.h"
 
+#include "audio/RecordingOutlets.h"
 #include "support/TestCase.h"
 #include "widgets/ImageButton.h"
 
@@ -81,7 +82,88 @@ private Q_SLOTS:
         QCOMPARE(m_stage->pressed, QStringList({u"play"_s, u"pause"_s}));
     }
 
+    void controlRPressesTheButtonOfTheTwoThatShows()
+    {
+        Recorder recorder;
+        recorder.show();
+
+        QTest::keyClick(&recorder.notes, Qt::Key_R, Qt::ControlModifier);
+        QTRY_COMPARE(recorder.pressed, QStringList{u"start"_s});
+        recorder.start.hide();
+        recorder.pause.show();
+        QTest::keyClick(&recorder.notes, Qt::Key_R, Qt::ControlModifier);
+
+        QTRY_COMPARE(recorder.pressed, QStringList({u"start"_s, u"pause"_s}));
+    }
+
+    void theTimeTagAndTheStopHaveKeysThatWriteNothing()
+    {
+        Recorder recorder;
+        recorder.show();
+
+        QTest::keyClick(&recorder.notes, Qt::Key_T, Qt::ControlModifier);
+        QTRY_COMPARE(recorder.pressed, QStringList{u"tag"_s});
+        QTest::keyClick(&recorder.notes, Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+
+        QTRY_COMPARE(recorder.pressed, QStringList({u"tag"_s, u"stop"_s}));
+        QCOMPARE(recorder.notes.toPlainText(), QString());
+    }
+
+    void f8PlaysAFinishedTakeAndNeverStopsOne()
+    {
+        Recorder recorder;
+        recorder.show();
+
+        QTest::keyClick(&recorder.notes, Qt::Key_F8);
+        QVERIFY(recorder.pressed.isEmpty());
+        recorder.listen(recorder.stop, "playRecordTemp", u"play"_s);
+        QTest::keyClick(&recorder.notes, Qt::Key_F8);
+
+        QCOMPARE(recorder.pressed, QStringList{u"play"_s});
+    }
+
 private:
+    struct Recorder
+    {
+        Recorder()
+        {
+            auto *layout = new QVBoxLayout(&window);
+            for (QWidget *widget : QList<QWidget *>{&notes, &start, &pause, &stop, &tag})
+                layout->addWidget(widget);
+            pause.hide();
+            listen(start, "startRecording", u"start"_s);
+            listen(pause, "pauseResumeRecording", u"pause"_s);
+            listen(stop, "stopRecording", u"stop"_s);
+            listen(tag, "onSetTimeTag", u"tag"_s);
+            tarvelo::audio::RecordingOutlets outlets;
+            outlets.newNoteWindow = &window;
+            outlets.btnStartRecord = &start;
+            outlets.btnPauseResumeRecording = &pause;
+            outlets.btnStopRecord = &stop;
+            outlets.btnTimeTag = &tag;
+            recordWithKeys(outlets);
+        }
+        void listen(ImageButton &button, const char *name, const QString &what)
+        {
+            button.setAction({name, [this, what](QWidget *) { pressed.append(what); }});
+        }
+        void show()
+        {
+            window.show();
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            notes.setFocus();
+        }
+
+        QStringList pressed;
+        QWidget window;
+        QTextEdit notes;
+        ImageButton start;
+        ImageButton pause;
+        ImageButton stop;
+        ImageButton tag;
+    };
+
     // The two buttons enable each other in the order in which the player does it.
     struct Stage
     {

@@ -1,4 +1,5 @@
 #include "lectures/CustomTableCellView.h"
+#include "lectures/LectureRowHost.h"
 #include "lectures/LectureTable.h"
 #include "lectures/RowSwipe.h"
 #include "support/TestCase.h"
@@ -101,15 +102,16 @@ private Q_SLOTS:
         QCOMPARE(m_table->verticalScrollBar()->value(), 600);
     }
 
-    void deleteAndSpacePressTheSelectedRowsButtons()
+    void deleteSpaceAndF2PressTheSelectedRowsButtons()
     {
         listenToButtons();
         m_table->selectRow(1);
 
         press(Qt::Key_Delete);
         press(Qt::Key_Space);
+        press(Qt::Key_F2);
 
-        QCOMPARE(m_pressed, QStringList({u"1 btnDelete"_s, u"1 btnPlay"_s}));
+        QCOMPARE(m_pressed, QStringList({u"1 btnDelete"_s, u"1 btnPlay"_s, u"1 btnEdit"_s}));
     }
 
     void withoutASelectedRowTheKeysDoNothing()
@@ -118,6 +120,7 @@ private Q_SLOTS:
 
         press(Qt::Key_Delete);
         press(Qt::Key_Space);
+        press(Qt::Key_F2);
         QTest::keyClick(m_table, Qt::Key_F10, Qt::ShiftModifier);
 
         QVERIFY(m_pressed.isEmpty());
@@ -143,6 +146,32 @@ private Q_SLOTS:
         QTest::keyClick(m_table, Qt::Key_F10, Qt::ShiftModifier);
 
         closeMenuOfRow(1);
+    }
+
+    void withControlTheMenuKeysOpenTheMenuOfTheExport()
+    {
+        m_table->setRowHost(&m_host);
+        m_table->selectRow(1);
+
+        QTest::keyClick(m_table, Qt::Key_F10, Qt::ShiftModifier | Qt::ControlModifier);
+        QCOMPARE(shownMenu()->actions().size(), 1);
+        closeMenuOfRow(1);
+        QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {}, Qt::ControlModifier);
+        QApplication::sendEvent(m_table, &byKey);
+
+        QCOMPARE(shownMenu()->actions().size(), 1);
+        closeMenuOfRow(1);
+    }
+
+    void whereTheExportTakesNoFileItsKeysDoNothing()
+    {
+        m_host.supports = false;
+        m_table->setRowHost(&m_host);
+        m_table->selectRow(1);
+
+        QTest::keyClick(m_table, Qt::Key_F10, Qt::ShiftModifier | Qt::ControlModifier);
+
+        QVERIFY(!QApplication::activePopupWidget());
     }
 
     void theMenuKeyOnAButtonOfTheRowOpensItsMenuToo()
@@ -312,8 +341,16 @@ private Q_SLOTS:
     }
 
 private:
+    struct Host final : LectureRowHost
+    {
+        bool isConfirmDeleteShowing() const override { return false; }
+        bool isSupportedIniTunes(QWidget *) const override { return supports; }
+        bool supports = true;
+    };
+
     void prepare() override
     {
+        m_host = {};
         m_pressed.clear();
         m_chosen.clear();
         m_model.clear();
@@ -376,9 +413,10 @@ private:
             }
         }
     }
+    static QMenu *shownMenu() { return qobject_cast<QMenu *>(QApplication::activePopupWidget()); }
     void closeMenuOfRow(int row)
     {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        auto *menu = shownMenu();
         QVERIFY(menu);
         QCOMPARE(menu->parentWidget(), viewOf(row));
         QCOMPARE(menu->activeAction(), menu->actions().constFirst());
@@ -387,6 +425,7 @@ private:
         menu->close();
     }
 
+    Host m_host;
     QStandardItemModel m_model;
     std::unique_ptr<QWidget> m_window;
     LectureTable *m_table = nullptr;

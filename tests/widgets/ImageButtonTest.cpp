@@ -3,7 +3,9 @@
 #include "support/TestCase.h"
 #include "widgets/Drawn.h"
 
+#include <QHelpEvent>
 #include <QPointer>
+#include <QToolTip>
 
 using tarvelo::platform::imageNamed;
 using tarvelo::tests::drawn;
@@ -53,6 +55,20 @@ private Q_SLOTS:
         button.click();
 
         QCOMPARE(heard, &button);
+    }
+
+    void theToolTipSaysTheKeyOfAButtonThatHasOne()
+    {
+        ImageButton button;
+        button.setToolTip(QStringLiteral("Pause"));
+        button.setShortcut(Qt::CTRL | Qt::Key_R);
+        QHelpEvent asked(QEvent::ToolTip, {1, 1}, {1, 1});
+
+        QCoreApplication::sendEvent(&button, &asked);
+
+        QCOMPARE(QToolTip::text(), QStringLiteral("Pause (Ctrl+R)"));
+        QCOMPARE(button.toolTip(), QStringLiteral("Pause"));
+        QToolTip::hideText();
     }
 
     void aDisabledButtonDoesNothing()

@@ -105,6 +105,37 @@ private Q_SLOTS:
         QVERIFY(outOfSight.hasFocus());
     }
 
+    void f6GoesFromPartToPartOfThoseInSight()
+    {
+        SlidingWindow window;
+        window.setFrameSize(833, 489);
+        QWidget left(&window);
+        QLineEdit first(&left);
+        QWidget middle(&window);
+        middle.setGeometry(400, 0, 400, 489);
+        QLineEdit second(&middle);
+        QWidget outside(&window);
+        outside.setGeometry(833, 0, 400, 489);
+        QLineEdit third(&outside);
+        left.setFocusProxy(&first);
+        middle.setFocusProxy(&second);
+        outside.setFocusProxy(&third);
+        window.setPanes({&left, &middle, &outside});
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+
+        first.setFocus();
+        QTest::keyClick(&first, Qt::Key_F6);
+        QVERIFY(second.hasFocus());
+        QTest::keyClick(&second, Qt::Key_F6);
+        QVERIFY(first.hasFocus());
+
+        window.setFrameWidth(1234, false);
+        QTest::keyClick(&first, Qt::Key_F6, Qt::ShiftModifier);
+        QVERIFY(third.hasFocus());
+    }
+
     void theUserCannotResizeIt()
     {
         SlidingWindow window;
