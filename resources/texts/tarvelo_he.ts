@@ -1,0 +1,323 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="he" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="BUTTON_CANCEL">
+        <source></source>
+        <translation>ביטול</translation>
+    </message>
+    <message id="BUTTON_CLOSE">
+        <source></source>
+        <translation>סגירה</translation>
+    </message>
+    <message id="BUTTON_DELETE">
+        <source></source>
+        <translation>מחיקה</translation>
+    </message>
+    <message id="BUTTON_DONE">
+        <source></source>
+        <translation>סיום</translation>
+    </message>
+    <message id="BUTTON_NEW_LECTURE">
+        <source></source>
+        <translation>הרצאה חדשה</translation>
+    </message>
+    <message id="BUTTON_NO">
+        <source></source>
+        <translation>לא</translation>
+    </message>
+    <message id="BUTTON_PAUSE">
+        <source></source>
+        <translation>השהיה</translation>
+    </message>
+    <message id="BUTTON_PLAY">
+        <source></source>
+        <translation>ניגון</translation>
+    </message>
+    <message id="BUTTON_SLIDE_TO_LIST">
+        <source></source>
+        <translation>חזרה לרשימה</translation>
+    </message>
+    <message id="BUTTON_SLIDE_TO_VIEW">
+        <source></source>
+        <translation>הצגת ההרצאה</translation>
+    </message>
+    <message id="BUTTON_START_RECORDING">
+        <source></source>
+        <translation>התחלת הקלטה</translation>
+    </message>
+    <message id="BUTTON_TIME_TAG">
+        <source></source>
+        <translation>הוספת זמן</translation>
+    </message>
+    <message id="BUTTON_YES">
+        <source></source>
+        <translation>כן</translation>
+    </message>
+    <message id="CALENDAR">
+        <source></source>
+        <translation>לוח שנה</translation>
+    </message>
+    <message id="CAPTION_RECORD">
+        <source></source>
+        <translation>הקלטה</translation>
+    </message>
+    <message id="CAPTION_VIEW">
+        <source></source>
+        <translation>תצוגה</translation>
+    </message>
+    <message id="CURRENT_MONTH">
+        <source></source>
+        <translation>מעבר לחודש הנוכחי</translation>
+    </message>
+    <message id="DAY_HAS_LECTURES">
+        <source></source>
+        <translation>יש הרצאות</translation>
+    </message>
+    <message id="EMPTY_DAY_HINT">
+        <source></source>
+        <translation>לחיצה על לחצן הפלוס תקליט הרצאה.</translation>
+    </message>
+    <message id="EMPTY_DAY_TITLE">
+        <source></source>
+        <translation>אין הרצאות ביום זה</translation>
+    </message>
+    <message id="FILEFORMAT_AAC">
+        <source></source>
+        <translation>AAC (.aac)</translation>
+    </message>
+    <message id="FILEFORMAT_M4A">
+        <source></source>
+        <translation>שמע MPEG-4 (.m4a)</translation>
+    </message>
+    <message id="HINT_CANCEL_EDIT">
+        <source></source>
+        <translation>סגירה בלי לשמור</translation>
+    </message>
+    <message id="HINT_DONE">
+        <source></source>
+        <translation>שמירה (Ctrl+Enter)</translation>
+    </message>
+    <message id="HINT_EDIT_SUBJECT">
+        <source></source>
+        <translation>לחיצה לשינוי הנושא</translation>
+    </message>
+    <message id="HINT_PAUSE">
+        <source></source>
+        <translation>השהיה (רווח)</translation>
+    </message>
+    <message id="HINT_PAUSE_EDIT">
+        <source></source>
+        <translation>השהיה (F8)</translation>
+    </message>
+    <message id="HINT_PLAY">
+        <source></source>
+        <translation>ניגון (רווח)</translation>
+    </message>
+    <message id="HINT_PLAY_EDIT">
+        <source></source>
+        <translation>ניגון (F8)</translation>
+    </message>
+    <message id="LABEL_CONFIRM_RECORDDELETE">
+        <source></source>
+        <translation>למחוק את ההרצאה הזאת ואת ההקלטה שלה?</translation>
+    </message>
+    <message id="LABEL_DAY_SHOWN">
+        <source></source>
+        <translation>היום המוצג</translation>
+    </message>
+    <message id="LABEL_ELAPSED_TIME">
+        <source></source>
+        <translation>זמן שחלף</translation>
+    </message>
+    <message id="LABEL_LECTURES">
+        <source></source>
+        <translation>הרצאות</translation>
+    </message>
+    <message id="LABEL_NOTES">
+        <source></source>
+        <translation>הערות</translation>
+    </message>
+    <message id="LABEL_PLAYBACK_POSITION">
+        <source></source>
+        <translation>מיקום הניגון</translation>
+    </message>
+    <message id="LABEL_RECORDING_DURATION">
+        <source></source>
+        <translation>משך ההקלטה</translation>
+    </message>
+    <message id="LABEL_RECORDING_LEVEL">
+        <source></source>
+        <translation>עוצמת ההקלטה</translation>
+    </message>
+    <message id="LABEL_REMAINING_TIME">
+        <source></source>
+        <translation>זמן שנותר</translation>
+    </message>
+    <message id="LABEL_SPEED">
+        <source></source>
+        <translation>מהירות</translation>
+    </message>
+    <message id="LABEL_SUBJECT">
+        <source></source>
+        <translation>נושא</translation>
+    </message>
+    <message id="LAYOUT_DIRECTION">
+        <source></source>
+        <translation>RTL</translation>
+    </message>
+    <message id="MENU_ALL_LIST">
+        <source></source>
+        <translation>הרשימה המלאה</translation>
+    </message>
+    <message id="MENU_CLOSE_WINDOW">
+        <source></source>
+        <translation>סגירת החלון</translation>
+    </message>
+    <message id="MENU_FOLD_LIST">
+        <source></source>
+        <translation>קיפול הרשימה</translation>
+    </message>
+    <message id="MENU_MAIN">
+        <source></source>
+        <translation>תפריט ראשי</translation>
+    </message>
+    <message id="MENU_NEW_LECTURE">
+        <source></source>
+        <translation>הרצאה חדשה</translation>
+    </message>
+    <message id="MENU_OPEN">
+        <source></source>
+        <translation>פתיחת Tarvelo</translation>
+    </message>
+    <message id="MENU_PREFERENCES">
+        <source></source>
+        <translation>העדפות…</translation>
+    </message>
+    <message id="MENU_QUIT">
+        <source></source>
+        <translation>יציאה</translation>
+    </message>
+    <message id="MENU_SHOW_FOLDER">
+        <source></source>
+        <translation>הצגת תיקיית ההקלטות</translation>
+    </message>
+    <message id="MSG_NO_AUDIO_FOR_LECTURE">
+        <source></source>
+        <translation>אין שמע להרצאה הזאת.</translation>
+    </message>
+    <message id="NEXT_MONTH">
+        <source></source>
+        <translation>החודש הבא</translation>
+    </message>
+    <message id="PLACEHOLDER_NOTES">
+        <source></source>
+        <translation>כאן כותבים הערות</translation>
+    </message>
+    <message id="PLACEHOLDER_SUBJECT">
+        <source></source>
+        <translation>נושא ההרצאה</translation>
+    </message>
+    <message id="PREVIOUS_MONTH">
+        <source></source>
+        <translation>החודש הקודם</translation>
+    </message>
+    <message id="ROW_DELETE">
+        <source></source>
+        <translation>מחיקה</translation>
+    </message>
+    <message id="ROW_EDIT">
+        <source></source>
+        <translation>עריכה</translation>
+    </message>
+    <message id="ROW_EXPORT">
+        <source></source>
+        <translation>ייצוא לספריית המוזיקה</translation>
+    </message>
+    <message id="ROW_INFO">
+        <source></source>
+        <translation>עוד</translation>
+    </message>
+    <message id="ROW_PLAY">
+        <source></source>
+        <translation>ניגון</translation>
+    </message>
+    <message id="ROW_SHARE">
+        <source></source>
+        <translation>שיתוף בדוא״ל</translation>
+    </message>
+    <message id="ROW_SHOW_FILE">
+        <source></source>
+        <translation>הצגת הקובץ</translation>
+    </message>
+    <message id="SETTING_FILEFORMAT">
+        <source></source>
+        <translation>תבנית של הקלטות חדשות</translation>
+    </message>
+    <message id="SETTING_OPENAPPAUTOMATICALLY">
+        <source></source>
+        <translation>הפעלה ומראה</translation>
+    </message>
+    <message id="SETTING_OPENATLOGIN">
+        <source></source>
+        <translation>פתיחה בעת הכניסה</translation>
+    </message>
+    <message id="SETTING_OPENINDOCK">
+        <source></source>
+        <translation>הצגה בשורת המשימות</translation>
+    </message>
+    <message id="SETTING_OPENINSTATUSBAR">
+        <source></source>
+        <translation>הצגה בשורת המצב</translation>
+    </message>
+    <message id="SETTING_SHOWWINDOWATLOGIN">
+        <source></source>
+        <translation>הצגת החלון בעת ההפעלה</translation>
+    </message>
+    <message id="SETTING_WINDOWONTOP">
+        <source></source>
+        <translation>השארת החלון למעלה</translation>
+    </message>
+    <message id="SPEED_FIFTH">
+        <source></source>
+        <translation>חמישית מהמהירות</translation>
+    </message>
+    <message id="SPEED_HALF">
+        <source></source>
+        <translation>חצי מהמהירות</translation>
+    </message>
+    <message id="SPEED_QUARTER">
+        <source></source>
+        <translation>רבע מהמהירות</translation>
+    </message>
+    <message id="SPEED_RECORDED">
+        <source></source>
+        <translation>המהירות המוקלטת</translation>
+    </message>
+    <message id="SPEED_THIRD">
+        <source></source>
+        <translation>שליש מהמהירות</translation>
+    </message>
+    <message id="TITLE_EDIT_LECTURE">
+        <source></source>
+        <translation>עריכת הרצאה</translation>
+    </message>
+    <message id="TITLE_NEW_LECTURE">
+        <source></source>
+        <translation>הרצאה חדשה</translation>
+    </message>
+    <message id="TITLE_PLAY_LECTURE">
+        <source></source>
+        <translation>הרצאה</translation>
+    </message>
+    <message id="TITLE_PREFERENCES">
+        <source></source>
+        <translation>העדפות</translation>
+    </message>
+    <message id="TXT_TARVELO">
+        <source></source>
+        <translation>Tarvelo</translation>
+    </message>
+</context>
+</TS>
