@@ -223,6 +223,10 @@
         <source></source>
         <translation>الشهر السابق</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>يجري تسجيل محاضرة</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>حذف</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>Voriger Monat</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Eine Vorlesung wird aufgenommen</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Löschen</translation>

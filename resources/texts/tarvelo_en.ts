@@ -223,6 +223,10 @@
         <source></source>
         <translation>Previous month</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>A lecture is being recorded</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Delete</translation>

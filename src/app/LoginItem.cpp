@@ -1,6 +1,7 @@
 #include "app/LoginItem.h"
 
-#include <QDir>
+#include "platform/PrivateFiles.h"
+
 #include <QFile>
 #include <QSaveFile>
 #include <QStandardPaths>
@@ -49,7 +50,7 @@ void LoginItem::setEnabled(bool enabled)
         QFile::remove(file());
         return;
     }
-    QDir().mkpath(m_folder);
+    platform::createFolderIfMissing(m_folder);
     // A session that starts while the entry is being written must not find half of it.
     QSaveFile entry(file());
     if (!entry.open(QIODevice::WriteOnly))
@@ -62,6 +63,7 @@ void LoginItem::setEnabled(bool enabled)
                                            "Exec=%1\n");
     entry.write(content.arg(quotedForExec(m_program)).toUtf8());
     entry.commit();
+    platform::keepFilePrivate(file());
 }
 
 } // namespace tarvelo::app

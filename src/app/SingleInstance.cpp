@@ -1,5 +1,7 @@
 #include "app/SingleInstance.h"
 
+#include "platform/PrivateFiles.h"
+
 #include <QDeadlineTimer>
 #include <QLocalSocket>
 #include <QStandardPaths>
@@ -20,8 +22,10 @@ SingleInstance::SingleInstance(const QString &folder, QObject *parent)
     // gone may be taken over.
     m_lock.setStaleLockTime(0);
     m_isFirst = m_lock.tryLock(0) || m_lock.error() != QLockFile::LockFailedError;
-    if (m_lock.isLocked())
-        listen();
+    if (!m_lock.isLocked())
+        return;
+    platform::keepFilePrivate(m_lock.fileName());
+    listen();
 }
 
 QString SingleInstance::standardFolder()

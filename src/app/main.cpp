@@ -11,12 +11,15 @@
 #include "platform/DelayedCall.h"
 #include "platform/Images.h"
 #include "platform/MailComposer.h"
+#include "platform/PrivateFiles.h"
+#include "platform/SleepInhibitor.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 #include "store/LectureDatabase.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 using namespace tarvelo;
 
@@ -84,17 +87,19 @@ int main(int argc, char **argv)
     platform::SystemClock clock;
     platform::Dates dates(clock, platform::Region::ofUser());
     platform::UserDefaults defaults(platform::UserDefaults::standardFile());
+    platform::keepFolderPrivate(QFileInfo(platform::UserDefaults::standardFile()).path());
     const platform::Places places = platform::Places::ofProcess();
     store::LectureDatabase database(places);
     const auto engine = engine::makeSoundServerEngine();
     platform::WindowAlerts alerts;
     platform::DesktopWorkspace workspace;
     platform::DesktopMailComposer mail;
+    platform::DesktopSleepInhibitor sleep(platform::text("REASON_RECORDING"));
     app::ProcessFlags &flags = app::ProcessFlags::ofProcess();
 
     const lectures::LectureWindows windows(dates);
     lectures::MediaLinksArrayController controller({dates, places, defaults, database, *engine,
-                                                    alerts, workspace, mail,
+                                                    alerts, workspace, mail, sleep,
                                                     flags.controllerIsAwake, flags.pendingRow},
                                                    windows);
     app::AppDelegate delegate(

@@ -1,6 +1,7 @@
 #include "audio/AudioFileLocations.h"
 
 #include "platform/Dates.h"
+#include "platform/PrivateFiles.h"
 #include "platform/UserDefaults.h"
 
 namespace tarvelo::audio {
@@ -48,6 +49,8 @@ QString AudioFileLocations::getAudioSavePath() const
 void AudioFileLocations::createFolders()
 {
     const QString own = m_places.applicationSupport + u'/' + m_places.processName;
+    for (const QString &folder : {own, m_places.applicationSupport + QStringLiteral("/Tarvelo")})
+        platform::keepFolderPrivate(expandingTilde(folder));
     const QString temporary = expandingTilde(own + QStringLiteral("/temp"));
     createFolderIfMissing(temporary);
     m_temporaryBasePath = temporary + u'/' + m_temporaryBasePath;

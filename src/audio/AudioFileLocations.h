@@ -36,7 +36,7 @@ public:
     QString getAudioFolderPath() const;
 
     // The folders of this process, once at start; from then on the temporary file lies in one of
-    // them.
+    // them. Those of the program that are there become their user's alone.
     void createFolders();
     // Names the temporary file by the preference as it now is. A take that waits under the other
     // extension is no longer found then, and is saved as a lecture without audio; this is wanted.

@@ -4,6 +4,7 @@
 #include "audio/DurationText.h"
 #include "audio/Playback.h"
 #include "platform/Dates.h"
+#include "platform/SleepInhibitor.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
 #include "widgets/WholeText.h"
@@ -54,11 +55,13 @@ double secondsSince1970(const QDateTime &moment)
 
 RecordingControl::RecordingControl(engine::AudioEngine &engine, const AudioFileLocations &locations,
                                    const Dates &dates, Playback &playback,
-                                   const RecordingOutlets &outlets, const ClockOutlets &clock)
+                                   platform::SleepInhibitor &sleep, const RecordingOutlets &outlets,
+                                   const ClockOutlets &clock)
     : m_engine(engine)
     , m_locations(locations)
     , m_dates(dates)
     , m_playback(playback)
+    , m_sleep(sleep)
     , m_outlets(outlets)
     , m_clockLabels(clock)
     , m_postRecordingFinished(dates.clock(), [this] { postRecordingFinished(); })
@@ -103,8 +106,7 @@ void RecordingControl::makeAndStartRecorder()
         m_recorder.reset();
         return;
     }
-    m_recorder->record();
-    m_recorder->updateMeters();
+    runRecorder();
     m_recorder->setMeteringEnabled(true);
     m_recording = true;
 }
@@ -189,11 +191,18 @@ void RecordingControl::resumeTake()
         m_recorder->record();
 }
 
+void RecordingControl::runRecorder()
+{
+    m_sleep.hold();
+    m_recorder->record();
+    m_recorder->updateMeters();
+}
+
 void RecordingControl::stopRecorder()
 {
-    m_floatRecordingDuration = recorderTime();
     if (m_recorder)
         m_recorder->stop();
+    m_sleep.release();
 }
 
 void RecordingControl::stopRecording(QWidget *)
@@ -205,6 +214,7 @@ void RecordingControl::stopRecording(QWidget *)
     // Out and in again: the start button stays hidden, as is wanted.
     m_outlets.btnStartRecord->setHidden(false);
     m_outlets.btnStartRecord->setHidden(true);
+    m_floatRecordingDuration = recorderTime();
     stopRecorder();
     m_outlets.btnPauseResumeRecording->setEnabled(false);
     m_postRecordingFinished.schedule(AfterStop);
@@ -222,8 +232,7 @@ void RecordingControl::startStopRecording(QWidget *)
         m_recording = false;
         m_floatRecordingDuration = recorderTime();
         m_outlets.btnPauseResumeRecording->setState(0);
-        if (m_recorder)
-            m_recorder->stop();
+        stopRecorder();
         m_outlets.btnPauseResumeRecording->setEnabled(false);
         m_postRecordingFinished.schedule(AfterStop);
         return;
@@ -235,8 +244,7 @@ void RecordingControl::startStopRecording(QWidget *)
     m_recording = true;
     if (m_recorder) {
         m_recorder->prepareToRecord();
-        m_recorder->record();
-        m_recorder->updateMeters();
+        runRecorder();
     }
     m_outlets.btnPauseResumeRecording->setEnabled(true);
 }
@@ -244,10 +252,8 @@ void RecordingControl::startStopRecording(QWidget *)
 void RecordingControl::postRecordingFinished()
 {
     m_recording = false;
-    if (m_recorder) {
-        m_recorder->stop();
-        m_recorder.reset();
-    }
+    stopRecorder();
+    m_recorder.reset();
     lookPause(*m_outlets.btnPauseResumeRecording);
     invalidateLevelTimer();
     m_outlets.audioLevelMeter->setFloatValue(0);
@@ -276,15 +282,13 @@ void RecordingControl::onSetTimeTag(QWidget *)
 
 void RecordingControl::closeTake()
 {
-    if (m_recorder)
-        m_recorder->stop();
+    stopRecorder();
 }
 
 void RecordingControl::discardTake()
 {
     m_recording = false;
-    if (m_recorder)
-        m_recorder->stop();
+    stopRecorder();
     removeTemporaryFile();
     invalidateLevelTimer();
     m_outlets.audioLevelMeter->setFloatValue(0);
@@ -334,6 +338,7 @@ void RecordingControl::showDate()
 void RecordingControl::audioRecorderDidFinishRecordingSuccessfully(AudioRecorder *recorder, bool)
 {
     recorder->stop();
+    m_sleep.release();
 }
 
 } // namespace tarvelo::audio

@@ -10,7 +10,8 @@
 
 namespace tarvelo::platform {
 class Dates;
-}
+class SleepInhibitor;
+} // namespace tarvelo::platform
 
 namespace tarvelo::audio {
 
@@ -26,7 +27,8 @@ public:
     // All references must outlive this object.
     RecordingControl(engine::AudioEngine &engine, const AudioFileLocations &locations,
                      const platform::Dates &dates, Playback &playback,
-                     const RecordingOutlets &outlets, const ClockOutlets &clock);
+                     platform::SleepInhibitor &sleep, const RecordingOutlets &outlets,
+                     const ClockOutlets &clock);
     RecordingControl(const RecordingControl &) = delete;
     RecordingControl &operator=(const RecordingControl &) = delete;
 
@@ -89,7 +91,9 @@ private:
     void makeAndStartRecorder();
     void pauseTake();
     void resumeTake();
-    // Reads the length of the take off the recorder and stops it.
+    // From here on the computer stays awake, through pauses too: a lecture goes on in its break,
+    // and whoever comes back wants to go on with the same take.
+    void runRecorder();
     void stopRecorder();
     void invalidateLevelTimer() { m_audioLevelTimer.reset(); }
     double recorderTime() const { return m_recorder ? m_recorder->currentTime() : 0; }
@@ -98,6 +102,7 @@ private:
     const AudioFileLocations &m_locations;
     const platform::Dates &m_dates;
     Playback &m_playback;
+    platform::SleepInhibitor &m_sleep;
     RecordingOutlets m_outlets;
     ClockOutlets m_clockLabels;
 

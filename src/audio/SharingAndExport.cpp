@@ -3,7 +3,7 @@
 #include "audio/FileCopy.h"
 #include "platform/Fonts.h"
 #include "platform/MailComposer.h"
-#include "platform/Process.h"
+#include "platform/PrivateFiles.h"
 #include "platform/Workspace.h"
 #include "store/LectureInfoItem.h"
 

@@ -38,7 +38,7 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
     , m_playback(
           services.engine, m_locations,
           {windows.recordingOutlets(), windows.lecturePlayerOutlets(), windows.editPlayerOutlets()})
-    , m_recordingControl(services.engine, m_locations, services.dates, m_playback,
+    , m_recordingControl(services.engine, m_locations, services.dates, m_playback, services.sleep,
                          windows.recordingOutlets(), windows.clockOutlets())
     , m_sharing(services.places.music, services.mail, services.workspace)
     , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })

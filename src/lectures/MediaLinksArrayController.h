@@ -26,6 +26,7 @@ namespace tarvelo::platform {
 class Alerts;
 class Dates;
 class MailComposer;
+class SleepInhibitor;
 class UserDefaults;
 class Workspace;
 } // namespace tarvelo::platform
@@ -46,6 +47,7 @@ struct LectureServices
     platform::Alerts &alerts;
     platform::Workspace &workspace;
     platform::MailComposer &mail;
+    platform::SleepInhibitor &sleep;
     // Whether the one start-up of this process has been done; whoever runs the process keeps it.
     bool &isAwake;
     // The row that a confirmation of a deletion is about, -1 at first; kept in the same way.

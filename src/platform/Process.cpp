@@ -34,10 +34,4 @@ QString expandingTilde(const QString &path)
     return path;
 }
 
-void createFolderIfMissing(const QString &folder)
-{
-    if (!QFileInfo::exists(folder))
-        QDir().mkpath(folder);
-}
-
 } // namespace tarvelo::platform

@@ -17,8 +17,4 @@ struct Places
 // `path` with a leading tilde replaced by the home folder.
 QString expandingTilde(const QString &path);
 
-// Makes `folder` with all that is missing above it, unless something stands there already. A
-// failure is not noticed here: what is written into the folder later fails in its own way.
-void createFolderIfMissing(const QString &folder);
-
 } // namespace tarvelo::platform

@@ -1,5 +1,8 @@
 #include "platform/UserDefaults.h"
 
+#include "platform/PrivateFiles.h"
+
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace tarvelo::platform {
@@ -18,6 +21,14 @@ QString UserDefaults::standardFile()
 QVariant UserDefaults::value(const QString &key) const
 {
     return m_settings.value(key, m_registered.value(key));
+}
+
+// The settings' file is made for its user alone by what writes it; the folder would be by the
+// umask.
+void UserDefaults::setValue(const QString &key, const QVariant &value)
+{
+    createFolderIfMissing(QFileInfo(m_settings.fileName()).path());
+    m_settings.setValue(key, value);
 }
 
 void UserDefaults::registerDefaults(const QHash<QString, QVariant> &defaults)

@@ -26,7 +26,7 @@ public:
     bool boolForKey(const QString &key) const { return value(key).toBool(); }
 
     void registerDefaults(const QHash<QString, QVariant> &defaults);
-    void setValue(const QString &key, const QVariant &value) { m_settings.setValue(key, value); }
+    void setValue(const QString &key, const QVariant &value);
     // Writes out at once. A failure is not noticed.
     void synchronize() { m_settings.sync(); }
 

@@ -1,5 +1,6 @@
 #include "store/LectureDatabase.h"
 
+#include "platform/PrivateFiles.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
 
@@ -20,7 +21,10 @@ Sqlite *LectureDatabase::openDb()
     const QString folder =
         platform::expandingTilde(m_places.applicationSupport) + u'/' + m_places.processName;
     platform::createFolderIfMissing(folder);
-    if (m_connection->open(folder + QStringLiteral("/TarveloInfo.db")))
+    const QString file = folder + QStringLiteral("/TarveloInfo.db");
+    // SQLite would make it by the umask; its journal has the mode of the file.
+    platform::createFileIfMissing(file);
+    if (m_connection->open(file))
         makeIndexes();
     else
         m_connection.reset();

@@ -11,6 +11,7 @@
 #include "support/FakeAudioEngine.h"
 #include "support/FakeClock.h"
 #include "support/FakeMailComposer.h"
+#include "support/FakeSleepInhibitor.h"
 #include "support/FakeWorkspace.h"
 #include "support/TemporaryPlaces.h"
 #include "widgets/SlidingWindow.h"
@@ -31,7 +32,7 @@ struct Application
         , database(home.places())
         , windows(dates)
         , controller({dates, home.places(), defaults, database, engine, alerts, workspace, mail,
-                      flags.controllerIsAwake, flags.pendingRow},
+                      sleep, flags.controllerIsAwake, flags.pendingRow},
                      windows)
         , delegate({dates, defaults, alerts, windows, controller,
                     app::LoginItem(home.places().applicationSupport + QStringLiteral("/autostart"),
@@ -72,6 +73,7 @@ struct Application
     FakeAlerts alerts;
     FakeWorkspace workspace;
     FakeMailComposer mail;
+    FakeSleepInhibitor sleep;
     app::ProcessFlags flags;
     lectures::LectureWindows windows;
     lectures::MediaLinksArrayController controller;

@@ -14,6 +14,7 @@
 #include "support/FakeAudioEngine.h"
 #include "support/FakeClock.h"
 #include "support/FakeMailComposer.h"
+#include "support/FakeSleepInhibitor.h"
 #include "support/FakeWorkspace.h"
 #include "support/LectureBuilder.h"
 #include "support/TemporaryPlaces.h"
@@ -117,12 +118,13 @@ public:
     FakeAlerts alerts;
     FakeWorkspace workspace;
     FakeMailComposer mail;
+    FakeSleepInhibitor sleep;
     FakeLectureApplication application;
     lectures::LectureWindows windows{dates};
     bool isAwake = false;
     int pendingRow = -1;
     lectures::MediaLinksArrayController controller{{dates, places.places(), defaults, database,
-                                                    engine, alerts, workspace, mail, isAwake,
+                                                    engine, alerts, workspace, mail, sleep, isAwake,
                                                     pendingRow},
                                                    windows};
 };

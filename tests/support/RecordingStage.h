@@ -6,6 +6,7 @@
 #include "platform/Dates.h"
 #include "platform/UserDefaults.h"
 #include "support/FakeClock.h"
+#include "support/FakeSleepInhibitor.h"
 #include "support/RecordingWindow.h"
 #include "support/TemporaryPlaces.h"
 
@@ -18,7 +19,8 @@ class RecordingStage final
 public:
     explicit RecordingStage(engine::AudioEngine &engine)
         : playback(engine, locations, window.playbackOutlets())
-        , control(engine, locations, dates, playback, window.outlets(), window.clockOutlets())
+        , control(engine, locations, dates, playback, sleep, window.outlets(),
+                  window.clockOutlets())
     {
         locations.createFolders();
         locations.setTempAudioSavePathWithFormat();
@@ -50,6 +52,7 @@ public:
     audio::AudioFileLocations locations{places.places(), defaults, dates};
     RecordingWindow window;
     audio::Playback playback;
+    FakeSleepInhibitor sleep;
     audio::RecordingControl control;
 };
 

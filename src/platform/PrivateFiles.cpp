@@ -1,0 +1,59 @@
+#include "platform/PrivateFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tarvelo::platform {
+
+namespace {
+
+constexpr mode_t OthersRights = S_IRWXG | S_IRWXO;
+
+// By descriptor, so that what was looked at is what is changed. Not waited for the other end of a
+// pipe.
+void keepPrivate(const QString &path, mode_t kind, int flags)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(),
+                                  flags | O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    struct stat status = {};
+    if (::fstat(descriptor, &status) == 0 && (status.st_mode & S_IFMT) == kind &&
+        status.st_uid == ::geteuid() && (status.st_mode & OthersRights) != 0)
+        static_cast<void>(::fchmod(descriptor, status.st_mode & ~(OthersRights | S_IFMT)));
+    ::close(descriptor);
+}
+
+} // namespace
+
+void createFolderIfMissing(const QString &folder)
+{
+    if (folder.isEmpty() || QFileInfo::exists(folder))
+        return;
+    createFolderIfMissing(QFileInfo(folder).path());
+    static_cast<void>(::mkdir(QFile::encodeName(folder).constData(), S_IRWXU));
+}
+
+void createFileIfMissing(const QString &path)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(),
+                                  O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (descriptor >= 0)
+        ::close(descriptor);
+}
+
+void keepFolderPrivate(const QString &folder)
+{
+    keepPrivate(folder, S_IFDIR, O_DIRECTORY);
+}
+
+void keepFilePrivate(const QString &path)
+{
+    keepPrivate(path, S_IFREG, 0);
+}
+
+} // namespace tarvelo::platform
