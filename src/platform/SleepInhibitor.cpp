@@ -81,10 +81,10 @@ public:
             closeRequest(m_request);
     }
 
-    void ask() { askLoginService(KindsOfSleep); }
+    void ask(const QDBusConnection &system) { askLoginService(system, KindsOfSleep); }
 
 private:
-    void askLoginService(const QStringList &kinds);
+    void askLoginService(const QDBusConnection &system, const QStringList &kinds);
     void askPortal();
 
     QString m_reason;
@@ -93,22 +93,23 @@ private:
     QString m_request;
 };
 
-void DesktopSleepInhibitor::Hold::askLoginService(const QStringList &kinds)
+void DesktopSleepInhibitor::Hold::askLoginService(const QDBusConnection &system,
+                                                  const QStringList &kinds)
 {
-    const QDBusConnection system(SystemBus);
     if (kinds.isEmpty() || !system.isConnected()) {
         askPortal();
         return;
     }
-    whenAnswered(system.asyncCall(loginCall(kinds.first(), m_reason), m_patience),
-                 [weak = weak_from_this(), others = kinds.mid(1)](const QDBusPendingCall &call) {
-                     const QDBusPendingReply<QDBusUnixFileDescriptor> answer = call;
-                     const auto hold = weak.lock();
-                     if (hold && answer.isError())
-                         hold->askLoginService(others);
-                     else if (hold)
-                         hold->m_lock = answer.value();
-                 });
+    whenAnswered(
+        system.asyncCall(loginCall(kinds.first(), m_reason), m_patience),
+        [weak = weak_from_this(), system, others = kinds.mid(1)](const QDBusPendingCall &call) {
+            const QDBusPendingReply<QDBusUnixFileDescriptor> answer = call;
+            const auto hold = weak.lock();
+            if (hold && answer.isError())
+                hold->askLoginService(system, others);
+            else if (hold)
+                hold->m_lock = answer.value();
+        });
 }
 
 // Waited for without end: an answer that nobody heard would keep the computer awake until we end.
@@ -149,8 +150,8 @@ void DesktopSleepInhibitor::hold()
     if (m_hold)
         return;
     m_hold = std::make_shared<Hold>(m_reason, m_patience);
-    if (QDBusConnection(SystemBus).isConnected())
-        m_hold->ask();
+    if (!m_connecting && m_system && m_system->isConnected())
+        m_hold->ask(*m_system);
     else
         connectToSystem();
 }
@@ -160,21 +161,23 @@ void DesktopSleepInhibitor::release()
     m_hold.reset();
 }
 
-// Connecting waits for the bus to answer, so that it is not done here. It is done again when the
-// bus was not there, or has gone.
+// Connecting waits for the bus to answer, so that it is not done here; nor is the connection asked
+// for by its name, which would wait as well. It is made again when there was no bus, or it has
+// gone.
 void DesktopSleepInhibitor::connectToSystem()
 {
     if (m_connecting)
         return;
-    m_connecting.reset(QThread::create([] {
+    m_system = std::make_shared<QDBusConnection>(QString());
+    m_connecting.reset(QThread::create([system = m_system] {
         QDBusConnection::disconnectFromBus(SystemBus);
-        QDBusConnection::connectToBus(QDBusConnection::SystemBus, SystemBus);
+        *system = QDBusConnection::connectToBus(QDBusConnection::SystemBus, SystemBus);
     }));
     QObject::connect(m_connecting.get(), &QThread::finished, &m_here, [this] {
         m_connecting->wait();
         m_connecting.reset();
         if (m_hold)
-            m_hold->ask();
+            m_hold->ask(*m_system);
     });
     m_connecting->start();
 }

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <memory>
 
+class QDBusConnection;
 class QThread;
 
 namespace tarvelo::platform {
@@ -27,7 +28,7 @@ public:
 
 // Asks the login service of the system to stay awake with the lid closed, or at least with it open;
 // without it, or when it refuses both, the desktop's portal. Going lets go, and so does the end of
-// the process, however it comes. Main thread only.
+// the process, however it comes. One in a process; main thread only.
 class DesktopSleepInhibitor final : public SleepInhibitor
 {
 public:
@@ -49,6 +50,8 @@ private:
     std::chrono::milliseconds m_patience;
     // Whoever answers late finds it gone.
     std::shared_ptr<Hold> m_hold;
+    // To the system's bus; whoever makes the connection owns it too until then.
+    std::shared_ptr<QDBusConnection> m_system;
     std::unique_ptr<QThread> m_connecting;
     QObject m_here;
 };

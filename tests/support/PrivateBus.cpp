@@ -8,7 +8,6 @@ namespace tarvelo::tests {
 namespace {
 
 constexpr int LongEnough = 20000; // milliseconds, for a machine that has other things to do
-constexpr char AddressVariable[] = "DBUS_SESSION_BUS_ADDRESS";
 
 bool write(const QString &path, const QString &text)
 {
@@ -18,8 +17,9 @@ bool write(const QString &path, const QString &text)
 
 } // namespace
 
-PrivateBus::PrivateBus()
-    : m_addressBefore(qgetenv(AddressVariable))
+PrivateBus::PrivateBus(Kind kind)
+    : m_variable(kind == Kind::Session ? "DBUS_SESSION_BUS_ADDRESS" : "DBUS_SYSTEM_BUS_ADDRESS")
+    , m_addressBefore(qgetenv(m_variable))
 {
     if (!writeConfiguration())
         return;
@@ -30,7 +30,7 @@ PrivateBus::PrivateBus()
                     QStringLiteral("--print-address")});
     if (m_daemon.waitForStarted(LongEnough) && m_daemon.waitForReadyRead(LongEnough))
         m_address = m_daemon.readLine().trimmed();
-    qputenv(AddressVariable, m_address);
+    qputenv(m_variable, m_address);
 }
 
 PrivateBus::~PrivateBus()
@@ -38,9 +38,9 @@ PrivateBus::~PrivateBus()
     m_daemon.kill();
     m_daemon.waitForFinished(LongEnough);
     if (m_addressBefore.isEmpty())
-        qunsetenv(AddressVariable);
+        qunsetenv(m_variable);
     else
-        qputenv(AddressVariable, m_addressBefore);
+        qputenv(m_variable, m_addressBefore);
 }
 
 bool PrivateBus::writeConfiguration() const

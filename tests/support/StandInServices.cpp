@@ -45,12 +45,13 @@ StandInService::~StandInService()
     QDBusConnection::disconnectFromBus(m_connectionName);
 }
 
-void StandInService::answer()
+bool StandInService::answer()
 {
     if (m_manner == Manner::Refuses)
         sendErrorReply(QDBusError::UnknownMethod, QStringLiteral("not here"));
     if (m_manner == Manner::KeepsSilent)
         setDelayedReply(true);
+    return m_manner == Manner::Answers;
 }
 
 StandInPortal::StandInPortal(const QString &busAddress, Manner manner)

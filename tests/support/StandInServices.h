@@ -27,7 +27,10 @@ public:
     bool isThere() const { return m_isThere; }
 
 protected:
-    void answer();
+    // Whether an answer is to be given; otherwise it has been refused, or the asker is kept
+    // waiting.
+    bool answer();
+    QDBusConnection bus() const { return QDBusConnection(m_connectionName); }
 
 private:
     QString m_connectionName;
