@@ -346,6 +346,11 @@ void AppDelegate::run(Command command)
     }
 }
 
+void AppDelegate::showHelp(QObject *sender)
+{
+    m_services.help.show(sender);
+}
+
 void AppDelegate::onShowPreferences(QObject *)
 {
     m_preferences.onShowPreferences();

@@ -3,6 +3,7 @@
 #include "app/Activation.h"
 #include "app/AppMenus.h"
 #include "app/DayPopover.h"
+#include "app/Help.h"
 #include "app/LoginItem.h"
 #include "app/Preferences.h"
 #include "app/Request.h"
@@ -53,6 +54,7 @@ struct AppServices
     const lectures::LectureWindows &windows;
     lectures::MediaLinksArrayController &mediaLinksArrayController;
     LoginItem loginItem;
+    Help help;
     ProcessFlags &flags;
 };
 
@@ -69,6 +71,7 @@ enum class TerminateReply { Cancel, Now };
 //   questions     isTarveloViewShowing, isRecordingNow, getTheDB, rows of the table
 //   widths        foldupList, delayFoldupList, cancelPreviousFoldingAction, onSlideWindow
 //   windows       openAtFront, onOpenWindow, terminate, setStatusBar
+//   help          handed on to Help
 //   preferences   handed on to Preferences
 class AppDelegate final : public QObject,
                           public calendar::CalendarDelegate,
@@ -146,6 +149,9 @@ public:
     const DayPopover &dayPopover() const { return m_dayPopover; }
 
     const std::vector<TaskbarEntry *> &taskbarEntries() const { return m_taskbarEntries; }
+
+    // -- Help: opens what the tag of the entry means.
+    void showHelp(QObject *sender);
 
     // -- Preferences
     const Preferences &preferences() const { return m_preferences; }

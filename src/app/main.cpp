@@ -105,7 +105,7 @@ int main(int argc, char **argv)
     app::AppDelegate delegate(
         {dates, defaults, alerts, windows, controller,
          app::LoginItem(app::LoginItem::standardFolder(), QApplication::applicationFilePath()),
-         flags});
+         app::Help(workspace, places.resources), flags});
 
     const app::WaysOut waysOut(application, delegate, controller);
     const app::DesktopService service;

@@ -19,12 +19,26 @@ QString musicFolder()
                : QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
 }
 
+// Beside the executable's folder, as every prefix has it; the build has the same two folders.
+QString resourcesFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/../share/Tarvelo"));
+}
+
 } // namespace
 
 Places Places::ofProcess()
 {
     return {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
-            QFileInfo(QCoreApplication::applicationFilePath()).fileName(), musicFolder()};
+            QFileInfo(QCoreApplication::applicationFilePath()).fileName(), musicFolder(),
+            resourcesFolder()};
+}
+
+QString pathForResource(const QString &resources, const QString &name, const QString &type)
+{
+    const QFileInfo file(QStringLiteral("%1/%2.%3").arg(resources, name, type));
+    return file.isFile() ? file.absoluteFilePath() : QString();
 }
 
 QString expandingTilde(const QString &path)

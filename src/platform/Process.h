@@ -10,11 +10,15 @@ struct Places
     QString applicationSupport; // $XDG_DATA_HOME, ~/.local/share
     QString processName;        // the executable's file name
     QString music = {};         // $XDG_MUSIC_DIR, which a desktop names in user-dirs.dirs
+    QString resources = {};     // files that were installed with the executable
 
     static Places ofProcess();
 };
 
 // `path` with a leading tilde replaced by the home folder.
 QString expandingTilde(const QString &path);
+
+// The file `name`.`type` of the program's resources, or nothing when it is not there.
+QString pathForResource(const QString &resources, const QString &name, const QString &type);
 
 } // namespace tarvelo::platform

@@ -57,4 +57,16 @@ void DesktopWorkspace::openFileWithApplication(const QString &path)
     open(path);
 }
 
+void DesktopWorkspace::openFile(const QString &path)
+{
+    open(path);
+}
+
+// An address with a scheme begins with a letter, so that the command cannot take it for an option.
+void DesktopWorkspace::openURL(const QUrl &url)
+{
+    if (url.isValid() && !url.scheme().isEmpty())
+        runDetached(QStringLiteral("xdg-open"), {QString::fromUtf8(url.toEncoded())});
+}
+
 } // namespace tarvelo::platform

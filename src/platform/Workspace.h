@@ -21,6 +21,10 @@ public:
     virtual void activateFileViewerSelectingURLs(const QList<QUrl> &urls) = 0;
     // Opens the file with the application that the user has chosen for its kind.
     virtual void openFileWithApplication(const QString &path) = 0;
+    // Shows a document in the viewer for its kind.
+    virtual void openFile(const QString &path) = 0;
+    // Opens an address with the application for its scheme: a web browser, a software store.
+    virtual void openURL(const QUrl &url) = 0;
 };
 
 // Asks the file manager over the session bus; without one that answers, the folder of the first
@@ -35,6 +39,8 @@ public:
 
     void activateFileViewerSelectingURLs(const QList<QUrl> &urls) override;
     void openFileWithApplication(const QString &path) override;
+    void openFile(const QString &path) override;
+    void openURL(const QUrl &url) override;
 
 private:
     std::chrono::milliseconds m_patience;

@@ -37,7 +37,7 @@ struct Application
         , delegate({dates, defaults, alerts, windows, controller,
                     app::LoginItem(home.places().applicationSupport + QStringLiteral("/autostart"),
                                    QStringLiteral("/usr/bin/Tarvelo")),
-                    flags})
+                    app::Help(workspace, home.places().resources), flags})
     {
     }
 

@@ -8,6 +8,7 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using tarvelo::platform::pathForResource;
 using tarvelo::platform::Places;
 using tarvelo::tests::EnvironmentVariable;
 
@@ -48,6 +49,30 @@ private Q_SLOTS:
     void withoutAnyWishMusicLiesInTheHome()
     {
         QCOMPARE(Places::ofProcess().music, m_home->filePath(u"Music"_s));
+    }
+
+    void whatWasInstalledWithTheProgramLiesBesideItsFolder()
+    {
+        const QDir prefix(QCoreApplication::applicationDirPath() + u"/.."_s);
+
+        QCOMPARE(Places::ofProcess().resources,
+                 QDir::cleanPath(prefix.filePath(u"share/Tarvelo"_s)));
+    }
+
+    void aResourceIsFoundByItsNameAndType()
+    {
+        writeSettings("");
+
+        QCOMPARE(pathForResource(m_home->path(), u"user-dirs"_s, u"dirs"_s),
+                 m_home->filePath(u"user-dirs.dirs"_s));
+    }
+
+    void aResourceThatIsNotThereIsNoPath()
+    {
+        QVERIFY(QDir(m_home->path()).mkdir(u"Folder.pdf"_s));
+
+        QCOMPARE(pathForResource(m_home->path(), u"Guide"_s, u"pdf"_s), QString());
+        QCOMPARE(pathForResource(m_home->path(), u"Folder"_s, u"pdf"_s), QString());
     }
 
 private:

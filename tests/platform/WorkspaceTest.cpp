@@ -201,7 +201,59 @@ private Q_SLOTS:
         QVERIFY(!hasAnythingRun());
     }
 
+    // -- Opening documents and addresses
+
+    void hostileNamesReachTheViewerUnchanged_data() { addHostileTexts(); }
+    void hostileNamesReachTheViewerUnchanged()
+    {
+        QFETCH(const QString, text);
+        const QString path = writeFile(text);
+
+        m_workspace.openFile(path);
+
+        QTRY_COMPARE(m_commands->callsOf(Command), oneCallWith(path));
+        QVERIFY(!hasAnythingRun());
+    }
+
+    void anAddressReachesTheApplicationForItsScheme_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::newRow("web page") << u"https://tarvelo.org/about/?a=b&c=d%20e#f"_s;
+        QTest::newRow("software store") << u"appstream://org.tarvelo.tarvelo"_s;
+        QTest::newRow("hostile") << u"https://tarvelo.org/$(touch%20RAN);'%60touch%20RAN%60'"_s;
+    }
+    void anAddressReachesTheApplicationForItsScheme()
+    {
+        QFETCH(const QString, address);
+
+        m_workspace.openURL(QUrl(address));
+
+        QTRY_COMPARE(m_commands->callsOf(Command), oneCallWith(address));
+        QVERIFY(!hasAnythingRun());
+    }
+
+    void whatIsNoAddressIsNotOpened()
+    {
+        m_workspace.openURL(QUrl());
+        m_workspace.openURL(QUrl(u"--version"_s));
+        m_workspace.openURL(QUrl(u"https://[tarvelo"_s, QUrl::StrictMode));
+        m_workspace.openURL(QUrl(u"https://tarvelo.org/"_s));
+
+        QTRY_COMPARE(m_commands->callsOf(Command), oneCallWith(u"https://tarvelo.org/"_s));
+    }
+
     // -- Silence
+
+    void anAddressThatCannotBeOpenedIsNotSpokenOf()
+    {
+        QVERIFY(m_commands->makeTalkative(Command, u"no application knows this address"_s));
+        const StderrCatcher catcher;
+
+        m_workspace.openURL(QUrl(u"https://tarvelo.org/"_s));
+
+        QTRY_COMPARE(m_commands->callsOf(Command).size(), 1);
+        QCOMPARE(catcher.caught(), QByteArray());
+    }
 
     void whatTheOpenerPrintsIsNotShown()
     {
@@ -221,6 +273,8 @@ private Q_SLOTS:
         const StderrCatcher catcher;
 
         m_workspace.openFileWithApplication(u"/music/1.m4a"_s);
+        m_workspace.openFile(u"/music/1.pdf"_s);
+        m_workspace.openURL(QUrl(u"https://tarvelo.org/"_s));
 
         QCOMPARE(catcher.caught(), QByteArray());
     }

@@ -12,9 +12,13 @@ class FakeWorkspace final : public platform::Workspace
 public:
     QList<QList<QUrl>> shown;
     QStringList opened;
+    QStringList documents;
+    QList<QUrl> addresses;
 
     void activateFileViewerSelectingURLs(const QList<QUrl> &urls) override { shown.append(urls); }
     void openFileWithApplication(const QString &path) override { opened.append(path); }
+    void openFile(const QString &path) override { documents.append(path); }
+    void openURL(const QUrl &url) override { addresses.append(url); }
 };
 
 } // namespace tarvelo::tests

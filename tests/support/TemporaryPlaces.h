@@ -14,7 +14,8 @@ class TemporaryPlaces final
 public:
     platform::Places places() const
     {
-        return {m_dir.path(), QStringLiteral("Tarvelo"), m_dir.filePath(QStringLiteral("Music"))};
+        return {m_dir.path(), QStringLiteral("Tarvelo"), m_dir.filePath(QStringLiteral("Music")),
+                m_dir.filePath(QStringLiteral("Resources"))};
     }
     QString folder() const { return m_dir.filePath(QStringLiteral("Tarvelo")); }
     QString databaseFile() const { return folder() + QStringLiteral("/TarveloInfo.db"); }
