@@ -9,19 +9,22 @@
 
 namespace {
 
-// Set for a child process of this test, which only says its word for notes.
-const char *const Asked = "TARVELO_TEST_SAYS_NOTES";
+// Set for a child process of this test, which only says its words for notes and for pasting.
+const char *const Asked = "TARVELO_TEST_SAYS_ITS_WORDS";
 
-int sayNotes()
+int sayWords()
 {
     tarvelo::platform::installTexts();
-    fputs(tarvelo::platform::text("LABEL_NOTES").toUtf8().constData(), stdout);
+    const QString words = tarvelo::platform::text("LABEL_NOTES") + u',' +
+                          QCoreApplication::translate("QLineEdit", "&Paste");
+    fputs(words.toUtf8().constData(), stdout);
     return 0;
 }
 
-// The word for notes that a student sees whose desktop sets these variables.
-QString notesWith(const QStringList &variables)
+// What a student sees whose desktop sets these variables.
+QStringList wordsWith(const QString &settings)
 {
+    const QStringList variables = settings.split(u' ', Qt::SkipEmptyParts);
     QProcess child;
     child.setProgram(QCoreApplication::applicationFilePath());
     QStringList environment = variables;
@@ -29,7 +32,8 @@ QString notesWith(const QStringList &variables)
     child.setEnvironment(environment);
     child.start();
     child.waitForFinished(-1);
-    return QString::fromUtf8(child.readAllStandardOutput() + child.readAllStandardError());
+    return QString::fromUtf8(child.readAllStandardOutput() + child.readAllStandardError())
+        .split(u',');
 }
 
 QString notesIn(const QString &language)
@@ -90,9 +94,35 @@ private Q_SLOTS:
         QFETCH(QString, variables);
         QFETCH(QString, language);
 
-        const QString shown = notesWith(variables.split(u' ', Qt::SkipEmptyParts));
+        const QStringList shown = wordsWith(variables);
 
-        QCOMPARE(shown, notesIn(language));
+        QCOMPARE(shown.first(), notesIn(language));
+    }
+
+    void theMenusOfTextFieldsSpeakTheLanguageOfTheProgram_data()
+    {
+        QTest::addColumn<QString>("variables");
+        QTest::addColumn<QString>("paste");
+
+        QTest::newRow("German") << "LANG=de_DE.UTF-8" << QStringLiteral("Einfügen");
+        QTest::newRow("Chinese") << "LANG=zh_CN.UTF-8" << QStringLiteral("粘贴(P)");
+        QTest::newRow("Brazil") << "LANG=pt_BR.UTF-8"
+                                << "Colar";
+        QTest::newRow("Portugal") << "LANG=pt_PT.UTF-8"
+                                  << "Colar";
+        QTest::newRow("a language only Qt knows") << "LANGUAGE=fi:de" << QStringLiteral("Einfügen");
+        QTest::newRow("neither knows") << "LANG=is_IS.UTF-8"
+                                       << "Paste";
+    }
+
+    void theMenusOfTextFieldsSpeakTheLanguageOfTheProgram()
+    {
+        QFETCH(QString, variables);
+        QFETCH(QString, paste);
+
+        const QStringList shown = wordsWith(variables);
+
+        QCOMPARE(QString(shown.last()).remove(u'&'), paste);
     }
 
     void aLanguageWithoutTextsIsShownInEnglish()
@@ -109,7 +139,7 @@ int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     if (qEnvironmentVariableIsSet(Asked))
-        return sayNotes();
+        return sayWords();
     TextsTest test;
     return QTest::qExec(&test, argc, argv);
 }
