@@ -27,7 +27,10 @@ FILES = {
     f"share/icons/hicolor/symbolic/apps/{ID}-symbolic.svg",
     *(f"share/icons/hicolor/{size}x{size}/apps/{ID}.png" for size in SIZES),
 }
-LANGUAGES = ["ar", "de"]
+TEXTS = os.path.join(os.path.dirname(__file__), "../../resources/texts")
+# The languages of the program but the one that stands without a name.
+LANGUAGES = sorted({os.path.splitext(name)[0].removeprefix("tarvelo_") for name in os.listdir(TEXTS)} - {"en"})
+LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
 
 
 def run(*command, **environment):
@@ -90,6 +93,15 @@ class InstalledTreeTest(unittest.TestCase):
                 self.assertNotIn(entry["Desktop Entry"][f"{key}[{language}]"], ("", entry["Desktop Entry"][key]))
             for action in ("new-lecture", "preferences"):
                 self.assertTrue(entry[f"Desktop Action {action}"][f"Name[{language}]"])
+
+    def test_the_description_speaks_the_users_language(self):
+        description = xml.etree.ElementTree.parse(self.path(DESCRIPTION)).getroot()
+
+        for paragraphs in (description.findall("summary"), description.findall("description/p")):
+            untranslated = [paragraph for paragraph in paragraphs if LANGUAGE not in paragraph.attrib]
+            self.assertEqual(sorted(LANGUAGES * len(untranslated)),
+                             sorted(paragraph.get(LANGUAGE) for paragraph in paragraphs if paragraph not in untranslated))
+            self.assertEqual(len(paragraphs), len({"".join(paragraph.itertext()) for paragraph in paragraphs}))
 
     def test_the_menu_entry_opens_no_kind_of_file(self):
         self.assertNotIn("MimeType", self.keys(MENU_ENTRY)["Desktop Entry"])
