@@ -223,6 +223,10 @@
         <source></source>
         <translation>Mes anterior</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Se está grabando una clase</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Eliminar</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>Mois précédent</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Un cours est en cours d’enregistrement</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Supprimer</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>החודש הקודם</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>הרצאה מוקלטת כעת</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>מחיקה</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>पिछला महीना</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>एक व्याख्यान रिकॉर्ड हो रहा है</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>हटाएँ</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>Mese precedente</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>È in corso la registrazione di una lezione</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Elimina</translation>

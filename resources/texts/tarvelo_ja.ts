@@ -223,6 +223,10 @@
         <source></source>
         <translation>前の月</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>講義を録音しています</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>削除</translation>

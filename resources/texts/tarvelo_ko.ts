@@ -223,6 +223,10 @@
         <source></source>
         <translation>이전 달</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>강의를 녹음하고 있습니다</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>삭제</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>Vorige maand</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Er wordt een college opgenomen</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Verwijderen</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>Poprzedni miesiąc</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Trwa nagrywanie wykładu</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Usuń</translation>

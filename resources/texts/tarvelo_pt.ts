@@ -223,6 +223,10 @@
         <source></source>
         <translation>Mês anterior</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Uma aula está sendo gravada</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Excluir</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>Предыдущий месяц</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Идёт запись лекции</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Удалить</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>Önceki ay</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Bir ders kaydediliyor</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Sil</translation>

@@ -223,6 +223,10 @@
         <source></source>
         <translation>Попередній місяць</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>Триває запис лекції</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>Видалити</translation>

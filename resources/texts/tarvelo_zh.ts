@@ -223,6 +223,10 @@
         <source></source>
         <translation>上个月</translation>
     </message>
+    <message id="REASON_RECORDING">
+        <source></source>
+        <translation>正在录制讲座</translation>
+    </message>
     <message id="ROW_DELETE">
         <source></source>
         <translation>删除</translation>
