@@ -167,6 +167,10 @@
         <source></source>
         <translation>RTL</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>حول Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>القائمة الكاملة</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>طي القائمة</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>الدليل</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>مساعدة</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>القائمة الرئيسية</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>برامج أخرى</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>عرض مجلد التسجيلات</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo في متجر البرامج</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>موقع Tarvelo على الويب</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Über Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Gesamte Liste</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Liste einklappen</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Anleitung</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Hilfe</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Hauptmenü</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Weitere Programme</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Aufnahmeordner zeigen</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo im Software-Katalog</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo im Web</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>About Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>All List</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Fold List</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Guide</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Help</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Main Menu</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>More Programs</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Show Recordings Folder</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo in the Software Store</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo on the Web</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Acerca de Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Lista completa</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Plegar la lista</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Guía</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Ayuda</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Menú principal</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Más programas</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Mostrar la carpeta de grabaciones</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo en la tienda de software</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo en la web</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>À propos de Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Liste complète</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Replier la liste</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Guide</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Aide</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Menu principal</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Autres programmes</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Afficher le dossier des enregistrements</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo dans la logithèque</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo sur le Web</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>RTL</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>אודות Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>הרשימה המלאה</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>קיפול הרשימה</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>המדריך</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>עזרה</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>תפריט ראשי</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>תוכנות נוספות</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>הצגת תיקיית ההקלטות</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo בחנות התוכנות</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo באינטרנט</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Tarvelo के बारे में</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>पूरी सूची</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>सूची समेटें</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>मार्गदर्शिका</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>सहायता</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>मुख्य मेन्यू</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>अन्य प्रोग्राम</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>रिकॉर्डिंग का फ़ोल्डर दिखाएँ</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>सॉफ़्टवेयर स्टोर में Tarvelo</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>वेब पर Tarvelo</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Informazioni su Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Elenco completo</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Comprimi elenco</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Guida</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Aiuto</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Menu principale</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Altri programmi</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Mostra la cartella delle registrazioni</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo nel negozio di software</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo sul web</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Tarvelo について</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>すべてのリスト</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>リストを折りたたむ</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>ガイド</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>ヘルプ</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>メインメニュー</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>その他のプログラム</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>録音フォルダーを表示</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>ソフトウェアストアの Tarvelo</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo のウェブページ</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Tarvelo 정보</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>전체 목록</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>목록 접기</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>안내서</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>도움말</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>기본 메뉴</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>다른 프로그램</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>녹음 폴더 보기</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>소프트웨어 스토어의 Tarvelo</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo 웹 페이지</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

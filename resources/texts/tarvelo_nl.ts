@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Over Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Volledige lijst</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Lijst inklappen</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Handleiding</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Help</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Hoofdmenu</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Meer programma’s</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Map met opnamen tonen</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo in de softwarewinkel</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo op het web</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

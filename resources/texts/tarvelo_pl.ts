@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>O programie Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Pełna lista</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Zwiń listę</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Przewodnik</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Pomoc</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Menu główne</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Inne programy</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Pokaż folder nagrań</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo w sklepie z oprogramowaniem</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo w sieci</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Acerca do Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Lista completa</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Recolher lista</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Guia</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Ajuda</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Menu principal</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Outros programas</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Mostrar a pasta de gravações</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo na loja de programas</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo na Web</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>О программе Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Весь список</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Свернуть список</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Руководство</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Справка</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Главное меню</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Другие программы</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Показать папку с записями</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo в магазине программ</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo в интернете</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

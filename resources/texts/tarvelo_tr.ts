@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Tarvelo hakkında</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Tüm liste</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Listeyi daralt</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Kılavuz</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Yardım</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Ana menü</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Diğer programlar</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Kayıt klasörünü göster</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Yazılım mağazasında Tarvelo</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Web’de Tarvelo</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>Про Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Увесь список</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>Згорнути список</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>Посібник</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>Довідка</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>Головне меню</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>Інші програми</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>Показати теку із записами</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>Tarvelo в магазині програм</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo в інтернеті</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

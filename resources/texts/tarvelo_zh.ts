@@ -167,6 +167,10 @@
         <source></source>
         <translation>LTR</translation>
     </message>
+    <message id="MENU_ABOUT">
+        <source></source>
+        <translation>关于 Tarvelo</translation>
+    </message>
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>完整列表</translation>
@@ -179,9 +183,21 @@
         <source></source>
         <translation>折叠列表</translation>
     </message>
+    <message id="MENU_GUIDE">
+        <source></source>
+        <translation>指南</translation>
+    </message>
+    <message id="MENU_HELP">
+        <source></source>
+        <translation>帮助</translation>
+    </message>
     <message id="MENU_MAIN">
         <source></source>
         <translation>主菜单</translation>
+    </message>
+    <message id="MENU_MORE_PROGRAMS">
+        <source></source>
+        <translation>更多程序</translation>
     </message>
     <message id="MENU_NEW_LECTURE">
         <source></source>
@@ -202,6 +218,14 @@
     <message id="MENU_SHOW_FOLDER">
         <source></source>
         <translation>显示录音文件夹</translation>
+    </message>
+    <message id="MENU_STORE_PAGE">
+        <source></source>
+        <translation>软件商店中的 Tarvelo</translation>
+    </message>
+    <message id="MENU_WEB_PAGE">
+        <source></source>
+        <translation>Tarvelo 网页</translation>
     </message>
     <message id="MSG_NO_AUDIO_FOR_LECTURE">
         <source></source>

@@ -39,7 +39,9 @@ AppDelegate::AppDelegate(const AppServices &services)
     , m_window(services.windows.mainWindow())
     , m_calendarView(*services.windows.mainOutlets().calendarView)
     , m_preferences(services.defaults, m_window, services.loginItem)
-    , m_menus(m_window, [this](Command command) { run(command); })
+    , m_menus(
+          m_window, [this](Command command) { run(command); },
+          [this](QAction *entry) { showHelp(entry); })
     , m_myStatusItem(m_menus.statusMenu(), text("TXT_TARVELO"))
     , m_activation(services.dates.clock())
     , m_showFirstWindow(services.dates.clock(), [this] { makeKeyAndOrderFront(m_window); })

@@ -1,5 +1,6 @@
 #include "app/AppMenus.h"
 
+#include "app/Help.h"
 #include "platform/Texts.h"
 
 #include <QAction>
@@ -48,9 +49,29 @@ QList<Entry> entries()
     };
 }
 
+struct HelpEntry
+{
+    int tag;
+    QString title;
+    QKeySequence shortcut;
+    bool beginsGroup;
+};
+
+QList<HelpEntry> helpEntries()
+{
+    return {
+        {Help::Guide, text("MENU_GUIDE"), Qt::Key_F1, false},
+        {Help::WebPage, text("MENU_WEB_PAGE"), {}, true},
+        {Help::StorePage, text("MENU_STORE_PAGE"), {}, false},
+        {Help::MorePrograms, text("MENU_MORE_PROGRAMS"), {}, false},
+        {Help::AboutPage, text("MENU_ABOUT"), {}, true},
+    };
+}
+
 } // namespace
 
-AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run)
+AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run,
+                   const std::function<void(QAction *)> &showHelp)
 {
     m_mainMenu.setObjectName(QStringLiteral("mainMenu"));
     m_statusMenu.setObjectName(QStringLiteral("statusMenu"));
@@ -66,8 +87,37 @@ AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run)
                                                                    : Qt::ApplicationShortcut);
         connect(action, &QAction::triggered, this, [run, command] { run(command); });
         m_actions[static_cast<std::size_t>(command)] = action;
+        if (command == Command::ShowPreferences)
+            addHelpMenu(showHelp);
     }
     mainWindow.addActions(m_mainMenu.actions());
+    mainWindow.addActions(m_helpMenu.actions());
+}
+
+void AppMenus::addHelpMenu(const std::function<void(QAction *)> &showHelp)
+{
+    m_helpMenu.setObjectName(QStringLiteral("helpMenu"));
+    m_helpMenu.setTitle(text("MENU_HELP"));
+    for (const HelpEntry &entry : helpEntries()) {
+        if (entry.beginsGroup)
+            m_helpMenu.addSeparator();
+        QAction *action = m_helpMenu.addAction(entry.title);
+        Help::setTag(*action, entry.tag);
+        action->setShortcut(entry.shortcut);
+        action->setShortcutContext(Qt::ApplicationShortcut);
+        connect(action, &QAction::triggered, this, [showHelp, action] { showHelp(action); });
+    }
+    m_mainMenu.addMenu(&m_helpMenu);
+}
+
+// The action that bears `tag`, or none.
+QAction *AppMenus::helpAction(int tag) const
+{
+    for (QAction *action : m_helpMenu.actions()) {
+        if (!action->isSeparator() && Help::tagOf(action) == tag)
+            return action;
+    }
+    return nullptr;
 }
 
 void AppMenus::openWithF10(QWidget &button)

@@ -35,18 +35,25 @@ class AppMenus final : public QObject
 public:
     // `run` hears of every command that is chosen. Shortcuts work in `mainWindow`, and those that
     // are not for one window only in the other windows too, while it is on the screen.
-    AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run);
+    // `showHelp` hears of every entry of the help menu, which bears its tag.
+    AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run,
+             const std::function<void(QAction *)> &showHelp);
 
     // F10 in the window of `button` opens the main menu under it, at its first command.
     void openWithF10(QWidget &button);
 
+    QAction *helpAction(int tag) const;
     QMenu &mainMenu() { return m_mainMenu; }
+    QMenu &helpMenu() { return m_helpMenu; }
     QMenu &statusMenu() { return m_statusMenu; }
     QAction *action(Command command) const { return m_actions[static_cast<std::size_t>(command)]; }
 
 private:
+    void addHelpMenu(const std::function<void(QAction *)> &showHelp);
+
     std::array<QAction *, static_cast<std::size_t>(Command::Count)> m_actions{};
     QMenu m_mainMenu;
+    QMenu m_helpMenu; // in the main menu
     QMenu m_statusMenu;
 };
 

@@ -11,16 +11,8 @@
 namespace tarvelo::app {
 
 namespace {
-
 constexpr const char *Tag = "tag";
-
-// What is no number counts as no tag.
-int tagOf(const QObject *sender)
-{
-    return sender ? sender->property(Tag).toInt() : Help::Guide;
 }
-
-} // namespace
 
 Help::Help(platform::Workspace &workspace, QString resources)
     : m_workspace(workspace)
@@ -31,6 +23,12 @@ Help::Help(platform::Workspace &workspace, QString resources)
 void Help::setTag(QObject &entry, int tag)
 {
     entry.setProperty(Tag, tag);
+}
+
+// What is no number counts as no tag.
+int Help::tagOf(const QObject *entry)
+{
+    return entry ? entry->property(Tag).toInt() : Guide;
 }
 
 // Menus that say the same thing in several places may tag each place apart: 2 and 4 lead where 1

@@ -29,6 +29,7 @@ public:
     void show(const QObject *sender) const;
 
     static void setTag(QObject &entry, int tag);
+    static int tagOf(const QObject *entry);
     static QString addressFor(int tag);
 
 private:

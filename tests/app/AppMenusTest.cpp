@@ -66,6 +66,50 @@ private Q_SLOTS:
         menu.close();
     }
 
+    void theHelpMenuLeadsToTheGuideAndOutside()
+    {
+        Application program;
+        QStringList titles;
+
+        for (const QAction *action : program.delegate.menus().helpMenu().actions())
+            titles << (action->isSeparator() ? QStringLiteral("-") : action->text());
+
+        QCOMPARE(titles.join(u'|'),
+                 QStringLiteral("Guide|-|Tarvelo on the Web|Tarvelo in the Software Store|"
+                                "More Programs|-|About Tarvelo"));
+    }
+
+    void anEntryOfTheHelpMenuOpensWhatItsTagMeans()
+    {
+        Application program;
+        QList<QUrl> wanted;
+
+        for (const int tag : {app::Help::WebPage, app::Help::StorePage, app::Help::MorePrograms,
+                              app::Help::AboutPage}) {
+            program.delegate.menus().helpAction(tag)->trigger();
+            wanted << QUrl(app::Help::addressFor(tag));
+        }
+
+        QCOMPARE(program.workspace.addresses, wanted);
+        QVERIFY(!program.delegate.menus().helpAction(2));
+    }
+
+    void f1OpensTheGuide()
+    {
+        Application program;
+        const QString resources = program.home.places().resources;
+        QVERIFY(QDir().mkpath(resources));
+        QVERIFY(QFile(resources + QStringLiteral("/Guide.pdf")).open(QIODevice::WriteOnly));
+        program.window().show();
+        program.window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&program.window()));
+
+        QTest::keyClick(&program.window(), Qt::Key_F1);
+
+        QCOMPARE(program.workspace.documents,
+                 QStringList{resources + QStringLiteral("/Guide.pdf")});
+    }
+
     void everyCommandHasATitle()
     {
         Application program;
