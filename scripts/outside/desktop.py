@@ -38,6 +38,11 @@ class Desktop:
         os.environ.clear()
         os.environ.update(self._before)
 
+    def program_folders(self):
+        """Those that the program made for itself, which are there after its first start."""
+        own = (os.path.join(os.environ[place], "Tarvelo") for place in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"))
+        return [folder for folder in own if os.path.exists(folder)]
+
     def screenshot(self, name):
         folder = os.path.join(self.folder, "screenshots")
         os.makedirs(folder, exist_ok=True)

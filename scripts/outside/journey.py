@@ -37,6 +37,7 @@ class Journey:
             self._start("first")
             self._record(before, paused, after)
             row = self._find_row(day)
+            self._expect_privacy()
             agreements = proof.audio(row, [before, after], [paused])
             self._tell("Audio: what was spoken is in it, correlation "
                        + " and ".join(f"{agreement:.4f}" for agreement in agreements)
@@ -54,6 +55,7 @@ class Journey:
             if not self._keeps:
                 self._delete(row)
             self._quit()
+            self._expect_privacy()
             self._program.expect_silence()
             self._tell("Tarvelo wrote nothing to its output")
         except Failed:
@@ -110,6 +112,10 @@ class Journey:
         self._hands.window_goes(window)
         self._hands.row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
         self._shot("saved", "The lecture is saved and stands in today's list")
+
+    def _expect_privacy(self):
+        count = proof.private(*self._desktop.program_folders())
+        self._tell(f"Whatever the user's umask: {count} files and folders of Tarvelo are for their user alone")
 
     def _find_row(self, day):
         row = proof.lecture(self._desktop.data, SUBJECT, NOTES, day)

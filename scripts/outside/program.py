@@ -24,7 +24,8 @@ class Program:
         output_path = os.path.join(self._desktop.folder, f"output-{which}.txt")
         self._outputs.append(output_path)
         with open(output_path, "wb") as output:
-            self._process = self._children.start(self._path, stdout=output, stderr=output)
+            # As of a careless user, so that what is private is so by the program's doing.
+            self._process = self._children.start(self._path, stdout=output, stderr=output, umask=0)
         self.hands.watch(self._process)
         self.hands.window(names.MAIN_WINDOW)
         self.hands.control(names.MAIN_WINDOW, names.NEW_LECTURE)

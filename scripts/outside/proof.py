@@ -2,6 +2,7 @@
 
 import os
 import sqlite3
+import stat
 
 from . import sound
 from .waiting import Failed
@@ -38,6 +39,19 @@ def lecture(data, subject, notes, day):
     if os.path.normpath(os.path.dirname(row["audioFileFullPath"])) != folder:
         raise Failed(f"the sound lies at {row['audioFileFullPath']!r}, not in {folder!r}")
     return row
+
+
+def private(*folders):
+    """All that the program left is for its user alone. Gives how many files and folders there are."""
+    found = []
+    for top in folders:
+        for root, _, names in os.walk(top):
+            found += [(root, 0o700)] + [(os.path.join(root, name), 0o600) for name in names]
+    for path, wanted in found:
+        mode = stat.S_IMODE(os.lstat(path).st_mode)
+        if mode != wanted:
+            raise Failed(f"{path} has the mode {mode:o} instead of {wanted:o}")
+    return len(found)
 
 
 def deleted(data, row):

@@ -23,11 +23,11 @@ QVariant UserDefaults::value(const QString &key) const
     return m_settings.value(key, m_registered.value(key));
 }
 
-// The settings' file is made for its user alone by what writes it; the folder would be by the
-// umask.
+// What writes the settings later keeps the mode of the file that it finds.
 void UserDefaults::setValue(const QString &key, const QVariant &value)
 {
     createFolderIfMissing(QFileInfo(m_settings.fileName()).path());
+    createFileIfMissing(m_settings.fileName());
     m_settings.setValue(key, value);
 }
 

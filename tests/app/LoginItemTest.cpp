@@ -1,5 +1,6 @@
 #include "app/LoginItem.h"
 
+#include "support/Modes.h"
 #include "support/TestCase.h"
 
 #include <QDir>
@@ -8,6 +9,9 @@
 
 using tarvelo::app::LoginItem;
 using tarvelo::app::quotedForExec;
+using tarvelo::tests::addUmasks;
+using tarvelo::tests::modeOf;
+using tarvelo::tests::Umask;
 
 class LoginItemTest final : public tarvelo::tests::TestCase
 {
@@ -29,6 +33,21 @@ private Q_SLOTS:
         QVERIFY(lines.contains("Exec=\"/opt/My Apps/Tarvelo\""));
         QVERIFY(lines.contains("Icon=org.tarvelo.Tarvelo"));
         QVERIFY(item.file().endsWith(QStringLiteral("/org.tarvelo.Tarvelo.desktop")));
+    }
+
+    void theEntryIsForItsUserAlone_data() { addUmasks(); }
+    void theEntryIsForItsUserAlone()
+    {
+        QFETCH(const mode_t, umask);
+        const Umask mask(umask);
+        const QTemporaryDir config;
+        LoginItem item(config.filePath(QStringLiteral("autostart")),
+                       QStringLiteral("/usr/bin/Tarvelo"));
+
+        item.setEnabled(true);
+
+        QCOMPARE(modeOf(item.file()), QStringLiteral("600"));
+        QCOMPARE(modeOf(config.filePath(QStringLiteral("autostart"))), QStringLiteral("700"));
     }
 
     void switchingOffRemovesTheEntry()

@@ -1,5 +1,6 @@
 #include "app/SingleInstance.h"
 
+#include "support/Modes.h"
 #include "support/TestCase.h"
 
 #include <QDir>
@@ -14,6 +15,9 @@
 
 using tarvelo::app::Request;
 using tarvelo::app::SingleInstance;
+using tarvelo::tests::addUmasks;
+using tarvelo::tests::modeOf;
+using tarvelo::tests::Umask;
 using namespace std::chrono_literals;
 
 namespace {
@@ -50,6 +54,19 @@ private Q_SLOTS:
         const SingleInstance first(runtime.path());
 
         QVERIFY(first.isFirst());
+    }
+
+    void whatLiesInTheRuntimeFolderIsForItsUserAlone_data() { addUmasks(); }
+    void whatLiesInTheRuntimeFolderIsForItsUserAlone()
+    {
+        QFETCH(const mode_t, umask);
+        const Umask mask(umask);
+        const QTemporaryDir runtime;
+
+        const SingleInstance first(runtime.path());
+
+        QCOMPARE(modeOf(runtime.filePath(QStringLiteral("tarvelo.lock"))), QStringLiteral("600"));
+        QVERIFY(modeOf(runtime.filePath(QStringLiteral("tarvelo.socket"))).endsWith(u"00"));
     }
 
     void aSecondStartAsksTheFirstToReopen()

@@ -3,6 +3,7 @@
 #include "platform/Dates.h"
 #include "platform/UserDefaults.h"
 #include "support/FakeClock.h"
+#include "support/Modes.h"
 #include "support/OrdinaryUser.h"
 #include "support/TestCase.h"
 
@@ -15,8 +16,12 @@
 using tarvelo::audio::AudioFileLocations;
 using tarvelo::platform::Dates;
 using tarvelo::platform::UserDefaults;
+using tarvelo::tests::addUmasks;
 using tarvelo::tests::FakeClock;
+using tarvelo::tests::modeOf;
 using tarvelo::tests::OrdinaryUser;
+using tarvelo::tests::setMode;
+using tarvelo::tests::Umask;
 
 namespace {
 
@@ -40,6 +45,31 @@ private Q_SLOTS:
 
         QCOMPARE(m_locations->temporaryBasePath(), path("Notes/temp/tempAudioFile"));
         QVERIFY(QFileInfo(path("Notes/temp")).isDir());
+    }
+
+    void theFoldersAreForTheirUserAlone_data() { addUmasks(); }
+    void theFoldersAreForTheirUserAlone()
+    {
+        QFETCH(const mode_t, umask);
+        const Umask mask(umask);
+
+        m_locations->createFolders();
+        m_locations->getAudioFolderPath();
+
+        for (const char *folder :
+             {"Notes", "Notes/temp", "Notes/Audio", "Tarvelo", "Tarvelo/Audio"})
+            QCOMPARE(modeOf(path(folder)), QStringLiteral("700"));
+    }
+
+    void foldersOfAnEarlierVersionBecomeTheirUsersAlone()
+    {
+        for (const char *folder : {"Notes", "Tarvelo"})
+            QVERIFY(QDir().mkdir(path(folder)) && setMode(path(folder), 0755));
+
+        m_locations->createFolders();
+
+        QCOMPARE(modeOf(path("Notes")), QStringLiteral("700"));
+        QCOMPARE(modeOf(path("Tarvelo")), QStringLiteral("700"));
     }
 
     void theFoldersOfTheProcessAreBothMadeAndTheProductsIsNot()

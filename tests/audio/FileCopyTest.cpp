@@ -1,6 +1,7 @@
 #include "audio/FileCopy.h"
 
 #include "audio/engine/SmallDisk.h"
+#include "support/Modes.h"
 #include "support/OrdinaryUser.h"
 #include "support/TestCase.h"
 
@@ -15,8 +16,12 @@
 
 using namespace Qt::StringLiterals;
 using tarvelo::audio::FileCopy;
+using tarvelo::tests::addUmasks;
+using tarvelo::tests::modeOf;
 using tarvelo::tests::OrdinaryUser;
+using tarvelo::tests::setMode;
 using tarvelo::tests::SmallDisk;
+using tarvelo::tests::Umask;
 
 namespace {
 
@@ -37,6 +42,20 @@ private Q_SLOTS:
 
         QCOMPARE(m_ends, 1);
         QVERIFY(contentOf(m_target) == content);
+    }
+
+    void aCopyIsForItsUserAlone_data() { addUmasks(); }
+    void aCopyIsForItsUserAlone()
+    {
+        QFETCH(const mode_t, umask);
+        const Umask mask(umask);
+        writeSource(1000);
+        QVERIFY(setMode(m_source, 0644));
+
+        copy().start();
+
+        QCOMPARE(m_ends, 1);
+        QCOMPARE(modeOf(m_target), u"600"_s);
     }
 
     void anEmptyFileIsCopiedToo()

@@ -5,6 +5,7 @@
 #include "support/EnvironmentVariable.h"
 #include "support/FakeMailComposer.h"
 #include "support/FakeWorkspace.h"
+#include "support/Modes.h"
 #include "support/StandInPlayers.h"
 #include "support/TestCase.h"
 
@@ -20,8 +21,12 @@ using tarvelo::audio::SharingAndExport;
 using tarvelo::platform::plainText;
 using tarvelo::platform::StyledText;
 using tarvelo::store::LectureInfoItem;
+using tarvelo::tests::addUmasks;
 using tarvelo::tests::FakeMailComposer;
 using tarvelo::tests::FakeWorkspace;
+using tarvelo::tests::modeOf;
+using tarvelo::tests::setMode;
+using tarvelo::tests::Umask;
 
 class SharingAndExportTest final : public tarvelo::tests::TestCase
 {
@@ -87,6 +92,22 @@ private Q_SLOTS:
         const QString target = exported(u"Tarvelo - 20240305090000.m4a"_s);
         QCOMPARE(contentOf(target), QByteArray("sound"));
         QCOMPARE(m_workspace.opened, QStringList{target});
+    }
+
+    void aCopyIsForItsUserAloneAndTheLibraryStaysAsItIs_data() { addUmasks(); }
+    void aCopyIsForItsUserAloneAndTheLibraryStaysAsItIs()
+    {
+        QFETCH(const mode_t, umask);
+        const Umask mask(umask);
+        const QString library = m_dir->filePath(u"Music"_s);
+        QVERIFY(QDir().mkdir(library) && setMode(library, 0755));
+
+        m_sharing->onExportToiTunes(lectureAt(writeRecording(u"Audio - 1.m4a"_s, "sound")));
+
+        QCOMPARE(modeOf(exported(u"Tarvelo - 1.m4a"_s)), u"600"_s);
+        QCOMPARE(modeOf(exported(QString())), u"700"_s);
+        QCOMPARE(modeOf(library + u"/Tarvelo"_s), u"700"_s);
+        QCOMPARE(modeOf(library), u"755"_s);
     }
 
     // The file system takes two slashes for one, a library that compares paths does not.

@@ -106,6 +106,19 @@ class ProofTest(unittest.TestCase):
             database.execute("INSERT INTO audioData VALUES ('a', 'b', '2024-03-05', '', '00:00:01')")
         self.assertRaises(Failed, proof.deleted, self.folder, row)
 
+    def test_what_others_can_read_is_noticed(self):
+        kept = self.path("Tarvelo")
+        os.mkdir(kept, 0o700)
+        file = os.path.join(kept, "TarveloInfo.db")
+        os.close(os.open(file, os.O_CREAT | os.O_WRONLY, 0o600))
+        self.assertEqual(2, proof.private(kept))
+
+        os.chmod(file, 0o640)
+        self.assertRaises(Failed, proof.private, kept)
+        os.chmod(file, 0o600)
+        os.chmod(kept, 0o755)
+        self.assertRaises(Failed, proof.private, kept)
+
     def test_a_row_is_recognised_and_a_wrong_one_is_noticed(self):
         os.makedirs(self.path("Tarvelo"))
         with sqlite3.connect(self.path("Tarvelo/TarveloInfo.db")) as database:

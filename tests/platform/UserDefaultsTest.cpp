@@ -1,11 +1,15 @@
 #include "platform/UserDefaults.h"
 
+#include "support/Modes.h"
 #include "support/TestCase.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
 using tarvelo::platform::UserDefaults;
+using tarvelo::tests::addUmasks;
+using tarvelo::tests::modeOf;
+using tarvelo::tests::Umask;
 
 class UserDefaultsTest final : public tarvelo::tests::TestCase
 {
@@ -47,6 +51,21 @@ private Q_SLOTS:
 
         QVERIFY(QFile::exists(file()));
         QVERIFY(UserDefaults(file()).boolForKey(QStringLiteral("windowOnTop")));
+    }
+
+    void theSettingsAreForTheirUserAlone_data() { addUmasks(); }
+    void theSettingsAreForTheirUserAlone()
+    {
+        QFETCH(const mode_t, umask);
+        const Umask mask(umask);
+
+        UserDefaults defaults(file());
+        defaults.setValue(QStringLiteral("windowOnTop"), true);
+        defaults.synchronize();
+
+        QCOMPARE(modeOf(file()), QStringLiteral("600"));
+        QCOMPARE(modeOf(m_folder->filePath(QStringLiteral("some/where"))), QStringLiteral("700"));
+        QCOMPARE(modeOf(m_folder->filePath(QStringLiteral("some"))), QStringLiteral("700"));
     }
 
     void registeredDefaultsAreNeverWritten()

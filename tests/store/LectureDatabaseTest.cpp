@@ -3,6 +3,7 @@
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
 #include "support/LectureBuilder.h"
+#include "support/Modes.h"
 #include "support/TemporaryPlaces.h"
 #include "support/TestCase.h"
 
@@ -12,8 +13,11 @@
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::store;
+using tarvelo::tests::addUmasks;
 using tarvelo::tests::aLecture;
+using tarvelo::tests::modeOf;
 using tarvelo::tests::TemporaryPlaces;
+using tarvelo::tests::Umask;
 
 class LectureDatabaseTest final : public tarvelo::tests::TestCase
 {
@@ -29,6 +33,23 @@ private Q_SLOTS:
         QCOMPARE(m_database->openDb()->filePath(), m_places->databaseFile());
         QVERIFY(QFileInfo::exists(m_places->databaseFile()));
         QCOMPARE(QFileInfo(m_places->databaseFile()).size(), 0);
+    }
+
+    void theDatabaseAndItsJournalAreForTheirUserAlone_data() { addUmasks(); }
+    void theDatabaseAndItsJournalAreForTheirUserAlone()
+    {
+        QFETCH(const mode_t, umask);
+        const Umask mask(umask);
+        aLecture().insertInto(*m_database);
+
+        // The journal stands while a change has not been brought to its end.
+        QVERIFY(m_database->openDb()->beginTransaction());
+        QVERIFY(m_database->openDb()->executeNonQuery(u"update audioData set subject = 'x'"_s));
+
+        QCOMPARE(modeOf(m_places->databaseFile() + u"-journal"_s), u"600"_s);
+        QCOMPARE(modeOf(m_places->databaseFile()), u"600"_s);
+        QCOMPARE(modeOf(m_places->folder()), u"700"_s);
+        QVERIFY(m_database->openDb()->rollback());
     }
 
     void theFolderLiesUnderTheHomeFolderWhenThePathStartsWithATilde()
