@@ -1,4 +1,4 @@
-"""Tests wait for states and always run; every source file is built."""
+"""Tests wait for states and always run; every source file is built; folders are made in one way."""
 
 import os
 import re
@@ -8,6 +8,8 @@ from RuleTest import RuleTest
 
 SLEEP = re.compile(r"\b(qWait|qSleep|sleep_for|sleep_until|nanosleep|usleep|msleep|sleep)\s*\(")
 SKIP = re.compile(r"\b(QSKIP|GTEST_SKIP)\b")
+# Also the modes of everything that the process makes, which the programs started from it would take over.
+OWN_FOLDERS = re.compile(r"\b(mkpath|mkdir|mkdirat|create_directory|create_directories|umask)\s*\(")
 DISABLED = re.compile(r"\b(DISABLED|SKIP_RETURN_CODE|SKIP_REGULAR_EXPRESSION)\b")
 
 
@@ -20,6 +22,12 @@ def tests_always_run(tree):
     skipped = [f"{path} skips a test" for path in tree.files("tests", ".cpp", ".h") if SKIP.search(tree.code(path))]
     return skipped + [f"{path} switches a test off" for path in tree.files("tests", "CMakeLists.txt")
                       if DISABLED.search(tree.text(path))]
+
+
+def folders_are_private(tree):
+    return [f"{path} calls {match[1]}: folders are made by platform/PrivateFiles"
+            for path in tree.files("src", ".cpp", ".h") for match in OWN_FOLDERS.finditer(tree.code(path))
+            if path != "src/platform/PrivateFiles.cpp"]
 
 
 def unrolled(listing):
@@ -79,6 +87,14 @@ class ConductTest(RuleTest):
         self.assertComplains(tests_always_run, {"tests/ATest.cpp": 'QSKIP("no");'}, "ATest.cpp")
         listing = "set_tests_properties(ATest PROPERTIES DISABLED TRUE)"
         self.assertComplains(tests_always_run, {"tests/CMakeLists.txt": listing}, "switches")
+
+    def test_folders_are_private(self):
+        self.assertHolds(folders_are_private)
+
+    def test_a_folder_made_another_way_is_found(self):
+        for line in ("QDir().mkpath(folder);", "std::filesystem::create_directories(folder);", "umask(0);"):
+            self.assertComplains(folders_are_private, {"src/store/A.cpp": line}, "store/A.cpp")
+        self.assertAccepts(folders_are_private, {"src/platform/PrivateFiles.cpp": "::mkdir(folder, 0700);"})
 
     def test_every_source_is_listed(self):
         self.assertHolds(sources_are_listed)
