@@ -1,6 +1,8 @@
 #include "platform/Workspace.h"
 
 #include "support/HostileTexts.h"
+#include "support/Modes.h"
+#include "support/OrdinaryUser.h"
 #include "support/PrivateBus.h"
 #include "support/StandInCommands.h"
 #include "support/StandInPlayers.h"
@@ -15,7 +17,10 @@ using namespace std::chrono_literals;
 using tarvelo::platform::DesktopWorkspace;
 using tarvelo::tests::addHostileTexts;
 using tarvelo::tests::hasAnythingRun;
+using tarvelo::tests::modeOf;
+using tarvelo::tests::OrdinaryUser;
 using tarvelo::tests::PrivateBus;
+using tarvelo::tests::setMode;
 using tarvelo::tests::StandInCommands;
 using tarvelo::tests::StandInFileManager;
 using tarvelo::tests::StandInPlayers;
@@ -120,6 +125,19 @@ private Q_SLOTS:
         QTRY_COMPARE(m_commands->callsOf(Command), oneCallWith(m_folder->path()));
     }
 
+    // Whether it can be opened is the opener's to say.
+    void aFolderThatIsGoneIsHandedToTheOpenerAllTheSame()
+    {
+        const QString folder = m_folder->filePath(u"gone"_s);
+        const StderrCatcher catcher;
+
+        m_workspace.activateFileViewerSelectingURLs({QUrl::fromLocalFile(folder + u"/1.m4a"_s)});
+
+        QTRY_COMPARE(m_commands->callsOf(Command), oneCallWith(folder));
+        QCOMPARE(catcher.caught(), QByteArray());
+        QVERIFY(!QFileInfo::exists(folder));
+    }
+
     void theFolderOfRecordingsItselfIsOpened()
     {
         m_workspace.activateFileViewerSelectingURLs({QUrl::fromLocalFile(m_folder->path() + u'/')});
@@ -178,6 +196,34 @@ private Q_SLOTS:
         m_workspace.openFileWithApplication(u"/music/gone.m4a"_s);
 
         QTRY_COMPARE(m_commands->callsOf(Command), oneCallWith(u"/music/gone.m4a"_s));
+    }
+
+    void aFileThatCannotBeReadIsHandedToTheOpenerAndStaysSo()
+    {
+        const QString path = writeFile(u"Audio - 1.m4a"_s);
+        QVERIFY(setMode(path, 0000));
+        const OrdinaryUser user;
+        QVERIFY(!QFile(path).open(QIODevice::ReadOnly));
+        const StderrCatcher catcher;
+
+        m_workspace.openFileWithApplication(path);
+
+        QTRY_COMPARE(m_commands->callsOf(Command), oneCallWith(path));
+        QCOMPARE(modeOf(path), u"0"_s);
+        QCOMPARE(catcher.caught(), QByteArray());
+    }
+
+    void aFileThatCannotBeReadIsShownAllTheSame()
+    {
+        const StandInFileManager manager(m_bus->address());
+        const QString path = writeFile(u"Audio - 1.m4a"_s);
+        QVERIFY(setMode(path, 0000));
+        const OrdinaryUser user;
+
+        m_workspace.activateFileViewerSelectingURLs({QUrl::fromLocalFile(path)});
+
+        QTRY_COMPARE(manager.showings.size(), 1);
+        QCOMPARE(QUrl(manager.showings.first().addresses.value(0)).toLocalFile(), path);
     }
 
     void everyKindOfSoundFileOpensInTheUsersPlayer_data()
