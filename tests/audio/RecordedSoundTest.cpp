@@ -3,6 +3,7 @@
 #include "support/DecodedAudio.h"
 #include "support/PrivateSoundServer.h"
 #include "support/RecordingStage.h"
+#include "support/StderrCatcher.h"
 #include "support/TestCase.h"
 #include "support/TestSound.h"
 
@@ -97,6 +98,26 @@ private Q_SLOTS:
         QVERIFY(!m_stage->takeIsThere());
         QCOMPARE(label(), QStringLiteral("00:00:00"));
         QCOMPARE(lookOf(m_stage->window.btnStopRecord), QStringLiteral("play/playH/Play"));
+    }
+
+    void aMicrophoneThatIsRefusedUsLetsTheControlsGoThroughATake()
+    {
+        QVERIFY(m_server->start());
+        QVERIFY(m_server->lockUsOut());
+        const StderrCatcher catcher;
+
+        m_stage->start();
+        QVERIFY(m_stage->control.recording());
+        QVERIFY(!m_stage->control.hasRecorder());
+        QVERIFY(!m_stage->sleep.isHeld);
+        QCOMPARE(nextLength(), QString());
+        m_stage->pressStop();
+        m_stage->clock.advance(500ms);
+
+        QVERIFY(!m_stage->takeIsThere());
+        QCOMPARE(label(), QStringLiteral("00:00:00"));
+        QCOMPARE(lookOf(m_stage->window.btnStopRecord), QStringLiteral("play/playH/Play"));
+        QCOMPARE(catcher.caught(), QByteArray());
     }
 
     void aFolderThatCannotBeWrittenLeavesTheControlsWorking()

@@ -4,11 +4,39 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
 namespace tarvelo::tests {
 
 namespace {
 
+constexpr char CookieVariable[] = "PULSE_COOKIE";
+constexpr qsizetype CookieSize = 256;
 constexpr int LongEnough = 20000; // milliseconds, for a machine that has other things to do
+
+// One that nobody listens at, as of now; 0 when there is none.
+int freePort()
+{
+    const int probe = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in place{};
+    place.sin_family = AF_INET;
+    place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof place;
+    auto *const address = reinterpret_cast<sockaddr *>(&place);
+    const bool isFound =
+        ::bind(probe, address, size) == 0 && ::getsockname(probe, address, &size) == 0;
+    ::close(probe);
+    return isFound ? ntohs(place.sin_port) : 0;
+}
+
+bool writeCookie(const QString &path, char content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) &&
+           file.write(QByteArray(CookieSize, content)) == CookieSize;
+}
 
 QByteArray answerOf(const QStringList &question)
 {
@@ -35,6 +63,7 @@ void end(QProcess &process)
 
 PrivateSoundServer::PrivateSoundServer()
     : m_serverBefore(qgetenv("PULSE_SERVER"))
+    , m_cookieBefore(qgetenv(CookieVariable))
 {
     announce();
 }
@@ -51,6 +80,10 @@ PrivateSoundServer::~PrivateSoundServer()
         qunsetenv("PULSE_SERVER");
     else
         qputenv("PULSE_SERVER", m_serverBefore);
+    if (m_cookieBefore.isEmpty())
+        qunsetenv(CookieVariable);
+    else
+        qputenv(CookieVariable, m_cookieBefore);
 }
 
 bool PrivateSoundServer::writeScript(const Options &options) const
@@ -155,6 +188,27 @@ bool PrivateSoundServer::pullOutMicrophone()
     answerOf({QStringLiteral("unload-module"), QStringLiteral("module-remap-source")});
     return waitUntil({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sources")},
                      "^(?!.*microphone)");
+}
+
+// Over a socket of the file system whoever starts a server is let in; over a network a cookie
+// counts.
+bool PrivateSoundServer::lockUsOut()
+{
+    const int port = freePort();
+    const QString theirs = m_folder.filePath(QStringLiteral("server.cookie"));
+    const QString ours = m_folder.filePath(QStringLiteral("our.cookie"));
+    if (!writeCookie(theirs, 's') || !writeCookie(ours, 'o') ||
+        answerOf({QStringLiteral("load-module"), QStringLiteral("module-native-protocol-tcp"),
+                  QStringLiteral("listen=127.0.0.1"), QStringLiteral("port=%1").arg(port),
+                  QStringLiteral("auth-cookie=") + theirs})
+            .isEmpty())
+        return false;
+    const QStringList question{QStringLiteral("info")};
+    qputenv("PULSE_SERVER", "tcp:127.0.0.1:" + QByteArray::number(port));
+    qputenv(CookieVariable, QFile::encodeName(theirs));
+    const bool letsOthersIn = !answerOf(question).isEmpty();
+    qputenv(CookieVariable, QFile::encodeName(ours));
+    return letsOthersIn && answerOf(question).isEmpty();
 }
 
 bool PrivateSoundServer::plugInMicrophone()

@@ -37,6 +37,9 @@ public:
     // Returns when sound flows through the microphone.
     bool start() { return start(Options()); }
     bool start(const Options &options);
+    // Once it runs: from now on this process and its children find it at a door that lets nobody in
+    // without the server's own cookie, and have another.
+    bool lockUsOut();
     // Ends the server at once, as a crash would.
     void kill();
     bool pullOutMicrophone();
@@ -57,6 +60,7 @@ private:
 
     QTemporaryDir m_folder;
     QByteArray m_serverBefore;
+    QByteArray m_cookieBefore;
     QProcess m_server;
     std::vector<std::unique_ptr<QProcess>> m_helpers;
     std::unique_ptr<QProcess> m_speaker;

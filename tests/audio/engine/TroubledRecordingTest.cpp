@@ -49,6 +49,15 @@ private Q_SLOTS:
         verifyThatNothingIsPrepared();
     }
 
+    void aServerThatRefusesUsIsGivenUp()
+    {
+        PrivateSoundServer strict;
+        QVERIFY(strict.start());
+        QVERIFY(strict.lockUsOut());
+
+        verifyThatNothingIsPrepared();
+    }
+
     void whereNothingCanBeWrittenNothingIsPrepared()
     {
         QVERIFY(startServer());
