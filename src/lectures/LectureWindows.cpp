@@ -63,11 +63,30 @@ void giveMargins(QLineEdit &field, QTextEdit &notes)
     notes.document()->setDocumentMargin(8);
 }
 
-// Room between the edge and a title that may be long.
+// Room between the edge and a title that may be long, or large.
 void giveRoomToTitle(ImageButton &button)
 {
-    const int title = button.fontMetrics().horizontalAdvance(button.text());
-    button.setMinimumWidth(std::max(button.minimumWidth(), title + 28));
+    const QSize title = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
+    button.setMinimumSize(button.minimumSize().expandedTo(title + QSize(28, 8)));
+}
+
+// What the lecture view offers for the titles of the buttons under the notes.
+constexpr int WidthOfTitles = 340;
+
+// Titles that are too long to stand beside each other get two rows: what slides above what ends.
+void breakLongRow(const Ui::LectureView &ui)
+{
+    const int sliding =
+        std::max(ui.btnSlidetoView->minimumWidth(), ui.btnSlideToListView->minimumWidth());
+    const int ending =
+        ui.btnCloseLectureView->minimumWidth() + ui.btnDoneEditLecture->minimumWidth();
+    if (sliding + ending <= WidthOfTitles)
+        return;
+    auto *above = new QHBoxLayout;
+    above->addWidget(ui.btnSlidetoView);
+    above->addWidget(ui.btnSlideToListView);
+    above->addStretch();
+    ui.lectureViewLayout->insertLayout(ui.lectureViewLayout->count() - 1, above);
 }
 
 // A hidden control keeps its room, so that nothing moves when it comes back.
@@ -199,8 +218,10 @@ void LectureWindows::buildLectureView()
     ui.tSubjectName->setEditable(false);
     ui.tSubjectName->setBordered(false);
     ui.tSubjectName->setDrawsBackground(false);
-    giveRoomToTitle(*ui.btnSlidetoView);
-    giveRoomToTitle(*ui.btnSlideToListView);
+    for (ImageButton *button :
+         {ui.btnSlidetoView, ui.btnSlideToListView, ui.btnCloseLectureView, ui.btnDoneEditLecture})
+        giveRoomToTitle(*button);
+    breakLongRow(ui);
     keepContentInSight(*m_main.editPlayView);
 }
 
@@ -210,6 +231,9 @@ void LectureWindows::buildNewLectureWindow()
     setLightPalette(*m_newNoteWindow);
     Ui::NewLectureWindow ui;
     ui.setupUi(m_newNoteWindow.get());
+    for (ImageButton *button :
+         {ui.BtnDoneOrClose, ui.btnCloseNewLecture, ui.BtnCancelAddNewLecture})
+        giveRoomToTitle(*button);
     m_newLecture = {m_newNoteWindow.get(),
                     ui.txtSubjectForNewNote,
                     ui.txtView,

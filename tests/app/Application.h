@@ -25,8 +25,8 @@ namespace tarvelo::tests {
 // and at a time of its own. Each one is a process of its own as far as its flags go.
 struct Application
 {
-    Application()
-        : dates(clock, {"en_US", QStringLiteral("UTC")})
+    explicit Application(const QByteArray &locale = "en_US")
+        : dates(clock, {locale, QStringLiteral("UTC")})
         , settingsFile(home.places().applicationSupport + QStringLiteral("/Tarvelo.conf"))
         , defaults(settingsFile)
         , database(home.places())
