@@ -13,7 +13,9 @@ SCREEN = "1440x900x24"
 class Desktop:
     """Within it, os.environ is the environment of a fresh user who sits before a virtual screen."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, *of_screen):
+        """More options of the screen may follow."""
+        self._of_screen = of_screen
         self.folder = os.path.abspath(folder)
         self.data = os.path.join(self.folder, "data")
         self._children = Children()
@@ -76,7 +78,7 @@ class Desktop:
     def _start_screen(self):
         reading, writing = os.pipe()
         self._screen = self._children.start("Xvfb", "-displayfd", str(writing), "-screen", "0", SCREEN,
-                                            "-nolisten", "tcp", "-noreset", pass_fds=[writing])
+                                            "-nolisten", "tcp", "-noreset", *self._of_screen, pass_fds=[writing])
         os.close(writing)
         with os.fdopen(reading) as pipe:
             os.environ["DISPLAY"] = ":" + pipe.readline().strip()

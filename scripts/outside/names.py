@@ -27,4 +27,5 @@ NO_LECTURES = "No lectures on this day"
 # In the menu of a row, from its upper end round to its lower one.
 SHOW_FILE_KEYS = ("Up", "Up", "Return")
 SHARE_KEYS = ("Up", "Return")
+GUIDE_KEYS = "F1"
 QUIT_KEYS = "ctrl+q"

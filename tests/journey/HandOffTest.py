@@ -70,9 +70,18 @@ class HandOffTest(unittest.TestCase):
         with open(path, encoding="utf-8") as file:
             return json.load(file)
 
-    def test_a_row_is_mailed_and_shown(self):
+    def stand_in_for_the_viewer(self):
+        """Found first on the path, it writes down the file that it is to show."""
+        path = os.path.join(self.folder, "xdg-open")
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(f'#!/bin/sh\nprintf \'["%s"]\' "$*" > "{self.records}/part" && mv "{self.records}/part" "{self.records}/open.json"\n')
+        os.chmod(path, 0o755)
+        os.environ["PATH"] = self.folder + os.pathsep + os.environ["PATH"]
+
+    def test_a_row_is_mailed_and_shown_and_the_guide_too(self):
         from outside.program import Program  # finds its bus in the environment, which stands only now
 
+        self.stand_in_for_the_viewer()
         program = Program(PROGRAM, self.desktop)
         self.addCleanup(program.stop)
         program.start("first")
@@ -81,6 +90,8 @@ class HandOffTest(unittest.TestCase):
         mail = self.record("mail-0.json")
         program.hands.choose(names.MAIN_WINDOW, names.LECTURES, SUBJECT, names.SHOW_FILE_KEYS)
         shown = self.record("show-0.json")
+        program.hands.press(names.MAIN_WINDOW, names.GUIDE_KEYS)
+        guide = self.record("open.json")
         program.quit()
 
         self.assertEqual(mail["options"], {"body": f"{SUBJECT}\n\n{NOTES}\n_"})
@@ -89,6 +100,8 @@ class HandOffTest(unittest.TestCase):
         addresses = [urllib.parse.unquote(address) for address in shown["addresses"]]
         self.assertEqual(addresses, [f"file://{self.home}/Audio/{NAME}"])
         self.assertFalse(os.path.exists("RAN"))
+        self.assertEqual(guide, [os.path.normpath(os.path.join(PROGRAM, "../../share/Tarvelo/Guide.pdf"))])
+        self.assertTrue(os.path.isfile(guide[0]))
         program.expect_silence()
 
 

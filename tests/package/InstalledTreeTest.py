@@ -21,6 +21,7 @@ FILES = {
     MENU_ENTRY,
     SERVICE,
     DESCRIPTION,
+    GUIDE,
     "share/doc/Tarvelo/LICENSE",
     "share/man/man1/Tarvelo.1",
     f"share/icons/hicolor/scalable/apps/{ID}.svg",
@@ -67,7 +68,7 @@ class InstalledTreeTest(unittest.TestCase):
 
     def test_these_files_are_installed_and_no_others(self):
         self.assertEqual(self.installed.returncode, 0, self.installed.stderr)
-        self.assertEqual(FILES, files_below(self.tree) - {GUIDE})
+        self.assertEqual(FILES, files_below(self.tree))
         self.assertEqual(["usr"], os.listdir(self._folder))
 
     def test_everybody_may_read_and_only_the_program_runs(self):
