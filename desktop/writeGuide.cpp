@@ -39,6 +39,19 @@ QString contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+// What ends a page would push the top of the next one down by the margin below it.
+void beginPagesAtTheirTop(const QTextDocument &document)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (!(block.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore))
+            continue;
+        QTextCursor before(block.previous());
+        QTextBlockFormat format;
+        format.setBottomMargin(0);
+        before.mergeBlockFormat(format);
+    }
+}
+
 // Lays the text out for the device and the size of its pages.
 void layOut(QTextDocument &document, QPdfWriter &writer, const QString &html)
 {
@@ -56,6 +69,7 @@ void layOut(QTextDocument &document, QPdfWriter &writer, const QString &html)
     QTextCursor all(&document);
     all.select(QTextCursor::Document);
     all.mergeCharFormat(separate);
+    beginPagesAtTheirTop(document);
 }
 
 int pageOf(const QTextDocument &document, const QString &anchor)
