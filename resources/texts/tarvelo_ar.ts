@@ -3,6 +3,30 @@
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ANNOUNCE_LECTURE_SAVED">
+        <source></source>
+        <translation>حُفظت المحاضرة</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_DISCARDED">
+        <source></source>
+        <translation>أُهمل التسجيل</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_PAUSED">
+        <source></source>
+        <translation>توقف التسجيل مؤقتًا</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_RESUMED">
+        <source></source>
+        <translation>استؤنف التسجيل</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STARTED">
+        <source></source>
+        <translation>بدأ التسجيل</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STOPPED">
+        <source></source>
+        <translation>انتهى التسجيل</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>إلغاء</translation>

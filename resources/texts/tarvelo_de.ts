@@ -3,6 +3,30 @@
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ANNOUNCE_LECTURE_SAVED">
+        <source></source>
+        <translation>Vorlesung gesichert</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_DISCARDED">
+        <source></source>
+        <translation>Aufnahme verworfen</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_PAUSED">
+        <source></source>
+        <translation>Aufnahme angehalten</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_RESUMED">
+        <source></source>
+        <translation>Aufnahme läuft weiter</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STARTED">
+        <source></source>
+        <translation>Aufnahme gestartet</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STOPPED">
+        <source></source>
+        <translation>Aufnahme beendet</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Abbrechen</translation>

@@ -3,6 +3,30 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ANNOUNCE_LECTURE_SAVED">
+        <source></source>
+        <translation>Lecture saved</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_DISCARDED">
+        <source></source>
+        <translation>Recording discarded</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_PAUSED">
+        <source></source>
+        <translation>Recording paused</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_RESUMED">
+        <source></source>
+        <translation>Recording resumed</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STARTED">
+        <source></source>
+        <translation>Recording started</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STOPPED">
+        <source></source>
+        <translation>Recording stopped</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Cancel</translation>

@@ -3,6 +3,30 @@
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ANNOUNCE_LECTURE_SAVED">
+        <source></source>
+        <translation>Clase guardada</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_DISCARDED">
+        <source></source>
+        <translation>Grabación descartada</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_PAUSED">
+        <source></source>
+        <translation>Grabación en pausa</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_RESUMED">
+        <source></source>
+        <translation>Grabación reanudada</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STARTED">
+        <source></source>
+        <translation>Grabación iniciada</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STOPPED">
+        <source></source>
+        <translation>Grabación detenida</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Cancelar</translation>

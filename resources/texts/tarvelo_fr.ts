@@ -3,6 +3,30 @@
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ANNOUNCE_LECTURE_SAVED">
+        <source></source>
+        <translation>Cours enregistré</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_DISCARDED">
+        <source></source>
+        <translation>Enregistrement abandonné</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_PAUSED">
+        <source></source>
+        <translation>Enregistrement en pause</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_RESUMED">
+        <source></source>
+        <translation>Enregistrement repris</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STARTED">
+        <source></source>
+        <translation>Enregistrement démarré</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STOPPED">
+        <source></source>
+        <translation>Enregistrement arrêté</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Annuler</translation>

@@ -3,6 +3,30 @@
 <TS version="2.1" language="he" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ANNOUNCE_LECTURE_SAVED">
+        <source></source>
+        <translation>ההרצאה נשמרה</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_DISCARDED">
+        <source></source>
+        <translation>ההקלטה בוטלה</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_PAUSED">
+        <source></source>
+        <translation>ההקלטה הושהתה</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_RESUMED">
+        <source></source>
+        <translation>ההקלטה חודשה</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STARTED">
+        <source></source>
+        <translation>ההקלטה החלה</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STOPPED">
+        <source></source>
+        <translation>ההקלטה הופסקה</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>ביטול</translation>

@@ -3,6 +3,30 @@
 <TS version="2.1" language="hi" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ANNOUNCE_LECTURE_SAVED">
+        <source></source>
+        <translation>व्याख्यान सहेजा गया</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_DISCARDED">
+        <source></source>
+        <translation>रिकॉर्डिंग हटा दी गई</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_PAUSED">
+        <source></source>
+        <translation>रिकॉर्डिंग रोकी गई</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_RESUMED">
+        <source></source>
+        <translation>रिकॉर्डिंग फिर शुरू हुई</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STARTED">
+        <source></source>
+        <translation>रिकॉर्डिंग शुरू हुई</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STOPPED">
+        <source></source>
+        <translation>रिकॉर्डिंग समाप्त हुई</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>रद्द करें</translation>

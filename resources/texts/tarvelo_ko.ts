@@ -3,6 +3,30 @@
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="ANNOUNCE_LECTURE_SAVED">
+        <source></source>
+        <translation>강의를 저장했습니다</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_DISCARDED">
+        <source></source>
+        <translation>녹음을 버렸습니다</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_PAUSED">
+        <source></source>
+        <translation>녹음을 일시 정지했습니다</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_RESUMED">
+        <source></source>
+        <translation>녹음을 다시 시작했습니다</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STARTED">
+        <source></source>
+        <translation>녹음을 시작했습니다</translation>
+    </message>
+    <message id="ANNOUNCE_RECORDING_STOPPED">
+        <source></source>
+        <translation>녹음을 중지했습니다</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>취소</translation>

@@ -75,6 +75,7 @@ AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run,
 {
     m_mainMenu.setObjectName(QStringLiteral("mainMenu"));
     m_statusMenu.setObjectName(QStringLiteral("statusMenu"));
+    m_mainMenu.setAccessibleName(text("MENU_MAIN"));
     for (const Entry &entry : entries()) {
         const Command command = entry.command;
         QMenu &menu = command < Command::Open ? m_mainMenu : m_statusMenu;

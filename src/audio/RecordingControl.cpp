@@ -3,8 +3,10 @@
 #include "audio/AudioFileLocations.h"
 #include "audio/DurationText.h"
 #include "audio/Playback.h"
+#include "platform/Announcer.h"
 #include "platform/Dates.h"
 #include "platform/SleepInhibitor.h"
+#include "platform/Texts.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
 #include "widgets/WholeText.h"
@@ -89,6 +91,11 @@ void RecordingControl::resetPauses()
     m_durationPause = 0;
 }
 
+void RecordingControl::say(const char *textKey) const
+{
+    platform::announce(*m_outlets.newNoteWindow, platform::text(textKey));
+}
+
 void RecordingControl::removeTemporaryFile()
 {
     if (QFile::exists(m_locations.tempAudioSavePath()))
@@ -123,6 +130,7 @@ void RecordingControl::startRecording(QWidget *sender)
     removeTemporaryFile();
     m_playback.discardPlayer();
     makeAndStartRecorder();
+    say("ANNOUNCE_RECORDING_STARTED");
 
     m_outlets.audioLevelMeter->show();
     m_outlets.imgLevelIndicatorBG->show();
@@ -171,6 +179,7 @@ void RecordingControl::pauseResumeRecording(QWidget *)
 
 void RecordingControl::pauseTake()
 {
+    say("ANNOUNCE_RECORDING_PAUSED");
     m_pauseTimeInterval = secondsSince1970(m_dates.now());
     lookResume(*m_outlets.btnPauseResumeRecording);
     showStopImage(*m_outlets.btnStopRecord, QStringLiteral("stop"));
@@ -181,6 +190,7 @@ void RecordingControl::pauseTake()
 
 void RecordingControl::resumeTake()
 {
+    say("ANNOUNCE_RECORDING_RESUMED");
     lookPause(*m_outlets.btnPauseResumeRecording);
     showStopImage(*m_outlets.btnStopRecord, QStringLiteral("stopRed"));
     // Cut to whole seconds at each resume, which is wanted: two pauses of 2.7 s count as 2 and
@@ -207,6 +217,7 @@ void RecordingControl::stopRecorder()
 
 void RecordingControl::stopRecording(QWidget *)
 {
+    say("ANNOUNCE_RECORDING_STOPPED");
     m_recording = false;
     m_bIsRecordingSaved = true;
     m_outlets.btnPauseResumeRecording->hide();
@@ -287,6 +298,7 @@ void RecordingControl::closeTake()
 
 void RecordingControl::discardTake()
 {
+    say("ANNOUNCE_RECORDING_DISCARDED");
     m_recording = false;
     stopRecorder();
     removeTemporaryFile();

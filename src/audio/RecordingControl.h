@@ -87,6 +87,8 @@ public:
                                                      bool successfully) override;
 
 private:
+    // To who cannot see the controls change.
+    void say(const char *textKey) const;
     void removeTemporaryFile();
     void makeAndStartRecorder();
     void pauseTake();

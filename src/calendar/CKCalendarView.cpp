@@ -257,6 +257,11 @@ void CKCalendarView::dateButtonPressed(DateButton *cell)
     m_input->setTabStop(*cell);
 }
 
+DateButton *CKCalendarView::tabStop() const
+{
+    return m_input->tabStop();
+}
+
 void CKCalendarView::deselectDateButtons()
 {
     if (!s_selectedCell)

@@ -78,6 +78,8 @@ public:
     void moveCalendarToNextMonth();
     void doProceedToCurrentMonth(QWidget *sender);
     void comeBackToCurrentMonth(QWidget *sender);
+    // The day to which the keyboard comes; none before the first day was chosen.
+    DateButton *tabStop() const;
     // Brings the keyboard to today, in the present month.
     void goToToday();
 

@@ -77,7 +77,6 @@ void CalendarInput::setTabStop(DateButton &cell)
         m_tabStop->setFocusPolicy(Qt::ClickFocus);
     m_tabStop = &cell;
     cell.setFocusPolicy(Qt::StrongFocus);
-    m_view.setFocusProxy(&cell);
 }
 
 bool CalendarInput::eventFilter(QObject *watched, QEvent *event)

@@ -27,6 +27,8 @@ public:
     void watch(QWidget &part);
     // Tab leads to this day until another one gets the focus.
     void setTabStop(DateButton &cell);
+    // None before the first day was chosen.
+    DateButton *tabStop() const { return m_tabStop; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -115,7 +115,9 @@ void CustomTableCellView::setObjectValue(const Lecture &lecture)
     m_subject->setToolTip(subject.toHtmlEscaped());
     m_notes->setText(lecture ? beginningOf(lecture->strNotes()) : QString());
     m_duration->setText(lecture ? lecture->strRecordingDuration() : QString());
-    setAccessibleName(subject + QStringLiteral(", ") + m_duration->text());
+    QStringList name{subject, m_duration->text()};
+    name.removeAll(QString());
+    setAccessibleName(name.join(QStringLiteral(", ")));
     showButtons();
 }
 

@@ -52,6 +52,8 @@ QMenu *CustomTableCellView::newMenu()
 {
     closeMenu();
     m_menu = new QMenu(QStringLiteral("Contextual Menu"), this);
+    // Its title shows nowhere. Who listens wants to know whose menu it is.
+    m_menu->setAccessibleName(accessibleName());
     // The command that was chosen is sent after the menu has gone from the screen.
     connect(m_menu, &QMenu::aboutToHide, m_menu, &QObject::deleteLater);
     return m_menu;

@@ -20,6 +20,21 @@ void onKey(QWidget &place, const QKeySequence &key, std::function<void()> run)
     QObject::connect(shortcut, &QShortcut::activated, &place, std::move(run));
 }
 
+// The first of the buttons that shows is pressed; the keyboard stays where it is.
+void pressWithKeys(QWidget &window, const QKeySequence &keys, const QList<ImageButton *> &buttons)
+{
+    for (ImageButton *button : buttons)
+        button->setKeys(keys);
+    onKey(window, keys, [buttons] {
+        for (ImageButton *button : buttons) {
+            if (button->isVisible()) {
+                button->click();
+                return;
+            }
+        }
+    });
+}
+
 // A button that has the keyboard loses it to whichever control is next when its press disables it.
 void handKeyboardOver(ImageButton &from, ImageButton &to)
 {
@@ -62,17 +77,17 @@ void playAndPauseWithF8(QWidget &place, ImageButton &play, ImageButton &pause)
     handKeyboardOver(pause, play);
 }
 
-// A button that does not show, or is disabled, leaves the key to the other one.
 void recordWithKeys(const audio::RecordingOutlets &controls)
 {
-    for (ImageButton *button : {controls.btnStartRecord, controls.btnPauseResumeRecording})
-        button->setShortcut(Qt::CTRL | Qt::Key_R);
-    controls.btnStopRecord->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_R);
-    controls.btnTimeTag->setShortcut(Qt::CTRL | Qt::Key_T);
+    QWidget &window = *controls.newNoteWindow;
+    const QKeySequence record(Qt::CTRL | Qt::Key_R);
+    pressWithKeys(window, record, {controls.btnStartRecord, controls.btnPauseResumeRecording});
+    pressWithKeys(window, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), {controls.btnStopRecord});
+    pressWithKeys(window, QKeySequence(Qt::CTRL | Qt::Key_T), {controls.btnTimeTag});
     // The button that stopped the take plays it then; it never stops a take by this key.
     ImageButton *const stop = controls.btnStopRecord;
     for (const Qt::Key key : {Qt::Key_F8, Qt::Key_MediaTogglePlayPause})
-        onKey(*controls.newNoteWindow, QKeySequence(key), [stop] {
+        onKey(window, QKeySequence(key), [stop] {
             if (stop->actionName() != "stopRecording")
                 stop->click();
         });

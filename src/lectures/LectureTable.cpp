@@ -5,6 +5,7 @@
 #include "lectures/RowSwipe.h"
 #include "widgets/ImageButton.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCursor>
 #include <QPainter>
@@ -64,6 +65,20 @@ int LectureTable::rowForView(const QWidget *view) const
         return shown.second == view || shown.second->isAncestorOf(view);
     });
     return found == m_shown.cend() ? -1 : found->first;
+}
+
+QList<CustomTableCellView *> LectureTable::shownRows() const
+{
+    QList<CustomTableCellView *> rows;
+    for (const auto &[row, view] : m_shown)
+        rows.append(view);
+    return rows;
+}
+
+CustomTableCellView *LectureTable::keyboardRow() const
+{
+    const auto found = m_shown.find(m_selectedRow);
+    return found != m_shown.end() && hasKeyboard() ? found->second : nullptr;
 }
 
 void LectureTable::setModel(QAbstractItemModel *model)
@@ -140,6 +155,7 @@ void LectureTable::setSelection(const QList<int> &rows, int current)
     m_selectedRows = chosen;
     m_selectedRow = keyboard;
     showCurrentRow();
+    tellOfKeyboardRow();
     viewport()->update();
     Q_EMIT selectionChanged(m_selectedRows);
 }
@@ -300,6 +316,21 @@ void LectureTable::showCurrentRow()
     const bool has = hasKeyboard();
     for (const auto &[row, view] : m_shown)
         view->setCurrent(has && row == m_selectedRow);
+}
+
+void LectureTable::tellOfKeyboardRow()
+{
+    if (!hasFocus() || !keyboardRow())
+        return;
+    QAccessibleEvent event(keyboardRow(), QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
+// The toolkit speaks of the table itself after this.
+void LectureTable::focusInEvent(QFocusEvent *event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    QMetaObject::invokeMethod(this, &LectureTable::tellOfKeyboardRow, Qt::QueuedConnection);
 }
 
 void LectureTable::paintEvent(QPaintEvent *)

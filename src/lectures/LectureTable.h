@@ -47,6 +47,14 @@ public:
     int selectedRow() const { return m_selectedRow; }
     // All of them, in ascending order.
     const QList<int> &selectedRowIndexes() const { return m_selectedRows; }
+    // The view of the row that the keyboard is on, when both the row and the keyboard are here.
+    CustomTableCellView *keyboardRow() const;
+    // The views of the rows that show, from above to below.
+    QList<CustomTableCellView *> shownRows() const;
+    bool isSelected(const QWidget &rowView) const
+    {
+        return m_selectedRows.contains(rowForView(&rowView));
+    }
     SelectionHighlightStyle selectionHighlightStyle() const { return m_highlightStyle; }
 
     // The model must outlive the table or be taken off it. Its resets reload the table.
@@ -84,6 +92,7 @@ Q_SIGNALS:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void focusInEvent(QFocusEvent *event) override;
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -111,6 +120,8 @@ private:
     CustomTableCellView *takeView();
     void bind(CustomTableCellView &view, int row) const;
     void showCurrentRow();
+    // Tells screen readers that the keyboard is on a row of the table, and not on the whole of it.
+    void tellOfKeyboardRow();
 
     QPointer<QAbstractItemModel> m_model;
     LectureRowHost *m_host = nullptr;

@@ -2,6 +2,7 @@
 
 #include "calendar/CKCalendarView.h"
 #include "lectures/LectureTable.h"
+#include "lectures/LectureTableAccess.h"
 #include "lectures/LectureViewMargins.h"
 #include "lectures/LightPalette.h"
 #include "lectures/WindowWidths.h"
@@ -9,6 +10,7 @@
 #include "platform/Fonts.h"
 #include "platform/Frames.h"
 #include "platform/Texts.h"
+#include "widgets/Accessibility.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LayerView.h"
 #include "widgets/LevelIndicator.h"
@@ -133,6 +135,8 @@ ImageButton *addButton(QWidget &popoverContent, const char *name, const char *te
 
 LectureWindows::LectureWindows(platform::Dates &dates)
 {
+    widgets::installAccessibility();
+    installTableAccessibility();
     buildMainWindow(dates);
     buildLectureView();
     buildNewLectureWindow();
@@ -174,8 +178,11 @@ void LectureWindows::buildMainWindow(platform::Dates &dates)
               ui.btnAddItem,        ui.btnDeleteItem, ui.btnAddNewLecture2,    ui.btnShowAllList,
               ui.btnFoldUpList};
 
-    ui.tableListView->setFocusProxy(ui.tblRecordSubjectList);
-    m_mainWindow->setPanes({calendarView, ui.tableListView, ui.editPlayView});
+    m_mainWindow->setPanes({
+        {calendarView, [calendarView] { return calendarView->tabStop(); }},
+        {ui.tableListView, [table = ui.tblRecordSubjectList] { return table; }},
+        {ui.editPlayView, [this] { return m_lectureView.tSubjectName; }},
+    });
     style(*ui.lblTarvelo, 18, Ink);
     style(*ui.lblDateDisplay, 22, Ink);
     style(*ui.lblEmptyDayTitle, 17, Ink);
@@ -199,7 +206,6 @@ void LectureWindows::buildLectureView()
     Ui::LectureView ui;
     ui.setupUi(m_main.editPlayView);
     m_main.editPlayView->setObjectName(QStringLiteral("editPlayView"));
-    m_main.editPlayView->setFocusProxy(ui.tSubjectName);
     m_lectureView = {ui.tSubjectName,       ui.tViewNoteForEdit,   ui.lblNotesForView,
                      ui.tEditTime,          ui.tEditDate,          ui.btnSlidetoView,
                      ui.btnSlideToListView, ui.btnDoneEditLecture, ui.btnCloseLectureView};

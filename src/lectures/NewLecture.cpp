@@ -11,7 +11,9 @@
 #include "lectures/LectureTable.h"
 #include "lectures/Slides.h"
 #include "platform/Alerts.h"
+#include "platform/Announcer.h"
 #include "platform/Dates.h"
+#include "platform/Texts.h"
 #include "platform/WindowLevel.h"
 #include "store/LectureDatabase.h"
 #include "store/Statements.h"
@@ -153,6 +155,7 @@ void NewLecture::doSaveNewAudioInfos()
     m_outlets.window.txtView->clear();
     m_outlets.main.calendarView->layoutSubviews();
     m_outlets.recording.btnTimeTag->hide();
+    platform::announce(*m_outlets.main.mainWindow, platform::text("ANNOUNCE_LECTURE_SAVED"));
 }
 
 void NewLecture::onDoneNewLectureOrCloseWindow(QWidget *sender)

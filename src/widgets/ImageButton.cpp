@@ -68,13 +68,18 @@ QRectF ImageButton::imageRect(const Image &image) const
             size.height()};
 }
 
+void ImageButton::setKeys(const QKeySequence &keys)
+{
+    m_keys = keys;
+    setAccessibleDescription(keys.toString(QKeySequence::NativeText));
+}
+
 bool ImageButton::event(QEvent *event)
 {
-    if (event->type() != QEvent::ToolTip || shortcut().isEmpty() || toolTip().isEmpty())
+    if (event->type() != QEvent::ToolTip || m_keys.isEmpty())
         return QPushButton::event(event);
-    const QString keys = shortcut().toString(QKeySequence::NativeText);
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                       QStringLiteral("%1 (%2)").arg(toolTip(), keys), this);
+                       QStringLiteral("%1 (%2)").arg(toolTip(), accessibleDescription()), this);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/Images.h"
 
 #include <QByteArray>
+#include <QKeySequence>
 #include <QPushButton>
 
 #include <functional>
@@ -38,6 +39,9 @@ public:
     void setAlternateImage(const platform::Image &image);
     // Both images by name and the tool tip, which is the button's accessible name too, in one go.
     void setLook(const QString &image, const QString &alternate, const QString &toolTip);
+    // The keys that press the button, by whoever listens to them: the tool tip shows them, and
+    // screen readers say them. A shortcut of the button itself would take the keyboard from a text.
+    void setKeys(const QKeySequence &keys);
     void setAction(Action action) { m_action = std::move(action); }
     void setTag(int tag) { m_tag = tag; }
     void setState(int state) { setChecked(state != 0); }
@@ -47,7 +51,6 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    // The tool tip says the button's key too.
     bool event(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -61,6 +64,7 @@ private:
     platform::Image m_image;
     platform::Image m_alternateImage;
     Action m_action;
+    QKeySequence m_keys;
     QWidget *m_clickingFor = nullptr;
     int m_tag = 0;
     // The focus is drawn for who came by keyboard: a window that opens, or a click, needs no ring.

@@ -1,5 +1,6 @@
 #include "widgets/LevelIndicator.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 #include <algorithm>
@@ -15,6 +16,8 @@ LevelIndicator::LevelIndicator(QWidget *parent)
 void LevelIndicator::setFloatValue(float value)
 {
     m_value = std::clamp(value, 0.0F, 1.0F);
+    QAccessibleValueChangeEvent event(this, m_value);
+    QAccessible::updateAccessibility(&event);
     update();
 }
 

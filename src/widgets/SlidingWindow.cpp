@@ -60,15 +60,15 @@ bool SlidingWindow::canTakeFocusByTab(const QWidget &widget) const
 void SlidingWindow::focusNextPane(int step)
 {
     const auto count = m_panes.size();
-    const auto holdsFocus = [this](const QWidget *pane) {
-        return pane->isAncestorOf(focusWidget());
+    const auto holdsFocus = [this](const Pane &pane) {
+        return pane.part->isAncestorOf(focusWidget());
     };
     const auto from = std::find_if(m_panes.cbegin(), m_panes.cend(), holdsFocus);
     // From outside of all parts F6 leads to the first one, and Shift+F6 to the last one.
     auto at = from != m_panes.cend() ? from - m_panes.cbegin() : step > 0 ? -1 : count;
     for (qsizetype tried = 0; tried < count; ++tried) {
         at = (at + step + count) % count;
-        QWidget *target = m_panes.at(at)->focusProxy();
+        QWidget *target = m_panes.at(at).first();
         if (target && canTakeFocusByTab(*target)) {
             target->setFocus(Qt::TabFocusReason);
             return;

@@ -3,6 +3,8 @@
 #include <QVariantAnimation>
 #include <QWidget>
 
+#include <functional>
+
 namespace tarvelo::widgets {
 
 // A window of fixed size whose width slides from one value to another, its top-left corner, and so
@@ -24,9 +26,15 @@ public:
     void setFrameSize(int width, int height);
     void setFrameWidth(int width, bool animate);
 
-    // Parts of the window in reading order, each with a focus proxy. F6 goes from part to part, and
-    // Shift+F6 back, over those that show.
-    void setPanes(const QList<QWidget *> &panes) { m_panes = panes; }
+    // A part of the window, and the control in it to which the keyboard comes first.
+    struct Pane
+    {
+        QWidget *part;
+        std::function<QWidget *()> first;
+    };
+
+    // In reading order. F6 goes from part to part, and Shift+F6 back, over those that show.
+    void setPanes(const QList<Pane> &panes) { m_panes = panes; }
 
 protected:
     bool focusNextPrevChild(bool next) override;
@@ -35,7 +43,7 @@ private:
     bool canTakeFocusByTab(const QWidget &widget) const;
     void focusNextPane(int step);
 
-    QList<QWidget *> m_panes;
+    QList<Pane> m_panes;
     int m_frameWidth = 0;
     QVariantAnimation m_slide;
 };

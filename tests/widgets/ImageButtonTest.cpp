@@ -57,17 +57,18 @@ private Q_SLOTS:
         QCOMPARE(heard, &button);
     }
 
-    void theToolTipSaysTheKeyOfAButtonThatHasOne()
+    void theToolTipAndTheDescriptionSayTheKeysOfAButton()
     {
         ImageButton button;
         button.setToolTip(QStringLiteral("Pause"));
-        button.setShortcut(Qt::CTRL | Qt::Key_R);
+        button.setKeys(Qt::CTRL | Qt::Key_R);
         QHelpEvent asked(QEvent::ToolTip, {1, 1}, {1, 1});
 
         QCoreApplication::sendEvent(&button, &asked);
 
         QCOMPARE(QToolTip::text(), QStringLiteral("Pause (Ctrl+R)"));
         QCOMPARE(button.toolTip(), QStringLiteral("Pause"));
+        QCOMPARE(button.accessibleDescription(), QStringLiteral("Ctrl+R"));
         QToolTip::hideText();
     }
 

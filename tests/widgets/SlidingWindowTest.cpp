@@ -117,10 +117,9 @@ private Q_SLOTS:
         QWidget outside(&window);
         outside.setGeometry(833, 0, 400, 489);
         QLineEdit third(&outside);
-        left.setFocusProxy(&first);
-        middle.setFocusProxy(&second);
-        outside.setFocusProxy(&third);
-        window.setPanes({&left, &middle, &outside});
+        window.setPanes({{&left, [&] { return &first; }},
+                         {&middle, [&] { return &second; }},
+                         {&outside, [&] { return &third; }}});
         window.show();
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
