@@ -77,6 +77,10 @@ SegmentedControl::SegmentedControl(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(trough);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // Tab comes to the choice that counts, and the arrow keys go on from there.
+    connect(m_segments, &QButtonGroup::buttonToggled, this, [](QAbstractButton *segment, bool on) {
+        segment->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
+    });
     connect(m_segments, &QButtonGroup::idClicked, this, [this](int) {
         if (m_action.run)
             m_action.run(this);
@@ -102,7 +106,8 @@ void SegmentedControl::addSegment(const QString &label, const QString &accessibl
     segment->setText(label);
     segment->setAccessibleName(accessibleName);
     segment->setToolTip(accessibleName);
-    segment->setFocusPolicy(Qt::StrongFocus);
+    // Of several that are not chosen the first one is where Tab comes to.
+    segment->setFocusPolicy(segmentCount() == 0 ? Qt::StrongFocus : Qt::ClickFocus);
     segment->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_segments->addButton(segment, segmentCount());
     layout()->itemAt(0)->widget()->layout()->addWidget(segment);
