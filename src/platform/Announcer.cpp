@@ -52,8 +52,6 @@ Announcement &announcementOf(QWidget &window)
 // same words be said again.
 void announce(QWidget &near, const QString &words)
 {
-    if (!QAccessible::isActive())
-        return;
     static const bool installed = [] {
         QAccessible::installFactory(notification);
         return true;

@@ -78,8 +78,9 @@ SegmentedControl::SegmentedControl(QWidget *parent)
     layout->addWidget(trough);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // Tab comes to the choice that counts, and the arrow keys go on from there.
-    connect(m_segments, &QButtonGroup::buttonToggled, this, [](QAbstractButton *segment, bool on) {
-        segment->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
+    connect(m_segments, &QButtonGroup::idToggled, this, [this] {
+        for (QAbstractButton *segment : m_segments->buttons())
+            segment->setFocusPolicy(segment->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
     });
     connect(m_segments, &QButtonGroup::idClicked, this, [this](int) {
         if (m_action.run)

@@ -216,6 +216,8 @@ class WalkTest(unittest.TestCase):
         self.check(window, self.walk(window))
         keys("ctrl+r")
         self.ears.said("Recording resumed")
+        keys("ctrl+r")
+        self.ears.said("Recording paused")
         keys("ctrl+shift+r")
         self.ears.said("Recording stopped")
         self.check(window, self.walk(window))
@@ -254,7 +256,7 @@ class WalkTest(unittest.TestCase):
         keys("space")
         self.window("Waves")
         stops = self.walk("Waves")
-        self.assertEqual(self.order(stops, "Pause"), ["Pause", "Playback position", "The recorded speed"])
+        self.assertEqual(self.order(stops, "Pause"), ["Pause", "Playback position", "The recorded speed", "Subject"])
         while self.visit(1, "Tab")[-1][0] != "radio button":
             pass
         self.check("Waves", stops + self.visit(4, *["Left"] * 4))

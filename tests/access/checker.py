@@ -15,7 +15,7 @@ OBJECT_NAME = re.compile(r"^[a-z]+[A-Z0-9]\w*$|_")
 
 @dataclasses.dataclass
 class Node:
-    """A thing that shows. `place` is its left upper corner on the screen."""
+    """A thing that shows. `place` is its left upper corner in the window."""
 
     role: str
     name: str

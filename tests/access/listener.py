@@ -17,7 +17,7 @@ def node(thing):
         states = thing.get_state_set()
         if not states.contains(STATE.SHOWING):
             return None
-        corner = thing.get_position(Atspi.CoordType.SCREEN)
+        corner = thing.get_position(Atspi.CoordType.WINDOW)
         children = [node(child) for child in map(thing.get_child_at_index, range(thing.get_child_count())) if child]
         return Node(thing.get_role_name(), thing.get_name() or "", states.contains(STATE.SENSITIVE),
                     states.contains(STATE.FOCUSABLE), states.contains(STATE.FOCUSED), (corner.x, corner.y),
@@ -64,7 +64,7 @@ class Listener:
             source, role = event.source, event.source.get_role_name()
             if event.type.startswith("object:state-changed:focused"):
                 inside = self._row_around(source)
-                corner = source.get_position(Atspi.CoordType.SCREEN)
+                corner = source.get_position(Atspi.CoordType.WINDOW)
                 self._heard.append(("focus", (role, source.get_name(), "list item" if inside else (corner.x, corner.y))))
             elif role == "notification":
                 self._heard.append(("said", source.get_name()))

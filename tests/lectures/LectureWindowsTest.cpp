@@ -99,7 +99,10 @@ private Q_SLOTS:
                 // The arrow keys go over the days.
                 if (windows().mainOutlets().calendarView->isAncestorOf(control))
                     continue;
-                QVERIFY2(control->focusPolicy() & Qt::TabFocus, qPrintable(control->objectName()));
+                // The arrow keys lead to a choice that is not made.
+                const auto *button = qobject_cast<const QAbstractButton *>(control);
+                const bool isByArrows = button && button->autoExclusive() && !button->isChecked();
+                QVERIFY(isByArrows || control->focusPolicy() & Qt::TabFocus);
             }
         }
         QVERIFY(windows().mainOutlets().tblRecordSubjectList->focusPolicy() & Qt::TabFocus);

@@ -105,6 +105,25 @@ private Q_SLOTS:
         QCOMPARE(sent, 1);
     }
 
+    void tabComesToTheSegmentThatIsSelected()
+    {
+        SegmentedControl control;
+        addThree(control);
+        const auto tabStops = [&control] {
+            QList<int> stops;
+            for (int i = 0; i < 3; ++i) {
+                if (segment(control, i).focusPolicy() & Qt::TabFocus)
+                    stops.append(i);
+            }
+            return stops;
+        };
+
+        QCOMPARE(tabStops(), QList<int>{0});
+        control.setSelectedSegment(2);
+
+        QCOMPARE(tabStops(), QList<int>{2});
+    }
+
     void everySegmentIsAChoiceWithAName()
     {
         SegmentedControl control;
