@@ -120,6 +120,11 @@ class Scenes:
         self._rest()
         self._window("beside", names.MAIN_WINDOW, without=CALENDAR)
 
+        self._hands.click(names.MAIN_WINDOW, "Show Lecture")
+        self._hands.control(names.MAIN_WINDOW, "Back to List")
+        self._rest()
+        self._window("alone", names.MAIN_WINDOW)
+        self._hands.click(names.MAIN_WINDOW, "Back to List")
         self._hands.click(names.MAIN_WINDOW, "Close")
         self._hands.press(names.MAIN_WINDOW, "F6")
         self._play(subject)
