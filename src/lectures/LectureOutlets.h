@@ -90,6 +90,7 @@ struct PlayAudioOutlets
     QLineEdit *txtSubjectName = nullptr;
     QLineEdit *txtCourseName = nullptr;
     QLineEdit *txtFieldForAudio = nullptr;
+    widgets::ImageButton *btnClosePlayAudio = nullptr;
 };
 
 // The two pop-overs and what they show.

@@ -11,6 +11,8 @@
 #include "platform/Frames.h"
 #include "platform/Texts.h"
 #include "widgets/Accessibility.h"
+#include "widgets/CustomWindow.h"
+#include "widgets/FieldFormatter.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LayerView.h"
 #include "widgets/LevelIndicator.h"
@@ -36,6 +38,7 @@ namespace {
 // The canvas: the calendar pane from the left edge, then the list, then the lecture view.
 constexpr int CanvasHeight = 540;
 const QRectF CalendarFrame(-2, 0, 450, 489);
+const QRectF PlayWindowContent(0, 0, 440, 190);
 
 const QString Face = QStringLiteral("Helvetica Neue Medium");
 const QColor Ink(43, 41, 48);
@@ -63,6 +66,16 @@ void giveMargins(QLineEdit &field, QTextEdit &notes)
 {
     field.setTextMargins(6, 0, 6, 0);
     notes.document()->setDocumentMargin(8);
+}
+
+// Longer texts than this one cannot be typed as a subject.
+constexpr qint32 LongestSubject = 255;
+
+void limitSubject(QLineEdit &field)
+{
+    widgets::CustomTextFieldFormatter formatter;
+    formatter.setMaximumLength(LongestSubject);
+    widgets::setFormatter(field, formatter);
 }
 
 // Room between the edge and a title that may be long, or large.
@@ -210,6 +223,7 @@ void LectureWindows::buildLectureView()
                      ui.tEditTime,          ui.tEditDate,          ui.btnSlidetoView,
                      ui.btnSlideToListView, ui.btnDoneEditLecture, ui.btnCloseLectureView};
     m_editPlayer = {ui.bPlay, ui.bPause, ui.sliderEditProgress, ui.tElapsedTime, ui.tRemainingTime};
+    limitSubject(*ui.tSubjectName);
     giveMargins(*ui.tSubjectName, *ui.tViewNoteForEdit);
     for (QLabel *label :
          {ui.lblNotesForView, ui.tEditTime, ui.tEditDate, ui.tElapsedTime, ui.tRemainingTime})
@@ -269,6 +283,7 @@ void LectureWindows::buildNewLectureWindow()
         style(*label, 13, Faint);
     style(*ui.lblRecordingDuration, 24, Ink);
     ui.txtSubjectForNewNote->setFont(platform::fontNamed(Face, 16));
+    limitSubject(*ui.txtSubjectForNewNote);
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
     fill(*ui.recordingPanel, QColor(247, 247, 249));
     ui.imgLevelIndicatorBG->setImage(imageNamed(QStringLiteral("levelBackground")));
@@ -295,6 +310,7 @@ void LectureWindows::buildEditLectureWindow()
     setLightPalette(*m_windowEditLecture);
     Ui::EditLectureWindow ui;
     ui.setupUi(m_windowEditLecture.get());
+    limitSubject(*ui.txtSubjectForEdit);
     giveMargins(*ui.txtSubjectForEdit, *ui.txtViewNotesForEdit);
     m_editLecture = {m_windowEditLecture.get(), ui.txtSubjectForEdit, ui.txtViewNotesForEdit,
                      ui.textEditTime,           ui.textEditDate,      ui.btnDoneEdit,
@@ -306,19 +322,24 @@ void LectureWindows::buildEditLectureWindow()
 
 void LectureWindows::buildPlayAudioWindow()
 {
-    m_playAudioWindow = std::make_unique<QWidget>(nullptr, Qt::Window);
+    using widgets::CustomWindow;
+    m_playAudioWindow = std::make_unique<CustomWindow>(PlayWindowContent, CustomWindow::Borderless,
+                                                       CustomWindow::Buffered, false);
     setLightPalette(*m_playAudioWindow);
     Ui::PlayAudioWindow ui;
     ui.setupUi(m_playAudioWindow.get());
     m_playAudio = {m_playAudioWindow.get(), ui.txtSubjectName, ui.txtCourseName,
-                   ui.txtFieldForAudio};
+                   ui.txtFieldForAudio, ui.btnClosePlayAudio};
     m_lecturePlayer = {m_playAudioWindow.get(), ui.txtSubjectName,     ui.btnPlayLecture,
                        ui.btnPauseLecture,      ui.sliderPlayProgress, ui.txtElapsedTime,
                        ui.txtRemainingTime,     ui.segPlaySpeed};
 
-    // The window itself is clear.
-    fill(*ui.playPanel, Qt::white);
     ui.txtSubjectName->setFont(platform::fontNamed(Face, 18));
+    ui.txtSubjectName->setMaxLength(std::numeric_limits<int>::max());
+    ui.btnClosePlayAudio->setImage(imageNamed(QStringLiteral("close")));
+    ui.btnClosePlayAudio->setToolTip(QStringLiteral("%1 (%2)").arg(
+        platform::text("BUTTON_CLOSE"),
+        QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)));
     for (QLabel *label : {ui.txtElapsedTime, ui.txtRemainingTime, ui.lblSpeed})
         style(*label, 13, Faint);
     ui.btnPlayLecture->setImage(imageNamed(QStringLiteral("play")));

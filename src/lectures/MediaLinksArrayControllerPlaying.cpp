@@ -37,6 +37,8 @@ void MediaLinksArrayController::connectPlayer()
         connect(new QShortcut(key, player.playAudioWindow), &QShortcut::activated, this,
                 [player] { pressInTurn(*player.btnPlayLecture, *player.btnPauseLecture); });
     escapeCloses(*player.playAudioWindow);
+    m_windows.playAudioOutlets().btnClosePlayAudio->setAction(
+        {"performClose", [player](QWidget *) { player.playAudioWindow->close(); }});
 
     const audio::EditPlayerOutlets &editPlayer = m_windows.editPlayerOutlets();
     const auto playPauseEdit = [this](QWidget *sender) { onPlayPauseLectureEdit(sender); };

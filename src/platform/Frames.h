@@ -2,7 +2,9 @@
 
 #include <QRect>
 
+class QPointF;
 class QRectF;
+class QScreen;
 class QWidget;
 
 namespace tarvelo::platform {
@@ -17,5 +19,12 @@ void setFrame(QWidget &view, const QRectF &frame);
 
 // The frame of `view` in its parent, origin bottom-left.
 QRectF frameOf(const QWidget &view);
+
+// On the screen, places count from the bottom-left corner of the first screen.
+QPointF placeOnScreen(const QPointF &globalPosition);
+QRectF frameOnScreen(const QWidget &window);
+// What panels and docks leave of the screen.
+QRectF visibleFrame(const QScreen &screen);
+void setFrameOnScreen(QWidget &window, const QRectF &frame);
 
 } // namespace tarvelo::platform

@@ -18,18 +18,21 @@ bool endsLine(QChar character)
 
 } // namespace
 
+QString withLineFeeds(QString rawText)
+{
+    std::replace_if(rawText.begin(), rawText.end(), endsLine, QChar(u'\n'));
+    return rawText;
+}
+
 QString wholeText(const QTextEdit &view)
 {
-    QString text = view.document()->toRawText();
-    std::replace_if(text.begin(), text.end(), endsLine, QChar(u'\n'));
-    return text;
+    return withLineFeeds(view.document()->toRawText());
 }
 
 bool showsText(const QTextEdit &view, QString text)
 {
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-    std::replace_if(text.begin(), text.end(), endsLine, QChar(u'\n'));
-    return wholeText(view) == text;
+    return wholeText(view) == withLineFeeds(text);
 }
 
 } // namespace tarvelo::widgets

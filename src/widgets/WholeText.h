@@ -6,6 +6,9 @@ class QTextEdit;
 
 namespace tarvelo::widgets {
 
+// A text as documents keep it, with line feeds for its ends of lines.
+QString withLineFeeds(QString rawText);
+
 // All of what stands in the view, character by character; its lines end with line feeds. Unlike the
 // toolkit's own plain text it keeps the blanks at which no line breaks, such as those between a
 // number and its unit.

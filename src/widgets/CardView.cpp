@@ -1,0 +1,51 @@
+#include "widgets/CardView.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace tarvelo::widgets {
+
+namespace {
+
+constexpr double Radius = 12;
+constexpr double HalfLine = 0.5;
+
+} // namespace
+
+CardView::CardView(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+QPainterPath CardView::outline(double inset) const
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), Radius - inset,
+                        Radius - inset);
+    return path;
+}
+
+// Where windows have no shapes (Wayland) they can be seen through, and the corners are clear.
+void CardView::resizeEvent(QResizeEvent *)
+{
+    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
+        window()->setMask(QRegion(outline(0).toFillPolygon().toPolygon()));
+}
+
+void CardView::paintEvent(QPaintEvent *)
+{
+    const QColor line = palette().color(QPalette::Shadow);
+    QPainter painter(this);
+    // In a shape, without a compositor, the pixels that the line half covers would be black; with
+    // none the corners would be as white as the window is behind its content.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(rect(), window()->mask().isEmpty() ? QColor(Qt::transparent) : line);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(line, 2 * HalfLine));
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawPath(outline(HalfLine));
+}
+
+} // namespace tarvelo::widgets
