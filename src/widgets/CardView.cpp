@@ -10,6 +10,16 @@ namespace {
 
 constexpr double Radius = 12;
 constexpr double HalfLine = 0.5;
+// The corners of the window's shape, which goes in steps, lie outside of those of the line, so that
+// they leave it whole.
+constexpr double ShapeRadius = Radius - 3;
+
+QPainterPath roundedRect(const QRectF &rect, double radius)
+{
+    QPainterPath path;
+    path.addRoundedRect(rect, radius, radius);
+    return path;
+}
 
 } // namespace
 
@@ -18,19 +28,11 @@ CardView::CardView(QWidget *parent)
 {
 }
 
-QPainterPath CardView::outline(double inset) const
-{
-    QPainterPath path;
-    path.addRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), Radius - inset,
-                        Radius - inset);
-    return path;
-}
-
 // Where windows have no shapes (Wayland) they can be seen through, and the corners are clear.
 void CardView::resizeEvent(QResizeEvent *)
 {
     if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
-        window()->setMask(QRegion(outline(0).toFillPolygon().toPolygon()));
+        window()->setMask(QRegion(roundedRect(rect(), ShapeRadius).toFillPolygon().toPolygon()));
 }
 
 void CardView::paintEvent(QPaintEvent *)
@@ -45,7 +47,8 @@ void CardView::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(line, 2 * HalfLine));
     painter.setBrush(palette().color(QPalette::Window));
-    painter.drawPath(outline(HalfLine));
+    const QRectF middleOfLine = QRectF(rect()).adjusted(HalfLine, HalfLine, -HalfLine, -HalfLine);
+    painter.drawPath(roundedRect(middleOfLine, Radius - HalfLine));
 }
 
 } // namespace tarvelo::widgets

@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-class QPainterPath;
-
 namespace tarvelo::widgets {
 
 // The face of a window without a border: a card with round corners and a thin line around it, in
@@ -18,9 +16,6 @@ public:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-
-private:
-    QPainterPath outline(double inset) const;
 };
 
 } // namespace tarvelo::widgets

@@ -8,6 +8,7 @@
 #include <QLayout>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTransform>
 #include <QVariantAnimation>
 #include <QWindow>
 
@@ -31,6 +32,7 @@ struct CustomWindow::Shape
 {
     QRect geometry;
     QSize minimum;
+    QRegion mask;
     QLayout::SizeConstraint constraint = QLayout::SetDefaultConstraint;
     std::unique_ptr<QLabel> picture;
 };
@@ -119,12 +121,21 @@ void CustomWindow::showPictureInsteadOfContent()
     m_shape->picture->show();
 }
 
+void CustomWindow::fitPicture()
+{
+    m_shape->picture->setGeometry(rect());
+    const QSizeF whole = m_shape->geometry.size();
+    if (!m_shape->mask.isEmpty())
+        setMask(QTransform::fromScale(width() / whole.width(), height() / whole.height())
+                    .map(m_shape->mask));
+}
+
 // Whoever closes it has a window that is closed when that returns, as with any other window, so
 // that the program can end. What the user does meanwhile waits until then.
 void CustomWindow::shrink()
 {
     m_shape = std::make_unique<Shape>(
-        Shape{geometry(), minimumSize(),
+        Shape{geometry(), minimumSize(), mask(),
               layout() ? layout()->sizeConstraint() : QLayout::SetDefaultConstraint, nullptr});
     showPictureInsteadOfContent();
     if (layout())
@@ -142,7 +153,7 @@ void CustomWindow::shrink()
         if (!m_shape)
             return;
         setFrameOnScreen(*this, value.toRectF());
-        m_shape->picture->setGeometry(rect());
+        fitPicture();
     });
     QEventLoop end;
     connect(&animation, &QVariantAnimation::finished, &end, &QEventLoop::quit);
@@ -161,6 +172,7 @@ void CustomWindow::hideEvent(QHideEvent *event)
         layout()->setSizeConstraint(shape->constraint);
     setMinimumSize(shape->minimum);
     setGeometry(shape->geometry);
+    setMask(shape->mask);
 }
 
 } // namespace tarvelo::widgets

@@ -56,6 +56,7 @@ private:
     QPointF locationInWindow(const QMouseEvent &event) const;
     void shrink();
     void showPictureInsteadOfContent();
+    void fitPicture();
 
     QPointF m_initialLocation;
     bool m_isDragged = false;

@@ -275,12 +275,14 @@ private Q_SLOTS:
     {
         const QRect before = m_window->geometry();
         m_window->setMinimumSize(250, 100);
+        m_window->setMask(QRegion(0, 0, 300, 110));
         m_window->close();
 
         m_window->show();
 
         QCOMPARE(m_window->geometry(), before);
         QCOMPARE(m_window->minimumSize(), QSize(250, 100));
+        QCOMPARE(m_window->mask(), QRegion(0, 0, 300, 110));
         QVERIFY(m_button->isVisible());
         QCOMPARE(m_window->childAt(m_button->geometry().center()), m_button);
     }
