@@ -84,10 +84,19 @@ void CustomWindow::mouseDragged(QMouseEvent *event)
     setFrameOnScreen(*this, frame);
 }
 
-// Controls take their presses themselves; what arrives here was meant for none of them.
+// A press on a control arrives here too when it has nothing to do, as one on a button that is
+// disabled. It was not meant for the window.
+bool CustomWindow::isOnControl(const QPoint &place) const
+{
+    const QWidget *view = childAt(place);
+    while (view && view != this && view->focusPolicy() == Qt::NoFocus)
+        view = view->parentWidget();
+    return view && view != this;
+}
+
 void CustomWindow::mousePressEvent(QMouseEvent *event)
 {
-    m_isDragged = event->button() == Qt::LeftButton;
+    m_isDragged = event->button() == Qt::LeftButton && !isOnControl(event->position().toPoint());
     if (m_isDragged)
         mouseDown(event);
 }

@@ -54,6 +54,7 @@ private:
     struct Shape;
 
     QPointF locationInWindow(const QMouseEvent &event) const;
+    bool isOnControl(const QPoint &place) const;
     void shrink();
     void showPictureInsteadOfContent();
     void fitPicture();

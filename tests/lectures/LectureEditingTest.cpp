@@ -671,6 +671,50 @@ private Q_SLOTS:
         }));
     }
 
+    // From before there was a limit to what can be typed.
+    void aSubjectThatIsLongerThanCanBeTypedIsShownAndSavedWhole()
+    {
+        const QString subject = u"X"_s + QString(39999, u'x');
+        aLecture().named(subject).insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        controller().openPlayEditWindow(row(0)->btnPlay());
+        controller().onEditLecture(row(0)->btnEdit());
+        QCOMPARE(windowSubject().text(), subject);
+        QCOMPARE(viewSubject().text(), subject);
+
+        windowNotes().setPlainText(u"Mirrors"_s);
+        doneButton().click();
+
+        QCOMPARE(m_program->storedRows()[0]["subject"_L1], subject);
+        QCOMPARE(m_program->storedRows()[0]["notes"_L1], u"Mirrors"_s);
+    }
+
+    void aSubjectThatIsLongerThanCanBeTypedGivesWayToAShorterOne()
+    {
+        aLecture().named(QString(300, u'x')).insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        controller().onEditLecture(row(0)->btnEdit());
+
+        QTest::keyClicks(&windowSubject(), u"y"_s);
+        QCOMPARE(windowSubject().text().size(), 300);
+        windowSubject().selectAll();
+        QTest::keyClicks(&windowSubject(), u"Waves"_s);
+        doneButton().click();
+
+        QCOMPARE(m_program->storedRows()[0]["subject"_L1], u"Waves"_s);
+    }
+
+    void aRefusedLetterMarksNothing()
+    {
+        aLecture().named(QString(255, u'x')).insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        controller().onEditLecture(row(0)->btnEdit());
+
+        QTest::keyClicks(&windowSubject(), u"y"_s);
+
+        QVERIFY(!controller().bHasChangesInNoteTitle());
+    }
+
     void whatIsBeingWrittenInTheLectureViewIsNotTakenAway()
     {
         showLecturesAndOpen();

@@ -2,9 +2,13 @@
 
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
+#include "widgets/CustomTextView.h"
+#include "widgets/CustomWindow.h"
+#include "widgets/MouseDownTextField.h"
 #include "widgets/PopOver.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 
 using namespace Qt::StringLiterals;
 using tarvelo::tests::LectureProgram;
@@ -68,6 +72,7 @@ private Q_SLOTS:
             {windows().newLectureOutlets().recordAnimationView, u"recordAnimationView"_s},
             {windows().editLectureOutlets().btnDoneEdit, u"btnDoneEdit"_s},
             {windows().playAudioOutlets().txtFieldForAudio, u"txtFieldForAudio"_s},
+            {windows().playAudioOutlets().btnClosePlayAudio, u"btnClosePlayAudio"_s},
             {windows().popoverOutlets().btnConfirmNo, u"btnConfirmNo"_s},
             {windows().popoverOutlets().lblPopoverNoAudio, u"lblPopoverNoAudio"_s},
             {windows().popoverOutlets().btnClosePopover, u"btnClosePopover"_s},
@@ -169,6 +174,53 @@ private Q_SLOTS:
         QCOMPARE(places(), idle);
     }
 
+    void subjectsEndAt255Characters()
+    {
+        for (QLineEdit *field : subjects()) {
+            field->setText(QString(254, u'x'));
+            QTest::keyClicks(field, u"yz"_s);
+            QCOMPARE(field->text(), QString(254, u'x') + u'y');
+
+            field->clear();
+            QGuiApplication::clipboard()->setText(QString(300, u'x'));
+            field->paste();
+            QVERIFY2(field->text().isEmpty(), qPrintable(field->objectName()));
+        }
+    }
+
+    void nothingCutsASubjectThatIsShown()
+    {
+        const QString subject(40000, u'x');
+        QList<QLineEdit *> fields = subjects();
+        fields.append(windows().playAudioOutlets().txtSubjectName);
+        for (QLineEdit *field : fields) {
+            field->setText(subject);
+            QVERIFY2(field->text() == subject, qPrintable(field->objectName()));
+        }
+    }
+
+    void notesTakePlainTextAlone()
+    {
+        for (QTextEdit *notes : {windows().newLectureOutlets().txtView,
+                                 windows().editLectureOutlets().txtViewNotesForEdit,
+                                 windows().lectureViewOutlets().tViewNoteForEdit}) {
+            QVERIFY2(qobject_cast<tarvelo::widgets::CustomTextView *>(notes),
+                     qPrintable(notes->objectName()));
+        }
+    }
+
+    void thePlayWindowIsACardWithoutABorder()
+    {
+        QWidget &window = *windows().playAudioOutlets().playAudioWindow;
+        m_program->start();
+        window.show();
+
+        QVERIFY(qobject_cast<tarvelo::widgets::CustomWindow *>(&window));
+        QVERIFY(!window.mask().contains(QPoint(0, 0)));
+        QVERIFY(window.mask().contains(window.rect().center()));
+        QCOMPARE(window.findChild<QWidget *>(u"playPanel"_s)->size(), window.size());
+    }
+
     void thePopOversHoldWhatTheyShow()
     {
         const auto &popovers = windows().popoverOutlets();
@@ -214,6 +266,13 @@ private:
                 windows().playAudioOutlets().playAudioWindow,
                 windows().popoverOutlets().popoverConfirmRecordDelete,
                 windows().popoverOutlets().popoverAudioConfirmClose};
+    }
+    QList<QLineEdit *> subjects() const
+    {
+        windows().lectureViewOutlets().tSubjectName->setEditable(true);
+        return {windows().newLectureOutlets().txtSubjectForNewNote,
+                windows().editLectureOutlets().txtSubjectForEdit,
+                windows().lectureViewOutlets().tSubjectName};
     }
     // Controls that this program keeps and never shows.
     static QStringList mayStayHidden()

@@ -143,6 +143,55 @@ private Q_SLOTS:
         QVERIFY(!m_program->engine.player->isPlaying());
     }
 
+    void itsButtonClosesTheWindowAsItsTitleBarWould()
+    {
+        playFirst();
+
+        QTest::mouseClick(m_program->windows.playAudioOutlets().btnClosePlayAudio, Qt::LeftButton);
+        QVERIFY(!playWindow().isVisible());
+        m_program->clock.advance(200ms);
+
+        QVERIFY(!m_program->engine.player->isPlaying());
+    }
+
+    void itsButtonClosesTheWindowWhileALectureIsRecorded()
+    {
+        playFirst();
+        controller().onAddItem(nullptr);
+        controller().startRecording(nullptr);
+
+        m_program->windows.playAudioOutlets().btnClosePlayAudio->click();
+
+        QVERIFY(!playWindow().isVisible());
+        QVERIFY(m_program->alerts.sheets.isEmpty());
+    }
+
+    void theWindowComesBackInItsSize()
+    {
+        playFirst();
+        const QSize size = playWindow().size();
+        playWindow().close();
+
+        row(1).btnPlay()->click();
+
+        QVERIFY(playWindow().isVisible());
+        QTRY_COMPARE(playWindow().size(), size);
+    }
+
+    void theWindowIsDraggedByItsCardAndNotByItsControls()
+    {
+        playFirst();
+        const QPoint corner = playWindow().pos();
+        auto &card = *playWindow().findChild<QWidget *>(u"playPanel"_s);
+
+        drag(*player().sliderPlayProgress, {30, 20});
+        drag(*player().txtSubjectName, {30, 20});
+        QCOMPARE(playWindow().pos(), corner);
+        drag(card, {30, 20});
+
+        QCOMPARE(playWindow().pos(), corner + QPoint(30, 20));
+    }
+
     void theSpeedThatIsRecordedIsSelectedFirst()
     {
         QCOMPARE(player().segPlaySpeed->segmentCount(), 5);
@@ -194,6 +243,20 @@ private:
         return m_program->windows.lecturePlayerOutlets();
     }
     QWidget &playWindow() { return *player().playAudioWindow; }
+    // From its upper left corner on, in small steps.
+    static void drag(QWidget &place, const QPoint &by)
+    {
+        const QPoint start = place.mapToGlobal(QPoint(3, 3));
+        QTest::mousePress(&place, Qt::LeftButton, Qt::NoModifier, {3, 3});
+        for (int step = 1; step <= 10; ++step) {
+            const QPoint at = start + by * step / 10;
+            QMouseEvent move(QEvent::MouseMove, place.mapFromGlobal(at), at, Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&place, &move);
+        }
+        QTest::mouseRelease(&place, Qt::LeftButton, Qt::NoModifier,
+                            place.mapFromGlobal(start + by));
+    }
     CustomTableCellView &row(int at)
     {
         return *m_program->windows.mainOutlets()

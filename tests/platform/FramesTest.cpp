@@ -2,6 +2,7 @@
 
 #include "support/TestCase.h"
 
+#include <QScreen>
 #include <QWidget>
 
 using namespace tarvelo::platform;
@@ -44,6 +45,20 @@ private Q_SLOTS:
 
         QCOMPARE(view.size(), QSize(320, 320));
         QCOMPARE(frameOf(view), QRectF(0, 0, 320, 320));
+    }
+
+    void onTheScreenPlacesCountFromItsLowerLeftCorner()
+    {
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        QWidget window;
+
+        setFrameOnScreen(window, {10, 20, 30, 40});
+
+        QCOMPARE(window.geometry(), QRect(10, screen.height() - 60, 30, 40));
+        QCOMPARE(frameOnScreen(window), QRectF(10, 20, 30, 40));
+        QCOMPARE(placeOnScreen(QPointF(5, screen.height() - 1.5)), QPointF(5, 1.5));
+        QCOMPARE(visibleFrame(*QGuiApplication::primaryScreen()).size(),
+                 QSizeF(QGuiApplication::primaryScreen()->availableGeometry().size()));
     }
 };
 

@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -232,6 +233,30 @@ private Q_SLOTS:
         QVERIFY(m_slider->value() > 0);
         QVERIFY(m_field->hasSelectedText());
         QCOMPARE(m_window->pos(), corner);
+    }
+
+    void aControlThatHasNothingToDoTakesNothingAlong()
+    {
+        const QPoint corner = m_window->pos();
+        m_button->setEnabled(false);
+        m_slider->setRange(0, 0);
+
+        for (QWidget *control : QList<QWidget *>{m_button, m_slider})
+            drag(*control, {20, 15}, {40, 0});
+
+        QCOMPARE(m_window->pos(), corner);
+    }
+
+    void aLabelIsAPlaceToDragItBy()
+    {
+        const QPoint corner = m_window->pos();
+        QLabel label(QStringLiteral("Speed"), m_window.get());
+        label.setGeometry(10, 95, 100, 20);
+        label.show();
+
+        drag(label, {20, 10}, {40, 8});
+
+        QCOMPARE(m_window->pos(), corner + QPoint(40, 8));
     }
 
     void closingShrinksItToAPointAtItsMiddle()
