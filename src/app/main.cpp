@@ -89,7 +89,7 @@ int main(int argc, char **argv)
     platform::UserDefaults defaults(platform::UserDefaults::standardFile());
     platform::keepFolderPrivate(QFileInfo(platform::UserDefaults::standardFile()).path());
     const platform::Places places = platform::Places::ofProcess();
-    store::LectureDatabase database(places);
+    store::LectureDatabase database(places, clock);
     const auto engine = engine::makeSoundServerEngine();
     platform::WindowAlerts alerts;
     platform::DesktopWorkspace workspace;

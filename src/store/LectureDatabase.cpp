@@ -6,8 +6,9 @@
 
 namespace tarvelo::store {
 
-LectureDatabase::LectureDatabase(platform::Places places)
-    : m_places(std::move(places))
+LectureDatabase::LectureDatabase(const platform::Places &places, const platform::Clock &clock)
+    : m_folder(platform::expandingTilde(places.applicationSupport) + u'/' + places.processName)
+    , m_backups(m_folder + QStringLiteral("/Backups"), clock)
 {
 }
 
@@ -18,10 +19,8 @@ Sqlite *LectureDatabase::openDb()
     if (m_connection)
         return m_connection.get();
     m_connection = std::make_unique<Sqlite>();
-    const QString folder =
-        platform::expandingTilde(m_places.applicationSupport) + u'/' + m_places.processName;
-    platform::createFolderIfMissing(folder);
-    const QString file = folder + QStringLiteral("/TarveloInfo.db");
+    platform::createFolderIfMissing(m_folder);
+    const QString file = m_folder + QStringLiteral("/TarveloInfo.db");
     // SQLite would make it by the umask; its journal has the mode of the file.
     platform::createFileIfMissing(file);
     if (m_connection->open(file))
@@ -59,21 +58,36 @@ void LectureDatabase::updateToDoDatawithSqlStatementWithArguments(const QString 
 // The path is pasted as it stands: with an apostrophe in it the statement fails, and nothing goes.
 void LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
 {
-    if (m_connection)
-        m_connection->executeNonQuery(statements::DeleteByPathBegin +
-                                      lecture.getLectureAudioPath() + statements::DeleteByPathEnd);
+    if (!m_connection)
+        return;
+    const QString path = lecture.getLectureAudioPath();
+    const QString going = statements::IdsByPathBegin + path + statements::IdsByPathEnd;
+    const auto rows = m_connection->executeQuery(going);
+    if (rows && rows->size() > 1)
+        m_backups.keep(*m_connection, going);
+    m_connection->executeNonQuery(statements::DeleteByPathBegin + path +
+                                  statements::DeleteByPathEnd);
 }
 
 void LectureDatabase::writeOrReset(const QString &sql, const QVariantList &arguments,
                                    const QString &creationText)
 {
     Sqlite *const database = openDb();
-    if (!database || database->executeNonQueryArguments(sql, arguments))
+    if (!database)
         return;
-    database->executeNonQuery(statements::Drop);
-    database->executeNonQuery(creationText);
-    database->executeNonQuery(statements::DeleteAll);
-    database->executeNonQueryArguments(sql, arguments);
+    if (!database->executeNonQueryArguments(sql, arguments))
+        reset(*database, sql, arguments, creationText);
+    m_backups.holdRoom(*database);
+}
+
+void LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
+                            const QString &creationText)
+{
+    m_backups.keep(database, statements::AllIds);
+    database.executeNonQuery(statements::Drop);
+    database.executeNonQuery(creationText);
+    database.executeNonQuery(statements::DeleteAll);
+    database.executeNonQueryArguments(sql, arguments);
     makeIndexes();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Process.h"
+#include "store/LectureBackups.h"
 #include "store/Sqlite.h"
 
 #include <memory>
@@ -14,7 +15,8 @@ class LectureInfoItem;
 class LectureDatabase final
 {
 public:
-    explicit LectureDatabase(platform::Places places);
+    // `clock` outlives this object.
+    LectureDatabase(const platform::Places &places, const platform::Clock &clock);
     LectureDatabase(const LectureDatabase &) = delete;
     LectureDatabase &operator=(const LectureDatabase &) = delete;
     ~LectureDatabase();
@@ -30,6 +32,9 @@ public:
     // As the file has them. `month` is "MM" and matches that month of every year.
     std::optional<Rows> lecturesOfMonth(const QString &month);
 
+    // What a reset and a delete of several lectures take away is kept there first.
+    const LectureBackups &backups() const { return m_backups; }
+
     // When the statement fails, for whatever reason, the table is dropped with all its lectures,
     // made anew, and the statement run once more. This is how the table comes into being, and the
     // loss in all other cases is wanted as it is; the audio files stay.
@@ -44,9 +49,12 @@ public:
 private:
     void writeOrReset(const QString &sql, const QVariantList &arguments,
                       const QString &creationText);
+    void reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
+               const QString &creationText);
     void makeIndexes();
 
-    platform::Places m_places;
+    QString m_folder;
+    LectureBackups m_backups;
     std::unique_ptr<Sqlite> m_connection;
 };
 

@@ -18,6 +18,12 @@ inline constexpr QLatin1String Update("UPDATE audioData SET subject = ?, notes =
 inline constexpr QLatin1String DeleteByPathBegin("DELETE FROM audioData where audioFileFullPath='");
 inline constexpr QLatin1String DeleteByPathEnd("';");
 
+// What that takes away, found by the same words; the query has no end of its own, since it stands
+// in others.
+inline constexpr QLatin1String IdsByPathBegin("SELECT ID FROM audioData where audioFileFullPath='");
+inline constexpr QLatin1String IdsByPathEnd("'");
+inline constexpr QLatin1String AllIds("SELECT ID FROM audioData");
+
 // Argument: the day as "yyyy-MM-dd". Newest first.
 inline constexpr QLatin1String DayQuery("select * from audioData WHERE (strftime('%Y-%m-%d', "
                                         "recordingDate)) = ? ORDER BY ID DESC");

@@ -29,7 +29,7 @@ struct Application
         : dates(clock, {locale, QStringLiteral("UTC")})
         , settingsFile(home.places().applicationSupport + QStringLiteral("/Tarvelo.conf"))
         , defaults(settingsFile)
-        , database(home.places())
+        , database(home.places(), clock)
         , windows(dates)
         , controller({dates, home.places(), defaults, database, engine, alerts, workspace, mail,
                       sleep, flags.controllerIsAwake, flags.pendingRow},

@@ -102,7 +102,7 @@ protected:
     {
         m_clock.set(day(5).addSecs(9 * 3600));
         m_places = std::make_unique<TemporaryPlaces>();
-        m_lectures = std::make_unique<tarvelo::store::LectureDatabase>(m_places->places());
+        m_lectures = std::make_unique<tarvelo::store::LectureDatabase>(m_places->places(), m_clock);
         m_delegate.database = nullptr;
         m_delegate.databaseAsked = 0;
         makeCell();

@@ -96,7 +96,7 @@ private:
         tarvelo::tests::TemporaryPlaces places;
         tarvelo::tests::FakeClock clock;
         tarvelo::platform::Dates dates{clock, {"en_US", u"UTC"_s}};
-        tarvelo::store::LectureDatabase database{places.places()};
+        tarvelo::store::LectureDatabase database{places.places(), clock};
         QLabel label;
         QTableView table;
         QTableView list;

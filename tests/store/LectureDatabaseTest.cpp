@@ -2,6 +2,7 @@
 
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
+#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
 #include "support/Modes.h"
 #include "support/TemporaryPlaces.h"
@@ -56,7 +57,7 @@ private Q_SLOTS:
     {
         const QByteArray home = qgetenv("HOME");
         qputenv("HOME", QFile::encodeName(m_places->places().applicationSupport));
-        LectureDatabase database({u"~/data"_s, u"Tarvelo"_s});
+        LectureDatabase database({u"~/data"_s, u"Tarvelo"_s}, m_clock);
 
         const Sqlite *const connection = database.openDb();
         qputenv("HOME", home);
@@ -255,7 +256,7 @@ private Q_SLOTS:
     {
         aLecture().named("kept").insertInto(*m_database);
 
-        m_database = std::make_unique<LectureDatabase>(m_places->places());
+        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
 
         QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList(u"kept"_s));
     }
@@ -264,7 +265,7 @@ private:
     void prepare() override
     {
         m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places());
+        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
     }
     void finish() override
     {
@@ -297,6 +298,7 @@ private:
         return lecture;
     }
 
+    tarvelo::tests::FakeClock m_clock;
     std::unique_ptr<TemporaryPlaces> m_places;
     std::unique_ptr<LectureDatabase> m_database;
 };

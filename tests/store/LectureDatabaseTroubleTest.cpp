@@ -2,6 +2,7 @@
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
+#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
 #include "support/OrdinaryUser.h"
 #include "support/StderrCatcher.h"
@@ -42,7 +43,7 @@ private Q_SLOTS:
     void whileAnotherProgramHoldsTheFileNothingIsReadOrWritten()
     {
         aLecture().named("kept").insertInto(*m_database);
-        LectureDatabase fresh(m_places->places());
+        LectureDatabase fresh(m_places->places(), m_clock);
         QProcess other;
         QVERIFY(holdLock(other));
 
@@ -87,7 +88,7 @@ private Q_SLOTS:
         aLecture().named("kept").insertInto(*m_database);
         m_database.reset();
         setWritable(false);
-        LectureDatabase database(m_places->places());
+        LectureDatabase database(m_places->places(), m_clock);
         {
             const OrdinaryUser user;
             QVERIFY(database.openDb());
@@ -103,7 +104,7 @@ private Q_SLOTS:
         makeFileOfAnOlderRun();
         setWritable(false);
         const QByteArray before = m_places->readDatabaseFile();
-        LectureDatabase database(m_places->places());
+        LectureDatabase database(m_places->places(), m_clock);
         {
             const OrdinaryUser user;
             QCOMPARE(subjects(database), QStringList(u"old"_s));
@@ -172,7 +173,7 @@ private Q_SLOTS:
         // All but the first two pages, which hold the schema and the table's root.
         content.replace(8192, content.size() - 8192, QByteArray(content.size() - 8192, '\xa5'));
         m_places->writeDatabaseFile(content);
-        LectureDatabase database(m_places->places());
+        LectureDatabase database(m_places->places(), m_clock);
 
         const auto rows = database.lecturesOfMonth(u"03"_s);
 
@@ -242,7 +243,7 @@ private:
     {
         m_stderr = std::make_unique<StderrCatcher>();
         m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places());
+        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
         duringPause = nullptr;
     }
     void finish() override
@@ -301,6 +302,7 @@ private:
     }
 
     std::unique_ptr<StderrCatcher> m_stderr;
+    FakeClock m_clock;
     std::unique_ptr<TemporaryPlaces> m_places;
     std::unique_ptr<LectureDatabase> m_database;
 };

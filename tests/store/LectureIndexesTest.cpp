@@ -1,5 +1,6 @@
 #include "store/LectureDatabase.h"
 #include "store/Statements.h"
+#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
 #include "support/TemporaryPlaces.h"
 #include "support/TestCase.h"
@@ -57,7 +58,7 @@ private Q_SLOTS:
         m_database.reset();
         const QByteArray before = m_places->readDatabaseFile();
 
-        LectureDatabase again(m_places->places());
+        LectureDatabase again(m_places->places(), m_clock);
         QVERIFY(again.openDb());
 
         QCOMPARE(m_places->readDatabaseFile(), before);
@@ -152,7 +153,7 @@ private:
     void prepare() override
     {
         m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places());
+        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
     }
     void finish() override
     {
@@ -214,6 +215,7 @@ private:
         return text;
     }
 
+    tarvelo::tests::FakeClock m_clock;
     std::unique_ptr<TemporaryPlaces> m_places;
     std::unique_ptr<LectureDatabase> m_database;
 };

@@ -113,7 +113,7 @@ public:
     FakeClock clock;
     platform::Dates dates;
     platform::UserDefaults defaults{places.folder() + QStringLiteral(".conf")};
-    store::LectureDatabase database{places.places()};
+    store::LectureDatabase database{places.places(), clock};
     FakeAudioEngine engine;
     FakeAlerts alerts;
     FakeWorkspace workspace;

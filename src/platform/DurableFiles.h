@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace tarvelo::platform {
+
+// What is said to be on the disk is there after a power cut too.
+
+// Forces the file's content to the disk, gives it the other name, in the place of what had that,
+// and forces the names to the disk. False when the file does not have the name.
+bool renameDurably(const QString &from, const QString &to);
+
+// Takes so much room on the disk with a file that holds nothing, until it is removed. What is there
+// already grows, and never shrinks. False when there is no room; then none is taken.
+bool holdRoom(const QString &path, qint64 bytes);
+
+} // namespace tarvelo::platform

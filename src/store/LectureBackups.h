@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QDateTime>
+#include <QList>
+#include <QStringList>
+
+#include <optional>
+
+namespace tarvelo::platform {
+class Clock;
+}
+
+namespace tarvelo::store {
+
+class Sqlite;
+
+// Copies of the whole lecture database, each made just before something takes many lectures out of
+// it, and the way back from them. A copy is a database that any other program can read; beside the
+// lectures it says which of them were about to go. Nothing here ever fails aloud. Main thread only.
+class LectureBackups final
+{
+public:
+    // The newest of them; older ones go when another one comes.
+    static constexpr int Kept = 10;
+
+    struct Copy
+    {
+        QString filePath;
+        QDateTime made; // local time
+        int lectures = 0;
+        int missing = 0; // of them, in the database
+    };
+
+    // `folder` is made with the first copy.
+    LectureBackups(QString folder, const platform::Clock &clock);
+
+    // `going` is a query for the "ID" of every lecture that is about to go. False when there is no
+    // copy: nothing goes, or none could be made.
+    bool keep(Sqlite &database, const QString &going);
+
+    // Newest first. What cannot be read is not listed.
+    QList<Copy> copies(Sqlite &database) const;
+    // Puts back what is missing, under its own ID where that is still free. Null when that failed,
+    // and then nothing has changed; else how many came back. A lecture that came back once is not
+    // missing any more, also when it was changed or deleted since.
+    std::optional<int> bringBack(const QString &copyPath, Sqlite &database) const;
+
+    // Holds so much room on the disk that the next copy can be made on one that is full.
+    void holdRoom(const Sqlite &database) const;
+
+private:
+    bool writesCopy(Sqlite &database, const QString &going) const;
+    QStringList namesOfCopies() const;
+    QString nameAfter(const QStringList &names) const;
+    void forgetOldest() const;
+    QString pathOf(const QString &name) const;
+    QString roomPath() const;
+
+    QString m_folder;
+    const platform::Clock &m_clock;
+};
+
+} // namespace tarvelo::store

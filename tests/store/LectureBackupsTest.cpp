@@ -1,0 +1,358 @@
+#include "store/LectureBackups.h"
+
+#include "store/LectureDatabase.h"
+#include "store/LectureInfoItem.h"
+#include "store/Statements.h"
+#include "support/FakeClock.h"
+#include "support/LectureBuilder.h"
+#include "support/TemporaryPlaces.h"
+#include "support/TestCase.h"
+
+#include <QFileInfo>
+
+#include <memory>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using namespace tarvelo::store;
+using tarvelo::tests::aLecture;
+using tarvelo::tests::FakeClock;
+using tarvelo::tests::LectureBuilder;
+using tarvelo::tests::TemporaryPlaces;
+
+class LectureBackupsTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFirstLectureTakesNothingAway()
+    {
+        add(aLecture());
+
+        QVERIFY(copies().isEmpty());
+    }
+
+    void aResetKeepsEveryLectureInACopy()
+    {
+        add(aLecture().named("Optics"));
+        add(aLecture().named("Logic").withoutAudio());
+        const QString before = everything();
+
+        reset();
+
+        QVERIFY(everything().isEmpty());
+        const auto copy = copies().value(0);
+        QCOMPARE(copies().size(), 1);
+        QCOMPARE(copy.lectures, 2);
+        QCOMPARE(copy.missing, 2);
+        QCOMPARE(copy.made, m_clock.now().toLocalTime());
+        QCOMPARE(bringBack(), 2);
+        QCOMPARE(everything(), before);
+    }
+
+    void aCopyIsForItsUserAloneAndReadByAnyProgram()
+    {
+        add(aLecture().named("Optics"));
+        reset();
+
+        const QString path = copies().value(0).filePath;
+
+        QCOMPARE(QFileInfo(path).permissions() & 0x0fff, QFile::ReadUser | QFile::WriteUser);
+        Sqlite other(path);
+        QCOMPARE(subjectsIn(other), QStringList(u"Optics"_s));
+        QCOMPARE(QDir(folder()).entryList({u"*.db"_s, u".copy*"_s}, QDir::Files | QDir::Hidden)
+                     .size(), 1);
+    }
+
+    void aDeleteOfOneLectureNeedsNoCopy()
+    {
+        add(aLecture().withAudio(u"/music/a.m4a"_s));
+        add(aLecture().withAudio(u"/music/b.m4a"_s));
+
+        remove(u"/music/a.m4a"_s);
+
+        QVERIFY(copies().isEmpty());
+        QCOMPARE(subjectsIn(connection()).size(), 1);
+    }
+
+    void aDeleteOfSeveralLecturesKeepsThem()
+    {
+        add(aLecture().named("Logic").withoutAudio());
+        add(aLecture().named("Optics"));
+        add(aLecture().named("Ethics").withoutAudio());
+        const QString before = everything();
+
+        remove(QString());
+
+        QCOMPARE(subjectsIn(connection()), QStringList(u"Optics"_s));
+        QCOMPARE(copies().value(0).lectures, 3);
+        QCOMPARE(copies().value(0).missing, 2);
+        QCOMPARE(bringBack(), 2);
+        QCOMPARE(everything(), before);
+    }
+
+    void anApostropheThatMakesTheDeleteFailMakesNoCopy()
+    {
+        add(aLecture().withAudio(u"/it's/a.m4a"_s));
+        add(aLecture().withAudio(u"/it's/a.m4a"_s));
+
+        remove(u"/it's/a.m4a"_s);
+
+        QVERIFY(copies().isEmpty());
+        QCOMPARE(subjectsIn(connection()).size(), 2);
+    }
+
+    void whatIsBackDoesNotComeTwice()
+    {
+        add(aLecture().withoutAudio());
+        add(aLecture().withoutAudio());
+        remove(QString());
+        QCOMPARE(bringBack(), 2);
+
+        QCOMPARE(bringBack(), 0);
+
+        QCOMPARE(subjectsIn(connection()).size(), 2);
+        QCOMPARE(copies().value(0).missing, 0);
+        QCOMPARE(copies().value(0).lectures, 2);
+    }
+
+    void aLectureThatWasChangedAfterItCameBackIsNotDoubled()
+    {
+        const qint64 id = add(aLecture().named("Logic").withoutAudio());
+        add(aLecture().withoutAudio());
+        remove(QString());
+        QCOMPARE(bringBack(), 2);
+
+        change(id, u"Modal Logic"_s);
+
+        QCOMPARE(bringBack(), 0);
+        QCOMPARE(subjectsIn(connection()).size(), 2);
+    }
+
+    void aLectureThatStayedAndWasChangedIsNotDoubled()
+    {
+        const qint64 id = add(aLecture().named("Optics"));
+        add(aLecture().named("Logic").withoutAudio());
+        add(aLecture().named("Logic").withoutAudio());
+        remove(QString());
+
+        change(id, u"Wave Optics"_s);
+
+        QCOMPARE(bringBack(), 2);
+        QCOMPARE(subjectsIn(connection()), QStringList({u"Wave Optics"_s, u"Logic"_s, u"Logic"_s}));
+    }
+
+    void whoseNumberWasGivenAgainGetsANewOne()
+    {
+        add(aLecture().named("old"));
+        add(aLecture().named("older").withoutAudio());
+        reset();
+        add(aLecture().named("new").withAudio(u"/music/new.m4a"_s));
+
+        QCOMPARE(bringBack(), 2);
+
+        QCOMPARE(everything(), u"1 new, 2 older, 3 old"_s);
+    }
+
+    void aRecordingThatHasALectureAgainIsNotMissing()
+    {
+        add(aLecture().withAudio(u"/music/a.m4a"_s));
+        add(aLecture().withAudio(u"/music/b.m4a"_s));
+        reset();
+        add(aLecture().named("found").withAudio(u"/music/a.m4a"_s));
+
+        QCOMPARE(copies().value(0).missing, 1);
+        QCOMPARE(bringBack(), 1);
+
+        QCOMPARE(subjectsIn(connection()).size(), 2);
+    }
+
+    void withoutATableEverythingIsMissingAndComesBack()
+    {
+        add(aLecture().named("Optics"));
+        reset();
+        connection().executeNonQuery(statements::Drop);
+
+        QCOMPARE(copies().value(0).missing, 1);
+        QCOMPARE(bringBack(), 1);
+
+        QCOMPARE(subjectsIn(connection()), QStringList(u"Optics"_s));
+    }
+
+    void theNewestTenStay()
+    {
+        for (int round = 1; round <= 12; ++round) {
+            add(aLecture().named(QString::number(round)));
+            m_clock.advance(std::chrono::hours(1));
+            reset();
+        }
+
+        QCOMPARE(copies().size(), 10);
+        QCOMPARE(bringBack(), 1);
+        QCOMPARE(subjectsIn(connection()), QStringList(u"12"_s));
+    }
+
+    void aClockThatIsPutBackCostsNoCopy()
+    {
+        for (int round = 1; round <= 12; ++round) {
+            add(aLecture().named(QString::number(round)));
+            m_clock.set(m_clock.now().addDays(-1));
+            reset();
+        }
+
+        QCOMPARE(bringBack(), 1);
+        QCOMPARE(subjectsIn(connection()), QStringList(u"12"_s));
+    }
+
+    void aWriteThatFailsAgainAndAgainPushesNoCopyOut()
+    {
+        add(aLecture().named("Optics"));
+        reset();
+        add(aLecture().named("Logic"));
+        QFile::setPermissions(m_places->databaseFile(), QFile::ReadUser);
+
+        Sqlite locker(m_places->databaseFile());
+        QVERIFY(locker.beginTransaction());
+        for (int again = 0; again < 12; ++again)
+            reset();
+        locker.rollback();
+
+        QCOMPARE(copies().size(), 2);
+        QCOMPARE(copies().value(1).missing, 1);
+    }
+
+    void aDamagedFileIsCopiedAside()
+    {
+        add(aLecture());
+        m_database.reset();
+        QByteArray content = m_places->readDatabaseFile();
+        content.replace(0, 8, "no SQL!!");
+        m_places->writeDatabaseFile(content);
+        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+
+        add(aLecture());
+
+        const QStringList names = QDir(folder()).entryList({u"*.db"_s}, QDir::Files);
+        QCOMPARE(names.size(), 1);
+        QFile copy(folder() + u'/' + names.value(0));
+        QVERIFY(copy.open(QIODevice::ReadOnly));
+        QCOMPARE(copy.readAll(), content);
+        QVERIFY(copies().isEmpty());
+    }
+
+    void aDamagedCopyIsNotListedAndNothingComesFromIt()
+    {
+        add(aLecture());
+        reset();
+        const QString path = copies().value(0).filePath;
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("nothing that was a copy") > 0);
+        file.close();
+
+        QVERIFY(copies().isEmpty());
+        QVERIFY(!backups().bringBack(path, connection()));
+        QVERIFY(!backups().bringBack(folder() + u"/none.db"_s, connection()));
+        QVERIFY(everything().isEmpty());
+    }
+
+    void whatCannotComeBackNowChangesNothing()
+    {
+        add(aLecture());
+        reset();
+        Sqlite other(m_places->databaseFile());
+        QVERIFY(other.beginTransaction());
+
+        QVERIFY(!backups().bringBack(copyPath(), connection()));
+
+        other.rollback();
+        QVERIFY(everything().isEmpty());
+        QCOMPARE(bringBack(), 1);
+    }
+
+    void otherFilesInTheFolderStayAndAreNotListed()
+    {
+        add(aLecture());
+        QDir().mkpath(folder());
+        const QString foreign = folder() + u"/TarveloInfo of my own.db"_s;
+        QVERIFY(QFile::copy(m_places->databaseFile(), foreign));
+
+        for (int round = 1; round <= 12; ++round) {
+            reset();
+            add(aLecture().named(QString::number(round)));
+        }
+
+        QVERIFY(QFileInfo::exists(foreign));
+        QCOMPARE(copies().size(), 10);
+    }
+
+    void roomForTheNextCopyIsHeldAsTheDatabaseGrows()
+    {
+        add(aLecture());
+        const qint64 first = QFileInfo(folder() + u"/.room"_s).size();
+        QVERIFY(first > QFileInfo(m_places->databaseFile()).size());
+
+        add(aLecture().withNotes(QString(500000, u'x')));
+
+        QVERIFY(QFileInfo(folder() + u"/.room"_s).size() >= first + 500000);
+    }
+
+private:
+    void init() override
+    {
+        m_places = std::make_unique<TemporaryPlaces>();
+        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+    }
+    void cleanup() override
+    {
+        m_database.reset();
+        m_places.reset();
+    }
+
+    QString folder() const { return m_places->folder() + u"/Backups"_s; }
+    const LectureBackups &backups() const { return m_database->backups(); }
+    Sqlite &connection() const { return *m_database->openDb(); }
+    QList<LectureBackups::Copy> copies() const { return backups().copies(connection()); }
+    QString copyPath() const { return copies().value(0).filePath; }
+    // From the newest copy.
+    int bringBack() const { return backups().bringBack(copyPath(), connection()).value_or(-1); }
+
+    qint64 add(const LectureBuilder &lecture) const { return lecture.insertInto(*m_database); }
+    // A statement that fails for whatever reason.
+    void reset() const { m_database->insertIntoDbwithSqlStatementWithArguments(u"nonsense"_s, {}); }
+    void remove(const QString &audioPath) const
+    {
+        LectureInfoItem lecture;
+        lecture.setLectureAudioPath(audioPath);
+        m_database->deleteVoiceData(lecture);
+    }
+    void change(qint64 id, const QString &subject) const
+    {
+        m_database->updateToDoDatawithSqlStatementWithArguments(
+            statements::Update, {subject, QString(), QString::number(id)});
+    }
+
+    static QStringList subjectsIn(Sqlite &database)
+    {
+        QStringList subjects;
+        const auto rows = database.executeQuery(u"select subject from audioData order by ID"_s);
+        for (const Row &row : rows.value_or(Rows()))
+            subjects << row.value(u"subject"_s).toString();
+        return subjects;
+    }
+    // Of every lecture.
+    QString everything() const
+    {
+        QStringList lectures;
+        const auto rows = connection().executeQuery(u"select ID, subject from audioData order by ID"_s);
+        for (const Row &row : rows.value_or(Rows()))
+            lectures << row.value(u"ID"_s).toString() + u' ' + row.value(u"subject"_s).toString();
+        return lectures.join(u", "_s);
+    }
+
+    FakeClock m_clock;
+    std::unique_ptr<TemporaryPlaces> m_places;
+    std::unique_ptr<LectureDatabase> m_database;
+};
+
+QTEST_GUILESS_MAIN(LectureBackupsTest)
+#include "LectureBackupsTest.moc"
