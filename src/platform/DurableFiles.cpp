@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -53,12 +54,15 @@ bool renameDurably(const QString &from, const QString &to)
 
 bool holdRoom(const QString &path, qint64 bytes)
 {
+    const qint64 missing = bytes - QFileInfo(path).size();
+    if (missing <= 0)
+        return true;
+    if (QStorageInfo(QFileInfo(path).path()).bytesAvailable() / 3 < missing)
+        return false;
     const Descriptor file(path, O_RDWR | O_CREAT);
     struct stat status = {};
     if (file.number() < 0 || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
         return false;
-    if (status.st_size >= bytes)
-        return true;
     if (::posix_fallocate(file.number(), 0, bytes) == 0)
         return true;
     ::unlink(QFile::encodeName(path).constData());

@@ -11,7 +11,8 @@ namespace tarvelo::platform {
 bool renameDurably(const QString &from, const QString &to);
 
 // Takes so much room on the disk with a file that holds nothing, until it is removed. What is there
-// already grows, and never shrinks. False when there is no room; then none is taken.
+// already grows, and never shrinks. False when that would be more than a third of what is free:
+// then everything else needs the room more, and none is taken.
 bool holdRoom(const QString &path, qint64 bytes);
 
 } // namespace tarvelo::platform

@@ -22,13 +22,14 @@ NoRoomForFiles::~NoRoomForFiles()
     setrlimit(RLIMIT_FSIZE, &m_before);
 }
 
-SmallDisk::SmallDisk(QString folder)
+SmallDisk::SmallDisk(QString folder, int kibibytes)
     : m_folder(std::move(folder))
 {
-    m_mounted = unshare(CLONE_NEWNS) == 0 &&
-                mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-                mount("tmpfs", QFile::encodeName(m_folder).constData(), "tmpfs", 0,
-                      "size=128k,mode=0755") == 0;
+    m_mounted =
+        unshare(CLONE_NEWNS) == 0 &&
+        mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+        mount("tmpfs", QFile::encodeName(m_folder).constData(), "tmpfs", 0,
+              QByteArray("mode=0755,size=" + QByteArray::number(kibibytes) + "k").constData()) == 0;
 }
 
 SmallDisk::~SmallDisk()

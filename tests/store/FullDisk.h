@@ -21,12 +21,12 @@ private:
     rlimit m_before = {};
 };
 
-// A disk of 128 KiB, mounted at `folder` as long as it lives, visible to this process alone. Where
+// A small disk, mounted at `folder` as long as it lives, visible to this process alone. Where
 // mounting is not allowed, fill() falls back on NoRoomForFiles until emptyAgain().
 class SmallDisk final
 {
 public:
-    explicit SmallDisk(QString folder);
+    explicit SmallDisk(QString folder, int kibibytes = 128);
     SmallDisk(const SmallDisk &) = delete;
     SmallDisk &operator=(const SmallDisk &) = delete;
     ~SmallDisk();

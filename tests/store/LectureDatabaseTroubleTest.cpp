@@ -197,6 +197,34 @@ private Q_SLOTS:
         m_database.reset();
     }
 
+    void onADiskThatBecomesFullEveryLectureIsThereOrComesBack()
+    {
+        for (int kibibytes = 300; kibibytes <= 600; kibibytes += 100) {
+            m_database.reset();
+            m_places = std::make_unique<TemporaryPlaces>();
+            m_places->makeFolder();
+            SmallDisk disk(m_places->folder(), kibibytes);
+            m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+            for (int lecture = 0; lecture < 20; ++lecture)
+                aLecture()
+                    .named("kept")
+                    .withNotes(QString(2000, u'n'))
+                    .withoutAudio()
+                    .insertInto(*m_database);
+
+            disk.fill();
+            aLecture().named("new").withNotes(QString(90000, u'n')).insertInto(*m_database);
+            disk.emptyAgain();
+
+            Sqlite &database = *m_database->openDb();
+            const auto copies = m_database->backups().copies(database);
+            if (!subjects(*m_database).contains(u"kept"_s))
+                QCOMPARE(m_database->backups().bringBack(copies.value(0).filePath, database), 20);
+            QCOMPARE(subjects(*m_database).count(u"kept"_s), 20);
+            m_database.reset();
+        }
+    }
+
     void onADiskThatIsFullFromTheStartThereAreNoLectures()
     {
         m_places->makeFolder();
