@@ -1,0 +1,54 @@
+#pragma once
+
+#include "store/LectureBackups.h"
+
+#include <QObject>
+
+class QDialog;
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+
+namespace tarvelo::platform {
+class Dates;
+}
+namespace tarvelo::store {
+class LectureDatabase;
+}
+
+namespace tarvelo::app {
+
+// The sheet of the main window that shows the copies made before lectures went in bulk, newest
+// first, and brings back what is missing from the one chosen. It says what came of it.
+class BringBackSheet final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // All must outlive this object, which parents its sheet to `mainWindow`.
+    BringBackSheet(store::LectureDatabase &database, const platform::Dates &dates,
+                   QWidget &mainWindow);
+    ~BringBackSheet() override;
+
+    QDialog *sheet() const { return m_sheet; }
+    void show();
+
+Q_SIGNALS:
+    void lecturesCameBack();
+
+private:
+    void build();
+    void list();
+    void offer();
+    void bringBack();
+
+    store::LectureDatabase &m_database;
+    const platform::Dates &m_dates;
+    QList<store::LectureBackups::Copy> m_copies;
+    QDialog *m_sheet; // child of the main window, and all below are its
+    QTreeWidget *m_list = nullptr;
+    QLabel *m_outcome = nullptr;
+    QPushButton *m_bringBack = nullptr;
+};
+
+} // namespace tarvelo::app
