@@ -27,6 +27,26 @@
         <source></source>
         <translation>انتهى التسجيل</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>المحاضرات المستعادة: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>قبل أن تذهب محاضرات كثيرة دفعة واحدة يحتفظ Tarvelo بنسخة منها كلها. اختر نسخة: يعود ما هو مفقود ولا يتغير شيء آخر.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>لا يمكن استعادة المحاضرات الآن. لم يتغير شيء.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>لا توجد نسخ: لم تذهب محاضرات كثيرة دفعة واحدة حتى الآن.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>استعادة</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>إلغاء</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>عرض</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>نسخة من</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>المحاضرات</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>المفقود الآن</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>القائمة الكاملة</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>استعادة المحاضرات…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>ثلث السرعة</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>استعادة المحاضرات</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>Aufnahme beendet</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Zurückgeholte Vorlesungen: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Bevor viele Vorlesungen auf einmal verschwinden, hebt Tarvelo eine Kopie von allen auf. Wählen Sie eine Kopie: Was fehlt, kommt zurück, und sonst ändert sich nichts.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Die Vorlesungen können jetzt nicht zurückgeholt werden. Nichts wurde geändert.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Es gibt keine Kopien: Bisher sind keine Vorlesungen in größerer Zahl verschwunden.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Zurückholen</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Abbrechen</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Ansehen</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Kopie von</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Vorlesungen</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Fehlen jetzt</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Gesamte Liste</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Vorlesungen zurückholen …</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Ein Drittel der Geschwindigkeit</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Vorlesungen zurückholen</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

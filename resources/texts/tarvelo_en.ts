@@ -27,6 +27,26 @@
         <source></source>
         <translation>Recording stopped</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Lectures brought back: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Before many lectures go at once, Tarvelo keeps a copy of them all. Choose a copy: what is missing comes back, and nothing else changes.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>The lectures cannot be brought back now. Nothing was changed.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>There are no copies: no lectures went in bulk so far.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Bring Back</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Cancel</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>View</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Copy of</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Lectures</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Missing now</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>All List</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Bring Lectures Back…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>A third of the speed</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Bring Lectures Back</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

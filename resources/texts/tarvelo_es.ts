@@ -27,6 +27,26 @@
         <source></source>
         <translation>Grabación detenida</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Clases recuperadas: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Antes de que desaparezcan muchas clases a la vez, Tarvelo guarda una copia de todas. Elija una copia: lo que falta vuelve y nada más cambia.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Ahora no se pueden recuperar las clases. No se ha cambiado nada.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>No hay copias: hasta ahora no han desaparecido varias clases a la vez.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Recuperar</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Cancelar</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Ver</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Copia del</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Clases</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Faltan</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Lista completa</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Recuperar clases…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Un tercio de la velocidad</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Recuperar clases</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>Enregistrement arrêté</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Cours récupérés : %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Avant que plusieurs cours ne disparaissent d’un coup, Tarvelo en garde une copie. Choisissez une copie : ce qui manque revient, et rien d’autre ne change.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Les cours ne peuvent pas être récupérés pour le moment. Rien n’a été modifié.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Il n’y a pas de copie : jusqu’ici, aucun cours n’a disparu en nombre.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Récupérer</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Annuler</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Afficher</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Copie du</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Cours</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Manquants</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Liste complète</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Récupérer des cours…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Un tiers de la vitesse</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Récupérer des cours</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

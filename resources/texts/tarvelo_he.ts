@@ -27,6 +27,26 @@
         <source></source>
         <translation>ההקלטה הופסקה</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>הרצאות ששוחזרו: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>לפני שהרצאות רבות נעלמות בבת אחת, Tarvelo שומר עותק של כולן. בחרו עותק: מה שחסר יחזור, ושום דבר אחר לא ישתנה.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>אי אפשר לשחזר את ההרצאות כעת. דבר לא השתנה.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>אין עותקים: עד כה לא נעלמו הרצאות רבות בבת אחת.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>שחזור</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>ביטול</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>תצוגה</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>עותק מיום</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>הרצאות</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>חסרות כעת</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>הרשימה המלאה</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>שחזור הרצאות…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>שליש מהמהירות</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>שחזור הרצאות</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>रिकॉर्डिंग समाप्त हुई</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>वापस लाए गए व्याख्यान: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>एक साथ कई व्याख्यान जाने से पहले Tarvelo उन सबकी एक प्रति रखता है। कोई प्रति चुनें: जो नहीं है वह लौट आएगा, और कुछ नहीं बदलेगा।</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>व्याख्यान अभी वापस नहीं लाए जा सकते। कुछ नहीं बदला गया।</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>कोई प्रति नहीं है: अब तक एक साथ कई व्याख्यान नहीं गए।</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>वापस लाएँ</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>रद्द करें</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>देखें</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>प्रति</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>व्याख्यान</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>अब नहीं हैं</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>पूरी सूची</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>व्याख्यान वापस लाएँ…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>एक तिहाई गति</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>व्याख्यान वापस लाएँ</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>Registrazione terminata</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Lezioni recuperate: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Prima che molte lezioni spariscano insieme, Tarvelo ne conserva una copia. Scelga una copia: ciò che manca ritorna e nient’altro cambia.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Ora non è possibile recuperare le lezioni. Nulla è stato modificato.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Non ci sono copie: finora non sono sparite più lezioni insieme.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Recupera</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Annulla</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Mostra</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Copia del</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Lezioni</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Mancanti</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Elenco completo</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Recupera lezioni…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Un terzo della velocità</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Recupera lezioni</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>録音を停止しました</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>復元した講義：%1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>多くの講義が一度に失われる前に、Tarvelo はすべての控えを残します。控えを選ぶと、なくなった講義だけが戻り、ほかは変わりません。</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>今は講義を復元できません。何も変更していません。</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>控えはありません。まとめて失われた講義はまだありません。</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>復元</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>キャンセル</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>表示</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>控えの日時</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>講義</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>失われた数</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>すべてのリスト</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>講義を復元…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>3 分の 1 の速度</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>講義を復元</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>녹음을 중지했습니다</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>되살린 강의: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>많은 강의가 한꺼번에 사라지기 전에 Tarvelo가 모두의 사본을 보관합니다. 사본을 고르면 없어진 강의만 돌아오고 나머지는 그대로입니다.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>지금은 강의를 되살릴 수 없습니다. 바뀐 것은 없습니다.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>사본이 없습니다. 지금까지 한꺼번에 사라진 강의가 없습니다.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>되살리기</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>취소</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>보기</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>사본 시각</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>강의</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>지금 없는 수</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>전체 목록</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>강의 되살리기…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>3분의 1 속도</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>강의 되살리기</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

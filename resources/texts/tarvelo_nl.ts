@@ -27,6 +27,26 @@
         <source></source>
         <translation>Opname gestopt</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Teruggehaalde colleges: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Voordat veel colleges tegelijk verdwijnen, bewaart Tarvelo een kopie van alle. Kies een kopie: wat ontbreekt komt terug, en verder verandert er niets.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>De colleges kunnen nu niet worden teruggehaald. Er is niets veranderd.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Er zijn geen kopieën: tot nu toe zijn er geen colleges tegelijk verdwenen.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Terughalen</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Annuleren</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Bekijken</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Kopie van</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Colleges</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Ontbreken nu</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Volledige lijst</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Colleges terughalen…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Een derde van de snelheid</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Colleges terughalen</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>Nagrywanie zakończone</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Przywrócone wykłady: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Zanim wiele wykładów zniknie naraz, Tarvelo zachowuje kopię wszystkich. Wybierz kopię: brakujące wykłady wrócą, a nic innego się nie zmieni.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Teraz nie można przywrócić wykładów. Nic nie zostało zmienione.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Nie ma kopii: dotąd nie zniknęło naraz wiele wykładów.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Przywróć</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Anuluj</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Podgląd</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Kopia z</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Wykłady</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Brakuje</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Pełna lista</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Przywróć wykłady…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Jedna trzecia prędkości</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Przywracanie wykładów</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>Gravação encerrada</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Aulas recuperadas: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Antes de muitas aulas desaparecerem de uma vez, o Tarvelo guarda uma cópia de todas. Escolha uma cópia: o que falta volta e nada mais muda.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Agora não é possível recuperar as aulas. Nada foi alterado.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Não há cópias: até agora não desapareceram várias aulas de uma vez.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Recuperar</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Cancelar</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Ver</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Cópia de</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Aulas</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Em falta</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Lista completa</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Recuperar aulas…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Um terço da velocidade</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Recuperar aulas</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

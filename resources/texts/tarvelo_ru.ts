@@ -27,6 +27,26 @@
         <source></source>
         <translation>Запись остановлена</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Возвращено лекций: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Прежде чем исчезнет сразу много лекций, Tarvelo сохраняет копию всех. Выберите копию: недостающее вернётся, остальное не изменится.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Сейчас вернуть лекции нельзя. Ничего не изменено.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Копий нет: до сих пор лекции не исчезали помногу.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Вернуть</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Отмена</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Просмотр</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Копия от</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Лекции</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Сейчас нет</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Весь список</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Вернуть лекции…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Треть скорости</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Возврат лекций</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>Kayıt durduruldu</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Geri getirilen dersler: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo, birçok ders birden gitmeden önce hepsinin bir kopyasını saklar. Bir kopya seçin: eksik olanlar geri gelir, başka hiçbir şey değişmez.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Dersler şu anda geri getirilemiyor. Hiçbir şey değiştirilmedi.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Kopya yok: şimdiye kadar toplu ders kaybı olmadı.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Geri Getir</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>İptal</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Görüntüle</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Kopya tarihi</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Dersler</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Eksik</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Tüm liste</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Dersleri Geri Getir…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Hızın üçte biri</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Dersleri Geri Getir</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

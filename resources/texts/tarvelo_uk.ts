@@ -27,6 +27,26 @@
         <source></source>
         <translation>Запис зупинено</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>Повернено лекцій: %1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>Перш ніж зникне відразу багато лекцій, Tarvelo зберігає копію всіх. Виберіть копію: те, чого бракує, повернеться, решта не зміниться.</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>Зараз повернути лекції неможливо. Нічого не змінено.</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>Копій немає: досі лекції не зникали по кілька відразу.</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>Повернути</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>Скасувати</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>Перегляд</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>Копія від</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>Лекції</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>Зараз немає</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>Увесь список</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Повернути лекції…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>Третина швидкості</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>Повернення лекцій</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -27,6 +27,26 @@
         <source></source>
         <translation>录音已停止</translation>
     </message>
+    <message id="BRING_BACK_DONE">
+        <source></source>
+        <translation>已找回的课程：%1</translation>
+    </message>
+    <message id="BRING_BACK_EXPLAINED">
+        <source></source>
+        <translation>在许多课程一次性消失之前，Tarvelo 会保留全部课程的副本。请选择一个副本：缺少的课程会回来，其他内容不变。</translation>
+    </message>
+    <message id="BRING_BACK_FAILED">
+        <source></source>
+        <translation>现在无法找回课程。没有任何更改。</translation>
+    </message>
+    <message id="BRING_BACK_NO_COPIES">
+        <source></source>
+        <translation>没有副本：到目前为止没有课程成批消失。</translation>
+    </message>
+    <message id="BUTTON_BRING_BACK">
+        <source></source>
+        <translation>找回</translation>
+    </message>
     <message id="BUTTON_CANCEL">
         <source></source>
         <translation>取消</translation>
@@ -90,6 +110,18 @@
     <message id="CAPTION_VIEW">
         <source></source>
         <translation>查看</translation>
+    </message>
+    <message id="COLUMN_COPY_OF">
+        <source></source>
+        <translation>副本时间</translation>
+    </message>
+    <message id="COLUMN_LECTURES">
+        <source></source>
+        <translation>课程</translation>
+    </message>
+    <message id="COLUMN_MISSING">
+        <source></source>
+        <translation>现在缺少</translation>
     </message>
     <message id="CURRENT_MONTH">
         <source></source>
@@ -198,6 +230,10 @@
     <message id="MENU_ALL_LIST">
         <source></source>
         <translation>完整列表</translation>
+    </message>
+    <message id="MENU_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>找回课程…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -350,6 +386,10 @@
     <message id="SPEED_THIRD">
         <source></source>
         <translation>三分之一速度</translation>
+    </message>
+    <message id="TITLE_BRING_LECTURES_BACK">
+        <source></source>
+        <translation>找回课程</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

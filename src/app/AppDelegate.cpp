@@ -39,6 +39,7 @@ AppDelegate::AppDelegate(const AppServices &services)
     , m_window(services.windows.mainWindow())
     , m_calendarView(*services.windows.mainOutlets().calendarView)
     , m_preferences(services.defaults, m_window, services.loginItem)
+    , m_bringBack(services.database, services.dates, m_window)
     , m_menus(
           m_window, [this](Command command) { run(command); },
           [this](QAction *entry) { showHelp(entry); })
@@ -65,6 +66,7 @@ AppDelegate::AppDelegate(const AppServices &services)
     connect(&m_preferences, &Preferences::statusBarChosen, this, &AppDelegate::setStatusBar);
     connect(&m_preferences, &Preferences::formatChosen, this,
             [this] { m_mediaLinksArrayController.setTempAudioSavePathWithFormat(); });
+    connect(&m_bringBack, &BringBackSheet::lecturesCameBack, this, &AppDelegate::showLecturesAnew);
     connect(&m_myStatusItem, &StatusItem::pressed, this, [this] { openAtFront(&m_myStatusItem); });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_activation,
             &Activation::stateChanged);
@@ -308,6 +310,13 @@ void AppDelegate::addLecture()
     m_mediaLinksArrayController.onAddItem(nullptr);
 }
 
+void AppDelegate::showLecturesAnew()
+{
+    m_calendarView.layoutSubviews();
+    if (m_dateOfButtonClicked.isValid())
+        m_mediaLinksArrayController.prepareViewForDate(m_dateOfButtonClicked);
+}
+
 void AppDelegate::run(Command command)
 {
     switch (command) {
@@ -322,6 +331,9 @@ void AppDelegate::run(Command command)
         break;
     case Command::ShowFolder:
         m_mediaLinksArrayController.browseRecordingFolder(nullptr);
+        break;
+    case Command::BringLecturesBack:
+        m_bringBack.show();
         break;
     case Command::ShowPreferences:
         onShowPreferences(nullptr);

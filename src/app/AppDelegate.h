@@ -2,6 +2,7 @@
 
 #include "app/Activation.h"
 #include "app/AppMenus.h"
+#include "app/BringBackSheet.h"
 #include "app/DayPopover.h"
 #include "app/Help.h"
 #include "app/LoginItem.h"
@@ -50,6 +51,7 @@ struct AppServices
 {
     const platform::Dates &dates;
     platform::UserDefaults &defaults;
+    store::LectureDatabase &database;
     platform::Alerts &alerts;
     const lectures::LectureWindows &windows;
     lectures::MediaLinksArrayController &mediaLinksArrayController;
@@ -154,6 +156,7 @@ public:
     void showHelp(QObject *sender);
 
     // -- Preferences
+    const BringBackSheet &bringBackSheet() const { return m_bringBack; }
     const Preferences &preferences() const { return m_preferences; }
     void onShowPreferences(QObject *sender);
     void onClosePreferences(QObject *sender);
@@ -176,12 +179,14 @@ private:
     void showTaskbarEntries(bool shown);
     void run(Command command);
     void addLecture();
+    void showLecturesAnew();
 
     AppServices m_services;
     lectures::MediaLinksArrayController &m_mediaLinksArrayController;
     widgets::SlidingWindow &m_window;
     calendar::CKCalendarView &m_calendarView;
     Preferences m_preferences;
+    BringBackSheet m_bringBack;
     AppMenus m_menus;
     StatusItem m_myStatusItem;
     DayPopover m_dayPopover;

@@ -15,6 +15,7 @@ enum class Command {
     AllList,
     FoldList,
     ShowFolder,
+    BringLecturesBack,
     ShowPreferences,
     CloseWindow,
     Quit,

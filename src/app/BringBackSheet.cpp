@@ -57,7 +57,8 @@ void BringBackSheet::build()
     m_list->setObjectName(QStringLiteral("copies"));
     m_list->setAccessibleName(text("TITLE_BRING_LECTURES_BACK"));
     m_list->setRootIsDecorated(false);
-    m_list->setHeaderLabels({text("COLUMN_COPY_OF"), text("COLUMN_LECTURES"), text("COLUMN_MISSING")});
+    m_list->setHeaderLabels(
+        {text("COLUMN_COPY_OF"), text("COLUMN_LECTURES"), text("COLUMN_MISSING")});
     m_list->header()->setSectionsMovable(false);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_list->setMinimumHeight(ListHeight);
@@ -96,8 +97,8 @@ void BringBackSheet::show()
 void BringBackSheet::list()
 {
     store::Sqlite *const database = m_database.openDb();
-    m_copies = database ? m_database.backups().copies(*database)
-                        : QList<store::LectureBackups::Copy>();
+    m_copies =
+        database ? m_database.backups().copies(*database) : QList<store::LectureBackups::Copy>();
     m_list->clear();
     for (const auto &copy : std::as_const(m_copies)) {
         auto *item = new QTreeWidgetItem(m_list);

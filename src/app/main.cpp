@@ -103,7 +103,7 @@ int main(int argc, char **argv)
                                                     flags.controllerIsAwake, flags.pendingRow},
                                                    windows);
     app::AppDelegate delegate(
-        {dates, defaults, alerts, windows, controller,
+        {dates, defaults, database, alerts, windows, controller,
          app::LoginItem(app::LoginItem::standardFolder(), QApplication::applicationFilePath()),
          app::Help(workspace, places.resources), flags});
 

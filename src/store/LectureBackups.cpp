@@ -33,12 +33,12 @@ const QString Columns =
                    "audioFileFullPath, recordDuration");
 
 // The lectures of a copy that are missing, by whether its marks are to be asked (?1). One with a
-// recording is there when that recording is. One without is there when no mark says that it went
-// and another is like it in everything.
+// recording is there when that recording is. One without is there when another is like it; when it
+// is marked, only under its own ID.
 const QString FromMissing = QStringLiteral(
     " FROM copy.audioData AS lost WHERE (NOT ?1 OR ID IN (SELECT ID FROM copy.goingLectures)) AND "
     "NOT EXISTS (SELECT 1 FROM main.audioData AS here WHERE CASE WHEN lost.audioFileFullPath <> '' "
-    "THEN here.audioFileFullPath = lost.audioFileFullPath ELSE NOT ?1 AND "
+    "THEN here.audioFileFullPath = lost.audioFileFullPath ELSE (NOT ?1 OR here.ID = lost.ID) AND "
     "here.audioFileFullPath IS lost.audioFileFullPath AND here.subject IS lost.subject AND "
     "here.notes IS lost.notes AND here.recordingDate IS lost.recordingDate END)");
 // Without the marks' table the text above cannot be prepared.
@@ -144,7 +144,6 @@ bool copiesFile(const QString &from, const QString &to)
     return isCopied;
 }
 
-// A write that fails again and again, since the file is locked, must not push older copies out.
 bool isSame(const QString &onePath, const QString &otherPath)
 {
     QFile one(onePath);
@@ -171,30 +170,52 @@ LectureBackups::LectureBackups(QString folder, const platform::Clock &clock)
 {
 }
 
-bool LectureBackups::keep(Sqlite &database, const QString &going)
+QString LectureBackups::keep(Sqlite &database, const QString &going)
 {
     const auto isThere = hasTable(database, "main", LectureTable);
     const auto leaving = database.executeQuery(going);
     if (isThere && (!*isThere || (leaving && leaving->isEmpty())))
-        return false;
+        return {};
     platform::createFolderIfMissing(m_folder);
-    const bool isKept =
-        writesCopy(database, going) || (QFile::remove(roomPath()) && writesCopy(database, going));
-    forgetOldest();
-    return isKept;
+    const QString path = pathOf(nameAfter(namesOfCopies()));
+    if (writesCopy(database, going, path))
+        return path;
+    return QFile::remove(roomPath()) && writesCopy(database, going, path) ? path : QString();
 }
 
-bool LectureBackups::writesCopy(Sqlite &database, const QString &going) const
+bool LectureBackups::writesCopy(Sqlite &database, const QString &going, const QString &path) const
 {
-    const QString half = m_folder + QStringLiteral("/.copy");
+    const QString half = pathOf(QStringLiteral(".copy"));
     const bool isWritten = (vacuumsInto(database, half) && marks(half, going)) ||
                            copiesFile(database.filePath(), half);
-    const QStringList names = namesOfCopies();
-    const bool isKept = isWritten && ((!names.isEmpty() && isSame(half, pathOf(names.last()))) ||
-                                      platform::renameDurably(half, pathOf(nameAfter(names))));
+    const bool isKept = isWritten && platform::renameDurably(half, path);
     QFile::remove(half);
     QFile::remove(half + QStringLiteral("-journal"));
     return isKept;
+}
+
+void LectureBackups::settle(Sqlite &database, const QString &copyPath)
+{
+    if (copyPath.isEmpty())
+        return;
+    if (isOfNoUse(database, copyPath))
+        QFile::remove(copyPath);
+    const QStringList names = namesOfCopies();
+    for (qsizetype at = 0; at < names.size() - Kept; ++at)
+        QFile::remove(pathOf(names.at(at)));
+}
+
+// A write that fails again and again, since the file is locked or damaged, must not push older
+// copies out.
+bool LectureBackups::isOfNoUse(Sqlite &database, const QString &copyPath) const
+{
+    {
+        const AttachedCopy copy(database, copyPath);
+        if (copy.isReadable())
+            return copy.missing() == 0;
+    }
+    const QStringList names = namesOfCopies();
+    return names.size() > 1 && isSame(copyPath, pathOf(names.at(names.size() - 2)));
 }
 
 QList<LectureBackups::Copy> LectureBackups::copies(Sqlite &database) const
@@ -252,13 +273,6 @@ QString LectureBackups::nameAfter(const QStringList &names) const
     if (!names.isEmpty())
         made = std::max(made, QDateTime::fromString(names.last(), NameFormat).addMSecs(1));
     return made.toString(NameFormat);
-}
-
-void LectureBackups::forgetOldest() const
-{
-    const QStringList names = namesOfCopies();
-    for (qsizetype at = 0; at < names.size() - Kept; ++at)
-        QFile::remove(pathOf(names.at(at)));
 }
 
 QString LectureBackups::pathOf(const QString &name) const

@@ -34,9 +34,12 @@ public:
     // `folder` is made with the first copy.
     LectureBackups(QString folder, const platform::Clock &clock);
 
-    // `going` is a query for the "ID" of every lecture that is about to go. False when there is no
-    // copy: nothing goes, or none could be made.
-    bool keep(Sqlite &database, const QString &going);
+    // `going` is a query for the "ID" of every lecture that is about to go. Gives the copy's path,
+    // an empty text when there is none: nothing goes, or none could be made.
+    QString keep(Sqlite &database, const QString &going);
+    // To be called when they are gone: a copy of lectures that are all still there goes again, and
+    // so do the oldest.
+    void settle(Sqlite &database, const QString &copyPath);
 
     // Newest first. What cannot be read is not listed.
     QList<Copy> copies(Sqlite &database) const;
@@ -49,10 +52,10 @@ public:
     void holdRoom(const Sqlite &database) const;
 
 private:
-    bool writesCopy(Sqlite &database, const QString &going) const;
+    bool writesCopy(Sqlite &database, const QString &going, const QString &path) const;
+    bool isOfNoUse(Sqlite &database, const QString &copyPath) const;
     QStringList namesOfCopies() const;
     QString nameAfter(const QStringList &names) const;
-    void forgetOldest() const;
     QString pathOf(const QString &name) const;
     QString roomPath() const;
 

@@ -63,10 +63,11 @@ void LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
     const QString path = lecture.getLectureAudioPath();
     const QString going = statements::IdsByPathBegin + path + statements::IdsByPathEnd;
     const auto rows = m_connection->executeQuery(going);
-    if (rows && rows->size() > 1)
-        m_backups.keep(*m_connection, going);
+    const QString copy =
+        rows && rows->size() > 1 ? m_backups.keep(*m_connection, going) : QString();
     m_connection->executeNonQuery(statements::DeleteByPathBegin + path +
                                   statements::DeleteByPathEnd);
+    m_backups.settle(*m_connection, copy);
 }
 
 void LectureDatabase::writeOrReset(const QString &sql, const QVariantList &arguments,
@@ -83,10 +84,11 @@ void LectureDatabase::writeOrReset(const QString &sql, const QVariantList &argum
 void LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
                             const QString &creationText)
 {
-    m_backups.keep(database, statements::AllIds);
+    const QString copy = m_backups.keep(database, statements::AllIds);
     database.executeNonQuery(statements::Drop);
     database.executeNonQuery(creationText);
     database.executeNonQuery(statements::DeleteAll);
+    m_backups.settle(database, copy);
     database.executeNonQueryArguments(sql, arguments);
     makeIndexes();
 }

@@ -34,7 +34,7 @@ struct Application
         , controller({dates, home.places(), defaults, database, engine, alerts, workspace, mail,
                       sleep, flags.controllerIsAwake, flags.pendingRow},
                      windows)
-        , delegate({dates, defaults, alerts, windows, controller,
+        , delegate({dates, defaults, database, alerts, windows, controller,
                     app::LoginItem(home.places().applicationSupport + QStringLiteral("/autostart"),
                                    QStringLiteral("/usr/bin/Tarvelo")),
                     app::Help(workspace, home.places().resources), flags})

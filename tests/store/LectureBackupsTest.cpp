@@ -205,19 +205,53 @@ private Q_SLOTS:
         QCOMPARE(subjectsIn(connection()), QStringList(u"12"_s));
     }
 
-    void aWriteThatFailsAgainAndAgainPushesNoCopyOut()
+    void aWriteThatFailsWhileAnotherProgramWritesPushesNoCopyOut()
     {
         add(aLecture().named("Optics"));
         reset();
         add(aLecture().named("Logic").withoutAudio());
         Sqlite locker(m_places->databaseFile());
+
+        QVERIFY(locker.beginDeferredTransaction());
+        QVERIFY(locker.executeNonQuery(u"UPDATE audioData SET notes = 'locked'"_s));
+        for (int again = 0; again < 12; ++again)
+            reset();
+        locker.rollback();
+
+        QCOMPARE(everything(), u"1 Logic"_s);
+        QCOMPARE(copies().size(), 1);
+        QCOMPARE(bringBack(), 1);
+    }
+
+    void aWriteThatFailsWhileNobodyMayReadPushesNoCopyOut()
+    {
+        add(aLecture().named("Optics"));
+        reset();
+        add(aLecture().named("Logic").withoutAudio());
+        Sqlite locker(m_places->databaseFile());
+
         QVERIFY(locker.beginTransaction());
         for (int again = 0; again < 12; ++again)
             reset();
         locker.rollback();
 
+        QCOMPARE(everything(), u"1 Logic"_s);
         QCOMPARE(copies().size(), 2);
+        QCOMPARE(copies().value(0).missing, 0);
         QCOMPARE(copies().value(1).missing, 1);
+    }
+
+    void whoDiesBetweenTheCopyAndTheLossLosesAndDoublesNothing()
+    {
+        add(aLecture().named("Logic").withoutAudio());
+        add(aLecture().named("Ethics").withoutAudio());
+        LectureBackups backups(folder(), m_clock);
+
+        const QString copy = backups.keep(connection(), statements::AllIds);
+
+        QVERIFY(QFileInfo::exists(copy));
+        QCOMPARE(bringBack(), 0);
+        QCOMPARE(everything(), u"1 Logic, 2 Ethics"_s);
     }
 
     void aDamagedFileIsCopiedAside()
