@@ -25,7 +25,15 @@ using platform::text;
 
 namespace {
 const QString StatusImage = QStringLiteral("icon.icns");
+
+std::vector<QWidget *> windowsOf(const lectures::LectureWindows &windows)
+{
+    return {&windows.mainWindow(), windows.newLectureOutlets().newNoteWindow,
+            windows.editLectureOutlets().windowEditLecture,
+            windows.playAudioOutlets().playAudioWindow};
 }
+
+} // namespace
 
 ProcessFlags &ProcessFlags::ofProcess()
 {
@@ -44,6 +52,9 @@ AppDelegate::AppDelegate(const AppServices &services)
           m_window, [this](Command command) { run(command); },
           [this](QAction *entry) { showHelp(entry); })
     , m_myStatusItem(m_menus.statusMenu(), text("TXT_TARVELO"))
+    , m_dockIcon(windowsOf(services.windows), services.alerts,
+                 {[] { activateIgnoringOtherApps(); }, [this] { onCloseSettingPanel(nullptr); },
+                  [this] { terminate(nullptr); }, services.launch})
     , m_activation(services.dates.clock())
     , m_showFirstWindow(services.dates.clock(), [this] { makeKeyAndOrderFront(m_window); })
     , m_foldupList(services.dates.clock(), [this] { foldupList(); })
@@ -57,13 +68,9 @@ AppDelegate::AppDelegate(const AppServices &services)
         {"onFoldUpList", [this](QWidget *sender) { onFoldUpList(sender); }});
     services.windows.newLectureOutlets().newNoteWindow->addAction(m_menus.action(Command::Quit));
 
-    for (QWidget *window :
-         {static_cast<QWidget *>(&m_window), services.windows.newLectureOutlets().newNoteWindow,
-          services.windows.editLectureOutlets().windowEditLecture,
-          services.windows.playAudioOutlets().playAudioWindow})
-        m_taskbarEntries.push_back(new TaskbarEntry(*window));
-
     connect(&m_preferences, &Preferences::statusBarChosen, this, &AppDelegate::setStatusBar);
+    connect(&m_preferences, &Preferences::dockIconChosen, this,
+            [this](bool shows) { m_dockIcon.setShowsDockIcon(shows); });
     connect(&m_preferences, &Preferences::formatChosen, this,
             [this] { m_mediaLinksArrayController.setTempAudioSavePathWithFormat(); });
     connect(&m_bringBack, &BringBackSheet::lecturesCameBack, this, &AppDelegate::showLecturesAnew);
@@ -97,7 +104,7 @@ void AppDelegate::awakeFromNib()
     m_calendarView.setDelegate(this);
 
     showStatusItem(m_preferences.integer(Preference::StatusBar) == 1);
-    showTaskbarEntries(m_preferences.wantsDockIcon());
+    m_dockIcon.startWith(m_preferences.wantsDockIcon());
 }
 
 void AppDelegate::setLabels()
@@ -289,12 +296,6 @@ void AppDelegate::showStatusItem(bool shown)
         m_myStatusItem.create(imageNamed(StatusImage));
     else
         m_myStatusItem.remove();
-}
-
-void AppDelegate::showTaskbarEntries(bool shown)
-{
-    for (TaskbarEntry *entry : m_taskbarEntries)
-        entry->setWanted(shown);
 }
 
 void AppDelegate::addLecture()

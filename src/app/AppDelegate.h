@@ -4,17 +4,18 @@
 #include "app/AppMenus.h"
 #include "app/BringBackSheet.h"
 #include "app/DayPopover.h"
+#include "app/DockIcon.h"
 #include "app/Help.h"
 #include "app/LoginItem.h"
 #include "app/Preferences.h"
 #include "app/Request.h"
 #include "app/StatusItem.h"
-#include "app/TaskbarEntry.h"
 #include "calendar/CalendarDelegate.h"
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureRowHost.h"
 #include "lectures/WindowWidths.h"
 #include "platform/DelayedCall.h"
+#include "platform/DetachedCommand.h"
 #include "widgets/ImageButton.h"
 
 #include <QPointer>
@@ -58,6 +59,9 @@ struct AppServices
     LoginItem loginItem;
     Help help;
     ProcessFlags &flags;
+    // Starts a process that outlives this one.
+    std::function<void(const QString &program, const QStringList &arguments)> launch =
+        platform::runDetached;
 };
 
 enum class TerminateReply { Cancel, Now };
@@ -150,7 +154,7 @@ public:
     AppMenus &menus() { return m_menus; }
     const DayPopover &dayPopover() const { return m_dayPopover; }
 
-    const std::vector<TaskbarEntry *> &taskbarEntries() const { return m_taskbarEntries; }
+    const DockIcon &dockIcon() const { return m_dockIcon; }
 
     // -- Help: opens what the tag of the entry means.
     void showHelp(QObject *sender);
@@ -176,7 +180,6 @@ private:
     void setLabels();
     void showDateHeader(const QDateTime &moment);
     void showStatusItem(bool shown);
-    void showTaskbarEntries(bool shown);
     void run(Command command);
     void addLecture();
     void showLecturesAnew();
@@ -190,7 +193,7 @@ private:
     AppMenus m_menus;
     StatusItem m_myStatusItem;
     DayPopover m_dayPopover;
-    std::vector<TaskbarEntry *> m_taskbarEntries; // children of their windows
+    DockIcon m_dockIcon;
     Activation m_activation;
     platform::DelayedCall m_showFirstWindow;
     platform::DelayedCall m_foldupList;

@@ -182,6 +182,7 @@ void Preferences::onChangeFormatChoice(QButtonGroup *sender)
 void Preferences::setLogoAtMenubarOrDockPanel(QAbstractButton *sender)
 {
     store(Preference::DockIcon, sender->isChecked());
+    Q_EMIT dockIconChosen(sender->isChecked());
 }
 
 void Preferences::setOpenAtLogin(QAbstractButton *sender)

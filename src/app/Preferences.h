@@ -60,6 +60,7 @@ public:
 
 Q_SIGNALS:
     void statusBarChosen(QAbstractButton *sender);
+    void dockIconChosen(bool shows);
     void formatChosen();
 
 protected:

@@ -1,5 +1,6 @@
 #include "platform/Alerts.h"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -20,6 +21,26 @@ void WindowAlerts::beginSheet(const Alert &alert, QWidget &window, std::function
         QObject::connect(box, &QMessageBox::finished, box,
                          [end = std::move(didEnd)] { end(DefaultReturn); });
     box->open();
+}
+
+int WindowAlerts::runModal(const QString &message, const QString &informativeText,
+                           const QStringList &buttons)
+{
+    QWidget *const window = QApplication::activeWindow();
+    QMessageBox box(QMessageBox::Warning, QString(), message, QMessageBox::NoButton, window);
+    box.setObjectName(QStringLiteral("modalAlert"));
+    if (window)
+        box.setPalette(window->palette());
+    box.setInformativeText(informativeText);
+    // Buttons of one role stand in the order in which they are added.
+    QList<QAbstractButton *> added;
+    for (const QString &title : buttons)
+        added.append(box.addButton(title, QMessageBox::ActionRole));
+    box.setDefaultButton(qobject_cast<QPushButton *>(added.constFirst()));
+    box.setEscapeButton(added.constLast());
+    box.exec();
+    const qsizetype answer = added.indexOf(box.clickedButton());
+    return answer < 0 ? 0 : FirstButtonReturn + static_cast<int>(answer);
 }
 
 bool hasAttachedSheet(const QWidget &window)

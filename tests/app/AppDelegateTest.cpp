@@ -1,4 +1,5 @@
 #include "app/Application.h"
+#include "app/TaskbarEntry.h"
 #include "app/WindowHints.h"
 #include "calendar/DateButton.h"
 #include "platform/Texts.h"
@@ -528,8 +529,8 @@ private Q_SLOTS:
         program.launch();
         program.clock.advance(1s);
 
-        QCOMPARE(program.delegate.taskbarEntries().size(), std::size_t(4));
-        for (const app::TaskbarEntry *entry : program.delegate.taskbarEntries())
+        QCOMPARE(program.delegate.dockIcon().entries().size(), std::size_t(4));
+        for (const app::TaskbarEntry *entry : program.delegate.dockIcon().entries())
             QCOMPARE(entry->isWanted(), wanted);
     }
 

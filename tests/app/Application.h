@@ -37,7 +37,10 @@ struct Application
         , delegate({dates, defaults, database, alerts, windows, controller,
                     app::LoginItem(home.places().applicationSupport + QStringLiteral("/autostart"),
                                    QStringLiteral("/usr/bin/Tarvelo")),
-                    app::Help(workspace, home.places().resources), flags})
+                    app::Help(workspace, home.places().resources), flags,
+                    [this](const QString &program, const QStringList &arguments) {
+                        launched.append(QStringList(program) + arguments);
+                    }})
     {
     }
 
@@ -74,6 +77,7 @@ struct Application
     FakeWorkspace workspace;
     FakeMailComposer mail;
     FakeSleepInhibitor sleep;
+    QList<QStringList> launched;
     app::ProcessFlags flags;
     lectures::LectureWindows windows;
     lectures::MediaLinksArrayController controller;

@@ -22,6 +22,17 @@ public:
 
     QList<Sheet> sheets;
 
+    struct Question
+    {
+        QString message;
+        QString informativeText;
+        QStringList buttons;
+    };
+
+    QList<Question> questions;
+    // What is answered to every question.
+    int answer = FirstButtonReturn + 1;
+
     // The message of the last sheet, if there was one.
     QString lastMessage() const { return sheets.isEmpty() ? QString() : sheets.last().message; }
 
@@ -30,6 +41,12 @@ public:
     {
         sheets.append(
             {alert.message, alert.button, alert.informativeText, &window, std::move(didEnd)});
+    }
+    int runModal(const QString &message, const QString &informativeText,
+                 const QStringList &buttons) override
+    {
+        questions.append({message, informativeText, buttons});
+        return answer;
     }
 };
 
