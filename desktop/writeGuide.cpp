@@ -105,8 +105,10 @@ void drawPage(QPainter &painter, QTextDocument &document, int page)
     const QSizeF size = document.pageSize();
     painter.save();
     painter.translate(dots(Margin), dots(Margin) - (page - 1) * size.height());
-    // The hair less is what rounding would show of the next page.
-    const QRectF view(0, (page - 1) * size.height(), size.width(), size.height() - dots(0.5));
+    // A hair more at the sides, where the frames of pictures lie, and one less below, where
+    // rounding would show of the next page.
+    const QRectF view = QRectF(0, (page - 1) * size.height(), size.width(), size.height())
+                            .adjusted(-dots(0.5), 0, dots(0.5), -dots(0.5));
     QAbstractTextDocumentLayout::PaintContext context;
     context.clip = view;
     context.palette.setColor(QPalette::Text, Qt::black);

@@ -166,7 +166,7 @@ class Scenes:
         self._xdotool("key", "Escape")
         self._hands.press(names.MAIN_WINDOW, "F10")
         self._xdotool("key", *["Down"] * 5, "Right")
-        self._around("menu", self._hands.control(names.MAIN_WINDOW, "Main Menu"), 12, 10, 480, 270)
+        self._around("menu", self._hands.control(names.MAIN_WINDOW, "Main Menu"), 10, 8, 480, 270)
         self._xdotool("key", "Escape", "Escape")
         self._hands.press(names.MAIN_WINDOW, "ctrl+comma")
         self._hands.window("Preferences")
@@ -187,10 +187,10 @@ class Scenes:
             path = os.path.join(folder, "spoken.wav")
             sound.write_speech(SPOKEN, path)
             self._server.speak(path)
-            self._xdotool("key", "ctrl+t")
-            self._hands.expect_text(window, names.NOTES, "00:00:")
-            self._xdotool("type", "--delay", "20", "Example with x to the n, see worksheet 6")
-            self._window("recording", window)
+        self._xdotool("key", "ctrl+t")
+        self._hands.expect_text(window, names.NOTES, "00:00:")
+        self._xdotool("type", "--delay", "20", "Example with x to the n, see worksheet 6")
+        self._window("recording", window)
 
     # -- Pictures
 
