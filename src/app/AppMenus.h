@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QMenu>
+#include "widgets/Menu.h"
+
 #include <QObject>
 
 #include <array>
@@ -53,9 +54,9 @@ private:
     void addHelpMenu(const std::function<void(QAction *)> &showHelp);
 
     std::array<QAction *, static_cast<std::size_t>(Command::Count)> m_actions{};
-    QMenu m_mainMenu;
-    QMenu m_helpMenu; // in the main menu
-    QMenu m_statusMenu;
+    widgets::Menu m_mainMenu;
+    widgets::Menu m_helpMenu; // in the main menu
+    widgets::Menu m_statusMenu;
 };
 
 } // namespace tarvelo::app

@@ -42,6 +42,9 @@ protected:
             isChecked() ? QPalette::HighlightedText : QPalette::WindowText;
         const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
         painter.setPen(palette().color(group, ink));
+        // A speed such as "½×" has no letter to tell its direction, and would be turned around in a
+        // window that runs from right to left.
+        painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         painter.drawText(rect(), Qt::AlignCenter, text());
     }
 };

@@ -155,6 +155,18 @@ private Q_SLOTS:
         QVERIFY(edgeOf(0) != fill);
     }
 
+    void aSpeedReadsTheSameInAWindowThatRunsFromRightToLeft()
+    {
+        const auto drawn = [](Qt::LayoutDirection direction) {
+            SegmentedControl control;
+            control.setLayoutDirection(direction);
+            control.addSegment(u"½×"_s, u"half the speed"_s);
+            return control.grab().toImage();
+        };
+
+        QCOMPARE(drawn(Qt::RightToLeft), drawn(Qt::LeftToRight));
+    }
+
 private:
     static void addThree(SegmentedControl &control)
     {
