@@ -14,6 +14,9 @@ from .waiting import wait_for
 # Points of the program are two pixels on the screen of the pictures.
 SCALE = 2
 CALENDAR = 452  # the width of the calendar, in points
+# What is not drawn outside of round corners is black in a picture.
+WHITE_CORNERS = ("-bordercolor", "black", "-border", "1", "-fuzz", "25%", "-fill", "white", "-draw", "color 0,0 floodfill",
+                 "-fuzz", "0", "-shave", "1x1")
 # Where nothing is that the mouse could be on.
 OUTSIDE = ("2900", "1450")
 TABLE = """CREATE TABLE audioData (ID INTEGER PRIMARY KEY, subject TEXT, course TEXT, notes TEXT, recordingDate DATETIME,
@@ -37,14 +40,6 @@ class ScaledHands(Hands):
     def _resting_place(self, thing, name):
         x, y = super()._resting_place(thing, name)
         return x * SCALE, y * SCALE
-
-    def drag(self, slider, share):
-        """Takes the handle from the left end to a share of the way."""
-        box = slider.get_extents(0)
-        y = (box.y + box.height // 2) * SCALE
-        start, end = (box.x + 6) * SCALE, (box.x + int(box.width * share)) * SCALE
-        self._xdotool("mousemove", str(start), str(y), "mousedown", "1", "mousemove", str((start + end) // 2), str(y),
-                      "mousemove", str(end), str(y), "mouseup", "1")
 
     def expect_text(self, window, name, part):
         field = self.control(window, name, Atspi.StateType.EDITABLE)
@@ -118,7 +113,7 @@ class Scenes:
         self._hands.open_row(names.MAIN_WINDOW, names.LECTURES, subject)
         self._hands.point_at(names.MAIN_WINDOW, names.DONE)
         self._rest()
-        self._window("beside", names.MAIN_WINDOW, without=CALENDAR)
+        self._window("beside", names.MAIN_WINDOW, "-gravity", "west", "-chop", f"{CALENDAR * SCALE}x0", "+repage")
 
         self._hands.click(names.MAIN_WINDOW, "Show Lecture")
         self._hands.control(names.MAIN_WINDOW, "Back to List")
@@ -142,9 +137,8 @@ class Scenes:
         self._hands.control(subject, names.PAUSE)
         self._hands.click(subject, names.HALF_SPEED)
         self._hands.press(subject, "F8")
-        self._hands.drag(self._hands.control(subject, "Playback position"), 0.3)
         self._rest()
-        self._window("playing", subject)
+        self._window("playing", subject, *WHITE_CORNERS)
         self._hands.press(subject, "Escape")
         self._hands.window_goes(subject)
 
@@ -165,8 +159,8 @@ class Scenes:
         self._around("row-menu", self._hands.row(names.MAIN_WINDOW, names.LECTURES, subject), 0, 0, 0, 140)
         self._xdotool("key", "Escape")
         self._hands.press(names.MAIN_WINDOW, "F10")
-        self._xdotool("key", *["Down"] * 5, "Right")
-        self._around("menu", self._hands.control(names.MAIN_WINDOW, "Main Menu"), 10, 8, 480, 270)
+        self._xdotool("key", *["Up"] * 3, "Right")
+        self._around("menu", self._hands.control(names.MAIN_WINDOW, "Main Menu"), 10, 8, 480, 300)
         self._xdotool("key", "Escape", "Escape")
         self._hands.press(names.MAIN_WINDOW, "ctrl+comma")
         self._hands.window("Preferences")
@@ -216,11 +210,10 @@ class Scenes:
 
         wait_for("the screen to stand still", look)
 
-    def _window(self, name, title, without=0):
-        """All of a window, but for so many points at the left."""
+    def _window(self, name, title, *how):
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], capture_output=True,
                                text=True, check=True).stdout.split()
-        self._take(name, found[-1], "-gravity", "west", "-chop", f"{without * SCALE}x0", "+repage")
+        self._take(name, found[-1], *how)
 
     def _around(self, name, thing, left, above, right, below):
         """A control, and so many points more on each side."""
