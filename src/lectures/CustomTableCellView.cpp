@@ -18,7 +18,7 @@ using widgets::ImageButton;
 namespace {
 
 const QColor SubjectColour(60, 57, 66);
-const QColor DetailColour(120, 116, 128);
+const QColor DetailColour(105, 101, 113);
 const QColor LineColour(232, 231, 235);
 
 constexpr int Margin = 14;
@@ -239,9 +239,7 @@ void CustomTableCellView::paintEvent(QPaintEvent *)
     if (!m_isCurrent)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    QColor mark = palette().color(QPalette::Highlight);
-    mark.setAlphaF(0.6F);
-    painter.setPen(QPen(mark, 1.5));
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
     painter.drawRoundedRect(QRectF(rect()).adjusted(4, 2.5, -4, -4.5), 8, 8);
 }
 

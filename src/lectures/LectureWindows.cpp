@@ -13,6 +13,7 @@
 #include "widgets/Accessibility.h"
 #include "widgets/CustomWindow.h"
 #include "widgets/FieldFormatter.h"
+#include "widgets/FocusRing.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LayerView.h"
 #include "widgets/LevelIndicator.h"
@@ -42,7 +43,7 @@ const QRectF PlayWindowContent(0, 0, 440, 190);
 
 const QString Face = QStringLiteral("Helvetica Neue Medium");
 const QColor Ink(43, 41, 48);
-const QColor Faint(120, 116, 128);
+const QColor Faint(105, 101, 113);
 const QColor Line(228, 227, 232);
 
 void style(QLabel &label, double size, const QColor &colour)
@@ -156,6 +157,13 @@ LectureWindows::LectureWindows(platform::Dates &dates)
     buildEditLectureWindow();
     buildPlayAudioWindow();
     buildPopovers();
+    for (QWidget *view : std::initializer_list<QWidget *>{
+             m_newLecture.txtSubjectForNewNote, m_editLecture.txtSubjectForEdit,
+             m_lectureView.tSubjectName, m_newLecture.txtView, m_editLecture.txtViewNotesForEdit,
+             m_lectureView.tViewNoteForEdit, m_playAudio.txtSubjectName,
+             m_lecturePlayer.sliderPlayProgress, m_editPlayer.sliderEditProgress,
+             m_recording.sliderPlayProgress2})
+        widgets::showFocusRing(*view);
 }
 
 LectureWindows::~LectureWindows() = default;

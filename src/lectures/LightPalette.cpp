@@ -8,7 +8,7 @@ namespace tarvelo::lectures {
 void setLightPalette(QWidget &window)
 {
     const QColor ink(43, 41, 48);
-    const QColor faint(150, 147, 156);
+    const QColor faint(113, 109, 121);
     QPalette palette;
     palette.setColor(QPalette::Window, Qt::white);
     palette.setColor(QPalette::Base, Qt::white);

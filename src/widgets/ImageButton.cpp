@@ -83,19 +83,23 @@ bool ImageButton::event(QEvent *event)
     return true;
 }
 
-// A ring around a button as narrow as an arrow would cover it: such a button is underlined.
+// A ring around a button as narrow as an arrow would cover it: such a button is underlined. The
+// ring lies in a light one, so that it is seen on a drawing of its own colour too.
 void ImageButton::paintFocus(QPainter &painter) const
 {
     if (!hasFocus() || !m_showsFocus)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
     const QRectF ring = focusRect().adjusted(1, 1, -1, -1);
-    if (ring.width() < NarrowWidth)
-        painter.drawLine(ring.bottomLeft(), ring.bottomRight());
-    else
-        painter.drawRoundedRect(ring, 5, 5);
+    for (const QPen &pen : {QPen(palette().color(QPalette::Base), 6),
+                            QPen(palette().color(QPalette::Highlight), 2)}) {
+        painter.setPen(pen);
+        if (ring.width() < NarrowWidth)
+            painter.drawLine(ring.bottomLeft(), ring.bottomRight());
+        else
+            painter.drawRoundedRect(ring, 5, 5);
+    }
 }
 
 void ImageButton::focusInEvent(QFocusEvent *event)
@@ -112,6 +116,9 @@ void ImageButton::paintEvent(QPaintEvent *event)
 {
     if (m_image.isNull() && m_alternateImage.isNull()) {
         QPushButton::paintEvent(event);
+        // The style's own mark is hardly another colour than the edge of the button.
+        QPainter painter(this);
+        paintFocus(painter);
         return;
     }
     const bool alternate = isDown() && !m_alternateImage.isNull();
