@@ -363,6 +363,9 @@ void LectureWindows::buildPlayAudioWindow()
     ui.segPlaySpeed->addSegment(QStringLiteral("1×"), platform::text("SPEED_RECORDED"));
     // That of a lecture that was just opened.
     ui.segPlaySpeed->setSelectedSegment(4);
+    // The speeds came into being last, and are not what comes last.
+    QWidget::setTabOrder(ui.segPlaySpeed->findChildren<QAbstractButton *>().constLast(),
+                         ui.btnClosePlayAudio);
 }
 
 void LectureWindows::buildPopovers()

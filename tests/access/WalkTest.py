@@ -256,7 +256,8 @@ class WalkTest(unittest.TestCase):
         keys("space")
         self.window("Waves")
         stops = self.walk("Waves")
-        self.assertEqual(self.order(stops, "Pause"), ["Pause", "Playback position", "The recorded speed", "Subject"])
+        self.assertEqual(self.order(stops, "Pause"),
+                         ["Pause", "Playback position", "The recorded speed", "Close", "Subject"])
         while self.visit(1, "Tab")[-1][0] != "radio button":
             pass
         self.check("Waves", stops + self.visit(4, *["Left"] * 4))
