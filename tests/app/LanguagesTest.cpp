@@ -105,6 +105,9 @@ class LanguagesTest final : public tests::TestCase
         look(*windows.popoverOutlets().popoverConfirmRecordDelete, "delete");
         look(*windows.popoverOutlets().popoverAudioConfirmClose, "no audio");
         look(*program.delegate.preferences().preferrenceWindow(), "preferences");
+        program.delegate.menus().action(app::Command::BringLecturesBack)->trigger();
+        look(*program.window().findChild<QDialog *>(QStringLiteral("bringBackSheet")),
+             "bring back");
         platform::WindowAlerts().beginSheet({QStringLiteral("Recording is on process!"),
                                              QStringLiteral("Ok"),
                                              QStringLiteral("Please click Done to save.")},

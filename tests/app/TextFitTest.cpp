@@ -3,10 +3,12 @@
 #include "support/TestCase.h"
 
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextEdit>
+#include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
 using tarvelo::tests::textFaultsIn;
@@ -132,6 +134,18 @@ private Q_SLOTS:
         add<QPushButton>(u"button"_s, {250, 10, 80, 28})->setText(u"Done"_s);
 
         QCOMPARE(faults(), u"button out of its window"_s);
+    }
+
+    void columnsWithoutRoomBesideEachOtherAreFound()
+    {
+        auto *table = add<QTreeWidget>(u"table"_s, {10, 10, 150, 60});
+        table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        table->setHeaderLabels({u"Copy"_s, u"All"_s});
+        QCOMPARE(faults(), QString());
+
+        table->setHeaderLabels({Long, Long});
+
+        QVERIFY(faults().startsWith(u"table has columns for "));
     }
 
     void aSignThatNoFontDrawsIsFound()

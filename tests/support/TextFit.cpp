@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QGlyphRun>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -178,11 +179,24 @@ bool sticksOut(const Sign &sign, const QWidget &window)
     return !window.rect().contains(seen(sign, window));
 }
 
+// A table whose titles have no room beside each other can only be read by scrolling.
+QStringList hiddenColumns(const QWidget &window)
+{
+    QStringList faults;
+    for (const QHeaderView *header : window.findChildren<QHeaderView *>())
+        if (header->isVisibleTo(&window) && header->length() > header->width())
+            faults << QStringLiteral("%1 has columns for %2 in %3")
+                          .arg(nameOf(*header->parentWidget()))
+                          .arg(header->length())
+                          .arg(header->width());
+    return faults;
+}
+
 } // namespace
 
 QStringList textFaultsIn(QWidget &window)
 {
-    QStringList faults;
+    QStringList faults = hiddenColumns(window);
     const QList<Sign> signs = signsIn(window);
     for (const Sign &sign : signs) {
         const QString name = nameOf(*sign.control);
