@@ -29,11 +29,11 @@
     </message>
     <message id="BRING_BACK_DONE">
         <source></source>
-        <translation>Cours récupérés : %1</translation>
+        <translation>Cours récupérés : %1</translation>
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Avant que plusieurs cours ne disparaissent d’un coup, Tarvelo en garde une copie. Choisissez une copie : ce qui manque revient, et rien d’autre ne change.</translation>
+        <translation>Avant que plusieurs cours ne disparaissent d’un coup, Tarvelo en garde une copie. Choisissez une copie : ce qui manque revient, et rien d’autre ne change.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -41,7 +41,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Il n’y a pas de copie : jusqu’ici, aucun cours n’a disparu en nombre.</translation>
+        <translation>Il n’y a pas de copie : jusqu’ici, aucun cours n’a disparu en nombre.</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -33,7 +33,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Prima che molte lezioni spariscano insieme, Tarvelo ne conserva una copia. Scelga una copia: ciò che manca ritorna e nient’altro cambia.</translation>
+        <translation>Prima che molte lezioni spariscano insieme, Tarvelo ne conserva una copia. Scegli una copia: ciò che manca ritorna e nient’altro cambia.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>

@@ -45,7 +45,7 @@
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>
-        <translation>Geri Getir</translation>
+        <translation>Geri getir</translation>
     </message>
     <message id="BUTTON_CANCEL">
         <source></source>
@@ -233,7 +233,7 @@
     </message>
     <message id="MENU_BRING_LECTURES_BACK">
         <source></source>
-        <translation>Dersleri Geri Getir…</translation>
+        <translation>Dersleri geri getir…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -389,7 +389,7 @@
     </message>
     <message id="TITLE_BRING_LECTURES_BACK">
         <source></source>
-        <translation>Dersleri Geri Getir</translation>
+        <translation>Dersleri geri getir</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>

@@ -5,7 +5,7 @@
     <name></name>
     <message id="ANNOUNCE_LECTURE_SAVED">
         <source></source>
-        <translation>课程已保存</translation>
+        <translation>讲座已保存</translation>
     </message>
     <message id="ANNOUNCE_RECORDING_DISCARDED">
         <source></source>
@@ -29,19 +29,19 @@
     </message>
     <message id="BRING_BACK_DONE">
         <source></source>
-        <translation>已找回的课程：%1</translation>
+        <translation>已找回的讲座：%1</translation>
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>在许多课程一次性消失之前，Tarvelo 会保留全部课程的副本。请选择一个副本：缺少的课程会回来，其他内容不变。</translation>
+        <translation>在许多讲座一次性消失之前，Tarvelo 会保留全部讲座的副本。请选择一个副本：缺少的讲座会回来，其他内容不变。</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
-        <translation>现在无法找回课程。没有任何更改。</translation>
+        <translation>现在无法找回讲座。没有任何更改。</translation>
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>没有副本：到目前为止没有课程成批消失。</translation>
+        <translation>没有副本：到目前为止没有讲座成批消失。</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>
@@ -117,7 +117,7 @@
     </message>
     <message id="COLUMN_LECTURES">
         <source></source>
-        <translation>课程</translation>
+        <translation>讲座</translation>
     </message>
     <message id="COLUMN_MISSING">
         <source></source>
@@ -233,7 +233,7 @@
     </message>
     <message id="MENU_BRING_LECTURES_BACK">
         <source></source>
-        <translation>找回课程…</translation>
+        <translation>找回讲座…</translation>
     </message>
     <message id="MENU_CLOSE_WINDOW">
         <source></source>
@@ -389,7 +389,7 @@
     </message>
     <message id="TITLE_BRING_LECTURES_BACK">
         <source></source>
-        <translation>找回课程</translation>
+        <translation>找回讲座</translation>
     </message>
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
