@@ -102,12 +102,14 @@ void ImageButton::paintFocus(QPainter &painter) const
     }
 }
 
+// A button that Return presses when it has the keyboard shows that to everybody.
 void ImageButton::focusInEvent(QFocusEvent *event)
 {
     const Qt::FocusReason reason = event->reason();
     if (reason == Qt::MouseFocusReason)
         m_showsFocus = false;
-    else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+    else if (autoDefault() ||
+             (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason))
         m_showsFocus = true;
     QPushButton::focusInEvent(event);
 }

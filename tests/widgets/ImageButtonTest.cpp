@@ -72,6 +72,22 @@ private Q_SLOTS:
         QToolTip::hideText();
     }
 
+    void whereReturnPressesTheButtonItShowsTheKeyboardFromTheStart()
+    {
+        ImageButton button;
+        button.setImage(imageNamed(QStringLiteral("recordbox")));
+        button.setFocusPolicy(Qt::StrongFocus);
+        button.setAutoDefault(true);
+        const QImage without = button.grab().toImage();
+
+        button.setFocus(Qt::PopupFocusReason);
+        button.show();
+        button.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&button));
+
+        QTRY_VERIFY(button.grab().toImage() != without);
+    }
+
     void aDisabledButtonDoesNothing()
     {
         ImageButton button;
