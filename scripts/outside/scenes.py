@@ -41,6 +41,11 @@ class ScaledHands(Hands):
         x, y = super()._resting_place(thing, name)
         return x * SCALE, y * SCALE
 
+    def expect_length(self, window, ask=Atspi.Value.get_maximum_value):
+        """The recording has been read, or by another question, it has begun to play: the times are there."""
+        slider = self.control(window, names.PLACE)
+        wait_for("the length of the recording", lambda: ask(slider) > 0)
+
     def expect_text(self, window, name, part):
         field = self.control(window, name, Atspi.StateType.EDITABLE)
         wait_for(f"{part!r} in {name!r}", lambda: part in self._text(field))
@@ -112,6 +117,7 @@ class Scenes:
         self._around("row", self._hands.row(names.MAIN_WINDOW, names.LECTURES, subject), 0, 0, 0, 0)
         self._hands.open_row(names.MAIN_WINDOW, names.LECTURES, subject)
         self._hands.point_at(names.MAIN_WINDOW, names.DONE)
+        self._hands.expect_length(names.MAIN_WINDOW)
         self._rest()
         self._window("beside", names.MAIN_WINDOW, "-gravity", "west", "-chop", f"{CALENDAR * SCALE}x0", "+repage")
 
@@ -136,6 +142,7 @@ class Scenes:
         self._hands.click(names.MAIN_WINDOW, names.PLAY)
         self._hands.control(subject, names.PAUSE)
         self._hands.click(subject, names.HALF_SPEED)
+        self._hands.expect_length(subject, Atspi.Value.get_current_value)
         self._hands.press(subject, "F8")
         self._rest()
         self._window("playing", subject, *WHITE_CORNERS)
