@@ -31,10 +31,30 @@ StatusItem::StatusItem(QMenu &menu, const QString &toolTip)
 {
 }
 
+// Which kind of bar there is is found out with the first item of a process, and never again: so
+// that first item waits for a bar. Later ones of the same kind are found whenever they come.
 void StatusItem::create(const platform::Image &image)
 {
+    m_image = image;
+    m_item.reset();
+    m_bars = std::make_unique<StatusBars>();
+    connect(m_bars.get(), &StatusBars::appeared, this, &StatusItem::show);
+    if (m_bars->isThere())
+        show();
+}
+
+void StatusItem::remove()
+{
+    m_bars.reset();
+    m_item.reset();
+}
+
+void StatusItem::show()
+{
+    if (m_item)
+        return;
     m_item = std::make_unique<QSystemTrayIcon>();
-    m_item->setIcon(iconOf(image));
+    m_item->setIcon(iconOf(m_image));
     m_item->setToolTip(m_toolTip);
     m_item->setContextMenu(&m_menu);
     connect(m_item.get(), &QSystemTrayIcon::activated, this, [this](auto reason) {

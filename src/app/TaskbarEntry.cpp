@@ -1,29 +1,13 @@
 #include "app/TaskbarEntry.h"
 
+#include "app/XcbAtoms.h"
+
 #include <QEvent>
 #include <QGuiApplication>
 #include <QTimer>
 #include <QWidget>
 
-#include <xcb/xcb.h>
-
-#include <cstdlib>
-#include <cstring>
-#include <memory>
-
 namespace tarvelo::app {
-
-namespace {
-
-xcb_atom_t atomNamed(xcb_connection_t *connection, const char *name)
-{
-    const auto cookie = xcb_intern_atom(connection, 0, static_cast<uint16_t>(strlen(name)), name);
-    const std::unique_ptr<xcb_intern_atom_reply_t, void (*)(void *)> reply(
-        xcb_intern_atom_reply(connection, cookie, nullptr), std::free);
-    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-}
-
-} // namespace
 
 TaskbarEntry::TaskbarEntry(QWidget &window)
     : QObject(&window)

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/StatusNotifierHost.h"
+
+#include <QAbstractNativeEventFilter>
+
+namespace tarvelo::app {
+
+// Tells of the status bars of the desktop that can hold an item: one that takes items over the
+// session bus, or one that embeds windows, as it is on X11.
+class StatusBars final : public QObject, public QAbstractNativeEventFilter
+{
+    Q_OBJECT
+
+public:
+    StatusBars();
+    ~StatusBars() override;
+
+    // True also on a screen that knows nothing of status bars.
+    bool isThere() const;
+
+Q_SIGNALS:
+    void appeared();
+
+protected:
+    bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
+
+private:
+    platform::StatusNotifierHost m_host;
+};
+
+} // namespace tarvelo::app
