@@ -26,7 +26,7 @@ double luminance(const QColor &color)
 // 1 for a text that cannot be told from its ground, 21 for black on white.
 double contrast(const QColor &one, const QColor &other)
 {
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 
