@@ -1,0 +1,120 @@
+#include "platform/StatusNotifierHost.h"
+
+#include "support/PrivateBus.h"
+#include "support/TestCase.h"
+
+#include <QProcess>
+#include <QSignalSpy>
+
+#include <csignal>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using tarvelo::platform::StatusNotifierHost;
+using tarvelo::tests::PrivateBus;
+
+namespace {
+
+constexpr int Patience = 30000;
+
+// A status bar in a process of its own, since the question to it is waited for.
+class Bar final
+{
+public:
+    explicit Bar(const QStringList &when = {})
+    {
+        m_process.start(QStringLiteral(PYTHON),
+                        QStringList{u"-B"_s, QStringLiteral(STATUS_BAR), m_folder.path()} + when);
+        m_isReady = m_process.waitForReadyRead(Patience) && m_process.readLine() == "ready\n";
+    }
+    Bar(const Bar &) = delete;
+    Bar &operator=(const Bar &) = delete;
+    ~Bar()
+    {
+        ::kill(pid(), SIGCONT);
+        m_process.closeWriteChannel();
+        m_process.waitForFinished(Patience);
+    }
+
+    bool isReady() const { return m_isReady; }
+    pid_t pid() const { return static_cast<pid_t>(m_process.processId()); }
+    void beginToShow() { m_process.write("now\n"); }
+
+private:
+    QTemporaryDir m_folder;
+    QProcess m_process;
+    bool m_isReady = false;
+};
+
+} // namespace
+
+class StatusNotifierHostTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_bus = std::make_unique<PrivateBus>();
+        QVERIFY(m_bus->isRunning());
+    }
+    void cleanupTestCase() { m_bus.reset(); }
+
+    void withoutABarThereIsNone()
+    {
+        const StatusNotifierHost host;
+
+        QVERIFY(!host.isThere());
+    }
+
+    void aBarThatIsThereIsFound()
+    {
+        const Bar bar;
+        QVERIFY(bar.isReady());
+        const StatusNotifierHost host;
+
+        QVERIFY(host.isThere());
+    }
+
+    void aBarThatComesLaterIsToldOf()
+    {
+        StatusNotifierHost host;
+        const QSignalSpy appeared(&host, &StatusNotifierHost::appeared);
+
+        const Bar bar;
+
+        QVERIFY(bar.isReady());
+        QTRY_COMPARE_WITH_TIMEOUT(appeared.size(), 1, Patience);
+    }
+
+    void aBarThatHasNothingToShowItemsWithIsToldOfWhenItHas()
+    {
+        Bar bar({u"later"_s});
+        QVERIFY(bar.isReady());
+        StatusNotifierHost host;
+        const QSignalSpy appeared(&host, &StatusNotifierHost::appeared);
+        QVERIFY(!host.isThere());
+
+        bar.beginToShow();
+
+        QTRY_COMPARE_WITH_TIMEOUT(appeared.size(), 1, Patience);
+        QVERIFY(host.isThere());
+    }
+
+    void aBarThatHangsIsNone()
+    {
+        const Bar bar;
+        QVERIFY(bar.isReady());
+        const StatusNotifierHost host;
+
+        QCOMPARE(::kill(bar.pid(), SIGSTOP), 0);
+
+        QVERIFY(!host.isThere());
+    }
+
+private:
+    std::unique_ptr<PrivateBus> m_bus;
+};
+
+QTEST_GUILESS_MAIN(StatusNotifierHostTest)
+#include "StatusNotifierHostTest.moc"
