@@ -43,13 +43,13 @@ StatusBars::~StatusBars()
         qGuiApp->removeNativeEventFilter(this);
 }
 
-bool StatusBars::isThere() const
+bool StatusBars::isKnown() const
 {
     const QString screen = QGuiApplication::platformName();
     if (screen != u"xcb" && !screen.startsWith(u"wayland"))
         return true;
     xcb_connection_t *const connection = x11Connection();
-    return m_host.isThere() || (connection && embedsWindows(connection));
+    return connection && embedsWindows(connection);
 }
 
 // Who becomes the bar of an X11 screen says so to every program.

@@ -16,8 +16,9 @@ public:
     StatusBars();
     ~StatusBars() override;
 
-    // True also on a screen that knows nothing of status bars.
-    bool isThere() const;
+    // Whether there is no need to wait for appeared(): a bar that embeds windows is there, or the
+    // screen knows nothing of status bars.
+    bool isKnown() const;
 
 Q_SIGNALS:
     void appeared();

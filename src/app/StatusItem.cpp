@@ -39,7 +39,7 @@ void StatusItem::create(const platform::Image &image)
     m_item.reset();
     m_bars = std::make_unique<StatusBars>();
     connect(m_bars.get(), &StatusBars::appeared, this, &StatusItem::show);
-    if (m_bars->isThere())
+    if (m_bars->isKnown())
         show();
 }
 

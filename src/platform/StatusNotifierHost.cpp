@@ -1,8 +1,9 @@
 #include "platform/StatusNotifierHost.h"
 
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
@@ -22,29 +23,27 @@ StatusNotifierHost::StatusNotifierHost()
         return;
     auto *watcher =
         new QDBusServiceWatcher(Watcher, bus, QDBusServiceWatcher::WatchForRegistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &StatusNotifierHost::changed);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &StatusNotifierHost::ask);
     // The watcher may be there before the host is.
     bus.connect(Watcher, Path, Watcher, QStringLiteral("StatusNotifierHostRegistered"), this,
-                SLOT(changed()));
+                SLOT(ask()));
+    ask();
 }
 
-bool StatusNotifierHost::isThere() const
+void StatusNotifierHost::ask()
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected() || !bus.interface()->isServiceRegistered(Watcher))
-        return false;
     QDBusMessage question = QDBusMessage::createMethodCall(
         Watcher, Path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     question.setArguments({Watcher, QStringLiteral("IsStatusNotifierHostRegistered")});
-    const QDBusMessage answer = bus.call(question, QDBus::Block, PatienceMilliseconds);
-    return answer.type() == QDBusMessage::ReplyMessage &&
-           answer.arguments().value(0).value<QDBusVariant>().variant().toBool();
-}
-
-void StatusNotifierHost::changed()
-{
-    if (isThere())
-        Q_EMIT appeared();
+    question.setAutoStartService(false);
+    auto *call =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
+        const QDBusPendingReply<QDBusVariant> answer = *call;
+        call->deleteLater();
+        if (answer.isValid() && answer.value().variant().toBool())
+            Q_EMIT appeared();
+    });
 }
 
 } // namespace tarvelo::platform
