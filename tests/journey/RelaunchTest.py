@@ -19,28 +19,33 @@ PROGRAM = os.path.abspath(sys.argv.pop(1))
 SKIPPED = "_NET_WM_STATE_SKIP_TASKBAR"
 
 
-def processes_of(path):
-    """The numbers of those that run this file."""
-    def runs(number):
-        try:
-            return os.readlink(f"/proc/{number}/exe") == path
-        except OSError:
-            return False
-
-    return {int(number) for number in os.listdir("/proc") if number.isdigit() and runs(number)}
+def read(number, name):
+    """Of what is gone there is nothing."""
+    try:
+        with open(f"/proc/{number}/{name}", "rb") as file:
+            return file.read().decode()
+    except OSError:
+        return ""
 
 
-def shells_of(path):
-    """The numbers of those that wait before they start this file."""
+def processes(folder, is_sought):
+    """The numbers of those that live in this test's folder: another test may start the same file."""
+    numbers = (int(number) for number in os.listdir("/proc") if number.isdigit())
+    return {number for number in numbers if f"XDG_DATA_HOME={folder}/" in read(number, "environ") and is_sought(number)}
+
+
+def processes_of(path, folder):
+    """Those that run this file."""
+    return processes(folder, lambda number: os.path.realpath(f"/proc/{number}/exe") == path)
+
+
+def shells_of(path, folder):
+    """Those that wait before they start this file."""
     def waits(number):
-        try:
-            with open(f"/proc/{number}/cmdline", encoding="utf-8") as file:
-                command = file.read()
-            return command.startswith("/bin/sh\0-c\0sleep 3 ; ") and path in command
-        except OSError:
-            return False
+        command = read(number, "cmdline")
+        return command.startswith("/bin/sh\0-c\0sleep 3 ; ") and path in command
 
-    return {int(number) for number in os.listdir("/proc") if number.isdigit() and waits(number)}
+    return processes(folder, waits)
 
 
 def windows_of(number):
@@ -58,8 +63,8 @@ class RelaunchTest(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
-        self.folder = folder.name
-        self.desktop = Desktop(folder.name)
+        self.folder = os.path.realpath(folder.name)
+        self.desktop = Desktop(self.folder)
         self.desktop.__enter__()
         self.addCleanup(self.desktop.__exit__)
 
@@ -71,10 +76,16 @@ class RelaunchTest(unittest.TestCase):
         self.addCleanup(self.end_all)
         self.addCleanup(self.program.stop)
         self.program.start("first")
-        self.first = next(iter(processes_of(self.path)))
+        self.first = next(iter(self.processes()))
+
+    def processes(self):
+        return processes_of(self.path, self.folder)
+
+    def shells(self):
+        return shells_of(self.path, self.folder)
 
     def end_all(self):
-        for number in processes_of(self.path) | shells_of(self.path):
+        for number in self.processes() | self.shells():
             os.kill(number, signal.SIGKILL)
 
     def answer(self, button):
@@ -93,7 +104,7 @@ class RelaunchTest(unittest.TestCase):
 
         self.answer(names.RELAUNCH_NOW)
         self.program.expect_end()
-        second = wait_for("another process", lambda: processes_of(self.path) - {self.first}).pop()
+        second = wait_for("another process", lambda: self.processes() - {self.first}).pop()
         window = self.main_window(second)
         wait_for("the window to leave the task bar", lambda: is_skipped(window))
 
@@ -101,7 +112,7 @@ class RelaunchTest(unittest.TestCase):
         self.program.hands.press(names.MAIN_WINDOW, names.PREFERENCES_KEYS)
         self.program.hands.click(names.PREFERENCES_WINDOW, names.TASK_BAR)
         wait_for("the window to stand in the task bar again", lambda: not is_skipped(window))
-        self.assertEqual(processes_of(self.path), {second})
+        self.assertEqual(self.processes(), {second})
         self.program.expect_silence()
 
     def test_later_leaves_everything_as_it_is(self):
@@ -110,8 +121,8 @@ class RelaunchTest(unittest.TestCase):
         self.answer(names.LATER)
 
         self.program.hands.window_goes(names.MUST_RESTART)
-        self.assertEqual(shells_of(self.path), set())
-        self.assertEqual(processes_of(self.path), {self.first})
+        self.assertEqual(self.shells(), set())
+        self.assertEqual(self.processes(), {self.first})
         self.assertFalse(is_skipped(self.main_window(self.first)))
         self.program.hands.click(names.PREFERENCES_WINDOW, names.DONE)
         self.program.quit()
@@ -126,8 +137,8 @@ class RelaunchTest(unittest.TestCase):
         self.program.expect_end()
 
         # Its shell cannot read the command, and is gone at once.
-        wait_for("the shell to go", lambda: not shells_of(self.path))
-        self.assertEqual(processes_of(self.path), set())
+        wait_for("the shell to go", lambda: not self.shells())
+        self.assertEqual(self.processes(), set())
         self.program.expect_silence()
 
 

@@ -27,7 +27,9 @@ public:
     {
         m_process.start(QStringLiteral(PYTHON),
                         QStringList{u"-B"_s, QStringLiteral(STATUS_BAR), m_folder.path()} + when);
-        m_isReady = m_process.waitForReadyRead(Patience) && m_process.readLine() == "ready\n";
+        while (!m_process.canReadLine() && m_process.waitForReadyRead(Patience)) {
+        }
+        m_isReady = m_process.readLine() == "ready\n";
     }
     Bar(const Bar &) = delete;
     Bar &operator=(const Bar &) = delete;
