@@ -21,7 +21,7 @@ const QString NameFormat = QStringLiteral("'TarveloInfo' yyyy-MM-dd HH.mm.ss.zzz
 const QString NameFilter = QStringLiteral("TarveloInfo *.db");
 
 // Beside the size of the database: for a journal and for what the file system itself needs.
-constexpr qint64 RoomForTheRest = 128 * 1024;
+constexpr qint64 RoomForTheRest = 128 << 10; // bytes
 
 const QString LectureTable = QStringLiteral("audioData");
 // In a copy: the lectures that were about to go when it was made. A copy without this table is of a
@@ -177,7 +177,7 @@ QString LectureBackups::keep(Sqlite &database, const QString &going)
     if (isThere && (!*isThere || (leaving && leaving->isEmpty())))
         return {};
     platform::createFolderIfMissing(m_folder);
-    const QString path = pathOf(nameAfter(namesOfCopies()));
+    QString path = pathOf(nameAfter(namesOfCopies()));
     if (writesCopy(database, going, path))
         return path;
     return QFile::remove(roomPath()) && writesCopy(database, going, path) ? path : QString();

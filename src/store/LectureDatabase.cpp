@@ -60,7 +60,7 @@ void LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
 {
     if (!m_connection)
         return;
-    const QString path = lecture.getLectureAudioPath();
+    const QString &path = lecture.getLectureAudioPath();
     const QString going = statements::IdsByPathBegin + path + statements::IdsByPathEnd;
     const auto rows = m_connection->executeQuery(going);
     const QString copy =
