@@ -1,0 +1,225 @@
+#include "gallery/Scenes.h"
+
+#include "lectures/CustomTableCellView.h"
+#include "lectures/LectureTable.h"
+#include "platform/Alerts.h"
+#include "platform/Texts.h"
+#include "support/LectureBuilder.h"
+#include "widgets/LevelIndicator.h"
+#include "widgets/PopOver.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDirIterator>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTextEdit>
+#include <QTranslator>
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+namespace tarvelo::tests {
+
+namespace {
+
+constexpr int Patience = 20000;
+
+class Tour final
+{
+public:
+    using Look = std::function<void(const QString &, QWidget &)>;
+
+    Tour(Application &program, const Look &look)
+        : m_program(program)
+        , m_look(look)
+    {
+    }
+
+    void main();
+    void row();
+    // False when the view did not come to rest.
+    bool lectureView();
+    void menus();
+    void newLecture();
+    void windows();
+    void popOvers();
+    void sheets();
+
+private:
+    void look(const char *name, QWidget &window) const
+    {
+        window.show();
+        QCoreApplication::sendPostedEvents();
+        m_look(QString::fromLatin1(name), window);
+    }
+    void lookAtMain(const char *name) const { look(name, m_program.window()); }
+    lectures::CustomTableCellView &firstRow() const
+    {
+        auto &table = *m_program.windows.mainOutlets().tblRecordSubjectList;
+        return *table.viewAtColumnRowMakeIfNecessary(0, 0, true);
+    }
+    void fill() const;
+
+    Application &m_program;
+    const Look &m_look;
+};
+
+// A student's month.
+void Tour::fill() const
+{
+    m_program.home.makeFolder();
+    const auto add = [this](const LectureBuilder &lecture) {
+        lecture.insertInto(m_program.database);
+    };
+    add(aLecture().named("Geometric optics").withNotes("Lenses bend light.\n\n00:12:40\nSnell"));
+    add(aLecture().named("Analysis I").withNotes("Uniform convergence").lasting("01:31:05"));
+    add(aLecture().named("Worksheet 5").withNotes("Due on Monday").withoutAudio());
+    for (const char *day : {"2024-03-01", "2024-03-04", "2024-02-27"})
+        add(aLecture().named("Linear algebra").on(day));
+    m_program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 5));
+    m_program.windows.mainOutlets().calendarView->layoutSubviews();
+}
+
+void Tour::main()
+{
+    lookAtMain("main-empty-day");
+    fill();
+    lookAtMain("main-list");
+    m_program.window().setFrameWidth(app::AppDelegate::FoldedWidth, false);
+    lookAtMain("main-folded");
+    m_program.window().setFrameWidth(app::AppDelegate::ListShownWidth, false);
+    m_program.delegate.menus().action(app::Command::AllList)->trigger();
+    lookAtMain("main-all-list");
+    m_program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 5));
+}
+
+void Tour::row()
+{
+    firstRow().mouseEntered();
+    lookAtMain("row-under-the-mouse");
+    firstRow().mouseExited();
+}
+
+bool Tour::lectureView()
+{
+    m_program.controller.openPlayEditWindow(firstRow().btnEdit());
+    m_program.window().setFrameWidth(lectures::ExpandedWidth, false);
+    lookAtMain("lecture-beside-list");
+    m_program.controller.viewEditView(nullptr);
+    const QWidget &view = *m_program.windows.mainOutlets().editPlayView;
+    const auto isAtRest = [&] { return view.x() == 0 && !m_program.window().isSliding(); };
+    if (!QTest::qWaitFor(isAtRest, Patience))
+        return false;
+    lookAtMain("lecture-alone");
+    return true;
+}
+
+void Tour::menus()
+{
+    app::AppMenus &menus = m_program.delegate.menus();
+    look("menu", menus.mainMenu());
+    menus.mainMenu().close();
+    look("menu-help", menus.helpMenu());
+    menus.helpMenu().close();
+    look("menu-status-item", menus.statusMenu());
+    menus.statusMenu().close();
+    const auto ofRow = firstRow().getMenu();
+    look("menu-row", *ofRow);
+}
+
+void Tour::newLecture()
+{
+    const lectures::NewLectureOutlets &outlets = m_program.windows.newLectureOutlets();
+    const audio::RecordingOutlets &recording = m_program.windows.recordingOutlets();
+    m_program.controller.onAddItem(nullptr);
+    look("new-lecture", *outlets.newNoteWindow);
+
+    outlets.txtSubjectForNewNote->setText(u"Geometric optics"_s);
+    outlets.txtView->setPlainText(u"Lenses bend light. Ask about Fermat."_s);
+    recording.btnStartRecord->click();
+    m_program.engine.recordedSeconds = 765;
+    m_program.clock.advance(1s);
+    look("new-lecture-recording", *outlets.newNoteWindow);
+
+    recording.btnPauseResumeRecording->click();
+    look("new-lecture-paused", *outlets.newNoteWindow);
+
+    recording.btnStopRecord->click();
+    m_program.clock.advance(500ms);
+    look("new-lecture-stopped", *outlets.newNoteWindow);
+
+    m_program.engine.playerDuration = 765;
+    recording.btnStopRecord->click();
+    m_program.engine.playedSeconds = 255;
+    m_program.clock.advance(1s);
+    look("new-lecture-listening", *outlets.newNoteWindow);
+}
+
+void Tour::windows()
+{
+    const lectures::LectureWindows &windows = m_program.windows;
+    m_program.controller.onEditLecture(firstRow().btnEdit());
+    look("edit", *windows.editLectureOutlets().windowEditLecture);
+    look("play", *windows.playAudioOutlets().playAudioWindow);
+    look("preferences", *m_program.delegate.preferences().preferrenceWindow());
+}
+
+void Tour::popOvers()
+{
+    const lectures::PopoverOutlets &outlets = m_program.windows.popoverOutlets();
+    look("delete", *outlets.popoverConfirmRecordDelete);
+    look("no-audio", *outlets.popoverAudioConfirmClose);
+}
+
+void Tour::sheets()
+{
+    m_program.delegate.menus().action(app::Command::BringLecturesBack)->trigger();
+    auto &bringBack = *m_program.window().findChild<QDialog *>(u"bringBackSheet"_s);
+    look("bring-back", bringBack);
+    bringBack.close();
+    platform::WindowAlerts().beginSheet(
+        {u"Recording is on process!"_s, u"Ok"_s, u"Please click Done to save."_s},
+        m_program.window(), {});
+    look("alert", *m_program.window().findChild<QMessageBox *>());
+}
+
+} // namespace
+
+void speak(const QString &language)
+{
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    QLocale::setDefault(QLocale(language));
+    platform::installTexts();
+    const bool isRightToLeft = platform::text("LAYOUT_DIRECTION") == u"RTL";
+    QApplication::setLayoutDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+QStringList languages()
+{
+    QStringList languages;
+    QDirIterator files(QStringLiteral(TARVELO_SOURCE_DIR "/resources/texts"), QDir::Files);
+    while (files.hasNext())
+        languages << QFileInfo(files.next()).baseName().section(u'_', 1);
+    languages.sort();
+    return languages;
+}
+
+bool goThrough(Application &program, const std::function<void(const QString &, QWidget &)> &look)
+{
+    program.launch();
+    program.clock.advance(500ms); // until the path of the take is known
+    Tour tour(program, look);
+    tour.main();
+    tour.row();
+    const bool isAllShown = tour.lectureView();
+    tour.menus();
+    tour.newLecture();
+    tour.windows();
+    tour.popOvers();
+    tour.sheets();
+    return isAllShown;
+}
+
+} // namespace tarvelo::tests
