@@ -27,6 +27,10 @@
         <source></source>
         <translation>انتهى التسجيل</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>عاد الصوت مسموعًا</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>المحاضرات المستعادة: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>يجري تسجيل محاضرة</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>القرص ممتلئ تقريبًا. الدقائق المتبقية: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>الدقائق التي يتسع لها القرص: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>لا يُسمع شيء. هل الميكروفون مشغَّل؟</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>Aufnahme beendet</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Es ist wieder etwas zu hören</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Zurückgeholte Vorlesungen: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Eine Vorlesung wird aufgenommen</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>Der Speicher ist fast voll. Minuten übrig: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Minuten, für die der Speicher noch reicht: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Es ist nichts zu hören. Ist das Mikrofon an?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

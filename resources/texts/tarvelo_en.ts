@@ -27,6 +27,10 @@
         <source></source>
         <translation>Recording stopped</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Sound is heard again</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Lectures brought back: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>A lecture is being recorded</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>The disk is almost full. Minutes left: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Minutes for which there is room on the disk: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Nothing is heard. Is the microphone on?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>Grabación detenida</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Vuelve a oírse sonido</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Clases recuperadas: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Se está grabando una clase</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>El disco está casi lleno. Minutos restantes: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Minutos que aún caben en el disco: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>No se oye nada. ¿Está encendido el micrófono?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>Enregistrement arrêté</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Le son est de nouveau capté</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Cours récupérés : %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Un cours est en cours d’enregistrement</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>Le disque est presque plein. Minutes restantes : %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Minutes que le disque peut encore contenir : %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>On n’entend rien. Le micro est-il allumé ?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

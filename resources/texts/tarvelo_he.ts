@@ -27,6 +27,10 @@
         <source></source>
         <translation>ההקלטה הופסקה</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>שוב נשמע צליל</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>הרצאות ששוחזרו: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>הרצאה מוקלטת כעת</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>הדיסק כמעט מלא. דקות שנותרו: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>דקות שיש להן מקום בדיסק: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>לא נשמע דבר. האם המיקרופון פועל?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>रिकॉर्डिंग समाप्त हुई</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>आवाज़ फिर सुनाई दे रही है</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>वापस लाए गए व्याख्यान: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>एक व्याख्यान रिकॉर्ड हो रहा है</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>डिस्क लगभग भर गई है। शेष मिनट: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>डिस्क में इतने मिनट की जगह है: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>कुछ सुनाई नहीं दे रहा। क्या माइक चालू है?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

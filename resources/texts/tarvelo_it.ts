@@ -27,6 +27,10 @@
         <source></source>
         <translation>Registrazione terminata</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Si sente di nuovo il suono</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Lezioni recuperate: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>È in corso la registrazione di una lezione</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>Il disco è quasi pieno. Minuti rimasti: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Minuti per cui c’è spazio sul disco: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Non si sente nulla. Il microfono è acceso?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>録音を停止しました</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>再び音が聞こえています</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>復元した講義：%1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>講義を録音しています</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>ディスクの空きがほとんどありません。残り %1 分</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>ディスクの空きは録音 %1 分ぶんです</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>音が聞こえません。マイクは入っていますか？</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

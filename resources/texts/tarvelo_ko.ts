@@ -27,6 +27,10 @@
         <source></source>
         <translation>녹음을 중지했습니다</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>다시 소리가 들립니다</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>되살린 강의: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>강의를 녹음하고 있습니다</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>디스크가 거의 가득 찼습니다. 남은 시간: %1분</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>디스크에 녹음할 수 있는 시간: %1분</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>아무 소리도 들리지 않습니다. 마이크가 켜져 있나요?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>Opname gestopt</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Er is weer geluid te horen</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Teruggehaalde colleges: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Er wordt een college opgenomen</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>De schijf is bijna vol. Minuten over: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Minuten waarvoor er nog schijfruimte is: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Er is niets te horen. Staat de microfoon aan?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

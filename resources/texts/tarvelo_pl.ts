@@ -27,6 +27,10 @@
         <source></source>
         <translation>Nagrywanie zakończone</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Znów słychać dźwięk</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Przywrócone wykłady: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Trwa nagrywanie wykładu</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>Dysk jest prawie pełny. Pozostało minut: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Minuty, na które jest miejsce na dysku: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Nic nie słychać. Czy mikrofon jest włączony?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>Gravação encerrada</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Ouve-se som de novo</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Aulas recuperadas: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Uma aula está sendo gravada</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>O disco está quase cheio. Minutos restantes: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Minutos para os quais há espaço no disco: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Não se ouve nada. O microfone está ligado?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>Запись остановлена</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Звук снова слышен</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Возвращено лекций: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Идёт запись лекции</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>Диск почти заполнен. Осталось минут: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Минут, на которые хватит места на диске: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Ничего не слышно. Микрофон включён?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>Kayıt durduruldu</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Ses yeniden duyuluyor</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Geri getirilen dersler: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Bir ders kaydediliyor</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>Disk neredeyse dolu. Kalan dakika: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Diskte yer kalan dakika: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Hiçbir şey duyulmuyor. Mikrofon açık mı?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -27,6 +27,10 @@
         <source></source>
         <translation>Запис зупинено</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>Звук знову чути</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Повернено лекцій: %1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>Триває запис лекції</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>Диск майже заповнений. Залишилося хвилин: %1</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>Хвилин, на які вистачить місця на диску: %1</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>Нічого не чути. Чи ввімкнено мікрофон?</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

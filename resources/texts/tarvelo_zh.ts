@@ -27,6 +27,10 @@
         <source></source>
         <translation>录音已停止</translation>
     </message>
+    <message id="ANNOUNCE_SOUND_HEARD_AGAIN">
+        <source></source>
+        <translation>又听到声音了</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>已找回的讲座：%1</translation>
@@ -310,6 +314,18 @@
     <message id="REASON_RECORDING">
         <source></source>
         <translation>正在录制讲座</translation>
+    </message>
+    <message id="RECORDING_HARDLY_ANY_ROOM">
+        <source></source>
+        <translation>磁盘快满了。还可录 %1 分钟</translation>
+    </message>
+    <message id="RECORDING_LITTLE_ROOM">
+        <source></source>
+        <translation>磁盘空间还可录 %1 分钟</translation>
+    </message>
+    <message id="RECORDING_NOTHING_HEARD">
+        <source></source>
+        <translation>听不到声音。麦克风打开了吗？</translation>
     </message>
     <message id="ROW_DELETE">
         <source></source>

@@ -85,6 +85,16 @@ bool RecordingControl::isRecordingNow() const
     return m_bIsRecording || m_outlets.newNoteWindow->isVisible();
 }
 
+bool RecordingControl::isTakingSound() const
+{
+    return m_recording && m_outlets.btnPauseResumeRecording->state() != 1;
+}
+
+engine::SoundHeard RecordingControl::soundHeard() const
+{
+    return m_recorder ? m_recorder->soundHeard() : engine::SoundHeard();
+}
+
 void RecordingControl::resetPauses()
 {
     m_pauseTimeInterval = 0;
@@ -150,6 +160,7 @@ void RecordingControl::startRecording(QWidget *sender)
     // Also when there is no recorder: the take then counts as running though nothing is captured,
     // as is wanted.
     m_recording = true;
+    beginStretch(0);
     m_durationPause = 0;
 
     // A take that was left while it was paused left the toggle on.
@@ -191,6 +202,7 @@ void RecordingControl::pauseTake()
 void RecordingControl::resumeTake()
 {
     say("ANNOUNCE_RECORDING_RESUMED");
+    beginStretch(soundHeard().arrived);
     lookPause(*m_outlets.btnPauseResumeRecording);
     showStopImage(*m_outlets.btnStopRecord, QStringLiteral("stopRed"));
     // Cut to whole seconds at each resume, which is wanted: two pauses of 2.7 s count as 2 and
@@ -253,6 +265,7 @@ void RecordingControl::startStopRecording(QWidget *)
     m_durationPause = 0;
     // Also without a recorder, when nothing will be recorded: wanted so.
     m_recording = true;
+    beginStretch(0);
     if (m_recorder) {
         m_recorder->prepareToRecord();
         runRecorder();

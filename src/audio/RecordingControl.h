@@ -49,6 +49,16 @@ public:
     // Whole seconds spent paused in this take.
     qint64 durationPause() const { return m_durationPause; }
     bool hasRecorder() const { return m_recorder != nullptr; }
+    // A take runs and is not paused, whether or not there is anything to record from.
+    bool isTakingSound() const;
+    // From a start or a resume to the next pause or stop.
+    struct Stretch
+    {
+        int number = 0;
+        double begin = 0; // as soundHeard().arrived was
+    };
+    const Stretch &stretch() const { return m_stretch; }
+    engine::SoundHeard soundHeard() const;
 
     // Zeroes the bookkeeping of pauses.
     void resetPauses();
@@ -89,6 +99,7 @@ public:
 private:
     // To who cannot see the controls change.
     void say(const char *textKey) const;
+    void beginStretch(double arrived) { m_stretch = {m_stretch.number + 1, arrived}; }
     void removeTemporaryFile();
     void makeAndStartRecorder();
     void pauseTake();
@@ -117,6 +128,7 @@ private:
     double m_floatRecordingDuration = 0;
     double m_pauseTimeInterval = 0; // seconds since 1970
     qint64 m_durationPause = 0;
+    Stretch m_stretch;
     std::unique_ptr<platform::Clock::Pending> m_timerDateTimeDisplay;
     // Never started: no level is read from the recorder. Whoever ends a take takes it back
     // nonetheless.

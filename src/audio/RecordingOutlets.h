@@ -28,6 +28,7 @@ struct RecordingOutlets
     QLabel *lblElapsedTimeTemp = nullptr;
     QLabel *lblRemainingTimeTemp = nullptr;
     QTextEdit *txtView = nullptr;
+    QLabel *lblRecordingWarning = nullptr; // one line, hidden while nothing is wrong
 };
 
 // The labels that show the time of day and the date.

@@ -45,6 +45,7 @@ const QString Face = QStringLiteral("Helvetica Neue Medium");
 const QColor Ink(43, 41, 48);
 const QColor Faint(105, 101, 113);
 const QColor Line(228, 227, 232);
+const QColor Warning(163, 18, 32);
 
 void style(QLabel &label, double size, const QColor &colour)
 {
@@ -284,12 +285,16 @@ void LectureWindows::buildNewLectureWindow()
                    ui.sliderPlayProgress2,
                    ui.lblElapsedTimeTemp,
                    ui.lblRemainingTimeTemp,
-                   ui.txtView};
+                   ui.txtView,
+                   ui.lblRecordingWarning};
 
     for (QLabel *label : {ui.textDate, ui.textTime, ui.lblNotesForAdd, ui.lblElapsedTimeTemp,
                           ui.lblRemainingTimeTemp})
         style(*label, 13, Faint);
     style(*ui.lblRecordingDuration, 24, Ink);
+    style(*ui.lblRecordingWarning, 13, Warning);
+    keepRoom(*ui.lblRecordingWarning);
+    ui.lblRecordingWarning->hide();
     ui.txtSubjectForNewNote->setFont(platform::fontNamed(Face, 16));
     limitSubject(*ui.txtSubjectForNewNote);
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);

@@ -6,6 +6,7 @@
 #include "lectures/LectureTable.h"
 #include "lectures/RowLookup.h"
 #include "platform/Dates.h"
+#include "platform/DiskRoom.h"
 #include "platform/Workspace.h"
 #include "store/LectureDatabase.h"
 #include "widgets/ImageButton.h"
@@ -40,6 +41,9 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
           {windows.recordingOutlets(), windows.lecturePlayerOutlets(), windows.editPlayerOutlets()})
     , m_recordingControl(services.engine, m_locations, services.dates, m_playback, services.sleep,
                          windows.recordingOutlets(), windows.clockOutlets())
+    , m_recordingWatch(
+          services.dates.clock(), m_recordingControl, windows.recordingOutlets(),
+          [this] { return m_locations.temporaryBasePath(); }, platform::roomOnDisk)
     , m_sharing(services.places.music, services.mail, services.workspace)
     , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })
     , m_viewChanges(windows.mainOutlets(), windows.lectureViewOutlets())

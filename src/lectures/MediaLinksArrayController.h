@@ -3,6 +3,7 @@
 #include "audio/AudioFileLocations.h"
 #include "audio/Playback.h"
 #include "audio/RecordingControl.h"
+#include "audio/RecordingWatch.h"
 #include "audio/SharingAndExport.h"
 #include "lectures/CloseGuards.h"
 #include "lectures/DayList.h"
@@ -273,6 +274,7 @@ private:
     audio::AudioFileLocations m_locations;
     audio::Playback m_playback;
     audio::RecordingControl m_recordingControl;
+    audio::RecordingWatch m_recordingWatch;
     audio::SharingAndExport m_sharing;
     DayList m_dayList;
     ViewChanges m_viewChanges;

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDirIterator>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
@@ -43,6 +44,7 @@ public:
     bool lectureView();
     void menus();
     void newLecture();
+    void warnings();
     void windows();
     void popOvers();
     void sheets();
@@ -142,6 +144,7 @@ void Tour::newLecture()
     m_program.engine.recordedSeconds = 765;
     m_program.clock.advance(1s);
     look("new-lecture-recording", *outlets.newNoteWindow);
+    warnings();
 
     recording.btnPauseResumeRecording->click();
     look("new-lecture-paused", *outlets.newNoteWindow);
@@ -155,6 +158,20 @@ void Tour::newLecture()
     m_program.engine.playedSeconds = 255;
     m_program.clock.advance(1s);
     look("new-lecture-listening", *outlets.newNoteWindow);
+}
+
+void Tour::warnings()
+{
+    QLabel &line = *m_program.windows.recordingOutlets().lblRecordingWarning;
+    const QString minutes = QLocale().toString(29);
+    m_program.clock.advance(10s);
+    look("new-lecture-nothing-heard", *line.window());
+    line.setText(platform::text("RECORDING_LITTLE_ROOM").arg(minutes));
+    look("new-lecture-little-room", *line.window());
+    line.setText(platform::text("RECORDING_HARDLY_ANY_ROOM").arg(minutes));
+    look("new-lecture-hardly-any-room", *line.window());
+    m_program.engine.soundHeard = {12, 12};
+    m_program.clock.advance(1s);
 }
 
 void Tour::windows()

@@ -78,7 +78,8 @@ private Q_SLOTS:
             {windows().popoverOutlets().btnClosePopover, u"btnClosePopover"_s},
             {recording.btnStartRecord, u"btnStartRecord"_s},
             {recording.sliderPlayProgress2, u"sliderPlayProgress2"_s},
-            {recording.txtView, u"txtView"_s}};
+            {recording.txtView, u"txtView"_s},
+            {recording.lblRecordingWarning, u"lblRecordingWarning"_s}};
 
         for (const auto &[control, name] : named)
             QCOMPARE(control ? control->objectName() : u"missing"_s, name);
@@ -172,6 +173,32 @@ private Q_SLOTS:
         recording.btnStopRecord->click();
         QCoreApplication::processEvents();
         QCOMPARE(places(), idle);
+    }
+
+    void aWarningMovesNothingInTheNewLectureWindow()
+    {
+        m_program->start();
+        m_program->controller.onAddItem(nullptr);
+        const QWidget &window = *windows().recordingOutlets().newNoteWindow;
+        QVERIFY(QTest::qWaitForWindowExposed(&const_cast<QWidget &>(window)));
+        windows().recordingOutlets().btnStartRecord->click();
+        // Until the length of the take is there.
+        m_program->clock.advance(std::chrono::seconds(1));
+        const auto places = [&window] {
+            QCoreApplication::processEvents();
+            QMap<QString, QRect> now{{u"window"_s, window.rect()}};
+            for (const QWidget *view : window.findChildren<QWidget *>())
+                if (!view->objectName().isEmpty() && view->objectName() != u"announcement")
+                    now.insert(view->objectName(), view->geometry());
+            return now;
+        };
+        const auto before = places();
+        QVERIFY(windows().recordingOutlets().lblRecordingWarning->isHidden());
+
+        m_program->clock.advance(std::chrono::seconds(10));
+
+        QVERIFY(windows().recordingOutlets().lblRecordingWarning->isVisible());
+        QCOMPARE(places(), before);
     }
 
     void subjectsEndAt255Characters()

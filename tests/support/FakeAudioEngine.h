@@ -22,6 +22,7 @@ public:
     bool makesRecorders = true;
     bool prepares = true;
     double recordedSeconds = 0;
+    engine::SoundHeard soundHeard;
     QString recorderPath;
     bool fileWasThere = false; // at recorderPath, when the last recorder was made
     QVariantMap settings;
@@ -86,6 +87,7 @@ public:
     void pause() override { note("pause"); }
     void stop() override { note("stop"); }
     double currentTime() const override { return m_engine.recordedSeconds; }
+    engine::SoundHeard soundHeard() const override { return m_engine.soundHeard; }
     void setMeteringEnabled(bool enabled) override
     {
         note(enabled ? "metering on" : "metering off");

@@ -46,7 +46,8 @@ public:
                 &sliderPlayProgress2,
                 &lblElapsedTimeTemp,
                 &lblRemainingTimeTemp,
-                &txtView};
+                &txtView,
+                &lblRecordingWarning};
     }
     audio::Playback::Outlets playbackOutlets()
     {
@@ -73,6 +74,7 @@ public:
     QLabel lblElapsedTimeTemp{&window};
     QLabel lblRemainingTimeTemp{&window};
     QTextEdit txtView{&window};
+    QLabel lblRecordingWarning{&window};
 
     QWidget playAudioWindow;
     QLineEdit txtSubjectName{&playAudioWindow};

@@ -81,4 +81,9 @@ double SoundServerRecorder::currentTime() const
     return m_take ? m_take->seconds() : m_lastTime;
 }
 
+SoundHeard SoundServerRecorder::soundHeard() const
+{
+    return m_take ? m_take->soundHeard() : SoundHeard();
+}
+
 } // namespace tarvelo::engine

@@ -23,6 +23,7 @@ public:
     void pause() override;
     void stop() override;
     double currentTime() const override;
+    SoundHeard soundHeard() const override;
     // There is no meter yet.
     void setMeteringEnabled(bool) override {}
     void updateMeters() override {}

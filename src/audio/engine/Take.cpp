@@ -44,6 +44,7 @@ Take::Take(const PcmFormat &input, std::unique_ptr<TakeWriter> writer)
     : m_input(input)
     , m_ring(ringSize(input))
     , m_fader(input.rate, input.channels, [this](auto samples) { intoRing(samples); })
+    , m_hearing(input)
     , m_writer(std::move(writer))
     , m_block(SamplesInBlock - SamplesInBlock % static_cast<std::size_t>(input.channels))
 {
@@ -62,6 +63,7 @@ double Take::seconds() const
 
 void Take::put(std::span<const float> interleaved)
 {
+    m_hearing.put(interleaved);
     m_fader.put(interleaved);
     const double samples = static_cast<double>(m_samplesTaken + m_fader.samplesHeldBack());
     m_secondsTaken = samples / (m_input.rate * m_input.channels);

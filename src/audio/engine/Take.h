@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/engine/Hearing.h"
 #include "audio/engine/SampleRing.h"
 #include "audio/engine/SoundSink.h"
 #include "audio/engine/SpliceFader.h"
@@ -28,6 +29,9 @@ public:
     // For any thread. Seconds of sound taken; while the disk takes none, those that are safe on it.
     double seconds() const;
 
+    // For any thread.
+    SoundHeard soundHeard() const { return m_hearing.soFar(); }
+
     void put(std::span<const float> interleaved) override;
     void breakOff() override;
 
@@ -44,6 +48,7 @@ private:
     PcmFormat m_input;
     SampleRing m_ring;
     SpliceFader m_fader;
+    Hearing m_hearing;
     std::unique_ptr<TakeWriter> m_writer; // the take's own thread's, until that has ended
     std::vector<float> m_block;
     std::size_t m_samplesTaken = 0;

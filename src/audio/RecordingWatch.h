@@ -1,0 +1,70 @@
+#pragma once
+
+#include "audio/RecordingOutlets.h"
+#include "platform/Clock.h"
+
+#include <QObject>
+
+#include <functional>
+#include <optional>
+
+namespace tarvelo::audio {
+
+class RecordingControl;
+
+// While the new-lecture window is on the screen one line of it says what would cost the lecture: a
+// disk with little room left, or a microphone that gives nothing to hear. It never interrupts, and
+// changes nothing of the recording.
+//
+// A disk that is nearly full comes before silence, for that ends the recording soon; silence comes
+// before a disk on which there is room for a while.
+class RecordingWatch final : public QObject
+{
+public:
+    // The bytes that may still be written into this folder; none when nobody can say.
+    using Room = std::function<std::optional<qint64>(const QString &folder)>;
+
+    // What a second of a take needs on the disk, with all that the file has around the sound: 92
+    // kbit/s. Asked for 80,000 bit/s the coder gives 86 to 92 on speech.
+    static constexpr qint64 BytesASecond = 11500;
+
+    // `clock`, `recording` and the controls outlive the watch. `take` gives the path of the take.
+    RecordingWatch(platform::Clock &clock, const RecordingControl &recording,
+                   const RecordingOutlets &outlets, std::function<QString()> take, Room room);
+
+    bool eventFilter(QObject *window, QEvent *event) override;
+
+private:
+    enum class Warning { None, LittleRoom, NothingHeard, HardlyAnyRoom };
+
+    void begin();
+    void end();
+    void tick();
+    void measureRoom();
+    void listen();
+    bool isRoomBelow(qint64 minutes, Warning now) const;
+    Warning warning() const;
+    QString textOf(Warning warning) const;
+    void show(Warning warning);
+    void announce(const QString &words) const;
+
+    platform::Clock &m_clock;
+    const RecordingControl &m_recording;
+    RecordingOutlets m_outlets;
+    std::function<QString()> m_take;
+    Room m_room;
+    std::unique_ptr<platform::Clock::Pending> m_ticks;
+    Warning m_shown = Warning::None;
+
+    int m_ticksUntilRoom = 0;
+    std::optional<qint64> m_minutes; // for which there is room
+
+    int m_stretch = 0;
+    double m_arrived = 0;
+    double m_quietFrom = 0;   // as m_arrived was then
+    int m_secondsWithout = 0; // any sound arriving, since then
+    bool m_isNothingHeard = false;
+    bool m_isHeardAgain = false; // since the tick before
+};
+
+} // namespace tarvelo::audio
