@@ -1,4 +1,4 @@
-"""A sound from which the time can be read, and what a microphone heard of it."""
+"""A sound of which every moment is known again, and a witness who hears it beside the program."""
 
 import os
 import subprocess
@@ -9,9 +9,10 @@ import numpy
 from outside.sound import RATE
 from outside.waiting import Children, Failed, wait_for
 
-SECONDS = 60  # then it begins anew: a take is shorter
-BLOCK = 4096  # samples that are looked for at a time, 93 ms
-ALIKE = 0.8  # the least agreement of such a block with the place where it belongs
+SECONDS = 60  # then it begins anew
+BLOCK = 4096  # samples that are compared at a time, 93 ms
+ALIKE = 0.9  # the least agreement of such a block with what the witness heard; the encoder keeps 0.99
+SHAPE = ["--raw", f"--rate={RATE}", "--channels=1", "--format=float32le"]
 
 
 def murmur(random):
@@ -25,22 +26,20 @@ def murmur(random):
 
 
 class Played:
-    """Plays a murmur into the microphone as long as it lives, and keeps listening to it: a witness."""
+    """Plays a murmur into the microphone as long as it lives, and has a witness listen at the microphone too.
+
+    Takes are compared with what the witness heard, so that a player which stumbles on a busy machine is no matter."""
 
     def __init__(self, random, folder):
         self._sound = murmur(random)
-        self._spectra = {}
         self._path = os.path.join(folder, "witness.raw")
         self._children = Children()
 
     def __enter__(self):
-        raw = os.path.join(os.path.dirname(self._path), "murmur.raw")
-        self._sound.tofile(raw)
-        shape = ["--raw", f"--rate={RATE}", "--channels=1", "--format=float32le", "--latency-msec=20"]
-        speaker = self._children.start("pacat", "--playback", "-d", "mic", *shape, stdin=subprocess.PIPE)
+        speaker = self._children.start("pacat", "--playback", "-d", "mic", "--latency-msec=500", *SHAPE, stdin=subprocess.PIPE)
         threading.Thread(target=self._speak, args=(speaker.stdin,), daemon=True).start()
         with open(self._path, "wb") as heard:
-            self._children.start("pacat", "--record", "-d", "microphone", *shape, stdout=heard)
+            self._children.start("pacat", "--record", "-d", "microphone", "--latency-msec=20", *SHAPE, stdout=heard)
         wait_for("the murmur in the microphone", lambda: os.path.getsize(self._path) > 4 * RATE)
         return self
 
@@ -48,39 +47,27 @@ class Played:
         self._children.stop()
 
     def now(self):
-        """The end of what the witness has heard, for place() later: asked at the very moment."""
-        return os.path.getsize(self._path) // 4
+        """In seconds of what the witness has heard."""
+        return os.path.getsize(self._path) / 4 / RATE
 
-    def place(self, heard_until):
-        """The second of the murmur that sounded then."""
+    def heard(self, begin, end):
         with open(self._path, "rb") as file:
-            file.seek(4 * (heard_until - BLOCK))
-            return self._find(numpy.frombuffer(file.read(4 * BLOCK), dtype=numpy.float32)) + BLOCK / RATE
+            file.seek(4 * max(0, round(begin * RATE)))
+            return numpy.frombuffer(file.read(4 * round((end - max(0, begin)) * RATE)), dtype=numpy.float32).astype(numpy.float64)
 
-    def span(self, take):
-        """Where a take begins and ends in the murmur; fails when it holds anything else, or not all of it."""
-        if len(take) < 3 * BLOCK:
+    def span(self, take, until):
+        """From when to when the take was heard, before a moment of now(); fails when it holds anything else than that."""
+        if len(take) < 4 * BLOCK:
             raise Failed(f"the take holds {len(take) / RATE:.2f} s")
-        begin = self._find(take[BLOCK : 2 * BLOCK]) - BLOCK / RATE
-        whole = numpy.roll(self._sound, -round(begin * RATE))[: len(take)]
-        # The first and the last block are left out: the encoder fades them.
+        earliest = max(0, until - len(take) / RATE - 3)
+        heard = self.heard(earliest, until + 1)
+        # The first block is left out, and the last: the encoder fades them.
+        begin = _find(heard, take[BLOCK : 3 * BLOCK]) - BLOCK
         for start in range(BLOCK, len(take) - 2 * BLOCK, BLOCK):
-            one, other = whole[start : start + BLOCK], take[start : start + BLOCK]
-            agreement = numpy.corrcoef(one, other)[0, 1]
+            agreement = _agreement(heard[begin + start : begin + start + BLOCK], take[start : start + BLOCK])
             if not agreement >= ALIKE:
-                raise Failed(f"at {start / RATE:.2f} s the take is not what was played: {agreement:.3f}")
-        return begin, begin + len(take) / RATE
-
-    def _find(self, part):
-        if len(self._spectra) == 0:
-            self._spectra = numpy.fft.rfft(self._sound)
-        size = len(self._sound)
-        product = numpy.fft.irfft(self._spectra * numpy.conj(numpy.fft.rfft(part, size)), size)
-        best = int(numpy.argmax(product))
-        alike = numpy.corrcoef(numpy.roll(self._sound, -best)[: len(part)], part)[0, 1]
-        if not alike >= ALIKE:
-            raise Failed(f"this is not in what was played: {alike:.3f}")
-        return best / RATE
+                raise Failed(f"at {start / RATE:.2f} s the take is not what was heard: {agreement:.3f}")
+        return earliest + begin / RATE, earliest + (begin + len(take)) / RATE
 
     def _speak(self, pipe):
         try:
@@ -90,6 +77,11 @@ class Played:
             pass  # the player has ended
 
 
-def seconds_between(begin, end):
-    """From one second of the murmur to a later one; a little less than none is less than none."""
-    return (end - begin + 5) % SECONDS - 5
+def _find(whole, part):
+    size = 1 << (len(whole) + len(part) - 1).bit_length()
+    product = numpy.fft.irfft(numpy.fft.rfft(whole, size) * numpy.conj(numpy.fft.rfft(part, size)), size)
+    return int(numpy.argmax(product[: len(whole) - len(part) + 1]))
+
+
+def _agreement(one, other):
+    return numpy.corrcoef(one, other)[0, 1] if len(one) == len(other) else 0.0
