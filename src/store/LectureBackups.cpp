@@ -3,8 +3,9 @@
 #include "platform/Clock.h"
 #include "platform/DurableFiles.h"
 #include "platform/PrivateFiles.h"
+#include "store/AttachedCopy.h"
 #include "store/Sqlite.h"
-#include "store/Statements.h"
+#include "store/Tables.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -22,111 +23,6 @@ const QString NameFilter = QStringLiteral("TarveloInfo *.db");
 
 // Beside the size of the database: for a journal and for what the file system itself needs.
 constexpr qint64 RoomForTheRest = 128 << 10; // bytes
-
-const QString LectureTable = QStringLiteral("audioData");
-// In a copy: the lectures that were about to go when it was made. A copy without this table is of a
-// file that could not be asked.
-const QString MarkTable = QStringLiteral("goingLectures");
-
-const QString Columns =
-    QStringLiteral("subject, course, notes, recordingDate, lectureStartTime, lectureEndTime, "
-                   "audioFileFullPath, recordDuration");
-
-// The lectures of a copy that are missing, by whether its marks are to be asked (?1). One with a
-// recording is there when that recording is. One without is there when another is like it; when it
-// is marked, only under its own ID.
-const QString FromMissing = QStringLiteral(
-    " FROM copy.audioData AS lost WHERE (NOT ?1 OR ID IN (SELECT ID FROM copy.goingLectures)) AND "
-    "NOT EXISTS (SELECT 1 FROM main.audioData AS here WHERE CASE WHEN lost.audioFileFullPath <> '' "
-    "THEN here.audioFileFullPath = lost.audioFileFullPath ELSE (NOT ?1 OR here.ID = lost.ID) AND "
-    "here.audioFileFullPath IS lost.audioFileFullPath AND here.subject IS lost.subject AND "
-    "here.notes IS lost.notes AND here.recordingDate IS lost.recordingDate END)");
-// Without the marks' table the text above cannot be prepared.
-const QString FromMissingUnmarked =
-    QString(FromMissing)
-        .replace(QStringLiteral("copy.goingLectures"), QStringLiteral("copy.audioData"));
-
-std::optional<int> number(const std::optional<Rows> &rows)
-{
-    if (!rows || rows->isEmpty())
-        return std::nullopt;
-    return rows->first().first().toInt();
-}
-
-// Null when the file cannot be asked.
-std::optional<bool> hasTable(Sqlite &database, const char *schema, const QString &name)
-{
-    const QString sql = QStringLiteral("SELECT count(*) FROM %1.sqlite_master WHERE name = ?")
-                            .arg(QLatin1String(schema));
-    const auto count = number(database.executeQuery(sql, name));
-    return count ? std::optional(*count > 0) : std::nullopt;
-}
-
-bool makesTable(Sqlite &database)
-{
-    return hasTable(database, "main", LectureTable).value_or(false) ||
-           database.executeNonQuery(statements::CreateAfterInsert);
-}
-
-// A copy beside the database, under the name "copy", as long as this lives.
-class AttachedCopy final
-{
-public:
-    AttachedCopy(Sqlite &database, const QString &path)
-        : m_database(database)
-        , m_isAttached(QFileInfo(path).isFile() &&
-                       database.executeNonQuery(QStringLiteral("ATTACH ? AS copy"), path))
-    {
-    }
-    AttachedCopy(const AttachedCopy &) = delete;
-    AttachedCopy &operator=(const AttachedCopy &) = delete;
-    ~AttachedCopy()
-    {
-        if (m_isAttached)
-            m_database.executeNonQuery(QStringLiteral("DETACH copy"));
-    }
-
-    bool isReadable() const
-    {
-        return m_isAttached && hasTable(m_database, "copy", LectureTable).value_or(false);
-    }
-    bool isMarked() const { return hasTable(m_database, "copy", MarkTable).value_or(false); }
-
-    int lectures() const
-    {
-        return number(
-                   m_database.executeQuery(QStringLiteral("SELECT count(*) FROM copy.audioData")))
-            .value_or(0);
-    }
-    int missing() const
-    {
-        if (!hasTable(m_database, "main", LectureTable).value_or(false))
-            return lectures();
-        return number(m_database.executeQueryArguments(
-                          QStringLiteral("SELECT count(*)") + fromMissing(), {isMarked()}))
-            .value_or(0);
-    }
-
-    // Under its own ID where that is free; the others get new ones behind all there are. The free
-    // ones first, so that none of theirs is given away.
-    bool putBackMissing()
-    {
-        const QString isTaken = QStringLiteral("lost.ID IN (SELECT ID FROM main.audioData)");
-        const QString sql =
-            QStringLiteral("INSERT INTO main.audioData (ID, %1) SELECT CASE WHEN %2 THEN NULL ELSE "
-                           "lost.ID END, %1%3 ORDER BY %2, lost.ID")
-                .arg(Columns, isTaken, fromMissing());
-        return m_database.executeNonQueryArguments(sql, {isMarked()}) &&
-               (!isMarked() ||
-                m_database.executeNonQuery(QStringLiteral("DELETE FROM copy.goingLectures")));
-    }
-
-private:
-    QString fromMissing() const { return isMarked() ? FromMissing : FromMissingUnmarked; }
-
-    Sqlite &m_database;
-    const bool m_isAttached;
-};
 
 bool vacuumsInto(Sqlite &database, const QString &path)
 {
@@ -172,7 +68,7 @@ LectureBackups::LectureBackups(QString folder, const platform::Clock &clock)
 
 QString LectureBackups::keep(Sqlite &database, const QString &going)
 {
-    const auto isThere = hasTable(database, "main", LectureTable);
+    const auto isThere = hasTable(database, "main", QStringLiteral("audioData"));
     const auto leaving = database.executeQuery(going);
     if (isThere && (!*isThere || (leaving && leaving->isEmpty())))
         return {};
@@ -239,7 +135,7 @@ std::optional<int> LectureBackups::bringBack(const QString &copyPath, Sqlite &da
     const int missing = copy.missing();
     if (missing == 0)
         return 0;
-    const bool isBack = database.beginTransaction() && makesTable(database) &&
+    const bool isBack = database.beginTransaction() && makeLecturesIfMissing(database) &&
                         copy.putBackMissing() && database.commit();
     if (isBack)
         return missing;

@@ -2,9 +2,11 @@
 
 #include "audio/engine/MovieOutput.h"
 #include "audio/engine/OutputFile.h"
+#include "platform/DurableFiles.h"
+
+#include <QFile>
 
 #include <algorithm>
-#include <cstdio>
 #include <unistd.h>
 
 namespace tarvelo::engine {
@@ -73,12 +75,12 @@ bool replaceWithIndexedCopy(const std::string &path, const TakeExtent &extent)
 {
     keepFfmpegQuiet();
     const std::string sibling = siblingOf(path);
-    if (!writeCopy(path, sibling, extent) || std::rename(sibling.c_str(), path.c_str()) != 0) {
-        ::unlink(sibling.c_str());
-        return false;
-    }
-    syncFolderOf(path);
-    return true;
+    if (writeCopy(path, sibling, extent) &&
+        platform::renameDurably(QFile::decodeName(sibling.c_str()),
+                                QFile::decodeName(path.c_str())))
+        return true;
+    ::unlink(sibling.c_str());
+    return false;
 }
 
 } // namespace tarvelo::engine

@@ -65,15 +65,4 @@ bool OutputFile::sync()
     return ::fdatasync(m_descriptor) == 0;
 }
 
-void syncFolderOf(const std::string &path)
-{
-    const auto slash = path.rfind('/');
-    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    static_cast<void>(::fsync(descriptor));
-    ::close(descriptor);
-}
-
 } // namespace tarvelo::engine

@@ -36,7 +36,4 @@ private:
     std::int64_t m_size = 0;
 };
 
-// Forces the names in the folder of `path` to the disk.
-void syncFolderOf(const std::string &path);
-
 } // namespace tarvelo::engine

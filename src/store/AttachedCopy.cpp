@@ -1,0 +1,87 @@
+#include "store/AttachedCopy.h"
+
+#include "store/Sqlite.h"
+#include "store/Tables.h"
+
+#include <QFileInfo>
+
+namespace tarvelo::store {
+
+namespace {
+
+const QString Columns =
+    QStringLiteral("subject, course, notes, recordingDate, lectureStartTime, lectureEndTime, "
+                   "audioFileFullPath, recordDuration");
+
+// The lectures of a copy that are missing, by whether its marks are to be asked (?1). One with a
+// recording is there when that recording is. One without is there when another is like it; when it
+// is marked, only under its own ID.
+const QString FromMissing = QStringLiteral(
+    " FROM copy.audioData AS lost WHERE (NOT ?1 OR ID IN (SELECT ID FROM copy.goingLectures)) AND "
+    "NOT EXISTS (SELECT 1 FROM main.audioData AS here WHERE CASE WHEN lost.audioFileFullPath <> '' "
+    "THEN here.audioFileFullPath = lost.audioFileFullPath ELSE (NOT ?1 OR here.ID = lost.ID) AND "
+    "here.audioFileFullPath IS lost.audioFileFullPath AND here.subject IS lost.subject AND "
+    "here.notes IS lost.notes AND here.recordingDate IS lost.recordingDate END)");
+// Without the marks' table the text above cannot be prepared.
+const QString FromMissingUnmarked =
+    QString(FromMissing)
+        .replace(QStringLiteral("copy.goingLectures"), QStringLiteral("copy.audioData"));
+
+} // namespace
+
+AttachedCopy::AttachedCopy(Sqlite &database, const QString &path)
+    : m_database(database)
+    , m_isAttached(QFileInfo(path).isFile() &&
+                   database.executeNonQuery(QStringLiteral("ATTACH ? AS copy"), path))
+{
+}
+
+AttachedCopy::~AttachedCopy()
+{
+    if (m_isAttached)
+        m_database.executeNonQuery(QStringLiteral("DETACH copy"));
+}
+
+bool AttachedCopy::isReadable() const
+{
+    return m_isAttached && hasLectures(m_database, "copy");
+}
+
+bool AttachedCopy::isMarked() const
+{
+    return hasTable(m_database, "copy", QStringLiteral("goingLectures")).value_or(false);
+}
+
+int AttachedCopy::lectures() const
+{
+    return numberFrom(m_database, QStringLiteral("SELECT count(*) FROM copy.audioData"))
+        .value_or(0);
+}
+
+int AttachedCopy::missing() const
+{
+    if (!hasLectures(m_database, "main"))
+        return lectures();
+    return numberFrom(m_database, QStringLiteral("SELECT count(*)") + fromMissing(), {isMarked()})
+        .value_or(0);
+}
+
+// The free IDs first, so that none of them is given away.
+bool AttachedCopy::putBackMissing()
+{
+    const QString isTaken = QStringLiteral("lost.ID IN (SELECT ID FROM main.audioData)");
+    const QString sql =
+        QStringLiteral("INSERT INTO main.audioData (ID, %1) SELECT CASE WHEN %2 THEN NULL ELSE "
+                       "lost.ID END, %1%3 ORDER BY %2, lost.ID")
+            .arg(Columns, isTaken, fromMissing());
+    return m_database.executeNonQueryArguments(sql, {isMarked()}) &&
+           (!isMarked() ||
+            m_database.executeNonQuery(QStringLiteral("DELETE FROM copy.goingLectures")));
+}
+
+QString AttachedCopy::fromMissing() const
+{
+    return isMarked() ? FromMissing : FromMissingUnmarked;
+}
+
+} // namespace tarvelo::store

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+namespace tarvelo::store {
+
+class Sqlite;
+
+// A copy of the lecture database beside the one that is used, under the name "copy", as long as
+// this lives. It knows which lectures of the copy are missing, and how they come back.
+class AttachedCopy final
+{
+public:
+    // `database` outlives this object. What is no file is not attached, and never made.
+    AttachedCopy(Sqlite &database, const QString &path);
+    AttachedCopy(const AttachedCopy &) = delete;
+    AttachedCopy &operator=(const AttachedCopy &) = delete;
+    ~AttachedCopy();
+
+    bool isReadable() const;
+    int lectures() const;
+    int missing() const;
+    // All or none, in the caller's transaction: under their own IDs where those are free, the
+    // others behind all there are.
+    bool putBackMissing();
+
+private:
+    // The copy says which lectures were about to go when it was made. One that does not is of a
+    // file that could not be asked.
+    bool isMarked() const;
+    QString fromMissing() const;
+
+    Sqlite &m_database;
+    const bool m_isAttached;
+};
+
+} // namespace tarvelo::store

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QVariantList>
+
+#include <optional>
+
+namespace tarvelo::store {
+
+class Sqlite;
+
+// The first column of the first row; null when there is none.
+std::optional<int> numberFrom(Sqlite &database, const QString &sql,
+                              const QVariantList &arguments = {});
+
+// `schema` is "main" or what the file was attached under. Null when the file cannot be asked.
+std::optional<bool> hasTable(Sqlite &database, const char *schema, const QString &name);
+
+bool hasLectures(Sqlite &database, const char *schema);
+// False when the table of lectures is not there then.
+bool makeLecturesIfMissing(Sqlite &database);
+
+} // namespace tarvelo::store
