@@ -9,13 +9,13 @@
 
 namespace tarvelo::engine {
 
-// A take on the disk while it grows: only whole fragments of half a second stand in the file, so
-// that it plays whatever happens to the program, the machine or the disk. A fragment for which
-// there is no room waits in memory and is tried again with the next one.
+// A take on the disk while it grows: only whole fragments of a quarter of a second stand in the
+// file, so that it plays whatever happens to the program, the machine or the disk. A fragment for
+// which there is no room waits in memory and is tried again with the next one.
 class FragmentedFile final
 {
 public:
-    static constexpr double FragmentSeconds = 0.5;
+    static constexpr double FragmentSeconds = 0.25;
     static constexpr std::chrono::seconds SyncInterval{2};
     // About 100 seconds of sound.
     static constexpr std::size_t MostBytesWaiting = std::size_t{1} << 20;
