@@ -27,18 +27,33 @@ if(TARVELO_SANITIZE)
     target_link_options(tarvelo_options INTERFACE -fsanitize=${TARVELO_SANITIZE})
 endif()
 
+# What is measured is src/ alone. Counters are atomic, since the engine counts from several threads; unoptimised, so that a
+# line of the report is one of the source.
+add_library(tarvelo_counters INTERFACE)
+if(TARVELO_COVERAGE)
+    target_compile_options(tarvelo_counters INTERFACE --coverage -O0 -fprofile-update=atomic)
+    target_link_options(tarvelo_options INTERFACE --coverage)
+endif()
+
 # A folder of src/ is a static library: tarvelo_library(store SOURCES a.cpp LINK Qt6::Core ...).
 function(tarvelo_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
     add_library(tarvelo_${name} STATIC ${ARG_SOURCES})
     target_include_directories(tarvelo_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
-    target_link_libraries(tarvelo_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK} tarvelo_options)
+    target_link_libraries(tarvelo_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK} tarvelo_options tarvelo_counters)
 endfunction()
 
 # A test that starts another program forks while other threads run, which the sanitizer would refuse.
 if(TARVELO_SANITIZE STREQUAL "thread")
     set(TARVELO_TEST_ENVIRONMENT
         "TSAN_OPTIONS=die_after_fork=0:suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+endif()
+
+# Under valgrind threads take turns, each a fair one, and everything takes thirty times as long.
+if(TARVELO_VALGRIND)
+    set(TARVELO_TEST_LAUNCHER valgrind --quiet --fair-sched=yes --num-callers=30 --error-exitcode=99
+        --leak-check=full --show-leak-kinds=definite --errors-for-leak-kinds=definite
+        --suppressions=${PROJECT_SOURCE_DIR}/tests/valgrind.supp)
 endif()
 
 # One test program a production class:
@@ -48,9 +63,12 @@ function(tarvelo_test name)
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvelo_test_support Qt6::Test tarvelo_options)
-    add_test(NAME ${name} COMMAND ${name})
+    add_test(NAME ${name} COMMAND ${TARVELO_TEST_LAUNCHER} $<TARGET_FILE:${name}>)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
+    endif()
+    if(TARVELO_VALGRIND)
+        math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 10")
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_ENABLE_HIGHDPI_SCALING=0;LC_ALL=C.UTF-8;TZ=UTC;${TARVELO_TEST_ENVIRONMENT};${ARG_ENVIRONMENT}")
