@@ -9,10 +9,6 @@ namespace tarvelo::store {
 
 namespace {
 
-const QString Columns =
-    QStringLiteral("subject, course, notes, recordingDate, lectureStartTime, lectureEndTime, "
-                   "audioFileFullPath, recordDuration");
-
 // The lectures of a copy that are missing, by whether its marks are to be asked (?1). One with a
 // recording is there when that recording is. One without is there when another is like it; when it
 // is marked, only under its own ID.
@@ -73,7 +69,7 @@ bool AttachedCopy::putBackMissing()
     const QString sql =
         QStringLiteral("INSERT INTO main.audioData (ID, %1) SELECT CASE WHEN %2 THEN NULL ELSE "
                        "lost.ID END, %1%3 ORDER BY %2, lost.ID")
-            .arg(Columns, isTaken, fromMissing());
+            .arg(LectureColumns, isTaken, fromMissing());
     return m_database.executeNonQueryArguments(sql, {isMarked()}) &&
            (!isMarked() ||
             m_database.executeNonQuery(QStringLiteral("DELETE FROM copy.goingLectures")));

@@ -4,6 +4,7 @@
 #include "platform/DurableFiles.h"
 #include "platform/PrivateFiles.h"
 #include "store/AttachedCopy.h"
+#include "store/FileBytes.h"
 #include "store/Sqlite.h"
 #include "store/Tables.h"
 
@@ -29,23 +30,6 @@ bool vacuumsInto(Sqlite &database, const QString &path)
     QFile::remove(path);
     platform::createFileIfMissing(path);
     return database.executeNonQuery(QStringLiteral("VACUUM INTO ?"), path);
-}
-
-// Byte for byte, of a file that cannot be asked.
-bool copiesFile(const QString &from, const QString &to)
-{
-    QFile::remove(to);
-    const bool isCopied = QFile::copy(from, to);
-    platform::keepFilePrivate(to);
-    return isCopied;
-}
-
-bool isSame(const QString &onePath, const QString &otherPath)
-{
-    QFile one(onePath);
-    QFile other(otherPath);
-    return one.open(QIODevice::ReadOnly) && other.open(QIODevice::ReadOnly) &&
-           one.size() == other.size() && one.readAll() == other.readAll();
 }
 
 bool marks(const QString &copyPath, const QString &going)
@@ -82,11 +66,11 @@ QString LectureBackups::keep(Sqlite &database, const QString &going)
 bool LectureBackups::writesCopy(Sqlite &database, const QString &going, const QString &path) const
 {
     const QString half = pathOf(QStringLiteral(".copy"));
-    const bool isWritten = (vacuumsInto(database, half) && marks(half, going)) ||
-                           copiesFile(database.filePath(), half);
+    const bool isWritten =
+        (vacuumsInto(database, half) && marks(half, going)) || copyBytes(database.filePath(), half);
     const bool isKept = isWritten && platform::renameDurably(half, path);
     QFile::remove(half);
-    QFile::remove(half + QStringLiteral("-journal"));
+    QFile::remove(journalOf(half));
     return isKept;
 }
 
@@ -111,7 +95,7 @@ bool LectureBackups::isOfNoUse(Sqlite &database, const QString &copyPath) const
             return copy.missing() == 0;
     }
     const QStringList names = namesOfCopies();
-    return names.size() > 1 && isSame(copyPath, pathOf(names.at(names.size() - 2)));
+    return names.size() > 1 && haveSameBytes(copyPath, pathOf(names.at(names.size() - 2)));
 }
 
 QList<LectureBackups::Copy> LectureBackups::copies(Sqlite &database) const

@@ -1,14 +1,19 @@
 #include "store/LectureDatabase.h"
 
 #include "platform/PrivateFiles.h"
+#include "store/FileBytes.h"
 #include "store/LectureInfoItem.h"
+#include "store/Soundness.h"
 #include "store/Statements.h"
+
+#include <QFileInfo>
 
 namespace tarvelo::store {
 
 LectureDatabase::LectureDatabase(const platform::Places &places, const platform::Clock &clock)
     : m_folder(platform::expandingTilde(places.applicationSupport) + u'/' + places.processName)
     , m_backups(m_folder + QStringLiteral("/Backups"), clock)
+    , m_damagedFiles(m_folder + QStringLiteral("/Backups"), clock)
 {
 }
 
@@ -23,11 +28,51 @@ Sqlite *LectureDatabase::openDb()
     const QString file = m_folder + QStringLiteral("/TarveloInfo.db");
     // SQLite would make it by the umask; its journal has the mode of the file.
     platform::createFileIfMissing(file);
-    if (m_connection->open(file))
-        makeIndexes();
-    else
+    if (!openFile(file))
         m_connection.reset();
     return m_connection.get();
+}
+
+// The first look at a file takes back what a death left half done, by the journal. A damaged file
+// is put aside as it was before that.
+bool LectureDatabase::openFile(const QString &file)
+{
+    const bool hasJournal = QFileInfo(journalOf(file)).size() > 0;
+    const bool wasEmpty = QFileInfo(file).size() == 0;
+    const auto aside = hasJournal ? m_damagedFiles.putAside(file) : std::nullopt;
+    if (!m_connection->open(file))
+        return false;
+    const bool isDamaged = soundnessAtFirstSight(*m_connection) == Soundness::Damaged;
+    // The journal of an empty file may have all there is, and goes with the first look.
+    if (aside && aside->isNew && !isDamaged && !wasEmpty)
+        m_damagedFiles.remove(*aside);
+    if (!isDamaged || replaceWithSound())
+        makeIndexes();
+    return m_connection->filePath() == file;
+}
+
+bool LectureDatabase::mendIfDamaged()
+{
+    Sqlite *const database = openDb();
+    if (!database)
+        return false;
+    const Soundness soundness = soundnessOfEveryPage(*database);
+    if (soundness != Soundness::Damaged)
+        return soundness == Soundness::Sound;
+    if (!replaceWithSound())
+        return false;
+    makeIndexes();
+    return true;
+}
+
+// The connection stays the same object, which others know, and is open afterwards if it can be.
+bool LectureDatabase::replaceWithSound()
+{
+    const QString file = m_connection->filePath();
+    m_connection->close();
+    const bool isSound = m_damagedFiles.replaceWithSound(file);
+    m_connection->open(file);
+    return isSound;
 }
 
 std::optional<Rows> LectureDatabase::lecturesOfDay(const QString &day)
@@ -84,6 +129,10 @@ void LectureDatabase::writeOrReset(const QString &sql, const QVariantList &argum
 void LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
                             const QString &creationText)
 {
+    // A damaged file is not written to before it lies aside; without room for that the lecture is
+    // not stored, and nothing is lost.
+    if (soundnessOfEveryPage(database) == Soundness::Damaged && !replaceWithSound())
+        return;
     const QString copy = m_backups.keep(database, statements::AllIds);
     database.executeNonQuery(statements::Drop);
     database.executeNonQuery(creationText);

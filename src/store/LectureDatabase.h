@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Process.h"
+#include "store/DamagedFiles.h"
 #include "store/LectureBackups.h"
 #include "store/Sqlite.h"
 
@@ -22,7 +23,8 @@ public:
     ~LectureDatabase();
 
     // The shared connection, made on the first call; null when the file cannot be opened, and then
-    // the next call tries again. Owned by this object.
+    // the next call tries again. A file that is no database any more is put aside first, and a
+    // sound one takes its place. Owned by this object.
     Sqlite *openDb();
     // The shared connection as it is: null before openDb() succeeded.
     Sqlite *connection() const { return m_connection.get(); }
@@ -34,6 +36,10 @@ public:
 
     // What a reset and a delete of several lectures take away is kept there first.
     const LectureBackups &backups() const { return m_backups; }
+    const DamagedFiles &damagedFiles() const { return m_damagedFiles; }
+    // Looks at every page. A damaged file is put aside, and a sound one with every lecture that
+    // can be read takes its place. False when the file is damaged or unknown all the same.
+    bool mendIfDamaged();
 
     // When the statement fails, for whatever reason, the table is dropped with all its lectures,
     // made anew, and the statement run once more. This is how the table comes into being, and the
@@ -51,10 +57,13 @@ private:
                       const QString &creationText);
     void reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
                const QString &creationText);
+    bool openFile(const QString &file);
+    bool replaceWithSound();
     void makeIndexes();
 
     QString m_folder;
     LectureBackups m_backups;
+    DamagedFiles m_damagedFiles;
     std::unique_ptr<Sqlite> m_connection;
 };
 

@@ -9,6 +9,11 @@ namespace tarvelo::store {
 
 class Sqlite;
 
+// All but the ID.
+inline const QString LectureColumns =
+    QStringLiteral("subject, course, notes, recordingDate, lectureStartTime, lectureEndTime, "
+                   "audioFileFullPath, recordDuration");
+
 // The first column of the first row; null when there is none.
 std::optional<int> numberFrom(Sqlite &database, const QString &sql,
                               const QVariantList &arguments = {});

@@ -152,10 +152,27 @@ private Q_SLOTS:
         QVERIFY(QDir(m_places->databaseFile()).isEmpty());
     }
 
-    void aFileThatIsNoDatabaseIsLeftAsItIs()
+    void aFileThatIsNoDatabaseIsPutAsideAndLecturesAreStoredAgain()
     {
         const QByteArray content = QByteArray("Minutes of the meeting\n").repeated(500);
         m_places->writeDatabaseFile(content);
+
+        QVERIFY(m_database->openDb());
+        QVERIFY(m_database->lecturesOfDay(u"2024-03-05"_s)->isEmpty());
+        aLecture().named("first").insertInto(*m_database);
+
+        QCOMPARE(subjects(*m_database), QStringList(u"first"_s));
+        QFile aside(m_database->damagedFiles().newest()->filePath);
+        QVERIFY(aside.open(QIODevice::ReadOnly));
+        QCOMPARE(aside.readAll(), content);
+    }
+
+    void aFileThatIsNoDatabaseAndCannotBePutAsideIsLeftAsItIs()
+    {
+        const QByteArray content = QByteArray("Minutes of the meeting\n").repeated(500);
+        m_places->writeDatabaseFile(content);
+        QFile inTheWay(m_places->folder() + u"/Backups"_s);
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
 
         QVERIFY(m_database->openDb());
         QVERIFY(!m_database->lecturesOfDay(u"2024-03-05"_s));

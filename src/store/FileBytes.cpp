@@ -1,0 +1,44 @@
+#include "store/FileBytes.h"
+
+#include "platform/PrivateFiles.h"
+
+#include <QFile>
+
+namespace tarvelo::store {
+
+namespace {
+
+constexpr qint64 Piece = 1 << 20; // bytes
+
+} // namespace
+
+bool copyBytes(const QString &from, const QString &to)
+{
+    QFile::remove(to);
+    const bool isCopied = QFile::copy(from, to);
+    platform::keepFilePrivate(to);
+    return isCopied;
+}
+
+bool haveSameBytes(const QString &onePath, const QString &otherPath)
+{
+    QFile one(onePath);
+    QFile other(otherPath);
+    if (!one.open(QIODevice::ReadOnly) || !other.open(QIODevice::ReadOnly) ||
+        one.size() != other.size())
+        return false;
+    QByteArray piece;
+    do {
+        piece = one.read(Piece);
+        if (piece != other.read(Piece))
+            return false;
+    } while (!piece.isEmpty());
+    return one.atEnd() && other.atEnd();
+}
+
+QString journalOf(const QString &databaseFile)
+{
+    return databaseFile + QStringLiteral("-journal");
+}
+
+} // namespace tarvelo::store

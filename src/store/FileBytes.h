@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace tarvelo::store {
+
+// Files of the database byte for byte, for when they cannot be asked.
+
+// In the place of what is there, for its user alone.
+bool copyBytes(const QString &from, const QString &to);
+
+// False also when one of them cannot be read.
+bool haveSameBytes(const QString &onePath, const QString &otherPath);
+
+// Beside a database while a change is not at its end, and after a death in the middle of one.
+QString journalOf(const QString &databaseFile);
+
+} // namespace tarvelo::store
