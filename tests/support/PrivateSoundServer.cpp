@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <csignal>
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -14,7 +15,8 @@ namespace {
 
 constexpr char CookieVariable[] = "PULSE_COOKIE";
 constexpr qsizetype CookieSize = 256;
-constexpr int LongEnough = 20000; // milliseconds, for a machine that has other things to do
+constexpr int LongEnough = 20000;       // milliseconds, for a machine that has other things to do
+constexpr int TimedOut = 128 + SIGKILL; // what the command of that name ends with
 
 // One that nobody listens at, as of now; 0 when there is none.
 int freePort()
@@ -44,6 +46,11 @@ QByteArray answerOf(const QStringList &question)
     pactl.start(QStringLiteral("pactl"), question);
     pactl.waitForFinished(LongEnough);
     return pactl.exitCode() == 0 ? pactl.readAllStandardOutput() : QByteArray();
+}
+
+void load(const QStringList &module)
+{
+    answerOf(QStringList(QStringLiteral("load-module")) + module);
 }
 
 QStringList sinkInputs()
@@ -127,6 +134,7 @@ bool PrivateSoundServer::start(const Options &options)
                     QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--disable-shm=yes"),
                     QStringLiteral("--realtime=no"), QStringLiteral("--high-priority=yes"),
                     QStringLiteral("-F"), m_folder.filePath(QStringLiteral("server.pa"))});
+    m_options = options;
     m_isIntact = m_server.waitForStarted(LongEnough) &&
                  waitUntil({QStringLiteral("info")}, "Server") &&
                  (!options.hasMicrophone || keepAwake());
@@ -173,13 +181,18 @@ void PrivateSoundServer::kill()
 {
     m_isIntact = false;
     end(m_server);
+    endHelpers();
+    QFile::remove(socketPath());
+}
+
+void PrivateSoundServer::endHelpers()
+{
     if (m_speaker)
         end(*m_speaker);
     m_speaker.reset();
     for (const auto &keeper : m_helpers)
         end(*keeper);
     m_helpers.clear();
-    QFile::remove(socketPath());
 }
 
 bool PrivateSoundServer::pullOutMicrophone()
@@ -213,10 +226,61 @@ bool PrivateSoundServer::lockUsOut()
 
 bool PrivateSoundServer::plugInMicrophone()
 {
-    answerOf({QStringLiteral("load-module"), QStringLiteral("module-remap-source"),
-              QStringLiteral("source_name=microphone"), QStringLiteral("master=mic.monitor")});
-    answerOf({QStringLiteral("set-default-source"), QStringLiteral("microphone")});
-    return waitUntil({QStringLiteral("info")}, "Default Source: microphone");
+    load({QStringLiteral("module-remap-source"), QStringLiteral("source_name=microphone"),
+          QStringLiteral("master=mic.monitor")});
+    return chooseMicrophone(QStringLiteral("microphone"));
+}
+
+bool PrivateSoundServer::plugInAnotherMicrophone()
+{
+    m_isIntact = false;
+    load({QStringLiteral("module-remap-source"), QStringLiteral("source_name=other"),
+          QStringLiteral("master=mic.monitor")});
+    return waitUntil({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sources")},
+                     "other");
+}
+
+bool PrivateSoundServer::chooseMicrophone(const QString &name)
+{
+    answerOf({QStringLiteral("set-default-source"), name});
+    return waitUntil({QStringLiteral("info")}, "Default Source: " + name.toLatin1());
+}
+
+bool PrivateSoundServer::pullOutEverything()
+{
+    m_isIntact = false;
+    endHelpers();
+    for (const QString &kind :
+         {QStringLiteral("module-remap-source"), QStringLiteral("module-null-sink")})
+        answerOf({QStringLiteral("unload-module"), kind});
+    return waitUntil({QStringLiteral("info")}, "Default Source: \\(null\\)");
+}
+
+bool PrivateSoundServer::plugInEverything()
+{
+    load({QStringLiteral("module-null-sink"), QStringLiteral("sink_name=speaker"),
+          QStringLiteral("norewinds=1")});
+    load({QStringLiteral("module-null-sink"), QStringLiteral("sink_name=mic"),
+          QStringLiteral("rate=%1").arg(m_options.rate),
+          QStringLiteral("channels=%1").arg(m_options.channels)});
+    answerOf({QStringLiteral("set-default-sink"), QStringLiteral("speaker")});
+    return plugInMicrophone() && keepAwake();
+}
+
+bool PrivateSoundServer::hang()
+{
+    m_isIntact = false;
+    ::kill(static_cast<pid_t>(m_server.processId()), SIGSTOP);
+    QProcess asking;
+    asking.start(QStringLiteral("timeout"), {QStringLiteral("--signal=KILL"), QStringLiteral("1"),
+                                             QStringLiteral("pactl"), QStringLiteral("info")});
+    asking.waitForFinished(LongEnough);
+    return asking.exitStatus() == QProcess::CrashExit || asking.exitCode() == TimedOut;
+}
+
+void PrivateSoundServer::goOn()
+{
+    ::kill(static_cast<pid_t>(m_server.processId()), SIGCONT);
 }
 
 bool PrivateSoundServer::speak(const QString &wavPath)

@@ -44,6 +44,16 @@ public:
     void kill();
     bool pullOutMicrophone();
     bool plugInMicrophone();
+    // A second one, which hears the same.
+    bool plugInAnotherMicrophone();
+    // The default one from now on: "microphone" or "other".
+    bool chooseMicrophone(const QString &name);
+    // Microphone and speaker, so that not even a monitor is left to listen to.
+    bool pullOutEverything();
+    bool plugInEverything();
+    // Stands still with all that is connected to it, until it goes on. True when it answers nobody.
+    bool hang();
+    void goOn();
     // Plays the sound file into the microphone, and nothing else any more; returns when the player
     // has its place there.
     bool speak(const QString &wavPath);
@@ -57,10 +67,12 @@ private:
     bool writeScript(const Options &options) const;
     bool waitUntil(const QStringList &question, const QByteArray &answer);
     bool keepAwake();
+    void endHelpers();
 
     QTemporaryDir m_folder;
     QByteArray m_serverBefore;
     QByteArray m_cookieBefore;
+    Options m_options;
     QProcess m_server;
     std::vector<std::unique_ptr<QProcess>> m_helpers;
     std::unique_ptr<QProcess> m_speaker;

@@ -52,6 +52,9 @@ bool MovieOutput::open(Form form, const AVCodecParameters &track, AVRational tim
     stream->time_base = timeBase;
     m_timeBase = timeBase;
     AVDictionary *options = nullptr;
+    // The length of the edit list counts in these: in the usual thousandths a take would be up to
+    // 22 samples too long.
+    av_dict_set_int(&options, "movie_timescale", timeBase.den, 0);
     if (form == Form::Fragmented)
         av_dict_set(&options, "movflags", FragmentedFlags, 0);
     const int result = avformat_write_header(m_muxer, &options);

@@ -16,9 +16,9 @@ constexpr int BufferSize = 64 * 1024;
 constexpr const char *Formats = "mov,aac,mp3,wav,flac,ogg,aiff,caf";
 
 // A file may say that it has more packets than there are bytes in the world, and the table of them
-// is made before they are looked for. This is a table of several days; it holds for all that FFmpeg
-// does in this program.
-constexpr std::size_t MostMemory = std::size_t(256) << 20;
+// is made before they are looked for. This holds for all that FFmpeg does in this program: a
+// lecture of two days can be recorded, for which its writer needs more than any reader.
+constexpr std::size_t MostMemory = std::size_t(512) << 20;
 
 // One of sound, and some of pictures and chapters.
 constexpr const char *MostTracks = "8";

@@ -28,6 +28,8 @@ public:
 
     // For any thread. Seconds of sound taken; while the disk takes none, those that are safe on it.
     double seconds() const;
+    // For any thread. What is behind it waits in memory.
+    double secondsInFile() const { return m_secondsInFile; }
 
     // For any thread.
     SoundHeard soundHeard() const { return m_hearing.soFar(); }

@@ -122,41 +122,6 @@ private Q_SLOTS:
         QCOMPARE(catcher.caught(), QByteArray());
     }
 
-    void aTakeGoesOnWhenTheServerIsBack()
-    {
-        QVERIFY(startServer());
-        const StderrCatcher catcher;
-        const auto recorder = recording();
-        QVERIFY(reaches(*recorder, 1));
-
-        server().kill();
-        QVERIFY(server().start());
-        const double before = recorder->currentTime();
-        QVERIFY(reaches(*recorder, before + 1));
-        recorder->stop();
-
-        QVERIFY(std::abs(DecodedAudio::read(path())->seconds() - recorder->currentTime()) < 0.05);
-        QCOMPARE(catcher.caught(), QByteArray());
-    }
-
-    void aPausedTakeStaysPausedWhenTheServerIsBack()
-    {
-        QVERIFY(startServer());
-        const auto witness = recording(path(QStringLiteral("witness.m4a")));
-        const auto recorder = recording();
-        QVERIFY(reaches(*recorder, 0.5));
-        recorder->pause();
-        const double paused = recorder->currentTime();
-
-        server().kill();
-        QVERIFY(server().start());
-        QVERIFY(reaches(*witness, witness->currentTime() + 1));
-        QCOMPARE(recorder->currentTime(), paused);
-
-        QVERIFY(recorder->record());
-        QVERIFY(reaches(*recorder, paused + 0.5));
-    }
-
     void aMicrophoneThatIsPulledOutLeavesTheTake()
     {
         QVERIFY(startServer());
@@ -170,19 +135,6 @@ private Q_SLOTS:
         QVERIFY(recorder->currentTime() >= 1.5);
         QVERIFY(std::abs(DecodedAudio::read(path())->seconds() - recorder->currentTime()) < 0.05);
         QCOMPARE(catcher.caught(), QByteArray());
-    }
-
-    void aTakeGoesOnWithAnotherMicrophone()
-    {
-        QVERIFY(startServer());
-        const auto recorder = recording();
-        QVERIFY(reaches(*recorder, 0.5));
-
-        QVERIFY(server().pullOutMicrophone());
-        QVERIFY(server().plugInMicrophone());
-        const double before = recorder->currentTime();
-
-        QVERIFY(reaches(*recorder, before + 1));
     }
 
 private:
