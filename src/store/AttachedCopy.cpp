@@ -59,7 +59,7 @@ int AttachedCopy::missing() const
     if (!hasLectures(m_database, "main"))
         return lectures();
     return numberFrom(m_database, QStringLiteral("SELECT count(*)") + fromMissing(), {isMarked()})
-        .value_or(0);
+        .value_or(lectures());
 }
 
 // The free IDs first, so that none of them is given away.

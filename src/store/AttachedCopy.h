@@ -19,6 +19,7 @@ public:
 
     bool isReadable() const;
     int lectures() const;
+    // All of them when they cannot be compared.
     int missing() const;
     // All or none, in the caller's transaction: under their own IDs where those are free, the
     // others behind all there are.

@@ -58,11 +58,12 @@ qint64 idBehind(Sqlite &database, qint64 next)
     return std::max(last, next) + 1;
 }
 
-// What reading a damaged place ends with. Everything else, such as a full disk, is no word about
-// the lectures.
+// What reading a damaged place ends with, also where a column's name is damaged. Everything else,
+// such as a full disk, is no word about the lectures.
 bool isDamage(int code)
 {
-    return code == SQLITE_CORRUPT || code == SQLITE_NOTADB || code == SQLITE_TOOBIG;
+    return code == SQLITE_CORRUPT || code == SQLITE_NOTADB || code == SQLITE_TOOBIG ||
+           code == SQLITE_ERROR;
 }
 
 struct Rescued
@@ -94,7 +95,9 @@ std::optional<Rescued> bringOver(Sqlite &database)
             gap = 0;
         } else if (!isDamage(database.errorCode())) {
             return std::nullopt;
-        } else if (rescued.isWhole = false; rows > 1) {
+        } else if (rescued.isWhole = false; database.errorCode() == SQLITE_ERROR) {
+            return rescued;
+        } else if (rows > 1) {
             rows /= 4;
         } else {
             ++next;

@@ -273,6 +273,18 @@ private Q_SLOTS:
         QVERIFY(copies().isEmpty());
     }
 
+    void aCopyWhoseLecturesCannotBeComparedStays()
+    {
+        add(aLecture());
+        QVERIFY(connection().executeNonQuery(u"ALTER TABLE audioData RENAME notes TO n0tes"_s));
+
+        reset();
+
+        QCOMPARE(copies().size(), 1);
+        QCOMPARE(copies().first().missing, 1);
+        QVERIFY(!backups().bringBack(copyPath(), connection()));
+    }
+
     void aDamagedCopyIsNotListedAndNothingComesFromIt()
     {
         add(aLecture());

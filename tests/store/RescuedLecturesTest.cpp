@@ -111,7 +111,7 @@ private Q_SLOTS:
     // None may end the program, and what comes is a sound file.
     void aByteThatIsWrongAnywhereIsTaken()
     {
-        for (qsizetype at = 0; at < m_sound.size(); at += 397) {
+        for (qsizetype at = 0; at < m_sound.size(); at += 797) {
             QByteArray content = m_sound;
             content[at] = static_cast<char>(content.at(at) ^ 0x55);
 
