@@ -106,6 +106,12 @@ void RecordingControl::say(const char *textKey) const
     platform::announce(*m_outlets.newNoteWindow, platform::text(textKey));
 }
 
+void RecordingControl::tellObserver(TakeEvent event) const
+{
+    if (m_takeObserver)
+        m_takeObserver(event);
+}
+
 void RecordingControl::removeTemporaryFile()
 {
     if (QFile::exists(m_locations.tempAudioSavePath()))
@@ -162,6 +168,7 @@ void RecordingControl::startRecording(QWidget *sender)
     m_recording = true;
     beginStretch(0);
     m_durationPause = 0;
+    tellObserver(TakeEvent::Started);
 
     // A take that was left while it was paused left the toggle on.
     if (m_outlets.btnPauseResumeRecording->state() == 1) {
@@ -186,6 +193,7 @@ void RecordingControl::pauseResumeRecording(QWidget *)
     else
         resumeTake();
     m_outlets.btnTimeTag->setHidden(pausing);
+    tellObserver(pausing ? TakeEvent::Paused : TakeEvent::Resumed);
 }
 
 void RecordingControl::pauseTake()
@@ -247,6 +255,7 @@ void RecordingControl::stopRecording(QWidget *)
         {"playRecordTemp", [this](QWidget *from) { m_playback.playRecordTemp(from); }});
     m_durationPause = 0;
     m_outlets.btnTimeTag->hide();
+    tellObserver(TakeEvent::Stopped);
 }
 
 void RecordingControl::startStopRecording(QWidget *)
@@ -258,6 +267,7 @@ void RecordingControl::startStopRecording(QWidget *)
         stopRecorder();
         m_outlets.btnPauseResumeRecording->setEnabled(false);
         m_postRecordingFinished.schedule(AfterStop);
+        tellObserver(TakeEvent::Stopped);
         return;
     }
     removeTemporaryFile();
@@ -271,6 +281,7 @@ void RecordingControl::startStopRecording(QWidget *)
         runRecorder();
     }
     m_outlets.btnPauseResumeRecording->setEnabled(true);
+    tellObserver(TakeEvent::Started);
 }
 
 void RecordingControl::postRecordingFinished()
@@ -302,6 +313,7 @@ void RecordingControl::onSetTimeTag(QWidget *)
     cursor.select(QTextCursor::Document);
     cursor.insertText(text, typing);
     notes.setTextCursor(cursor);
+    tellObserver(TakeEvent::Tagged);
 }
 
 void RecordingControl::closeTake()

@@ -6,6 +6,7 @@
 
 #include <QVariantMap>
 
+#include <functional>
 #include <memory>
 
 namespace tarvelo::platform {
@@ -17,6 +18,9 @@ namespace tarvelo::audio {
 
 class AudioFileLocations;
 class Playback;
+
+// What happens to a take, for who follows it.
+enum class TakeEvent { Started, Paused, Resumed, Stopped, Tagged };
 
 // Records one take at a time from the default input into the temporary file, and keeps the controls
 // of the new-lecture window in step: start, pause, resume, stop, then the take to listen to.
@@ -59,7 +63,17 @@ public:
     };
     const Stretch &stretch() const { return m_stretch; }
     engine::SoundHeard soundHeard() const;
+    // Of the take that runs, or of the finished one.
+    double recordedSeconds() const
+    {
+        return m_recording ? recorderTime() : m_floatRecordingDuration;
+    }
 
+    // Hears of each after it has happened; none is allowed.
+    void setTakeObserver(std::function<void(TakeEvent)> observer)
+    {
+        m_takeObserver = std::move(observer);
+    }
     // Zeroes the bookkeeping of pauses.
     void resetPauses();
     void setBIsRecordingNeedPreventingQuit(bool need) { m_bIsRecordingNeedPreventingQuit = need; }
@@ -108,6 +122,7 @@ private:
     // and whoever comes back wants to go on with the same take.
     void runRecorder();
     void stopRecorder();
+    void tellObserver(TakeEvent event) const;
     void invalidateLevelTimer() { m_audioLevelTimer.reset(); }
     double recorderTime() const { return m_recorder ? m_recorder->currentTime() : 0; }
 
@@ -134,6 +149,7 @@ private:
     // nonetheless.
     std::unique_ptr<platform::Clock::Pending> m_audioLevelTimer;
     platform::DelayedCall m_postRecordingFinished;
+    std::function<void(TakeEvent)> m_takeObserver;
 };
 
 } // namespace tarvelo::audio

@@ -55,8 +55,10 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
                   [this] { reloadData(); }, [this] { goToCalendarView(nullptr); },
                   services.pendingRow},
                  windows.mainOutlets(), windows.popoverOutlets())
+    , m_journal({services.dates, m_locations, m_recordingControl, m_dayList},
+                windows.newLectureOutlets())
     , m_newLecture({services.dates, services.database, m_locations, m_recordingControl, m_playback,
-                    m_dayList, m_editing, services.alerts},
+                    m_dayList, m_editing, m_journal, services.alerts},
                    {windows.mainOutlets(), windows.newLectureOutlets(), windows.recordingOutlets(),
                     windows.playAudioOutlets(), windows.lectureViewOutlets()})
     , m_closeGuards(
@@ -214,6 +216,12 @@ void MediaLinksArrayController::openAudioFolderPath(QWidget *sender)
 void MediaLinksArrayController::onDoneNewLectureOrCloseWindow(QWidget *sender)
 {
     m_newLecture.onDoneNewLectureOrCloseWindow(sender);
+}
+
+void MediaLinksArrayController::saveWhatWaits()
+{
+    m_newLecture.saveWhatWaits();
+    m_journal.writeNow();
 }
 
 void MediaLinksArrayController::onClosePopoverConfirm(QWidget *)

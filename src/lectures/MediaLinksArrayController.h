@@ -9,6 +9,7 @@
 #include "lectures/DayList.h"
 #include "lectures/LectureDeletion.h"
 #include "lectures/LectureEditing.h"
+#include "lectures/LectureJournalKeeper.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/NewLecture.h"
 #include "lectures/TextActivity.h"
@@ -187,7 +188,8 @@ public:
     void onAddItem(QWidget *sender) { m_newLecture.onAddItem(sender); }
     void onDoneNewLectureOrCloseWindow(QWidget *sender);
     void doSaveNewAudioInfos() { m_newLecture.doSaveNewAudioInfos(); }
-    void saveWhatWaits() { m_newLecture.saveWhatWaits(); }
+    void saveWhatWaits();
+    LectureJournalKeeper &journal() { return m_journal; }
     void onCancelAddNewLecture(QWidget *sender) { m_newLecture.onCancelAddNewLecture(sender); }
     void onCloseLectureWindow(QWidget *sender) { m_newLecture.onCloseLectureWindow(sender); }
     void onDone(QWidget *sender) { m_newLecture.onDone(sender); }
@@ -281,6 +283,7 @@ private:
     LectureEditing m_editing;
     TextActivity m_textActivity{*this};
     LectureDeletion m_deletion;
+    LectureJournalKeeper m_journal;
     NewLecture m_newLecture;
     CloseGuards m_closeGuards;
     platform::DelayedCall m_setTemporaryPath;

@@ -70,6 +70,7 @@ void MediaLinksArrayController::awakeFromNib()
         LectureTable::SelectionHighlightStyle::None);
     setTypingAttributes();
     m_locations.createFolders();
+    m_journal.start();
     setInsertionPointColors();
     m_windows.recordingOutlets().lblRecordingDuration->setText(QString());
     m_recordingControl.showTimeOfDay();

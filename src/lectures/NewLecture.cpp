@@ -8,14 +8,17 @@
 #include "lectures/DayList.h"
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureEditing.h"
+#include "lectures/LectureJournalKeeper.h"
 #include "lectures/LectureTable.h"
 #include "lectures/Slides.h"
 #include "platform/Alerts.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
+#include "platform/DurableFiles.h"
 #include "platform/Texts.h"
 #include "platform/WindowLevel.h"
 #include "store/LectureDatabase.h"
+#include "store/LectureJournal.h"
 #include "store/Statements.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
@@ -39,12 +42,6 @@ constexpr auto AfterDone = 200ms;
 constexpr auto NoteViewSlide = 800ms;
 constexpr int TagDone = 0;
 constexpr int TagClose = 1;
-
-// Stored with every lecture: they hold the place of what the program does not ask for yet, and are
-// wanted as they are.
-const QString Course = QStringLiteral("test course");
-const QString StartTime = QStringLiteral("10.00 AM");
-const QString EndTime = QStringLiteral("11.30 AM");
 
 const platform::Alert AlreadyOpen{
     QStringLiteral("You have a Lecture that is not yet saved."), QStringLiteral("OK"),
@@ -93,6 +90,7 @@ void NewLecture::onAddItem(QWidget *)
     m_outlets.window.txtSubjectForNewNote->setFocus(Qt::NoFocusReason);
     platform::centreOver(*m_outlets.window.newNoteWindow, *m_outlets.main.mainWindow);
     platform::makeKeyAndOrderFront(*m_outlets.window.newNoteWindow);
+    m_with.journal.lectureOpened();
 }
 
 void NewLecture::saveWhatWaits()
@@ -106,21 +104,22 @@ void NewLecture::saveWhatWaits()
 NewLecture::Audio NewLecture::takeAudioToItsPlace()
 {
     const QString taken = m_with.locations.tempAudioSavePath();
-    if (!QFile::exists(taken))
-        return {QString(), QStringLiteral("No Audio")};
+    if (!QFile::exists(taken)) {
+        m_with.journal.lectureMoves({}, store::NoAudio);
+        return {QString(), store::NoAudio};
+    }
     const QString path = m_with.locations.getAudioSavePath();
+    QString duration =
+        audio::getDuration(audio::wholeSeconds(m_with.recording.floatRecordingDuration()));
+    m_with.journal.lectureMoves(path, duration);
     // Two saves within one second share a path; the later one replaces the earlier file.
-    if (QFile::exists(path))
-        QFile::remove(path);
-    QFile::rename(taken, path);
-    return {path,
-            audio::getDuration(audio::wholeSeconds(m_with.recording.floatRecordingDuration()))};
-}
-
-QString NewLecture::subjectToStore() const
-{
-    const QString subject = m_outlets.window.txtSubjectForNewNote->text().trimmed();
-    return subject.isEmpty() ? QStringLiteral("Untitled") : subject;
+    if (!platform::renameDurably(taken, path)) {
+        // It may be another disk.
+        if (QFile::exists(path))
+            QFile::remove(path);
+        QFile::rename(taken, path);
+    }
+    return {path, std::move(duration)};
 }
 
 void NewLecture::doSaveNewAudioInfos()
@@ -133,14 +132,15 @@ void NewLecture::doSaveNewAudioInfos()
     // wanted as it is.
     const QString day =
         m_with.dates.format(m_with.dayList.dateOfButtonClicked(), QStringLiteral("yyyy-MM-dd"));
-    const QString subject = subjectToStore();
+    const QString subject = store::subjectToStore(m_outlets.window.txtSubjectForNewNote->text());
     const QString notes = widgets::wholeText(*m_outlets.window.txtView);
-    m_with.database.insertIntoDbwithSqlStatementWithArguments(
+    const bool isStored = m_with.database.insertIntoDbwithSqlStatementWithArguments(
         store::statements::Insert,
-        {subject, Course, notes, day, StartTime, EndTime, audio.path, audio.duration});
+        store::newLectureRow(subject, notes, day, audio.path, audio.duration));
+    m_with.journal.lectureStored(isStored);
 
-    auto lecture =
-        std::make_shared<store::LectureInfoItem>(subject, Course, StartTime, EndTime, true);
+    auto lecture = std::make_shared<store::LectureInfoItem>(
+        subject, store::NewLectureCourse, store::NewLectureStart, store::NewLectureEnd, true);
     lecture->setRecordingDuration(audio.duration);
     lecture->setNotes(notes);
     if (store::Sqlite *connection = m_with.database.connection())
@@ -176,6 +176,7 @@ void NewLecture::done()
         m_with.recording.startStopRecording(nullptr);
     m_outlets.recording.audioLevelMeter->setFloatValue(0);
     m_save.schedule(AfterDone);
+    m_with.journal.lectureDone();
     m_outlets.window.newNoteWindow->hide();
     if (m_application)
         m_application->setRecordingStateForButton(false);
@@ -183,6 +184,7 @@ void NewLecture::done()
 
 void NewLecture::closeWithoutSaving()
 {
+    m_with.journal.lectureClosed();
     m_stopSoundPlay.schedule(AfterDone);
     m_outlets.playAudio.txtSubjectName->clear();
     m_outlets.lectureView.tSubjectName->clear();
@@ -194,6 +196,7 @@ void NewLecture::onCancelAddNewLecture(QWidget *)
 {
     if (m_with.recording.bIsRecordingSaved())
         m_with.recording.discardTake();
+    m_with.journal.lectureCancelled();
     m_outlets.playAudio.txtSubjectName->clear();
     m_outlets.window.txtSubjectForNewNote->clear();
     m_outlets.window.txtView->clear();

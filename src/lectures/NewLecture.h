@@ -24,6 +24,7 @@ namespace tarvelo::lectures {
 class DayList;
 class LectureApplication;
 class LectureEditing;
+class LectureJournalKeeper;
 
 // A new lecture from the first click to its row in the store: opens the new-lecture window, saves,
 // cancels and closes it. There is one new lecture at a time; a second is refused while the first is
@@ -41,6 +42,7 @@ public:
         audio::Playback &playback;
         DayList &dayList;
         LectureEditing &editing;
+        LectureJournalKeeper &journal;
         platform::Alerts &alerts;
     };
 
@@ -86,7 +88,6 @@ private:
 
     // Moves the finished take to its place, if there is one.
     Audio takeAudioToItsPlace();
-    QString subjectToStore() const;
     void done();
     void closeWithoutSaving();
     // The controls as a lecture that has not begun shows them. `stopAlternate` names the pressed

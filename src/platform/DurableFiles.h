@@ -10,6 +10,12 @@ namespace tarvelo::platform {
 // and forces the names to the disk. False when the file does not have the name.
 bool renameDurably(const QString &from, const QString &to);
 
+// Forces the names in the folder of `path` to the disk.
+bool syncFolderOf(const QString &path);
+
+// The file goes, also after a power cut. False when it was not there.
+bool removeDurably(const QString &path);
+
 // Takes so much room on the disk with a file that holds nothing, until it is removed. What is there
 // already grows, and never shrinks. False when that would be more than a third of what is free:
 // then everything else needs the room more, and none is taken.

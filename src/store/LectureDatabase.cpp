@@ -88,10 +88,10 @@ std::optional<Rows> LectureDatabase::lecturesOfMonth(const QString &month)
                     : std::nullopt;
 }
 
-void LectureDatabase::insertIntoDbwithSqlStatementWithArguments(const QString &sql,
+bool LectureDatabase::insertIntoDbwithSqlStatementWithArguments(const QString &sql,
                                                                 const QVariantList &arguments)
 {
-    writeOrReset(sql, arguments, statements::CreateAfterInsert);
+    return writeOrReset(sql, arguments, statements::CreateAfterInsert);
 }
 
 void LectureDatabase::updateToDoDatawithSqlStatementWithArguments(const QString &sql,
@@ -115,31 +115,33 @@ void LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
     m_backups.settle(*m_connection, copy);
 }
 
-void LectureDatabase::writeOrReset(const QString &sql, const QVariantList &arguments,
+bool LectureDatabase::writeOrReset(const QString &sql, const QVariantList &arguments,
                                    const QString &creationText)
 {
     Sqlite *const database = openDb();
     if (!database)
-        return;
-    if (!database->executeNonQueryArguments(sql, arguments))
-        reset(*database, sql, arguments, creationText);
+        return false;
+    const bool isWritten = database->executeNonQueryArguments(sql, arguments) ||
+                           reset(*database, sql, arguments, creationText);
     m_backups.holdRoom(*database);
+    return isWritten;
 }
 
-void LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
+bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
                             const QString &creationText)
 {
     // A damaged file is not written to before it lies aside; without room for that the lecture is
     // not stored, and nothing is lost.
     if (soundnessOfEveryPage(database) == Soundness::Damaged && !replaceWithSound())
-        return;
+        return false;
     const QString copy = m_backups.keep(database, statements::AllIds);
     database.executeNonQuery(statements::Drop);
     database.executeNonQuery(creationText);
     database.executeNonQuery(statements::DeleteAll);
     m_backups.settle(database, copy);
-    database.executeNonQueryArguments(sql, arguments);
+    const bool isWritten = database.executeNonQueryArguments(sql, arguments);
     makeIndexes();
+    return isWritten;
 }
 
 // They only make the two queries fast. A file without the table, or one that cannot be written,

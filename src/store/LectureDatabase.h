@@ -43,8 +43,9 @@ public:
 
     // When the statement fails, for whatever reason, the table is dropped with all its lectures,
     // made anew, and the statement run once more. This is how the table comes into being, and the
-    // loss in all other cases is wanted as it is; the audio files stay.
-    void insertIntoDbwithSqlStatementWithArguments(const QString &sql,
+    // loss in all other cases is wanted as it is; the audio files stay. True when it was run at
+    // last.
+    bool insertIntoDbwithSqlStatementWithArguments(const QString &sql,
                                                    const QVariantList &arguments);
     void updateToDoDatawithSqlStatementWithArguments(const QString &sql,
                                                      const QVariantList &arguments);
@@ -53,9 +54,9 @@ public:
     void deleteVoiceData(const LectureInfoItem &lecture);
 
 private:
-    void writeOrReset(const QString &sql, const QVariantList &arguments,
+    bool writeOrReset(const QString &sql, const QVariantList &arguments,
                       const QString &creationText);
-    void reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
+    bool reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
                const QString &creationText);
     bool openFile(const QString &file);
     bool replaceWithSound();

@@ -1,6 +1,6 @@
 #include "audio/engine/SoundAhead.h"
 
-#include "audio/engine/SignalMask.h"
+#include "platform/SignalMask.h"
 
 #include <algorithm>
 #include <cmath>
@@ -61,7 +61,7 @@ bool SoundAhead::start(double seconds, double rate)
     }
     m_wake.notify_one();
     try {
-        const AllSignalsBlocked blocked;
+        const platform::AllSignalsBlocked blocked;
         if (!m_thread.joinable())
             m_thread = std::thread([this] { work(); });
         return true;

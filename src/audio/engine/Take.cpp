@@ -1,6 +1,6 @@
 #include "audio/engine/Take.h"
 
-#include "audio/engine/SignalMask.h"
+#include "platform/SignalMask.h"
 
 #include <algorithm>
 #include <system_error>
@@ -30,7 +30,7 @@ std::unique_ptr<Take> Take::start(const std::string &path, const PcmFormat &inpu
         return nullptr;
     std::unique_ptr<Take> take(new Take(input, std::move(writer)));
     try {
-        const AllSignalsBlocked blocked;
+        const platform::AllSignalsBlocked blocked;
         take->m_thread = std::thread([self = take.get()] { self->writeUntilEnd(); });
         return take;
     } catch (const std::system_error &) {

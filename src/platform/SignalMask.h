@@ -2,7 +2,7 @@
 
 #include <csignal>
 
-namespace tarvelo::engine {
+namespace tarvelo::platform {
 
 // Signals are for the main thread: a thread begins with the mask of the one that starts it.
 class AllSignalsBlocked final
@@ -22,4 +22,4 @@ private:
     sigset_t m_before{};
 };
 
-} // namespace tarvelo::engine
+} // namespace tarvelo::platform

@@ -1,0 +1,160 @@
+#include "lectures/LectureJournalKeeper.h"
+
+#include "audio/AudioFileLocations.h"
+#include "lectures/DayList.h"
+#include "platform/Dates.h"
+#include "widgets/WholeText.h"
+
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QTextEdit>
+
+#include <algorithm>
+
+namespace tarvelo::lectures {
+
+using audio::TakeEvent;
+using State = store::LectureJournal::State;
+
+LectureJournalKeeper::LectureJournalKeeper(const Collaborators &collaborators,
+                                           const NewLectureOutlets &outlets)
+    : m_with(collaborators)
+    , m_outlets(outlets)
+    , m_write(collaborators.dates.clock(), [this] { writeNow(); })
+{
+    m_with.recording.setTakeObserver([this](TakeEvent event) { takeChanged(event); });
+    const auto changed = [this] { textChanged(); };
+    QObject::connect(m_outlets.txtSubjectForNewNote, &QLineEdit::textChanged, &m_texts, changed);
+    QObject::connect(m_outlets.txtView, &QTextEdit::textChanged, &m_texts, changed);
+}
+
+LectureJournalKeeper::~LectureJournalKeeper()
+{
+    m_with.recording.setTakeObserver({});
+}
+
+void LectureJournalKeeper::start()
+{
+    m_folder = QFileInfo(m_with.locations.temporaryBasePath()).path();
+    if (!m_writer && m_owner.own(m_folder))
+        m_writer = std::make_unique<store::JournalWriter>(m_folder + u'/' + journalName());
+}
+
+void LectureJournalKeeper::lectureOpened()
+{
+    m_isOpen = true;
+    m_journal = {};
+    m_journal.id = m_with.dates.now().toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz"));
+    writeNow();
+    // Only now: a mark beside a journal says that the take is older than the lecture.
+    if (m_writer)
+        m_writer->removeOther(m_folder + u'/' + closedMarkName());
+}
+
+void LectureJournalKeeper::takeChanged(TakeEvent event)
+{
+    switch (event) {
+    case TakeEvent::Started:
+        m_journal.take = m_with.locations.tempAudioSavePath();
+        m_journal.state = State::Recording;
+        break;
+    case TakeEvent::Resumed:
+        m_journal.state = State::Recording;
+        break;
+    case TakeEvent::Paused:
+        m_journal.state = State::Paused;
+        break;
+    case TakeEvent::Stopped:
+        m_journal.state = State::Stopped;
+        break;
+    case TakeEvent::Tagged:
+        break;
+    }
+    writeNow();
+}
+
+void LectureJournalKeeper::textChanged()
+{
+    if (!m_isOpen || m_write.pendingCount() > 0)
+        return;
+    const std::chrono::milliseconds since(m_written.msecsTo(m_with.dates.now()));
+    const std::chrono::milliseconds none{0};
+    // Also for a clock that was put on or back.
+    m_write.schedule(std::clamp<std::chrono::milliseconds>(Interval - since, none, Interval));
+}
+
+void LectureJournalKeeper::writeNow()
+{
+    m_write.cancel();
+    if (!m_isOpen || !m_writer)
+        return;
+    m_writer->write(store::toBytes(journal()));
+    m_written = m_with.dates.now();
+    // Its length changes as long as it runs.
+    if (m_journal.state == State::Recording)
+        m_write.schedule(Interval);
+}
+
+store::LectureJournal LectureJournalKeeper::journal() const
+{
+    store::LectureJournal journal = m_journal;
+    journal.subject = m_outlets.txtSubjectForNewNote->text();
+    journal.notes = widgets::wholeText(*m_outlets.txtView);
+    journal.seconds = m_with.recording.recordedSeconds();
+    const QDateTime &day = m_with.dayList.dateOfButtonClicked();
+    journal.day = m_with.dates.format(day, QStringLiteral("yyyy-MM-dd"));
+    journal.date = m_with.dates.formatFixed(day, QStringLiteral("yyyy-MM-dd"));
+    return journal;
+}
+
+void LectureJournalKeeper::lectureDone()
+{
+    m_journal.isDone = true;
+    writeNow();
+}
+
+void LectureJournalKeeper::lectureMoves(const QString &target, const QString &duration)
+{
+    m_journal.isDone = true;
+    m_journal.target = target;
+    m_journal.duration = duration;
+    writeNow();
+    flush();
+}
+
+void LectureJournalKeeper::lectureStored(bool isStored)
+{
+    m_isOpen = false;
+    m_write.cancel();
+    if (m_writer && isStored)
+        m_writer->remove();
+}
+
+void LectureJournalKeeper::lectureClosed()
+{
+    endWithMark();
+}
+
+void LectureJournalKeeper::lectureCancelled()
+{
+    // A take that runs is left to the next lecture, which discards it; nobody wants it any more.
+    if (QFileInfo::exists(m_with.locations.tempAudioSavePath()))
+        endWithMark();
+    else
+        lectureStored(true);
+}
+
+void LectureJournalKeeper::endWithMark()
+{
+    m_isOpen = false;
+    m_write.cancel();
+    if (m_writer)
+        m_writer->renameTo(m_folder + u'/' + closedMarkName());
+}
+
+bool LectureJournalKeeper::flush()
+{
+    return m_writer && m_writer->flush();
+}
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,98 @@
+#include "store/JournalWriter.h"
+
+#include "platform/DurableFiles.h"
+#include "platform/PrivateFiles.h"
+#include "platform/SignalMask.h"
+
+#include <system_error>
+#include <utility>
+
+namespace tarvelo::store {
+
+JournalWriter::JournalWriter(const QString &path)
+    : m_path(path)
+    , m_file(path)
+{
+}
+
+JournalWriter::~JournalWriter()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isAtEnd = true;
+    }
+    m_changed.notify_all();
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+void JournalWriter::write(const QByteArray &content)
+{
+    ask({true, [this, content] { m_isWritten = m_file.replace(content); }});
+}
+
+void JournalWriter::remove()
+{
+    ask({false, [this] { m_file.remove(); }});
+}
+
+void JournalWriter::renameTo(const QString &path)
+{
+    ask({false, [this, path] {
+             platform::createFileIfMissing(m_path);
+             m_file.renameTo(path);
+         }});
+}
+
+void JournalWriter::removeOther(const QString &path)
+{
+    ask({false, [path] { platform::removeDurably(path); }});
+}
+
+bool JournalWriter::flush()
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] { return m_tasks.empty() && !m_isBusy; });
+    return m_isWritten;
+}
+
+void JournalWriter::ask(Task task)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (task.writes && !m_tasks.empty() && m_tasks.back().writes)
+            m_tasks.pop_back();
+        m_tasks.push_back(std::move(task));
+    }
+    m_changed.notify_all();
+    if (m_thread.joinable())
+        return;
+    try {
+        const platform::AllSignalsBlocked blocked;
+        m_thread = std::thread([this] { work(); });
+    } catch (const std::system_error &) {
+        // Slower, and as safe: done here.
+        m_tasks.front().run();
+        m_tasks.clear();
+    }
+}
+
+void JournalWriter::work()
+{
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_changed.wait(lock, [this] { return !m_tasks.empty() || m_isAtEnd; });
+        if (m_tasks.empty())
+            return;
+        const Task task = std::move(m_tasks.front());
+        m_tasks.pop_front();
+        m_isBusy = true;
+        lock.unlock();
+        task.run();
+        lock.lock();
+        m_isBusy = false;
+        m_changed.notify_all();
+    }
+}
+
+} // namespace tarvelo::store

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariantList>
+
+#include <optional>
+
+namespace tarvelo::store {
+
+// What is known of a new lecture before its row is stored: enough to make the row from, should the
+// program not live to do so.
+struct LectureJournal
+{
+    enum class State { Idle, Recording, Paused, Stopped };
+
+    QString id; // of the moment when it was opened; part of file names
+    QString subject;
+    QString notes;
+    QString day;  // as the row has it, in the user's own calendar
+    QString date; // the same day as ISO 8601 writes it
+    State state = State::Idle;
+    double seconds = 0; // recorded
+    QString take;       // the file that is recorded into; empty before there was one
+
+    // The student wants the lecture kept. From then on nothing more is asked.
+    bool isDone = false;
+    QString target;   // where the recording is to lie; empty without one
+    QString duration; // as the row has it
+
+    // Nothing was typed or recorded.
+    bool isBlank() const;
+    // For the statement that inserts a lecture.
+    QVariantList row() const;
+};
+
+// As JSON.
+QByteArray toBytes(const LectureJournal &journal);
+// Blanks may follow. Null for anything else.
+std::optional<LectureJournal> journalFrom(const QByteArray &bytes);
+// Null when there is no such file.
+std::optional<LectureJournal> journalIn(const QString &path);
+
+// What a lecture is called whose subject was typed as this.
+QString subjectToStore(const QString &typed);
+// The arguments of the statement that inserts a lecture.
+QVariantList newLectureRow(const QString &subject, const QString &notes, const QString &day,
+                           const QString &audioPath, const QString &duration);
+
+// Stored with every lecture: they hold the place of what the program does not ask for yet, and are
+// wanted as they are.
+inline constexpr QLatin1String NewLectureCourse("test course");
+inline constexpr QLatin1String NewLectureStart("10.00 AM");
+inline constexpr QLatin1String NewLectureEnd("11.30 AM");
+inline constexpr QLatin1String NoAudio("No Audio");
+
+} // namespace tarvelo::store

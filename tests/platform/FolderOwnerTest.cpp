@@ -1,0 +1,96 @@
+#include "platform/FolderOwner.h"
+
+#include "support/TestCase.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using tarvelo::platform::FolderOwner;
+
+class FolderOwnerTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFolderHasOneOwner()
+    {
+        auto first = std::make_unique<FolderOwner>();
+        FolderOwner second;
+
+        QVERIFY(first->own(m_folder->path()) && first->owns());
+        QVERIFY(!second.own(m_folder->path()) && !second.owns());
+
+        first.reset();
+        QVERIFY(second.own(m_folder->path()));
+    }
+
+    void owningItAgainChangesNothing()
+    {
+        FolderOwner owner;
+
+        QVERIFY(owner.own(m_folder->path()));
+        QVERIFY(owner.own(m_folder->path()));
+    }
+
+    void aFolderThatIsMissingHasNoOwner()
+    {
+        FolderOwner owner;
+
+        QVERIFY(!owner.own(m_folder->filePath(u"missing"_s)));
+    }
+
+    void theFileIsForItsUserAlone()
+    {
+        FolderOwner owner;
+        QVERIFY(owner.own(m_folder->path()));
+
+        struct stat status = {};
+        QCOMPARE(::stat(QFile::encodeName(m_folder->filePath(u".owner"_s)).constData(), &status),
+                 0);
+        QCOMPARE(status.st_mode & 07777, 0600U);
+    }
+
+    // Else a player that outlives the program would keep its leftovers from being offered.
+    void aProgramThatIsStartedDoesNotHoldIt()
+    {
+        auto owner = std::make_unique<FolderOwner>();
+        QVERIFY(owner->own(m_folder->path()));
+        QProcess started;
+        started.start(u"cat"_s, QStringList());
+        QVERIFY(started.waitForStarted());
+
+        owner.reset();
+
+        FolderOwner other;
+        QVERIFY(other.own(m_folder->path()));
+        started.closeWriteChannel();
+        QVERIFY(started.waitForFinished());
+    }
+
+    void theLockOfAProcessThatEndedIsGone()
+    {
+        QProcess holder;
+        holder.start(u"flock"_s, {m_folder->filePath(u".owner"_s), u"-c"_s, u"echo held; cat"_s});
+        QVERIFY(holder.waitForReadyRead());
+        FolderOwner owner;
+        QVERIFY(!owner.own(m_folder->path()));
+
+        holder.closeWriteChannel();
+        QVERIFY(holder.waitForFinished());
+
+        QVERIFY(owner.own(m_folder->path()));
+    }
+
+protected:
+    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
+    void finish() override { m_folder.reset(); }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_GUILESS_MAIN(FolderOwnerTest)
+#include "FolderOwnerTest.moc"

@@ -1,0 +1,190 @@
+#include "platform/SteadyFile.h"
+
+#include "support/TestCase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+using tarvelo::platform::SteadyFile;
+
+namespace {
+
+// While one lives no file of this process can grow: a disk that is full.
+class FullDisk final
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit full{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &full);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before{};
+};
+
+} // namespace
+
+class SteadyFileTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theLastContentStandsThereFollowedByBlanks()
+    {
+        SteadyFile file(path());
+
+        for (const char *content : {"first", "the second is longer", "third"})
+            QVERIFY(file.replace(content));
+
+        QCOMPARE(read().trimmed(), QByteArray("third"));
+    }
+
+    void itIsForItsUserAlone()
+    {
+        SteadyFile file(path());
+        QVERIFY(file.replace("content") && file.replace("content"));
+
+        for (const QString &name : names()) {
+            struct stat status = {};
+            QCOMPARE(::stat(QFile::encodeName(m_folder->filePath(name)).constData(), &status), 0);
+            QCOMPARE(status.st_mode & 07777, 0600U);
+        }
+        QCOMPARE(names().size(), 2);
+    }
+
+    // What it needs on the disk is taken by the first content, and not again.
+    void itNeedsNoMoreRoomForWhatComesNext()
+    {
+        SteadyFile file(path());
+        QVERIFY(file.replace("first"));
+        const qint64 before = blocks();
+
+        for (int i = 0; i < 20; ++i)
+            QVERIFY(file.replace(QByteArray(200 * i, 'n')));
+
+        QCOMPARE(blocks(), before);
+    }
+
+    void contentThatOutgrowsItsRoomIsWrittenWholeAllTheSame()
+    {
+        SteadyFile file(path());
+        QVERIFY(file.replace("first"));
+        const QByteArray notes(100'000, 'n');
+
+        QVERIFY(file.replace(notes));
+
+        QCOMPARE(read().trimmed(), notes);
+    }
+
+    void whatCannotBeWrittenLeavesTheOldContent()
+    {
+        SteadyFile file(path());
+        QVERIFY(file.replace("first"));
+        {
+            const FullDisk full(16 << 10);
+            QVERIFY(!file.replace(QByteArray(40'000, 'n')));
+        }
+        QCOMPARE(read().trimmed(), QByteArray("first"));
+
+        QVERIFY(file.replace("as long as before"));
+
+        QCOMPARE(read().trimmed(), QByteArray("as long as before"));
+    }
+
+    void withHalfTheRoomItWishesForItIsContent()
+    {
+        SteadyFile file(path());
+        const FullDisk full(30'000);
+
+        QVERIFY(file.replace(QByteArray(20'000, 'n')));
+
+        QCOMPARE(read().trimmed(), QByteArray(20'000, 'n'));
+    }
+
+    void whatACrashLeftIsWrittenOver()
+    {
+        QVERIFY(SteadyFile(path()).replace("of a process that is gone"));
+
+        QVERIFY(SteadyFile(path()).replace("mine"));
+
+        QCOMPARE(read().trimmed(), QByteArray("mine"));
+        QCOMPARE(names().size(), 2);
+    }
+
+    void inAFolderThatIsMissingNothingIsWritten()
+    {
+        SteadyFile file(m_folder->filePath(u"missing/file"_s));
+
+        QVERIFY(!file.replace("content"));
+    }
+
+    void itGoesWithItsRoom()
+    {
+        SteadyFile file(path());
+        QVERIFY(file.replace("first") && file.replace("second"));
+
+        file.remove();
+
+        QCOMPARE(names(), QStringList());
+        QVERIFY(file.replace("again"));
+        QCOMPARE(read().trimmed(), QByteArray("again"));
+    }
+
+    void underAnotherNameItStaysWithoutItsRoom()
+    {
+        SteadyFile file(path());
+        QVERIFY(file.replace("first") && file.replace("second"));
+
+        QVERIFY(file.renameTo(m_folder->filePath(u"other"_s)));
+
+        QCOMPARE(names(), QStringList({u"other"_s}));
+    }
+
+protected:
+    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
+    void finish() override { m_folder.reset(); }
+
+private:
+    QString path() const { return m_folder->filePath(u"file"_s); }
+    QStringList names() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+    QByteArray read() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    qint64 blocks() const
+    {
+        qint64 sum = 0;
+        for (const QString &name : names()) {
+            struct stat status = {};
+            if (::stat(QFile::encodeName(m_folder->filePath(name)).constData(), &status) == 0)
+                sum += status.st_blocks;
+        }
+        return sum;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_GUILESS_MAIN(SteadyFileTest)
+#include "SteadyFileTest.moc"
