@@ -1,6 +1,7 @@
 #include "audio/RecordingWatch.h"
 
 #include "audio/RecordingControl.h"
+#include "audio/engine/Reserve.h"
 #include "platform/Announcer.h"
 #include "platform/Texts.h"
 
@@ -73,7 +74,12 @@ void RecordingWatch::tick()
 void RecordingWatch::measureRoom()
 {
     const std::optional<qint64> bytes = m_room(QFileInfo(m_take()).path());
-    m_minutes = bytes ? std::optional(*bytes / (60 * BytesASecond)) : std::nullopt;
+    m_minutes.reset();
+    if (!bytes)
+        return;
+    // A take has put its reserve aside; before it, what it will put aside does not count either.
+    const bool holds = m_recording.recording() && m_recording.hasRecorder();
+    m_minutes = (*bytes - (holds ? 0 : engine::Reserve::sizeOn(*bytes))) / (60 * BytesASecond);
 }
 
 // Quiet is counted in sound, and where none arrives in ticks: neither a computer that was asleep

@@ -1,9 +1,12 @@
 #include "audio/RecordingWatch.h"
 
+#include "audio/engine/Reserve.h"
+#include "audio/engine/TakeWriter.h"
 #include "platform/Texts.h"
 #include "support/FakeAudioEngine.h"
 #include "support/RecordingStage.h"
 #include "support/TestCase.h"
+#include "support/TestSound.h"
 
 #include <optional>
 
@@ -11,6 +14,7 @@ using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 using tarvelo::audio::RecordingWatch;
+using tarvelo::engine::Reserve;
 using tarvelo::tests::FakeAudioEngine;
 using tarvelo::tests::RecordingStage;
 
@@ -56,7 +60,7 @@ private Q_SLOTS:
     {
         m_room = 30 * Minute - 1;
 
-        open();
+        record();
 
         QCOMPARE(line(), little(29));
         QCOMPARE(takeSaid(), little(29));
@@ -66,7 +70,7 @@ private Q_SLOTS:
     {
         m_room = 30 * Minute;
 
-        open();
+        record();
 
         QCOMPARE(line(), QString());
     }
@@ -74,11 +78,11 @@ private Q_SLOTS:
     void theMinutesGoDownInTheLineAndAreSaidOnce()
     {
         m_room = 20 * Minute;
-        open();
+        record();
         takeSaid();
 
         m_room = 18 * Minute;
-        pass(5s);
+        hearFor(5);
 
         QCOMPARE(line(), little(18));
         QCOMPARE(takeSaid(), QString());
@@ -87,26 +91,26 @@ private Q_SLOTS:
     void lessThanFiveMinutesAreSaidAgainAndEachOfThem()
     {
         m_room = 5 * Minute;
-        open();
+        record();
         QCOMPARE(line(), little(5));
         for (int left = 4; left >= 0; --left) {
             m_room = (left + 1) * Minute - 1;
-            pass(5s);
+            hearFor(5);
             QCOMPARE(line(), hardlyAny(left));
             QCOMPARE(takeSaid(), hardlyAny(left));
         }
 
-        pass(5s);
+        hearFor(5);
 
         QCOMPARE(takeSaid(), QString());
     }
 
     void theDiskIsLookedAtEveryFiveSeconds()
     {
-        open();
+        record();
         const int looks = m_looks;
 
-        pass(60s);
+        hearFor(60);
 
         QCOMPARE(m_looks, looks + 12);
         QCOMPARE(m_folder, QFileInfo(m_stage->takePath()).path());
@@ -115,13 +119,13 @@ private Q_SLOTS:
     void theLineGoesWhenThereIsRoomAgain()
     {
         m_room = 3 * Minute;
-        open();
+        record();
         m_room = 6 * Minute;
-        pass(5s);
+        hearFor(5);
         QCOMPARE(line(), little(6));
 
         m_room = 31 * Minute;
-        pass(5s);
+        hearFor(5);
 
         QCOMPARE(line(), QString());
     }
@@ -129,15 +133,15 @@ private Q_SLOTS:
     void roomThatComesAndGoesByALittleDoesNotMakeTheLineFlicker()
     {
         m_room = 30 * Minute - 1;
-        open();
+        record();
 
         m_room = 30 * Minute + 1;
-        pass(5s);
+        hearFor(5);
         QCOMPARE(line(), little(30));
         m_room = 4 * Minute;
-        pass(5s);
+        hearFor(5);
         m_room = 5 * Minute + 1;
-        pass(5s);
+        hearFor(5);
 
         QCOMPARE(line(), hardlyAny(5));
     }
@@ -146,10 +150,35 @@ private Q_SLOTS:
     {
         m_room.reset();
 
-        open();
-        pass(60s);
+        record();
+        hearFor(60);
 
         QCOMPARE(line(), QString());
+    }
+
+    void aSecondOfATakeNeedsAtMostWhatIsCounted()
+    {
+        const QByteArray path = QFile::encodeName(m_stage->takePath());
+        const auto take = tarvelo::engine::TakeWriter::create(path.toStdString(), {44100, 1}, {});
+
+        take->write(tarvelo::tests::tune(44100, 20));
+
+        const double needed = double(QFileInfo(m_stage->takePath()).size()) / take->secondsInFile();
+        QVERIFY(needed < RecordingWatch::BytesASecond && needed > RecordingWatch::BytesASecond / 2);
+    }
+
+    void theRoomThatATakeHoldsForItsEndDoesNotCountBeforeEither()
+    {
+        m_room = 25 * Minute;
+        open();
+        const int before = 25 - int(Reserve::Most / Minute) - 1;
+        QCOMPARE(line(), little(before));
+
+        m_stage->start();
+        m_room = 25 * Minute - Reserve::Most;
+        hearFor(5);
+
+        QCOMPARE(line(), little(before));
     }
 
     // -- Silence
@@ -345,7 +374,7 @@ private Q_SLOTS:
     void aWindowThatIsGoneIsNotWatched()
     {
         m_room = 3 * Minute;
-        open();
+        record();
         m_stage->window.window.hide();
         QCOMPARE(line(), QString());
         const int looks = m_looks;
@@ -390,6 +419,12 @@ private:
         m_engine.reset();
     }
 
+    // With a take that runs.
+    void record()
+    {
+        m_stage->start();
+        open();
+    }
     void open() { m_stage->window.window.show(); }
     void pass(std::chrono::seconds time) { m_stage->clock.advance(time); }
     void beQuietFor(int seconds)

@@ -31,6 +31,9 @@ public:
     SmallDisk &operator=(const SmallDisk &) = delete;
     ~SmallDisk();
 
+    // False where mounting is not allowed.
+    bool isMounted() const { return m_mounted; }
+
     void fill();
     void emptyAgain();
 

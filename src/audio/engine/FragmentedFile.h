@@ -2,16 +2,19 @@
 
 #include "audio/engine/MovieOutput.h"
 #include "audio/engine/OutputFile.h"
+#include "audio/engine/Reserve.h"
 #include "audio/engine/TakeExtent.h"
 
 #include <chrono>
+#include <deque>
 #include <vector>
 
 namespace tarvelo::engine {
 
 // A take on the disk while it grows: only whole fragments of a quarter of a second stand in the
 // file, so that it plays whatever happens to the program, the machine or the disk. A fragment for
-// which there is no room waits in memory and is tried again with the next one.
+// which there is no room waits in memory and is tried again with the next one, and at the end with
+// the room that was held for it.
 class FragmentedFile final
 {
 public:
@@ -26,11 +29,14 @@ public:
 
     // What stands in the file by now.
     const TakeExtent &extentInFile() const { return m_inFile; }
-    double secondsInFile() const { return static_cast<double>(m_inFile.samples) / m_rate; }
+    double secondsInFile() const { return seconds(m_inFile); }
+    // What of it a full disk takes from nobody any more: what stands in the file, and what waits
+    // and has the reserve for itself. Infinity while that is everything.
+    double secondsSafe() const;
     // The disk did not take the last fragment.
     bool isDiskFailing() const { return m_diskFails; }
     // More sound would only be lost: call retry() until there is room again.
-    bool isFull() const { return m_waiting.size() >= MostBytesWaiting; }
+    bool isFull() const { return m_bytesWaiting >= MostBytesWaiting; }
 
     // False only when the sound itself cannot be written, never for a failing disk.
     bool add(const AVPacket &packet);
@@ -39,17 +45,29 @@ public:
     bool finish();
 
 private:
+    // Whole, and with the header before the first.
+    struct Fragment
+    {
+        std::vector<std::uint8_t> bytes;
+        TakeExtent upToIt;
+    };
+
     explicit FragmentedFile(std::unique_ptr<OutputFile> file);
+    double seconds(const TakeExtent &extent) const;
     bool cut();
+    void putWaiting();
     void syncNowAndThen();
 
     std::unique_ptr<OutputFile> m_file;
+    Reserve m_reserve;
+    std::vector<std::uint8_t> m_written; // by the movie, since the last fragment
     std::unique_ptr<MovieOutput> m_movie;
     int m_rate = 0;
     TakeExtent m_added;
     TakeExtent m_cut;
     TakeExtent m_inFile;
-    std::vector<std::uint8_t> m_waiting;
+    std::deque<Fragment> m_waiting;
+    std::size_t m_bytesWaiting = 0;
     bool m_diskFails = false;
     std::chrono::steady_clock::time_point m_synced = std::chrono::steady_clock::now();
 };

@@ -47,12 +47,15 @@ bool OutputFile::append(std::span<const std::uint8_t> bytes)
 
 bool OutputFile::writeAt(std::int64_t offset, std::span<const std::uint8_t> bytes)
 {
+    m_isOutOfRoom = false;
     while (!bytes.empty()) {
         const ssize_t written = ::pwrite(m_descriptor, bytes.data(), bytes.size(), offset);
         if (written < 0 && errno == EINTR)
             continue;
-        if (written <= 0)
+        if (written <= 0) {
+            m_isOutOfRoom = written < 0 && (errno == ENOSPC || errno == EDQUOT);
             return false;
+        }
         offset += written;
         m_size = std::max(m_size, offset);
         bytes = bytes.subspan(static_cast<std::size_t>(written));

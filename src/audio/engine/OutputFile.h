@@ -25,6 +25,8 @@ public:
     // At the end of the file: whole, or not at all.
     bool append(std::span<const std::uint8_t> bytes);
     bool writeAt(std::int64_t offset, std::span<const std::uint8_t> bytes);
+    // The last write failed for want of room, and would not have with more.
+    bool isOutOfRoom() const { return m_isOutOfRoom; }
     // Forces the content to the disk.
     bool sync();
 
@@ -34,6 +36,7 @@ private:
     std::string m_path;
     int m_descriptor;
     std::int64_t m_size = 0;
+    bool m_isOutOfRoom = false;
 };
 
 } // namespace tarvelo::engine

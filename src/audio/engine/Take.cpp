@@ -57,8 +57,7 @@ Take::~Take()
 
 double Take::seconds() const
 {
-    const double taken = m_secondsTaken - m_secondsRefused;
-    return m_isDiskFailing ? std::min<double>(m_secondsInFile, taken) : taken;
+    return std::min<double>(m_secondsSafe, m_secondsTaken - m_secondsRefused);
 }
 
 void Take::put(std::span<const float> interleaved)
@@ -93,8 +92,7 @@ void Take::writeWhatIsThere()
         if (!m_writer->write(std::span(m_block).first(count)))
             m_secondsRefused =
                 m_secondsRefused + static_cast<double>(count) / (m_input.rate * m_input.channels);
-        m_secondsInFile = m_writer->secondsInFile();
-        m_isDiskFailing = m_writer->isDiskFailing();
+        m_secondsSafe = m_writer->secondsSafe();
     }
 }
 
@@ -112,8 +110,7 @@ bool Take::finish()
     if (m_thread.joinable())
         m_thread.join();
     m_isComplete = m_writer->finish();
-    m_secondsInFile = m_writer->secondsInFile();
-    m_isDiskFailing = m_writer->isDiskFailing();
+    m_secondsSafe = m_writer->secondsSafe();
     return m_isComplete;
 }
 

@@ -7,6 +7,7 @@
 #include "audio/engine/TakeWriter.h"
 
 #include <condition_variable>
+#include <limits>
 #include <mutex>
 #include <thread>
 
@@ -26,7 +27,8 @@ public:
                                        const RecorderSettings &settings);
     ~Take() override;
 
-    // For any thread. Seconds of sound taken; while the disk takes none, those that are safe on it.
+    // For any thread. Seconds of sound taken; while the disk takes none, those that are
+    // safe from that.
     double seconds() const;
     // For any thread. What is behind it waits in memory.
     double secondsInFile() const { return m_secondsInFile; }
@@ -59,8 +61,7 @@ private:
 
     std::atomic<double> m_secondsTaken = 0;
     std::atomic<double> m_secondsRefused = 0;
-    std::atomic<double> m_secondsInFile = 0;
-    std::atomic<bool> m_isDiskFailing = false;
+    std::atomic<double> m_secondsSafe = std::numeric_limits<double>::infinity();
 
     std::mutex m_mutex;
     std::condition_variable m_endComes;

@@ -20,6 +20,8 @@ public:
     ~TakeWriter();
 
     double secondsInFile() const { return m_file->secondsInFile(); }
+    // Infinity while a full disk takes nothing.
+    double secondsSafe() const { return m_file->secondsSafe(); }
     bool isDiskFailing() const { return m_file->isDiskFailing(); }
 
     // False when the samples were not taken.

@@ -1,0 +1,61 @@
+#include "audio/engine/Reserve.h"
+
+#include "platform/DiskRoom.h"
+#include "platform/DurableFiles.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <filesystem>
+#include <unistd.h>
+
+namespace tarvelo::engine {
+
+namespace {
+
+// Less than this is not worth a file.
+constexpr std::int64_t Least = std::int64_t{64} << 10;
+
+std::string reserveOf(const std::string &take)
+{
+    const std::filesystem::path path(take);
+    return (path.parent_path() / ("." + path.stem().native() + ".reserve")).native();
+}
+
+QString decoded(const std::string &path)
+{
+    return QFile::decodeName(QByteArray::fromStdString(path));
+}
+
+} // namespace
+
+std::int64_t Reserve::sizeOn(std::int64_t room)
+{
+    const std::int64_t size = std::min(Most, room * 3 / 10);
+    return size < Least ? 0 : size;
+}
+
+Reserve::Reserve(const std::string &take)
+    : m_path(reserveOf(take))
+{
+    ::unlink(m_path.c_str());
+    const std::string folder = std::filesystem::path(m_path).parent_path().native();
+    const std::int64_t size =
+        sizeOn(platform::roomOnDisk(decoded(folder.empty() ? "." : folder)).value_or(0));
+    if (size > 0 && platform::holdRoom(decoded(m_path), size))
+        m_bytes = size;
+}
+
+Reserve::~Reserve()
+{
+    giveBack();
+}
+
+void Reserve::giveBack()
+{
+    if (m_bytes > 0)
+        ::unlink(m_path.c_str());
+    m_bytes = 0;
+}
+
+} // namespace tarvelo::engine

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tarvelo::engine {
+
+// Room on the disk that is held for the end of a take: whoever fills the disk meanwhile, what waits
+// in memory then gets into the file, and a little is left to store the lecture with. It is a hidden
+// file beside the take, the same for all that the take may be called by its extension; what a
+// killed program left of it is gone when the next one is made.
+class Reserve final
+{
+public:
+    // Twice what waits in memory at the most.
+    static constexpr std::int64_t Most = std::int64_t{2} << 20;
+    // What is held on a disk with so much room: on a small one most is needed for the sound before.
+    static std::int64_t sizeOn(std::int64_t room);
+
+    explicit Reserve(const std::string &take);
+    Reserve(const Reserve &) = delete;
+    Reserve &operator=(const Reserve &) = delete;
+    ~Reserve();
+
+    // What is held now: nothing when there was no room, or when it was given back.
+    std::int64_t bytes() const { return m_bytes; }
+    void giveBack();
+
+private:
+    std::string m_path;
+    std::int64_t m_bytes = 0;
+};
+
+} // namespace tarvelo::engine
