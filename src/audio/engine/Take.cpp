@@ -92,6 +92,7 @@ void Take::writeWhatIsThere()
         if (!m_writer->write(std::span(m_block).first(count)))
             m_secondsRefused =
                 m_secondsRefused + static_cast<double>(count) / (m_input.rate * m_input.channels);
+        m_secondsInFile = m_writer->secondsInFile();
         m_secondsSafe = m_writer->secondsSafe();
     }
 }
@@ -110,6 +111,7 @@ bool Take::finish()
     if (m_thread.joinable())
         m_thread.join();
     m_isComplete = m_writer->finish();
+    m_secondsInFile = m_writer->secondsInFile();
     m_secondsSafe = m_writer->secondsSafe();
     return m_isComplete;
 }

@@ -61,6 +61,7 @@ private:
 
     std::atomic<double> m_secondsTaken = 0;
     std::atomic<double> m_secondsRefused = 0;
+    std::atomic<double> m_secondsInFile = 0;
     std::atomic<double> m_secondsSafe = std::numeric_limits<double>::infinity();
 
     std::mutex m_mutex;
