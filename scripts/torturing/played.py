@@ -70,9 +70,12 @@ class Played:
         return earliest + begin / RATE, earliest + (begin + len(take)) / RATE
 
     def _speak(self, pipe):
+        data = memoryview(self._sound.tobytes())
         try:
+            # In small pieces, since nobody can close the pipe during one.
             while True:
-                pipe.write(self._sound.tobytes())
+                for start in range(0, len(data), RATE):
+                    pipe.write(data[start : start + RATE])
         except (OSError, ValueError):
             pass  # the player has ended
 
