@@ -1,0 +1,194 @@
+"""The power is cut: the disk forgets what was not forced to it.
+
+The real program records, saves, deletes and is started again while a layer before the C library writes down what it
+does to its files. Afterwards the folder is made again as each of many moments may have left it."""
+
+import collections
+import os
+import shutil
+import signal
+import sqlite3
+import subprocess
+import time
+
+import numpy
+
+from outside import sound
+from outside.desktop import Desktop
+from outside.waiting import Failed
+
+from . import disk
+from .played import Played
+from .result import Result
+from .sitting import Sitting
+
+EVENT = "power cut"
+PROMISE = "the last 3 s"
+MOST_LOST = 3.0
+FRAME = 1024  # samples
+
+Lecture = collections.namedtuple("Lecture", "subject sound begin end saved deleted")
+
+
+def run(tools, short):
+    with Desktop(tools.folder) as desktop, sound.SoundServer(), Played(tools.random, tools.folder) as played:
+        story = Story(tools, desktop, played)
+        story.tell(short)
+    cuts = Cuts(tools, story)
+    moments = sorted(tools.random.uniform(story.first, story.last) for _ in range(20 if short else 100))
+    for moment in moments:
+        cuts.at(moment)
+    tools.tell(f"{len(moments)} cuts in {story.last - story.first:.0f} s, {cuts.states} states of the disk, {len(cuts.broken)} of them with a loss")
+    for line in cuts.broken[:10]:
+        tools.tell(line)
+    if cuts.broken:
+        tools.keep("broken.txt", "\n".join(cuts.broken) + "\n")
+        tools.keep("log", story.log)
+    return Result(not cuts.broken, f"{len(moments)} cuts, {cuts.states} states of the disk, at most {cuts.most:.2f} s lost, every file readable")
+
+
+class Story:
+    """What happened, with the moments at which it did."""
+
+    def __init__(self, tools, desktop, played):
+        self._tools = tools
+        self._played = played
+        self._sitting = Sitting(tools, desktop, played)
+        self.home = self._sitting.home
+        self.log = os.path.join(tools.folder, "log")
+        self.lectures = []
+
+    def tell(self, short):
+        layer = {"LD_PRELOAD": self._tools.built("tests/torture/DiskLog.so"), "TORTURE_FOLDER": self.home, "TORTURE_LOG": self.log}
+        try:
+            self._play(layer, 5 if short else 9)
+        finally:
+            self._sitting.program.stop()
+        self._sitting.program.expect_silence()
+
+    def _play(self, layer, seconds):
+        sitting = self._sitting
+        self.first = time.monotonic()
+        sitting.start(**layer)
+        for subject, stops in (("Optics", True), ("Algebra", False)):
+            sitting.begin(subject, "Lenses bend light.")
+            sitting.listen(seconds)
+            if stops:
+                sitting.stop()
+            sitting.save(subject)
+            self._add(subject, self._row_path(subject), saved=time.monotonic())
+        deleting = time.monotonic()
+        sitting.delete("Optics")
+        self.lectures[0] = self.lectures[0]._replace(deleted=deleting)
+        sitting.begin("Kepler")
+        sitting.listen(seconds)
+        killed = time.monotonic()
+        sitting.program.send(signal.SIGKILL)
+        sitting.program.expect_end(-signal.SIGKILL)
+        self._add("Kepler", os.path.join(self.home, "temp", "tempAudioFile.m4a"))
+        self.last = killed
+
+    def _row_path(self, subject):
+        rows = rows_of(self.home)
+        return rows[subject]
+
+    def _add(self, subject, path, saved=None):
+        ended, heard = time.monotonic(), self._played.now()
+        samples = sound.samples(path)
+        begin, end = (ended - heard + moment for moment in self._played.span(samples, heard))
+        self.lectures.append(Lecture(subject, samples, begin, end, saved, None))
+
+
+class Cuts:
+    """Judges what each cut may have left."""
+
+    def __init__(self, tools, story):
+        self._tools = tools
+        self._story = story
+        self._records = list(disk.read_log(story.log))
+        self._disk = disk.Disk(story.home)
+        self._done = 0
+        self._decoded = {}
+        self._folder = os.path.join(tools.folder, "cut")
+        self.states = 0
+        self.most = 0.0
+        self.broken = []
+
+    def at(self, moment):
+        """Later than the one before."""
+        while self._done < len(self._records) and self._records[self._done][1] <= moment:
+            self._disk.do(*self._records[self._done])
+            self._done += 1
+        for variant, tree in self._disk.variants(self._tools.random):
+            shutil.rmtree(self._folder, ignore_errors=True)
+            os.makedirs(self._folder)
+            disk.write(tree, self._story.home, self._folder)
+            self.states += 1
+            try:
+                self._judge(moment)
+            except (Failed, sqlite3.Error) as failure:
+                self.broken.append(f"{moment - self._story.first:.2f} s, {variant}: {failure}")
+
+    def _judge(self, moment):
+        rows = rows_of(self._folder)
+        sounds = {path: self._sound_of(path) for path in files_in(self._folder, (".m4a", ".aac"))}
+        for lecture in self._story.lectures:
+            if lecture.deleted and moment >= lecture.deleted:
+                continue
+            self._expect_sound(lecture, moment, list(sounds.values()))
+            if lecture.saved and moment > lecture.saved + MOST_LOST and lecture.subject not in rows:
+                raise Failed(f"the row of {lecture.subject!r} is gone, {moment - lecture.saved:.2f} s after it was stored")
+            if lecture.subject in rows and rows[lecture.subject].replace(self._story.home, self._folder) not in sounds:
+                raise Failed(f"the file of {lecture.subject!r} is gone")
+
+    def _expect_sound(self, lecture, moment, sounds):
+        recorded = min(moment, lecture.end) - lecture.begin
+        found = max((seconds_of(samples, lecture.sound) for samples in sounds), default=0)
+        lost = recorded - found
+        if recorded > 0:
+            self.most = max(self.most, lost)
+        if lost > MOST_LOST:
+            raise Failed(f"{lost:.2f} s of {lecture.subject!r} are lost, of {recorded:.2f} s")
+
+    def _sound_of(self, path):
+        with open(path, "rb") as file:
+            content = file.read()
+        if content not in self._decoded:
+            self._decoded[content] = decoded(path)
+        return self._decoded[content]
+
+
+def rows_of(home):
+    """Subject and path of every row, from a copy, so that what a look repairs in the file is repaired there alone."""
+    path = os.path.join(home, "TarveloInfo.db")
+    if not os.path.exists(path) or os.path.getsize(path) == 0 and not os.path.exists(path + "-journal"):
+        return {}
+    with sqlite3.connect(path) as database:
+        verdict = database.execute("PRAGMA integrity_check").fetchone()[0]
+        if verdict != "ok":
+            raise Failed(f"the database is damaged: {verdict}")
+        there = database.execute("SELECT count(*) FROM sqlite_master WHERE name = 'audioData'").fetchone()[0]
+        rows = database.execute("SELECT subject, audioFileFullPath FROM audioData").fetchall() if there else []
+    database.close()
+    return dict(rows)
+
+
+def files_in(folder, endings):
+    return [os.path.join(root, name) for root, _, found in os.walk(folder) for name in found if name.endswith(endings)]
+
+
+def decoded(path):
+    """As far as it can be: behind a tear there may be anything."""
+    done = subprocess.run(["ffmpeg", "-nostdin", "-v", "quiet", "-i", path, "-f", "f32le", "-ac", "1", "-ar", str(sound.RATE), "-"],
+                          check=False, capture_output=True)
+    return numpy.frombuffer(done.stdout, dtype=numpy.float32).astype(numpy.float64)
+
+
+def seconds_of(samples, whole):
+    """How much of a lecture's beginning it is, sample by sample; none when it is something else. In an unfinished file
+    the frame with which the encoder warms up is heard by some readers, and in its last frame the encoder may differ."""
+    for before in (0, FRAME):
+        length = min(len(samples) - before, len(whole)) - 2 * FRAME
+        if length > 0 and numpy.abs(samples[before : before + length] - whole[:length]).max() < 1e-3:
+            return (length + 2 * FRAME) / sound.RATE
+    return 0.0
