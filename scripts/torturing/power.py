@@ -138,7 +138,7 @@ class Cuts:
             self._expect_sound(lecture, moment, list(sounds.values()))
             if lecture.saved and moment > lecture.saved + MOST_LOST and lecture.subject not in rows:
                 raise Failed(f"the row of {lecture.subject!r} is gone, {moment - lecture.saved:.2f} s after it was stored")
-            if lecture.subject in rows and rows[lecture.subject].replace(self._story.home, self._folder) not in sounds:
+            if lecture.subject in rows and os.path.normpath(rows[lecture.subject]).replace(self._story.home, self._folder) not in sounds:
                 raise Failed(f"the file of {lecture.subject!r} is gone")
 
     def _expect_sound(self, lecture, moment, sounds):

@@ -1,5 +1,7 @@
 #include "platform/PrivateFiles.h"
 
+#include "platform/DurableFiles.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -35,7 +37,9 @@ void createFolderIfMissing(const QString &folder)
     if (folder.isEmpty() || QFileInfo::exists(folder))
         return;
     createFolderIfMissing(QFileInfo(folder).path());
-    static_cast<void>(::mkdir(QFile::encodeName(folder).constData(), S_IRWXU));
+    // Else a power cut soon after a first start takes the folder, with all that was synced in it.
+    if (::mkdir(QFile::encodeName(folder).constData(), S_IRWXU) == 0)
+        syncFolderOf(folder);
 }
 
 void createFileIfMissing(const QString &path)

@@ -148,6 +148,7 @@ bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariant
 // does without; last in a reset, so that they take no room that the statement needs.
 void LectureDatabase::makeIndexes()
 {
+    m_connection->executeNonQuery(statements::SyncNamesToo);
     m_connection->executeNonQuery(statements::IndexByDay);
     m_connection->executeNonQuery(statements::IndexByMonth);
 }

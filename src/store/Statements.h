@@ -47,6 +47,10 @@ inline constexpr QLatin1String CreateAfterUpdate(
 
 inline constexpr QLatin1String DeleteAll("DELETE FROM audioData;");
 
+// A change is undone by the journal as long as that has a name. Without this its end is not forced
+// to the disk, and a power cut soon after takes the change back.
+inline constexpr QLatin1String SyncNamesToo("PRAGMA synchronous = EXTRA");
+
 // They serve the two queries above, whose expressions they repeat to the letter.
 inline constexpr QLatin1String IndexByDay("CREATE INDEX IF NOT EXISTS audioDataByDay "
                                           "ON audioData(strftime('%Y-%m-%d', recordingDate))");

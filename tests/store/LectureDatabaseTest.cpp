@@ -36,6 +36,15 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(m_places->databaseFile()).size(), 0);
     }
 
+    // 3 is SQLite's number for it. Else a power cut soon after a change takes it back.
+    void theEndOfAChangeIsForcedToTheDisk()
+    {
+        const auto rows = m_database->openDb()->executeQuery(u"PRAGMA synchronous"_s);
+
+        QVERIFY(rows);
+        QCOMPARE(rows->value(0).value(u"synchronous"_s).toInt(), 3);
+    }
+
     void theDatabaseAndItsJournalAreForTheirUserAlone_data() { addUmasks(); }
     void theDatabaseAndItsJournalAreForTheirUserAlone()
     {

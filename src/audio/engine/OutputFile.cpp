@@ -1,5 +1,9 @@
 #include "audio/engine/OutputFile.h"
 
+#include "platform/DurableFiles.h"
+
+#include <QFile>
+
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
@@ -65,6 +69,9 @@ bool OutputFile::writeAt(std::int64_t offset, std::span<const std::uint8_t> byte
 
 bool OutputFile::sync()
 {
+    // The name first of all, and once: without it the content is lost.
+    if (!m_isNameSynced)
+        m_isNameSynced = platform::syncFolderOf(QFile::decodeName(m_path.c_str()));
     return ::fdatasync(m_descriptor) == 0;
 }
 

@@ -27,7 +27,7 @@ public:
     bool writeAt(std::int64_t offset, std::span<const std::uint8_t> bytes);
     // The last write failed for want of room, and would not have with more.
     bool isOutOfRoom() const { return m_isOutOfRoom; }
-    // Forces the content to the disk.
+    // Forces the content to the disk, and the name.
     bool sync();
 
 private:
@@ -37,6 +37,7 @@ private:
     int m_descriptor;
     std::int64_t m_size = 0;
     bool m_isOutOfRoom = false;
+    bool m_isNameSynced = false;
 };
 
 } // namespace tarvelo::engine
