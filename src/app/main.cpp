@@ -16,6 +16,7 @@
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
+#include "store/DailyCheck.h"
 #include "store/LectureDatabase.h"
 
 #include <QApplication>
@@ -116,6 +117,7 @@ int main(int argc, char **argv)
     controller.awakeFromNib();
     delegate.awakeFromNib();
     delegate.applicationDidFinishLaunching(&application);
+    const store::DailyCheck check(database, clock);
     platform::DelayedCall firstRequest(clock, [&] { delegate.perform(line.request); });
     if (line.request != app::Request::Reopen)
         firstRequest.schedule(LaunchTime);

@@ -34,6 +34,8 @@ public:
     // `folder` is made with the first copy.
     LectureBackups(QString folder, const platform::Clock &clock);
 
+    const QString &folder() const { return m_folder; }
+
     // `going` is a query for the "ID" of every lecture that is about to go. Gives the copy's path,
     // an empty text when there is none: nothing goes, or none could be made.
     QString keep(Sqlite &database, const QString &going);

@@ -1,0 +1,58 @@
+#include "store/DailyCheck.h"
+
+#include "platform/PrivateFiles.h"
+#include "store/LectureDatabase.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace tarvelo::store {
+
+DailyCheck::DailyCheck(LectureDatabase &database, platform::Clock &clock)
+    : m_database(database)
+    , m_clock(clock)
+    , m_next(clock, [this] { checkIfDue(); })
+{
+    m_next.schedule(AfterStart);
+}
+
+// Asked again and again, since a day may begin while the program runs, and sleep.
+void DailyCheck::checkIfDue()
+{
+    m_next.schedule(Again);
+    const Sqlite *const connection = m_database.connection();
+    QFile day(dayPath());
+    const bool isDone = day.open(QIODevice::ReadOnly) && day.readAll() == today().toLatin1();
+    if (isDone || m_check || !connection || QFileInfo(connection->filePath()).size() == 0)
+        return;
+    m_check = std::make_unique<IntegrityCheck>(connection->filePath());
+    QObject::connect(m_check.get(), &IntegrityCheck::finished, m_check.get(),
+                     [this](Soundness soundness) { end(soundness); });
+}
+
+void DailyCheck::end(Soundness soundness)
+{
+    m_check.release()->deleteLater();
+    // A write may have fallen into it, so it is asked for once more where nobody writes.
+    if (soundness == Soundness::Damaged)
+        m_database.mendIfDamaged();
+    if (soundness == Soundness::Unknown)
+        return;
+    platform::createFolderIfMissing(QFileInfo(dayPath()).path());
+    platform::createFileIfMissing(dayPath());
+    QFile day(dayPath());
+    if (day.open(QIODevice::WriteOnly))
+        day.write(today().toLatin1());
+}
+
+QString DailyCheck::today() const
+{
+    return m_clock.now().toLocalTime().date().toString(Qt::ISODate);
+}
+
+QString DailyCheck::dayPath() const
+{
+    return m_database.backups().folder() + QStringLiteral("/.checked");
+}
+
+} // namespace tarvelo::store
