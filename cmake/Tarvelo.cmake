@@ -27,11 +27,12 @@ if(TARVELO_SANITIZE)
     target_link_options(tarvelo_options INTERFACE -fsanitize=${TARVELO_SANITIZE})
 endif()
 
-# What is measured is src/ alone. Counters are atomic, since the engine counts from several threads; unoptimised, so that a
-# line of the report is one of the source.
+# What is measured is src/ alone: counters are atomic, since the engine counts from several threads; unoptimised, so that a
+# line of the report is one of the source; and without the clean-up that the compiler would write behind every call, lest
+# that counted as branches. A file that catches says so with -fexceptions.
 add_library(tarvelo_counters INTERFACE)
 if(TARVELO_COVERAGE)
-    target_compile_options(tarvelo_counters INTERFACE --coverage -O0 -fprofile-update=atomic)
+    target_compile_options(tarvelo_counters INTERFACE --coverage -O0 -fprofile-update=atomic -fno-exceptions)
     target_link_options(tarvelo_options INTERFACE --coverage)
 endif()
 

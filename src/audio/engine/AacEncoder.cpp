@@ -17,7 +17,8 @@ std::unique_ptr<AacEncoder> AacEncoder::create(const RecorderSettings &settings)
     codec->flags |= AV_CODEC_FLAG_GLOBAL_HEADER; // MPEG-4 keeps it apart from the sound
     if (avcodec_open2(codec.get(), encoder, nullptr) < 0)
         return nullptr;
-    return std::unique_ptr<AacEncoder>(new AacEncoder(std::move(codec)));
+    std::unique_ptr<AacEncoder> made(new AacEncoder(std::move(codec)));
+    return made->m_frame && made->m_packet ? std::move(made) : nullptr;
 }
 
 AacEncoder::AacEncoder(CodecPointer codec)

@@ -37,11 +37,8 @@ MovieOutput::~MovieOutput()
 
 bool MovieOutput::open(Form form, const AVCodecParameters &track, AVRational timeBase)
 {
-    auto buffer = static_cast<std::uint8_t *>(av_malloc(BufferSize));
-    const bool canSeek = form == Form::Indexed;
-    m_io = avio_alloc_context(buffer, BufferSize, 1, this, nullptr, &MovieOutput::writeBytes,
-                              canSeek ? &MovieOutput::seek : nullptr);
-    if (!m_io || avformat_alloc_output_context2(&m_muxer, nullptr, "mp4", nullptr) < 0)
+    if (!openBytes(form == Form::Indexed) || !m_packet ||
+        avformat_alloc_output_context2(&m_muxer, nullptr, "mp4", nullptr) < 0)
         return false;
     m_muxer->pb = m_io;
     m_muxer->flags |= AVFMT_FLAG_CUSTOM_IO;
@@ -60,6 +57,18 @@ bool MovieOutput::open(Form form, const AVCodecParameters &track, AVRational tim
     const int result = avformat_write_header(m_muxer, &options);
     av_dict_free(&options);
     return result >= 0;
+}
+
+bool MovieOutput::openBytes(bool canSeek)
+{
+    auto buffer = static_cast<std::uint8_t *>(av_malloc(BufferSize));
+    if (!buffer)
+        return false;
+    m_io = avio_alloc_context(buffer, BufferSize, 1, this, nullptr, &MovieOutput::writeBytes,
+                              canSeek ? &MovieOutput::seek : nullptr);
+    if (!m_io)
+        av_free(buffer);
+    return m_io != nullptr;
 }
 
 bool MovieOutput::add(const AVPacket &packet)

@@ -34,6 +34,7 @@ public:
 
 private:
     explicit MovieOutput(ByteOutput output);
+    bool openBytes(bool canSeek);
     bool open(Form form, const AVCodecParameters &track, AVRational timeBase);
     bool flush();
     static int writeBytes(void *self, std::uint8_t *bytes, int count);

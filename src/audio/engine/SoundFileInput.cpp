@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <mutex>
 
 namespace tarvelo::engine {
 
@@ -35,12 +36,19 @@ int refuseToOpen(AVFormatContext *, AVIOContext **, const char *, int, AVDiction
     return AVERROR(EPERM);
 }
 
+// For the whole process and once, so that tests can set lower bounds.
+void limitMemory()
+{
+    static std::once_flag once;
+    std::call_once(once, [] { av_max_alloc(MostMemory); });
+}
+
 } // namespace
 
 std::unique_ptr<SoundFileInput> SoundFileInput::open(const QByteArray &bytes)
 {
     keepFfmpegQuiet();
-    av_max_alloc(MostMemory);
+    limitMemory();
     if (!beginsLikeSound(QByteArrayView(bytes).first(std::min(bytes.size(), SignatureLength))))
         return nullptr;
     MovieOutline outline{bytes.size()};
@@ -71,12 +79,10 @@ SoundFileInput::~SoundFileInput()
 
 bool SoundFileInput::openDemuxer()
 {
-    m_io =
-        avio_alloc_context(static_cast<std::uint8_t *>(av_malloc(BufferSize)), BufferSize, 0, this,
-                           &SoundFileInput::readBytes, nullptr, &SoundFileInput::seekBytes);
     const AVInputFormat *format = nullptr;
     // What is taken for sound only because nothing else is more like it, is noise.
-    if (!m_io || av_probe_input_buffer2(m_io, &format, "", nullptr, 0, 0) <= AVPROBE_SCORE_RETRY)
+    if (!openBytes() ||
+        av_probe_input_buffer2(m_io, &format, "", nullptr, 0, 0) <= AVPROBE_SCORE_RETRY)
         return false;
     m_demuxer = avformat_alloc_context();
     if (!m_demuxer)
@@ -90,6 +96,18 @@ bool SoundFileInput::openDemuxer()
     const int result = avformat_open_input(&m_demuxer, "", format, &options);
     av_dict_free(&options);
     return result >= 0 && avformat_find_stream_info(m_demuxer, nullptr) >= 0 && chooseTrack();
+}
+
+bool SoundFileInput::openBytes()
+{
+    auto buffer = static_cast<std::uint8_t *>(av_malloc(BufferSize));
+    if (!buffer)
+        return false;
+    m_io = avio_alloc_context(buffer, BufferSize, 0, this, &SoundFileInput::readBytes, nullptr,
+                              &SoundFileInput::seekBytes);
+    if (!m_io)
+        av_free(buffer);
+    return m_io != nullptr;
 }
 
 // A film is not taken for its sound.

@@ -44,6 +44,7 @@ public:
 private:
     SoundFileInput(const QByteArray &bytes, const MovieOutline &outline);
     bool openDemuxer();
+    bool openBytes();
     bool chooseTrack();
     std::int64_t endByReading();
     std::int64_t endByReadingFrom(std::int64_t timestamp);
