@@ -1,8 +1,11 @@
 #include "audio/AudioFileLocations.h"
 
+#include "audio/engine/Reserve.h"
 #include "platform/Dates.h"
 #include "platform/PrivateFiles.h"
 #include "platform/UserDefaults.h"
+
+#include <QFile>
 
 namespace tarvelo::audio {
 
@@ -57,6 +60,11 @@ void AudioFileLocations::createFolders()
     // Made but not written to: saved files go to the product's folder. The two are one when the
     // program runs under its own name, and both are wanted.
     createFolderIfMissing(expandingTilde(own + QStringLiteral("/Audio")));
+}
+
+void AudioFileLocations::removeReserveLeft() const
+{
+    engine::Reserve::removeLeft(QFile::encodeName(m_temporaryBasePath).toStdString());
 }
 
 void AudioFileLocations::setTempAudioSavePathWithFormat()

@@ -41,6 +41,9 @@ public:
     // Names the temporary file by the preference as it now is. A take that waits under the other
     // extension is no longer found then, and is saved as a lecture without audio; this is wanted.
     void setTempAudioSavePathWithFormat();
+    // Gives back the room that a process that is dead held for the end of its take. Only for who
+    // owns the folder of the take.
+    void removeReserveLeft() const;
     // Starts again without a temporary file.
     void clearTempAudioSavePath() { m_tempAudioSavePath.clear(); }
 

@@ -71,6 +71,8 @@ void MediaLinksArrayController::awakeFromNib()
     setTypingAttributes();
     m_locations.createFolders();
     m_journal.start();
+    if (m_journal.ownsTake())
+        m_locations.removeReserveLeft();
     setInsertionPointColors();
     m_windows.recordingOutlets().lblRecordingDuration->setText(QString());
     m_recordingControl.showTimeOfDay();

@@ -1,5 +1,8 @@
 #include "audio/DurationText.h"
+#include "audio/RecordingWatch.h"
 #include "audio/engine/AudioRecorder.h"
+#include "platform/DiskRoom.h"
+#include "platform/Texts.h"
 #include "support/DecodedAudio.h"
 #include "support/PrivateSoundServer.h"
 #include "support/RecordingStage.h"
@@ -14,6 +17,7 @@ using namespace std::chrono_literals;
 using namespace tarvelo::tests;
 
 using tarvelo::audio::getDuration;
+using tarvelo::audio::RecordingWatch;
 using tarvelo::audio::wholeSeconds;
 
 constexpr int Patience = 60000; // milliseconds: a machine with much to do is slow, not broken
@@ -82,6 +86,25 @@ private Q_SLOTS:
         QVERIFY(!m_stage->takeIsThere());
     }
 
+    void aSilentMicrophoneIsToldUntilSomebodySpeaks()
+    {
+        QVERIFY(m_server->start());
+        m_watch = std::make_unique<RecordingWatch>(
+            m_stage->clock, m_stage->control, m_stage->window.outlets(),
+            [this] { return m_stage->takePath(); }, tarvelo::platform::roomOnDisk);
+        m_stage->window.window.hide();
+        m_stage->start();
+        m_stage->window.window.show();
+
+        QTRY_VERIFY_WITH_TIMEOUT(isSilenceToldAfterNextSecond(), Patience);
+        QVERIFY(m_stage->control.soundHeard().arrived >= 10);
+        QVERIFY(speakTune());
+        QTRY_VERIFY_WITH_TIMEOUT(!isSilenceToldAfterNextSecond(), Patience);
+        m_server->silence();
+
+        QTRY_VERIFY_WITH_TIMEOUT(isSilenceToldAfterNextSecond(), Patience);
+    }
+
     void withoutASoundServerTheControlsGoThroughATake()
     {
         m_stage->start();
@@ -144,6 +167,7 @@ private:
     }
     void finish() override
     {
+        m_watch.reset();
         m_stage.reset();
         m_engine.reset();
         m_server.reset();
@@ -173,9 +197,22 @@ private:
         QTRY_VERIFY_WITH_TIMEOUT(nextLength() >= length, Patience);
     }
 
+    // The clock goes on with the sound.
+    bool isSilenceToldAfterNextSecond()
+    {
+        if (m_stage->control.soundHeard().arrived >= m_seconds + 1) {
+            ++m_seconds;
+            m_stage->clock.advance(1s);
+        }
+        return m_stage->window.lblRecordingWarning.text() ==
+               tarvelo::platform::text("RECORDING_NOTHING_HEARD");
+    }
+
     std::optional<PrivateSoundServer> m_server;
     std::unique_ptr<tarvelo::engine::AudioEngine> m_engine;
     std::optional<RecordingStage> m_stage;
+    std::unique_ptr<RecordingWatch> m_watch;
+    int m_seconds = 0; // that the clock has gone on
 };
 
 QTEST_MAIN(RecordedSoundTest)

@@ -1,6 +1,8 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include "lectures/CustomTableCellView.h"
+#include "platform/FolderOwner.h"
+#include "platform/PrivateFiles.h"
 #include "platform/WindowLevel.h"
 #include "store/LectureInfoItem.h"
 #include "support/LectureProgram.h"
@@ -65,6 +67,30 @@ private Q_SLOTS:
 
         QVERIFY(QFileInfo(m_program->places.folder() + u"/temp"_s).isDir());
         QVERIFY(QFileInfo(m_program->places.folder() + u"/Audio"_s).isDir());
+    }
+
+    void startingGivesBackTheRoomThatADeadProcessHeld()
+    {
+        const QString held = m_program->places.folder() + u"/temp/.tempAudioFile.reserve"_s;
+        tarvelo::platform::createFolderIfMissing(QFileInfo(held).path());
+        tarvelo::platform::createFileIfMissing(held);
+
+        controller().awakeFromNib();
+
+        QVERIFY(!QFileInfo::exists(held));
+    }
+
+    void theRoomThatALivingProcessHoldsIsLeftToIt()
+    {
+        const QString held = m_program->places.folder() + u"/temp/.tempAudioFile.reserve"_s;
+        tarvelo::platform::createFolderIfMissing(QFileInfo(held).path());
+        tarvelo::platform::createFileIfMissing(held);
+        tarvelo::platform::FolderOwner other;
+        QVERIFY(other.own(QFileInfo(held).path()));
+
+        controller().awakeFromNib();
+
+        QVERIFY(QFileInfo::exists(held));
     }
 
     void thePathOfTheTakeIsKnownHalfASecondLater()

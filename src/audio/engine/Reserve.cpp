@@ -35,10 +35,15 @@ std::int64_t Reserve::sizeOn(std::int64_t room)
     return size < Least ? 0 : size;
 }
 
+void Reserve::removeLeft(const std::string &take)
+{
+    ::unlink(reserveOf(take).c_str());
+}
+
 Reserve::Reserve(const std::string &take)
     : m_path(reserveOf(take))
 {
-    ::unlink(m_path.c_str());
+    removeLeft(take);
     const std::string folder = std::filesystem::path(m_path).parent_path().native();
     const std::int64_t size =
         sizeOn(platform::roomOnDisk(decoded(folder.empty() ? "." : folder)).value_or(0));

@@ -17,6 +17,9 @@ public:
     // What is held on a disk with so much room: on a small one most is needed for the sound before.
     static std::int64_t sizeOn(std::int64_t room);
 
+    // Takes away what a process that is dead left for this take.
+    static void removeLeft(const std::string &take);
+
     explicit Reserve(const std::string &take);
     Reserve(const Reserve &) = delete;
     Reserve &operator=(const Reserve &) = delete;

@@ -71,6 +71,18 @@ private Q_SLOTS:
         }
     }
 
+    void whatAKilledProgramLeftCanBeTakenAway()
+    {
+        QFile left(file());
+        QVERIFY(left.open(QIODevice::WriteOnly));
+
+        Reserve::removeLeft(take(u"take.aac"_s));
+        QVERIFY(!left.exists());
+        Reserve::removeLeft(take());
+
+        QCOMPARE(names(), QStringList());
+    }
+
     void aLinkInItsPlaceLeadsNowhere()
     {
         QFile other(m_folder->filePath(u"other"_s));
