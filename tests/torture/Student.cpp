@@ -1,0 +1,170 @@
+// A student with the lecture windows and the engine, without a screen and without a microphone:
+//
+//     Student DATA-FOLDER TASK...
+//
+// The tasks are done one after the other: record:SUBJECT:SECONDS, leave:SUBJECT:SECONDS (records,
+// and the process ends at once), edit:SUBJECT:NEW-SUBJECT, delete:SUBJECT, wait (for a line of
+// input, and then for ten minutes of the windows' clock), and begin, from where on the layer counts
+// that may stand before the C library. What was recorded is told in seconds.
+
+#include "support/LectureProgram.h"
+#include "support/TestSound.h"
+#include "torture/QuickEngine.h"
+
+#include "lectures/CustomTableCellView.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <dlfcn.h>
+
+using namespace std::chrono_literals;
+using namespace tarvelo;
+using namespace tarvelo::tests;
+
+namespace {
+
+class Student final
+{
+public:
+    explicit Student(const QString &data)
+        : m_places{data, QStringLiteral("Tarvelo"), data + QStringLiteral("/music"),
+                   data + QStringLiteral("/resources")}
+        , m_defaults(data + QStringLiteral("/student.conf"))
+    {
+        m_controller.setApplication(&m_application);
+        m_application.currentDate = theDay("2024-03-05");
+    }
+
+    void start()
+    {
+        m_controller.awakeFromNib();
+        m_clock.advance(500ms);
+        m_windows.mainWindow().show();
+        m_controller.prepareViewForDate(m_application.currentDate);
+    }
+
+    void record(const QString &subject, double seconds)
+    {
+        listen(subject, seconds);
+        m_windows.recordingOutlets().btnStopRecord->click();
+        m_clock.advance(500ms);
+        m_windows.newLectureOutlets().BtnDoneOrClose->click();
+        m_clock.advance(5s);
+    }
+
+    // Tells what the window shows: that much a student relies on.
+    void listen(const QString &subject, double seconds)
+    {
+        m_controller.onAddItem(nullptr);
+        m_windows.newLectureOutlets().txtSubjectForNewNote->setText(subject);
+        m_windows.newLectureOutlets().txtView->setPlainText(subject + QStringLiteral(" notes"));
+        m_windows.recordingOutlets().btnStartRecord->click();
+        // The time stands still while the disk takes nothing.
+        const std::vector<float> sound = tune(44100, 10);
+        for (double heard = 0; heard < seconds; heard += 0.5) {
+            const auto from = static_cast<std::size_t>(heard * 44100) % sound.size();
+            m_engine.hear(
+                std::span(sound).subspan(from, std::min<std::size_t>(22050, sound.size() - from)));
+            m_clock.advance(500ms);
+        }
+        std::printf("recorded %.3f\n", m_engine.time());
+        std::fflush(stdout);
+    }
+
+    void edit(const QString &subject, const QString &newSubject)
+    {
+        const int row = rowOf(subject);
+        auto *cell = m_windows.mainOutlets().tblRecordSubjectList->viewAtColumnRowMakeIfNecessary(
+            0, row, true);
+        if (!cell)
+            return;
+        m_controller.onEditLecture(cell->btnEdit());
+        m_windows.editLectureOutlets().txtSubjectForEdit->setText(newSubject);
+        m_controller.onDoneEdit(nullptr);
+        m_clock.advance(5s);
+    }
+
+    void remove(const QString &subject)
+    {
+        const int row = rowOf(subject);
+        if (row >= 0)
+            m_controller.onDelete(row);
+        m_clock.advance(5s);
+    }
+
+    void wait()
+    {
+        static_cast<void>(std::getchar());
+        for (int second = 0; second < 600; ++second)
+            m_clock.advance(1s);
+    }
+
+private:
+    int rowOf(const QString &subject) const
+    {
+        const lectures::LectureList &all = m_controller.arrangedObjects();
+        const auto found = std::find_if(all.begin(), all.end(), [&](const auto &lecture) {
+            return lecture->strSubject() == subject;
+        });
+        return found == all.end() ? -1 : static_cast<int>(found - all.begin());
+    }
+
+    platform::Places m_places;
+    FakeClock m_clock;
+    platform::Dates m_dates{m_clock, {"en_US", QStringLiteral("UTC")}};
+    platform::UserDefaults m_defaults;
+    store::LectureDatabase m_database{m_places, m_clock};
+    torture::QuickEngine m_engine;
+    FakeAlerts m_alerts;
+    FakeWorkspace m_workspace;
+    FakeMailComposer m_mail;
+    FakeSleepInhibitor m_sleep;
+    FakeLectureApplication m_application;
+    lectures::LectureWindows m_windows{m_dates};
+    bool m_isAwake = false;
+    int m_pendingRow = -1;
+    lectures::MediaLinksArrayController m_controller{{m_dates, m_places, m_defaults, m_database,
+                                                      m_engine, m_alerts, m_workspace, m_mail,
+                                                      m_sleep, m_isAwake, m_pendingRow},
+                                                     m_windows};
+};
+
+void beginToCount()
+{
+    if (auto *begin = reinterpret_cast<void (*)()>(::dlsym(RTLD_DEFAULT, "torture_begin")))
+        begin();
+}
+
+void perform(Student &student, const QString &task)
+{
+    const QStringList words = task.split(u':');
+    if (words[0] == u"record")
+        student.record(words.value(1), words.value(2).toDouble());
+    if (words[0] == u"leave") {
+        student.listen(words.value(1), words.value(2).toDouble());
+        std::_Exit(0);
+    }
+    if (words[0] == u"edit")
+        student.edit(words.value(1), words.value(2));
+    if (words[0] == u"delete")
+        student.remove(words.value(1));
+    if (words[0] == u"wait")
+        student.wait();
+    if (words[0] == u"begin")
+        beginToCount();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    QStringList tasks = QCoreApplication::arguments().mid(1);
+    // What starting does to the files counts too where a layer is told to count from the beginning.
+    Student student(tasks.takeFirst());
+    student.start();
+    for (const QString &task : tasks)
+        perform(student, task);
+    return 0;
+}
