@@ -7,8 +7,6 @@ import collections
 import os
 import shutil
 import signal
-import sqlite3
-import subprocess
 import time
 
 import numpy
@@ -17,7 +15,7 @@ from outside import sound
 from outside.desktop import Desktop
 from outside.waiting import Failed
 
-from . import disk
+from . import disk, student
 from .played import Played
 from .result import Result
 from .sitting import Sitting
@@ -89,7 +87,7 @@ class Story:
         self.last = killed
 
     def _row_path(self, subject):
-        rows = rows_of(self.home)
+        rows = student.rows_of(self.home)
         return rows[subject]
 
     def _add(self, subject, path, saved=None):
@@ -126,12 +124,12 @@ class Cuts:
             self.states += 1
             try:
                 self._judge(moment)
-            except (Failed, sqlite3.Error) as failure:
+            except Failed as failure:
                 self.broken.append(f"{moment - self._story.first:.2f} s, {variant}: {failure}")
 
     def _judge(self, moment):
-        rows = rows_of(self._folder)
-        sounds = {path: self._sound_of(path) for path in files_in(self._folder, (".m4a", ".aac"))}
+        rows = student.rows_of(self._folder)
+        sounds = {path: self._sound_of(path) for path in student.sounds_of(self._folder)}
         for lecture in self._story.lectures:
             if lecture.deleted and moment >= lecture.deleted:
                 continue
@@ -151,37 +149,10 @@ class Cuts:
             raise Failed(f"{lost:.2f} s of {lecture.subject!r} are lost, of {recorded:.2f} s")
 
     def _sound_of(self, path):
-        with open(path, "rb") as file:
-            content = file.read()
+        content = student.content(path)
         if content not in self._decoded:
-            self._decoded[content] = decoded(path)
+            self._decoded[content] = student.decoded(path)
         return self._decoded[content]
-
-
-def rows_of(home):
-    """Subject and path of every row, from a copy, so that what a look repairs in the file is repaired there alone."""
-    path = os.path.join(home, "TarveloInfo.db")
-    if not os.path.exists(path) or os.path.getsize(path) == 0 and not os.path.exists(path + "-journal"):
-        return {}
-    with sqlite3.connect(path) as database:
-        verdict = database.execute("PRAGMA integrity_check").fetchone()[0]
-        if verdict != "ok":
-            raise Failed(f"the database is damaged: {verdict}")
-        there = database.execute("SELECT count(*) FROM sqlite_master WHERE name = 'audioData'").fetchone()[0]
-        rows = database.execute("SELECT subject, audioFileFullPath FROM audioData").fetchall() if there else []
-    database.close()
-    return dict(rows)
-
-
-def files_in(folder, endings):
-    return [os.path.join(root, name) for root, _, found in os.walk(folder) for name in found if name.endswith(endings)]
-
-
-def decoded(path):
-    """As far as it can be: behind a tear there may be anything."""
-    done = subprocess.run(["ffmpeg", "-nostdin", "-v", "quiet", "-i", path, "-f", "f32le", "-ac", "1", "-ar", str(sound.RATE), "-"],
-                          check=False, capture_output=True)
-    return numpy.frombuffer(done.stdout, dtype=numpy.float32).astype(numpy.float64)
 
 
 def seconds_of(samples, whole):

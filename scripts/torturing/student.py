@@ -1,0 +1,91 @@
+"""The student without a screen (tests/torture/Student.cpp), and what stands in the folder afterwards."""
+
+import os
+import shutil
+import sqlite3
+import subprocess
+
+import numpy
+
+from outside import sound
+from outside.waiting import Failed
+
+ENVIRONMENT = {"QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8", "TZ": "UTC", "QT_ENABLE_HIGHDPI_SCALING": "0"}
+
+
+class Student:
+    """Works in one folder."""
+
+    def __init__(self, tools, folder):
+        self._command = [tools.built("tests/torture/Student"), folder]
+        self._environment = {"PATH": os.environ["PATH"], "HOME": folder, "XDG_RUNTIME_DIR": tools.folder, **ENVIRONMENT}
+        self.home = os.path.join(folder, "Tarvelo")
+
+    def start(self, *tasks, **environment):
+        return subprocess.Popen(self._command + list(tasks), env=self._environment | environment, text=True,
+                                stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+
+    def do(self, *tasks, **environment):
+        """Gives the seconds that the windows said were recorded, 0 without a recording."""
+        return self.end(self.start(*tasks, **environment))
+
+    @staticmethod
+    def end(process, words=""):
+        said, errors = process.communicate(words, timeout=600)
+        if process.returncode != 0 or errors:
+            raise Failed(f"it ended with {process.returncode} and said {errors.strip()!r}")
+        return max((float(line.split()[1]) for line in said.splitlines() if line.startswith("recorded")), default=0.0)
+
+
+def rows_of(home):
+    """{subject: path} of every row; fails when the database is damaged. Half a change is taken back."""
+    return _rows_in(os.path.join(home, "TarveloInfo.db"))
+
+
+def copied_rows_of(home):
+    """The same of all copies."""
+    folder = os.path.join(home, "Backups")
+    found = {}
+    for name in sorted(os.listdir(folder)) if os.path.isdir(folder) else []:
+        if name.endswith(".db"):
+            found |= _rows_in(os.path.join(folder, name))
+    return found
+
+
+def _rows_in(path):
+    if not os.path.exists(path) or os.path.getsize(path) == 0 and not os.path.exists(path + "-journal"):
+        return {}
+    database = sqlite3.connect(path)
+    try:
+        verdict = database.execute("PRAGMA integrity_check").fetchone()[0]
+        if verdict != "ok":
+            raise Failed(f"{os.path.basename(path)} is damaged: {verdict}")
+        there = database.execute("SELECT count(*) FROM sqlite_master WHERE name = 'audioData'").fetchone()[0]
+        return dict(database.execute("SELECT subject, audioFileFullPath FROM audioData").fetchall()) if there else {}
+    except sqlite3.Error as error:
+        raise Failed(f"{os.path.basename(path)}: {error}") from None
+    finally:
+        database.close()
+
+
+def sounds_of(home):
+    """The paths of all that was recorded, finished or not."""
+    return [os.path.join(root, name) for root, _, found in os.walk(home) for name in found
+            if name.endswith((".m4a", ".aac")) and not name.startswith(".")]
+
+
+def decoded(path):
+    """As far as it can be: behind a tear there may be anything."""
+    done = subprocess.run(["ffmpeg", "-nostdin", "-v", "quiet", "-i", path, "-f", "f32le", "-ac", "1", "-ar", str(sound.RATE), "-"],
+                          check=False, capture_output=True)
+    return numpy.frombuffer(done.stdout, dtype=numpy.float32).astype(numpy.float64)
+
+
+def content(path):
+    with open(path, "rb") as file:
+        return file.read()
+
+
+def renew(folder, template):
+    shutil.rmtree(folder, ignore_errors=True)
+    shutil.copytree(template, folder)
