@@ -29,12 +29,20 @@ endif()
 
 # What is measured is src/ alone: counters are atomic, since the engine counts from several threads; unoptimised, so that a
 # line of the report is one of the source; and without the clean-up that the compiler would write behind every call, lest
-# that counted as branches. A file that catches says so with -fexceptions.
+# that counted as branches. Files that catch keep it.
 add_library(tarvelo_counters INTERFACE)
 if(TARVELO_COVERAGE)
     target_compile_options(tarvelo_counters INTERFACE --coverage -O0 -fprofile-update=atomic -fno-exceptions)
     target_link_options(tarvelo_options INTERFACE --coverage)
 endif()
+function(tarvelo_keep_exceptions)
+    foreach(source ${ARGN})
+        file(STRINGS ${source} catches REGEX "catch \\(")
+        if(catches)
+            set_property(SOURCE ${source} APPEND PROPERTY COMPILE_OPTIONS -fexceptions)
+        endif()
+    endforeach()
+endfunction()
 
 # A folder of src/ is a static library: tarvelo_library(store SOURCES a.cpp LINK Qt6::Core ...).
 function(tarvelo_library name)
@@ -42,6 +50,9 @@ function(tarvelo_library name)
     add_library(tarvelo_${name} STATIC ${ARG_SOURCES})
     target_include_directories(tarvelo_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(tarvelo_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK} tarvelo_options tarvelo_counters)
+    if(TARVELO_COVERAGE)
+        tarvelo_keep_exceptions(${ARG_SOURCES})
+    endif()
 endfunction()
 
 # A test that starts another program forks while other threads run, which the sanitizer would refuse.

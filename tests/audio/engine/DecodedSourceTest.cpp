@@ -109,6 +109,8 @@ private Q_SLOTS:
         QTest::newRow("a movie of nothing") << QByteArray("\0\0\0\x10"
                                                           "ftypisom\0\0\0\0",
                                                           16);
+        QTest::newRow("a rate of a few sounds") << wav(tune(1000, 1), 1000, 1);
+        QTest::newRow("a rate beyond all players") << wav(tune(384000, 0.1), 384000, 1);
         QTest::newRow("a tone of no length") << wav({}, 44100, 1);
     }
     void whatIsNoSoundHasNoSource()

@@ -58,6 +58,7 @@ private Q_SLOTS:
         QCOMPARE(outlineOf(sense + QByteArray("\0\0\0\7moof", 8))->size, sense.size());
         QCOMPARE(outlineOf(sense + QByteArray("\0\0\0\1mdat\xff\xff\xff\xff\0\0\0\0", 16))->size,
                  sense.size());
+        QCOMPARE(outlineOf(sense + QByteArray("\0\0\0\1mdat____", 12))->size, sense.size());
         QCOMPARE(outlineOf(QByteArray("\0\0"))->size, 0);
     }
 
@@ -71,6 +72,31 @@ private Q_SLOTS:
         QVERIFY(!outlineOf(QByteArray(movie).replace(number, 4, QByteArray(4, '\xff'))));
         QVERIFY(!outlineOf(QByteArray(movie).replace("tkhd", "free")));
         QVERIFY(outlineOf(recordingOf(tune(44100, 1)).replace("tkhd", "free")));
+    }
+
+    void aTrackOfLongTimesHasItsNumberFurtherOn()
+    {
+        const QByteArray track = "trak____tkhd" + QByteArray(1, '\1') + QByteArray(19, '\0');
+        const QByteArray fragment = box("moof", "");
+
+        QVERIFY(outlineOf(box("moov", track + QByteArray("\0\0\0\1", 4)) + fragment));
+        QVERIFY(!outlineOf(box("moov", track + QByteArray("\0\0\0\0", 4)) + fragment));
+    }
+
+    void aTrackThatEndsBeforeItsNumberHasNone()
+    {
+        const QByteArray track = "trak____tkhd" + QByteArray(23, '\1');
+
+        QVERIFY(!outlineOf(box("moov", track) + box("moof", "")));
+    }
+
+    // A reader that looks for boxes elsewhere than this one does may find the fragment.
+    void aFragmentHiddenInAnotherBoxCountsToo()
+    {
+        const QByteArray hidden = box("skip", box("moof", ""));
+
+        QVERIFY(!outlineOf(box("moov", "trak") + hidden));
+        QVERIFY(!outlineOf(hidden)->holdsFragments);
     }
 
 private:

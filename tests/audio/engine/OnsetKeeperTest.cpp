@@ -44,6 +44,34 @@ private Q_SLOTS:
         QVERIFY(stretched == original);
     }
 
+    void soundThatComesInOddPiecesIsFollowedAsInOne()
+    {
+        auto atOnce = tone(44100, 10, 440);
+        auto inPieces = atOnce;
+        const auto original = sudden();
+        OnsetKeeper one(Mono, 0.2, 0);
+        OnsetKeeper other(Mono, 0.2, 0);
+
+        one.follow(original);
+        for (std::size_t at = 0; at < original.size(); at += 77)
+            other.follow(
+                std::span(original).subspan(at, std::min<std::size_t>(77, original.size() - at)));
+        one.shape(atOnce);
+        other.shape(inPieces);
+
+        QVERIFY(atOnce == inPieces);
+    }
+
+    void whatTheOriginalHasNoSoundForIsSilent()
+    {
+        auto stretched = tone(44100, 1, 440);
+        OnsetKeeper keeper(Mono, 1, 0);
+
+        keeper.shape(stretched);
+
+        QCOMPARE(loudest(std::span(stretched).last(22050)), 0.0F);
+    }
+
     void whatIsHeardBeforeItHappensIsTakenOut()
     {
         constexpr double Rate = 0.2;

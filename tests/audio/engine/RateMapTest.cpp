@@ -78,6 +78,18 @@ private Q_SLOTS:
         QCOMPARE(map.secondsAt(4000), 41.0);
     }
 
+    void anotherRateBehindAJumpGoesOnFromWhereItLed()
+    {
+        RateMap map(1000, 60);
+        map.beginAt(0, 1);
+        map.replaceFrom({3000, 40, 1, true});
+
+        const RateMap::Stretch next = map.goingOnFrom(4000, 0.5);
+
+        QCOMPARE(next.seconds, 41.0);
+        QVERIFY(!next.isJump);
+    }
+
     void aLaterChangeTakesThePlaceOfAllBehindIt()
     {
         RateMap map(1000, 60);

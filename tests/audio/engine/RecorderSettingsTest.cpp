@@ -59,6 +59,8 @@ private Q_SLOTS:
         row("no channels", RecorderSetting::NumberOfChannels, {});
         row("no bit rate", RecorderSetting::EncoderBitRate, {});
         row("a negative bit rate", RecorderSetting::EncoderBitRate, -80000);
+        row("a bit rate beyond all whole numbers", RecorderSetting::EncoderBitRate, 1e10);
+        row("a bit rate that nobody knows", RecorderSetting::EncoderBitRate, qQNaN());
         row("a bit rate beyond the encoder's", RecorderSetting::EncoderBitRate, 4000000);
     }
     void whatCannotBeMetIsRefused()

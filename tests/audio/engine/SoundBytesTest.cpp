@@ -34,6 +34,7 @@ private Q_SLOTS:
         QTest::newRow("picture") << QByteArray("\x89PNG\r\n\x1a\n____");
         QTest::newRow("pages") << QByteArray("%PDF-1.7 ________");
         QTest::newRow("database") << QByteArray("SQLite format 3");
+        QTest::newRow("almost MP3") << QByteArray("\xff\x1b\x90\x64");
         QTest::newRow("film") << QByteArray("\x1a\x45\xdf\xa3____________");
         QTest::newRow("film in RIFF") << QByteArray("RIFF____AVI LIST");
     }

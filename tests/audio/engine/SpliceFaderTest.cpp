@@ -68,6 +68,18 @@ private Q_SLOTS:
         QVERIFY(soft < std::size_t{Rate / 250});
     }
 
+    void soundShorterThanTheFadeComesOutWithTheBreak()
+    {
+        SpliceFader fader(Rate, 1, collect());
+
+        fader.put(tone(Rate, 0.001, 2000));
+        QVERIFY(m_out.empty());
+        fader.breakOff();
+
+        QCOMPARE(m_out.size(), std::size_t{44});
+        QCOMPARE(fader.samplesHeldBack(), std::size_t{0});
+    }
+
     void breakingOffTwiceIsBreakingOffOnce()
     {
         const auto sound = tone(Rate, 0.1, 2000);
