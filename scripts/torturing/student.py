@@ -33,7 +33,7 @@ class Student:
     def end(process, words=""):
         said, errors = process.communicate(words, timeout=600)
         if process.returncode != 0 or errors:
-            raise Failed(f"it ended with {process.returncode} and said {errors.strip()!r}")
+            raise Failed(f"it ended with {process.returncode} and said {errors.strip()[:300]!r}")
         return max((float(line.split()[1]) for line in said.splitlines() if line.startswith("recorded")), default=0.0)
 
 

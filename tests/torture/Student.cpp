@@ -97,6 +97,8 @@ public:
 
     void wait()
     {
+        std::printf("waiting\n");
+        std::fflush(stdout);
         static_cast<void>(std::getchar());
         for (int second = 0; second < 600; ++second)
             m_clock.advance(1s);
@@ -172,6 +174,7 @@ int main(int argc, char **argv)
 {
     qInstallMessageHandler(tell);
     const QApplication application(argc, argv);
+    tarvelo::platform::installTexts();
     QStringList tasks = QCoreApplication::arguments().mid(1);
     // What starting does to the files counts too where a layer is told to count from the beginning.
     Student student(tasks.takeFirst());
