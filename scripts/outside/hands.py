@@ -94,6 +94,15 @@ class Hands:
         self._xdotool("type", "--delay", "20", text)
         wait_for(f"{text!r} in {name!r}", lambda: _quietly(lambda: self._text(field) == text))
 
+    def text(self, window, name):
+        """What stands in a field."""
+        field = self.control(window, name, Atspi.StateType.EDITABLE)
+        return _quietly(lambda: self._text(field)) or ""
+
+    def type(self, text):
+        """Where the keyboard is."""
+        self._xdotool("type", "--delay", "20", text)
+
     def press(self, window, keys):
         found = self._xdotool("search", "--onlyvisible", "--name", f"^{window}$").split()
         self._xdotool("windowactivate", "--sync", found[-1], "key", keys)

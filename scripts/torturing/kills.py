@@ -1,32 +1,50 @@
 """The program is killed while it records."""
 
 import concurrent.futures
+import json
 import os
+import re
+import shutil
 import signal
 import subprocess
+import time
 
-from outside import sound
+from outside import names, sound
 from outside.desktop import Desktop
 from outside.waiting import Failed
 
 from .played import Played
 from .result import Result
+from .sitting import Sitting
 
 EVENT = "SIGKILL, crash, abort at any instant of a recording"
-PROMISE = "the last 1.0 s of sound"
+PROMISE = "the last 1.0 s of sound; no notes older than 5 s, no time tag"
 MOST_LOST = 1.0
+NOTES_SAFE = 5.0
+TIME_TAG = re.compile(r"\d\d:\d\d:\d\d")
 AT_A_TIME = 4
 SIGNALS = (signal.SIGKILL, signal.SIGKILL, signal.SIGKILL, signal.SIGABRT, signal.SIGSEGV)
 
 
 def run(tools, short):
-    kills = [(number, tools.random.choice(SIGNALS), tools.random.uniform(1.1, 5)) for number in range(12 if short else 180)]
-    with Desktop(tools.folder), sound.SoundServer(), Played(tools.random, tools.folder) as played:
+    of_recorder = [(number, tools.random.choice(SIGNALS), tools.random.uniform(1.1, 5)) for number in range(12 if short else 170)]
+    of_program = [(number, tools.random.choice(SIGNALS), tools.random.uniform(1.1, 9)) for number in range(2 if short else 30)]
+    with Desktop(tools.folder) as desktop, sound.SoundServer(), Played(tools.random, tools.folder) as played:
         with concurrent.futures.ThreadPoolExecutor(AT_A_TIME) as pool:
-            tries = [pool.submit(_kill_recorder, tools, played, *kill) for kill in kills]
+            tries = [pool.submit(_kill_recorder, tools, played, *kill) for kill in of_recorder]
             lost = [attempt.result() for attempt in tries]
-    tools.tell(f"{len(lost)} recorders killed, at most {max(lost):.2f} s lost, {sum(lost) / len(lost):.2f} s on average")
-    return Result(max(lost) <= MOST_LOST, f"{len(lost)} kills, at most {max(lost):.2f} s of sound lost, {sum(lost) / len(lost):.2f} s on average")
+        tools.tell(f"{len(lost)} recorders killed, at most {max(lost):.2f} s lost, {sum(lost) / len(lost):.2f} s on average")
+        sitting = Sitting(tools, desktop, played)
+        try:
+            of_notes = [_kill_program(tools, sitting, played, *kill) for kill in of_program]
+        finally:
+            sitting.program.stop()
+        sitting.program.expect_silence()
+    lost += [seconds for seconds, _ in of_notes]
+    notes = max(seconds for _, seconds in of_notes)
+    return Result(max(lost) <= MOST_LOST and notes <= NOTES_SAFE,
+                  f"{len(lost)} kills, {len(of_notes)} of them of the whole program: at most {max(lost):.2f} s of sound, {sum(lost) / len(lost):.2f} s on "
+                  f"average; at most {notes:.1f} s of notes; no time tag")
 
 
 def _kill_recorder(tools, played, number, how, moment):
@@ -50,3 +68,45 @@ def _kill_recorder(tools, played, number, how, moment):
         return max(heard - played.span(take, heard)[1], recorded - len(take) / sound.RATE)
     except Failed as failure:
         raise Failed(f"kill {number} ({how.name} at {recorded:.2f} s): {failure}; see {tools.keep(os.path.basename(path), path)}")
+
+
+def _kill_program(tools, sitting, played, number, how, moment):
+    """Gives the seconds of sound and of typing that are not on the disk."""
+    shutil.rmtree(sitting.home, ignore_errors=True)
+    sitting.start()
+    sitting.begin(f"Lecture {number}", "Notes:")
+    typed = _type_until(sitting, played.now() + moment, sets_tags=number % 2 == 0)
+    heard, ended = played.now(), time.monotonic()
+    sitting.program.send(how)
+    sitting.program.expect_end(-how)
+    take = next(os.path.join(sitting.home, "temp", name) for name in os.listdir(os.path.join(sitting.home, "temp"))
+                if name.startswith("tempAudioFile"))
+    try:
+        lost = heard - played.span(sound.samples(take), heard)[1]
+        return lost, _typing_lost(os.path.join(sitting.home, "temp", "lecture.journal"), typed, ended)
+    except Failed as failure:
+        raise Failed(f"kill {number} of the program ({how.name}): {failure}; see {tools.keep(f'program{number}', sitting.home)}") from None
+
+
+def _type_until(sitting, end, sets_tags):
+    """Types and, if wanted, sets time tags, which have the journal written too. Gives what was seen to stand in the notes, and when."""
+    seen = [(time.monotonic(), sitting.hands.text(names.NEW_LECTURE_WINDOW, names.NOTES))]
+    count = 0
+    while sitting.heard() < end:
+        count += 1
+        if sets_tags and count % 4 == 0:
+            sitting.hands.press(names.NEW_LECTURE_WINDOW, "ctrl+t")
+        else:
+            sitting.hands.type(f" word{count}")
+        seen.append((time.monotonic(), sitting.hands.text(names.NEW_LECTURE_WINDOW, names.NOTES)))
+    return seen
+
+
+def _typing_lost(journal, typed, ended):
+    """How old the oldest is that was typed and is not in the journal; fails when it is a time tag."""
+    with open(journal, "rb") as file:
+        kept = json.loads(file.read().rstrip())["notes"]
+    missing = sorted(set(TIME_TAG.findall(typed[-1][1])) - set(TIME_TAG.findall(kept)))
+    if missing:
+        raise Failed(f"the time tags {missing} are lost")
+    return max((ended - when for when, text in typed if not kept.startswith(text)), default=0.0)

@@ -46,6 +46,10 @@ class Sitting:
             self.hands.write(names.NEW_LECTURE_WINDOW, names.NOTES, notes)
         return asked
 
+    def heard(self):
+        """Seconds of the murmur so far."""
+        return self._played.now()
+
     def listen(self, seconds):
         """The lecture goes on for so long."""
         until = self._played.now() + seconds
