@@ -23,6 +23,7 @@ class SoundServer:
     """Starts in the environment that stands then, and puts its own address into it."""
 
     def __init__(self):
+        self.process = None
         self._children = Children()
         self._folder = os.environ["XDG_RUNTIME_DIR"]
 
@@ -34,7 +35,7 @@ class SoundServer:
         os.environ["PULSE_RUNTIME_PATH"] = os.path.join(self._folder, "pulse")
         os.environ["PULSE_STATE_PATH"] = os.path.join(self._folder, "pulse-state")
         os.environ["PULSE_SERVER"] = "unix:" + socket
-        self._children.start(
+        self.process = self._children.start(
             "pulseaudio", "-n", "-F", script, "--daemonize=no", "--system=no", "--use-pid-file=no",
             "--exit-idle-time=-1", "--disable-shm=yes", "--realtime=no", "--high-priority=no")
         try:

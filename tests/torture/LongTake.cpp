@@ -9,13 +9,15 @@
 #include "support/DecodedAudio.h"
 #include "support/TestSound.h"
 
+#include <QCoreApplication>
+#include <QTest>
+
 #include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
-#include <thread>
 #include <unistd.h>
 
 using namespace tarvelo;
@@ -26,6 +28,8 @@ constexpr int Rate = 44100;
 constexpr double Alike = 0.98;
 constexpr double AlikeInShort = 0.95; // over a tenth of a second
 constexpr int Jumps = 200;
+constexpr double MostAhead = engine::Take::SecondsInRing / 2.0;
+constexpr int Patience = 600000; // milliseconds, for a machine that has other things to do
 
 // Two tunes over each other that begin anew at different times: it takes years until a moment comes
 // again.
@@ -126,9 +130,11 @@ bool record(engine::Take &take, const LongTune &tune, std::int64_t frames, int r
     double first = 0;
     double most = 0;
     for (std::int64_t at = 0; at < frames; at += Rate) {
-        while (static_cast<double>(at) / Rate - take.secondsInFile() >
-               engine::Take::SecondsInRing / 2)
-            std::this_thread::sleep_for(std::chrono::milliseconds(2)); // until there is room
+        const auto hasRoom = [&] {
+            return static_cast<double>(at) / Rate - take.secondsInFile() < MostAhead;
+        };
+        if (!QTest::qWaitFor(hasRoom, Patience))
+            return false;
         take.put(onBothSides(tune.piece(at, std::min<std::int64_t>(Rate, frames - at))));
         if (at == std::min<std::int64_t>(60, frames / Rate / 2) * Rate)
             first = residentMebibytes();
@@ -154,6 +160,7 @@ QByteArray contentOf(const QString &path)
 
 int main(int argc, char **argv)
 {
+    const QCoreApplication application(argc, argv);
     if (argc != 3)
         return 2;
     // No whole number of seconds, nor of the encoder's frames.

@@ -8,7 +8,8 @@ namespace tarvelo::engine {
 namespace {
 
 constexpr pa_usec_t BlockLength = 20 * PA_USEC_PER_MSEC;
-constexpr pa_usec_t RetryInterval = PA_USEC_PER_SEC;
+// A word may be lost until the next attempt, not a sentence.
+constexpr pa_usec_t RetryInterval = PA_USEC_PER_SEC / 4;
 
 } // namespace
 
@@ -96,11 +97,15 @@ void PulseCapture::pause()
 void PulseCapture::connectContext()
 {
     m_stream.reset();
-    m_context.reset(pa_context_new(pa_threaded_mainloop_get_api(m_loop.get()), "Tarvelo"));
-    if (!m_context) {
+    PulseContextPointer context(
+        pa_context_new(pa_threaded_mainloop_get_api(m_loop.get()), "Tarvelo"));
+    if (!context) {
         settle(Outcome::Failed);
+        if (m_context) // without memory for another one now, there may be some later
+            lost();
         return;
     }
+    m_context = std::move(context);
     pa_context_set_state_callback(
         m_context.get(),
         [](pa_context *, void *self) { static_cast<PulseCapture *>(self)->contextChanged(); },

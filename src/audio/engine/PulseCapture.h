@@ -11,7 +11,7 @@
 namespace tarvelo::engine {
 
 // The default input of the session's sound server. Once open it stays so: when the microphone or
-// the server goes away there is no sound until one is back, which is looked for every second.
+// the server goes away there is no sound until one is back, which is looked for all the time.
 class PulseCapture final
 {
 public:
