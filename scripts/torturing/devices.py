@@ -14,7 +14,7 @@ from outside.program import Program
 from outside.waiting import Failed, wait_for
 
 from . import stored
-from .played import BLOCK, murmur
+from .played import BLOCK, SHAPE, murmur
 from .result import Result
 
 EVENT = "microphone pulled out, sound server restarted, default device changed"
@@ -42,7 +42,13 @@ class Microphone(sound.SoundServer):
         self.process.send_signal(signal.SIGSTOP)
 
     def go_on(self):
+        """This microphone, unlike one of metal, makes up for the time that it stood still, all at once: what is spoken
+        into it meanwhile is a matter of the server's. Returns when a second at it lasts a second again."""
         self.process.send_signal(signal.SIGCONT)
+        listening = ["pacat", "--record", "-d", "microphone", *SHAPE, "--latency-msec=20"]
+        with subprocess.Popen(listening, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE) as listener:
+            wait_for("the microphone to keep time again", lambda: _lasts(lambda: listener.stdout.read(4 * sound.RATE // 2)) > 0.4)
+            listener.terminate()
 
     def pull_out(self):
         self._control("unload-module", "module-remap-source")
@@ -72,6 +78,12 @@ def run(tools, short):
 def _whole(random):
     kinds = ["killed", "killed for long", "pulled out", "hanging", "hanging for long", "changed", "paused", "resumed", "stopped"]
     return [random.sample(kinds[:-1], len(kinds) - 1) + ["stopped"] for _ in range(4)]
+
+
+def _lasts(what):
+    begin = time.monotonic()
+    what()
+    return time.monotonic() - begin
 
 
 class _Trial:
