@@ -46,7 +46,7 @@ class Microphone(sound.SoundServer):
         into it meanwhile is a matter of the server's. Returns when a second at it lasts a second again."""
         self.process.send_signal(signal.SIGCONT)
         listening = ["pacat", "--record", "-d", "microphone", *SHAPE, "--latency-msec=20"]
-        with subprocess.Popen(listening, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE) as listener:
+        with subprocess.Popen(listening, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as listener:
             wait_for("the microphone to keep time again", lambda: _lasts(lambda: listener.stdout.read(4 * sound.RATE // 2)) > 0.4)
             listener.terminate()
 

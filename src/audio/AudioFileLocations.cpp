@@ -2,15 +2,32 @@
 
 #include "audio/engine/Reserve.h"
 #include "platform/Dates.h"
+#include "platform/DurableFiles.h"
 #include "platform/PrivateFiles.h"
 #include "platform/UserDefaults.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace tarvelo::audio {
 
 using platform::createFolderIfMissing;
 using platform::expandingTilde;
+
+namespace {
+
+// The first name that nothing has: "Audio - 20241027023000 2.aac".
+QString freeNameLike(const QString &path)
+{
+    const QFileInfo taken(path);
+    const QString begin = path.chopped(taken.suffix().size() + 1);
+    QString name;
+    for (int number = 2; name.isEmpty() || QFileInfo::exists(name); ++number)
+        name = QStringLiteral("%1 %2.%3").arg(begin).arg(number).arg(taken.suffix());
+    return name;
+}
+
+} // namespace
 
 AudioFileLocations::AudioFileLocations(platform::Places places,
                                        const platform::UserDefaults &defaults,
@@ -47,6 +64,16 @@ QString AudioFileLocations::getAudioSavePath() const
     path += m_dates.format(m_dates.now(), QStringLiteral("YYYYMMddHHmmss"));
     path += u'.' + extensionByFormat();
     return path;
+}
+
+void AudioFileLocations::makeWayAt(const QString &path)
+{
+    const qint64 second = m_dates.now().toSecsSinceEpoch();
+    const bool isOfThisSecond = m_savedPath == path && m_savedSecond == second;
+    if (!isOfThisSecond && QFileInfo::exists(path))
+        platform::renameDurably(path, freeNameLike(path));
+    m_savedPath = path;
+    m_savedSecond = second;
 }
 
 void AudioFileLocations::createFolders()

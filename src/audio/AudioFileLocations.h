@@ -32,6 +32,11 @@ public:
     // A path in the audio folder for this moment, whose file does not exist yet. Two calls within
     // one second give the same path.
     QString getAudioSavePath() const;
+    // For a save at the path, right before it. A file that an earlier save of this same second left
+    // there stays and is replaced, which is wanted. One of another moment that had the same name,
+    // since the clock was set back or repeats an hour, gets a name of its own: its lecture then has
+    // the new sound, and the file is one without a lecture.
+    void makeWayAt(const QString &path);
     // Ends in "/". Makes the folder when it is missing.
     QString getAudioFolderPath() const;
 
@@ -53,6 +58,9 @@ private:
     const platform::Dates &m_dates;
     QString m_temporaryBasePath = QStringLiteral("tempAudioFile");
     QString m_tempAudioSavePath;
+    // Of the last save.
+    QString m_savedPath;
+    qint64 m_savedSecond = 0;
 };
 
 } // namespace tarvelo::audio

@@ -112,6 +112,7 @@ NewLecture::Audio NewLecture::takeAudioToItsPlace()
     QString duration =
         audio::getDuration(audio::wholeSeconds(m_with.recording.floatRecordingDuration()));
     m_with.journal.lectureMoves(path, duration);
+    m_with.locations.makeWayAt(path);
     // Two saves within one second share a path; the later one replaces the earlier file.
     if (!platform::renameDurably(taken, path)) {
         // It may be another disk.

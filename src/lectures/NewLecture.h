@@ -37,7 +37,7 @@ public:
     {
         platform::Dates &dates;
         store::LectureDatabase &database;
-        const audio::AudioFileLocations &locations;
+        audio::AudioFileLocations &locations;
         audio::RecordingControl &recording;
         audio::Playback &playback;
         DayList &dayList;

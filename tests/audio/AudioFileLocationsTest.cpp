@@ -61,6 +61,46 @@ private Q_SLOTS:
             QCOMPARE(modeOf(path(folder)), QStringLiteral("700"));
     }
 
+    void whatStandsThereFromAnotherMomentOfThatNameIsKept()
+    {
+        use({"de_DE", QStringLiteral("Europe/Berlin")});
+        for (const char *sameTime : {"2024-10-27T00:30:00Z", "2024-10-27T01:30:00Z"}) {
+            m_clock.set(at(QString::fromLatin1(sameTime)));
+            const QString path = m_locations->getAudioSavePath();
+            m_locations->makeWayAt(path);
+            QVERIFY(write(path));
+        }
+
+        const QDir folder(m_locations->getAudioFolderPath());
+        QCOMPARE(folder.entryList(QDir::Files),
+                 QStringList({QStringLiteral("Audio - 20241027023000 2.aac"),
+                              QStringLiteral("Audio - 20241027023000.aac")}));
+    }
+
+    void whatStandsThereFromThisSecondStays()
+    {
+        const QString path = m_locations->getAudioSavePath();
+        m_locations->makeWayAt(path);
+        QVERIFY(write(path));
+
+        m_locations->makeWayAt(path);
+
+        QVERIFY(QFile::exists(path));
+        QCOMPARE(QDir(m_locations->getAudioFolderPath()).entryList(QDir::Files).size(), 1);
+    }
+
+    void earlierFilesAreAllKept()
+    {
+        const QString path = m_locations->getAudioSavePath();
+        for (int save = 0; save < 4; ++save) {
+            m_locations->makeWayAt(path);
+            QVERIFY(write(path));
+            m_clock.advance(std::chrono::hours(1));
+        }
+
+        QCOMPARE(QDir(m_locations->getAudioFolderPath()).entryList(QDir::Files).size(), 4);
+    }
+
     void foldersOfAnEarlierVersionBecomeTheirUsersAlone()
     {
         for (const char *folder : {"Notes", "Tarvelo"})

@@ -438,6 +438,34 @@ private Q_SLOTS:
         QCOMPARE(file.readAll(), QByteArray("a take"));
     }
 
+    void aSaveAfterTheClockWasSetBackKeepsTheEarlierFile()
+    {
+        const QDateTime moment = m_program->clock.now().addSecs(100);
+        for (const int later : {0, 60, 0}) { // seconds
+            m_program->recordNewLecture(3);
+            m_program->clock.set(moment.addSecs(later).addMSecs(-200));
+            finishLecture();
+        }
+
+        const QString path = controller().arrangedObjects().at(0)->strLectureAudioPath();
+        QCOMPARE(controller().arrangedObjects().at(2)->strLectureAudioPath(), path);
+        QVERIFY(QFile::exists(path));
+        QString kept = path;
+        kept.insert(path.lastIndexOf(u'.'), u" 2"_s);
+        QVERIFY(QFile::exists(kept));
+    }
+
+    void aLectureThatIsSavedAfterMidnightStandsUnderTheDayShown()
+    {
+        m_program->recordNewLecture(3);
+        m_program->clock.advance(15h);
+        QVERIFY(m_program->clock.now().date() > m_program->today().date());
+
+        finishLecture();
+
+        QCOMPARE(m_program->storedRows().value(0)["recordingDate"_L1], u"2024-03-05"_s);
+    }
+
     void aTakeIsNotFoundAfterTheFormatWasChanged()
     {
         m_program->recordNewLecture(3);
