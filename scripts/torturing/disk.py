@@ -5,6 +5,14 @@ import os
 PAGE = 4096
 
 
+def replay(root, records):
+    """What the program sees in the end: {path: bytes, or None for a folder}."""
+    disk = Disk(root)
+    for record in records:
+        disk.do(*record)
+    return {path: None if thing is FOLDER else bytes(thing.data) for path, thing in disk.names.items()}
+
+
 class File:
     def __init__(self):
         self.data = bytearray()

@@ -36,6 +36,7 @@ def run(tools, short):
     moments = sorted(tools.random.uniform(story.first, story.last) for _ in range(20 if short else 100))
     for moment in moments:
         cuts.at(moment)
+    cuts.expect_all_seen()
     tools.tell(f"{len(moments)} cuts in {story.last - story.first:.0f} s, {cuts.states} states of the disk, {len(cuts.broken)} of them with a loss")
     for line in cuts.broken[:10]:
         tools.tell(line)
@@ -126,6 +127,17 @@ class Cuts:
                 self._judge(moment)
             except Failed as failure:
                 self.broken.append(f"{moment - self._story.first:.2f} s, {variant}: {failure}")
+
+    def expect_all_seen(self):
+        """The layer missed nothing: what it makes of the end is what is there."""
+        tree = disk.replay(self._story.home, self._records)
+        for path, content in tree.items():
+            if content is not None and (not os.path.exists(path) or student.content(path) != content):
+                raise Failed(f"the layer did not see all that was done to {path}")
+        for root, _, found in os.walk(self._story.home):
+            for name in found:
+                if os.path.join(root, name) not in tree:
+                    raise Failed(f"the layer did not see where {name} came from")
 
     def _judge(self, moment):
         rows = student.rows_of(self._folder)
