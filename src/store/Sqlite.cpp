@@ -210,10 +210,8 @@ QVariant Sqlite::columnDataColumnIndex(const Statement &statement, int column) c
         const int length = sqlite3_column_bytes(handle, column);
         return QByteArray(static_cast<const char *>(sqlite3_column_blob(handle, column)), length);
     }
-    case SQLITE_NULL:
+    default: // SQLITE_NULL; there are no others
         return nullMarker();
-    default:
-        return {};
     }
 }
 
