@@ -79,7 +79,7 @@ function(tarvelo_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
-    if(TARVELO_VALGRIND)
+    if(TARVELO_VALGRIND OR TARVELO_COVERAGE)
         math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 10")
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
