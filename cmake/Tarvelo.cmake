@@ -27,12 +27,11 @@ if(TARVELO_SANITIZE)
     target_link_options(tarvelo_options INTERFACE -fsanitize=${TARVELO_SANITIZE})
 endif()
 
-# What is measured is src/ alone: counters are atomic, since the engine counts from several threads; unoptimised, so that a
-# line of the report is one of the source; and without the clean-up that the compiler would write behind every call, lest
-# that counted as branches. Files that catch keep it.
-add_library(tarvelo_counters INTERFACE)
+# Counters are atomic, since the engine counts from several threads; unoptimised, so that a line of the report is one of
+# the source; and without the clean-up that the compiler would write behind every call, lest that counted as branches.
+# Files that catch keep it. Tests count too: what stands in a header is often their copy of it.
 if(TARVELO_COVERAGE)
-    target_compile_options(tarvelo_counters INTERFACE --coverage -O0 -fprofile-update=atomic -fno-exceptions)
+    target_compile_options(tarvelo_options INTERFACE --coverage -O0 -fprofile-update=atomic -fno-exceptions)
     target_link_options(tarvelo_options INTERFACE --coverage)
 endif()
 function(tarvelo_keep_exceptions)
@@ -49,7 +48,7 @@ function(tarvelo_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
     add_library(tarvelo_${name} STATIC ${ARG_SOURCES})
     target_include_directories(tarvelo_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
-    target_link_libraries(tarvelo_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK} tarvelo_options tarvelo_counters)
+    target_link_libraries(tarvelo_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK} tarvelo_options)
     if(TARVELO_COVERAGE)
         tarvelo_keep_exceptions(${ARG_SOURCES})
     endif()

@@ -1,7 +1,5 @@
 #include "audio/engine/MovieOutput.h"
 
-#include <algorithm>
-
 namespace tarvelo::engine {
 
 namespace {
@@ -110,15 +108,12 @@ int MovieOutput::writeBytes(void *self, std::uint8_t *bytes, int count)
     if (!movie->m_output(movie->m_position, {bytes, static_cast<std::size_t>(count)}))
         return AVERROR(EIO);
     movie->m_position += count;
-    movie->m_size = std::max(movie->m_size, movie->m_position);
     return count;
 }
 
 std::int64_t MovieOutput::seek(void *self, std::int64_t offset, int whence)
 {
     auto movie = static_cast<MovieOutput *>(self);
-    if (whence == AVSEEK_SIZE)
-        return movie->m_size;
     if (whence != SEEK_SET)
         return AVERROR(EINVAL);
     return movie->m_position = offset;

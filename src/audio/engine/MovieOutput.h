@@ -42,7 +42,6 @@ private:
 
     ByteOutput m_output;
     std::int64_t m_position = 0;
-    std::int64_t m_size = 0;
     AVRational m_timeBase{0, 1};
     bool m_hasHeader = false;
     AVIOContext *m_io = nullptr;
