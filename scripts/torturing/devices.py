@@ -1,28 +1,23 @@
 """The microphone goes and comes back in every way that a desktop knows, while the program records."""
 
-import os
 import signal
 import subprocess
 import time
-import wave
-
-import numpy
 
 from outside import names, sound
 from outside.desktop import Desktop
 from outside.program import Program
-from outside.waiting import Failed, wait_for
+from outside.waiting import wait_for
 
 from . import stored
-from .played import BLOCK, SHAPE, murmur
+from .played import SHAPE
 from .result import Result
+from .spoken import Spoken
 
 EVENT = "microphone pulled out, sound server restarted, default device changed"
 PROMISE = "the gap itself; the recording goes on with what is there, or waits and goes on"
 SUBJECT = "Outages"
-ALIKE = 0.97  # the least agreement of what was spoken with its place in the take
 MOST_LATE = 1.0  # seconds that may be missing once the microphone is back
-PASSAGE = 1.5  # seconds that are spoken at a time
 LONG_HANG = 35  # seconds, after which the sound library gives up a question
 LONG_ABSENCE = 10
 
@@ -93,22 +88,20 @@ class _Trial:
         self._microphone = microphone
         self._program = Program(tools.program, desktop)
         self._hands = self._program.hands
-        self._spoken = []
-        murmured = murmur(tools.random)
-        size = round(PASSAGE * sound.RATE)
-        self._passages = [murmured[at : at + size] for at in range(0, len(murmured) - size, size)]
+        self._spoken = Spoken(tools, microphone)
 
     def take(self, number, outages, short):
         """Records one lecture with these outages in it, and gives how long after one of them something was still missing."""
-        self._spoken = []
+        self._spoken.begin()
         self._program.start(str(number))
         window = names.NEW_LECTURE_WINDOW
         try:
             self._hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)
+            self._hands.point_at(window, names.START_RECORDING)  # it may slide in late on a busy machine
             self._hands.click(window, names.START_RECORDING)
             self._hands.control(window, names.PAUSE)
             self._hands.write(window, names.SUBJECT, f"{SUBJECT} {number}")
-            self._speak()
+            self._spoken.speak()
             for outage in outages:
                 self._suffer(outage, window)
             if not outages or outages[-1] != "stopped":
@@ -121,7 +114,7 @@ class _Trial:
             self._program.expect_silence()
         finally:
             self._program.stop()
-        return self._missing(number, path, outages)
+        return self._spoken.missing(path, ', '.join(outages))
 
     def _suffer(self, outage, window):
         microphone = self._microphone
@@ -141,7 +134,7 @@ class _Trial:
             microphone.plug_in()
         elif outage == "changed":
             microphone.plug_in("other")
-            self._speak()
+            self._spoken.speak()
             microphone.choose("microphone")
         elif outage == "paused":  # in the outage, and it ends after it
             microphone.kill()
@@ -158,41 +151,4 @@ class _Trial:
             self._hands.control(window, names.PAUSE)
             microphone.restart()
         if outage != "stopped":
-            self._speak()
-
-    def _speak(self):
-        passage = self._passages[len(self._spoken)]
-        path = os.path.join(self._tools.folder, "spoken.wav")
-        with wave.open(path, "wb") as file:
-            file.setnchannels(1)
-            file.setsampwidth(2)
-            file.setframerate(sound.RATE)
-            file.writeframes((passage * 16000).astype("<i2").tobytes())
-        self._microphone.speak(path)
-        self._spoken.append(passage)
-
-    def _missing(self, number, path, outages):
-        take = sound.samples(path)
-        late = []
-        for place, passage in enumerate(self._spoken):
-            missing = _missing_at_the_beginning(take, passage)
-            if missing is None:
-                kept = self._tools.keep(f"take{number}.m4a", path)
-                raise Failed(f"passage {place} of the take with {outages} is not as it was spoken, see {kept}")
-            late.append(missing)
-        self._tools.tell(f"{', '.join(outages)}: {len(late)} passages are there, at most {max(late):.2f} s missing at their beginning")
-        return max(late)
-
-
-def _missing_at_the_beginning(take, passage):
-    """In seconds; nothing when what is there of the passage is not as it was spoken."""
-    end = passage[len(passage) // 2 : -BLOCK].astype(numpy.float64)
-    agreement, place = sound.correlation(take, end)
-    begin = round(place * sound.RATE) - len(passage) // 2
-    if agreement < ALIKE:
-        return None
-    for start in range(0, len(passage) // 2, BLOCK // 4):
-        here, there = take[max(0, begin + start) : begin + len(passage) - BLOCK], passage[start : len(passage) - BLOCK]
-        if len(here) == len(there) and numpy.corrcoef(here, there)[0, 1] >= ALIKE:
-            return start / sound.RATE
-    return len(passage) / 2 / sound.RATE
+            self._spoken.speak()
