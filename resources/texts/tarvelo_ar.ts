@@ -31,6 +31,10 @@
         <source></source>
         <translation>عاد الصوت مسموعًا</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>تبيّن في %1 أن ملف المحاضرات تالف. حُفظ جانبًا كاملًا، وعاد كل ما أمكنت قراءته.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>المحاضرات المستعادة: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>لا توجد نسخ: لم تذهب محاضرات كثيرة دفعة واحدة حتى الآن.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>تسجيلات بلا محاضرة</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Es ist wieder etwas zu hören</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>Die Datei der Vorlesungen war am %1 beschädigt. Sie wurde ganz beiseitegelegt, und alles Lesbare ist wieder da.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Zurückgeholte Vorlesungen: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Es gibt keine Kopien: Bisher sind keine Vorlesungen in größerer Zahl verschwunden.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Aufnahmen ohne Vorlesung</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Sound is heard again</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>The file of lectures was damaged on %1. It was put aside whole, and all that could be read is here again.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Lectures brought back: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>There are no copies: no lectures went in bulk so far.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Recordings without a lecture</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

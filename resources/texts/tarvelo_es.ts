@@ -31,6 +31,10 @@
         <source></source>
         <translation>Vuelve a oírse sonido</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>El archivo de las clases estaba dañado el %1. Se apartó entero, y todo lo que pudo leerse está aquí de nuevo.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Clases recuperadas: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>No hay copias: hasta ahora no han desaparecido varias clases a la vez.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Grabaciones sin clase</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Le son est de nouveau capté</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>Le fichier des cours était endommagé le %1. Il a été mis de côté en entier, et tout ce qui a pu être lu est de retour.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Cours récupérés : %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Il n’y a pas de copie : jusqu’ici, aucun cours n’a disparu en nombre.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Enregistrements sans cours</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>שוב נשמע צליל</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>ב‑%1 נמצא שקובץ ההרצאות פגום. הוא נשמר בצד בשלמותו, וכל מה שהיה אפשר לקרוא נמצא כאן שוב.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>הרצאות ששוחזרו: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>אין עותקים: עד כה לא נעלמו הרצאות רבות בבת אחת.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>הקלטות ללא הרצאה</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>आवाज़ फिर सुनाई दे रही है</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>%1 को व्याख्यानों की फ़ाइल क्षतिग्रस्त मिली। उसे पूरा अलग रख दिया गया है, और जो पढ़ा जा सका वह फिर यहाँ है।</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>वापस लाए गए व्याख्यान: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>कोई प्रति नहीं है: अब तक एक साथ कई व्याख्यान नहीं गए।</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>बिना व्याख्यान की रिकॉर्डिंग</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

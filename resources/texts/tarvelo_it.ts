@@ -31,6 +31,10 @@
         <source></source>
         <translation>Si sente di nuovo il suono</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>Il file delle lezioni era danneggiato il %1. È stato messo da parte intero, e tutto ciò che si poteva leggere è di nuovo qui.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Lezioni recuperate: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Non ci sono copie: finora non sono sparite più lezioni insieme.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Registrazioni senza lezione</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>再び音が聞こえています</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>%1に講義ファイルの破損が見つかりました。ファイルは丸ごと別に保管し、読み取れたものはすべて元に戻しました。</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>復元した講義：%1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>控えはありません。まとめて失われた講義はまだありません。</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>講義のない録音</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>다시 소리가 들립니다</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>%1에 강의 파일이 손상된 것을 발견했습니다. 파일은 그대로 따로 보관했고, 읽을 수 있는 것은 모두 되살렸습니다.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>되살린 강의: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>사본이 없습니다. 지금까지 한꺼번에 사라진 강의가 없습니다.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>강의가 없는 녹음</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

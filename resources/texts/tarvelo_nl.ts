@@ -31,6 +31,10 @@
         <source></source>
         <translation>Er is weer geluid te horen</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>Het bestand met colleges was op %1 beschadigd. Het is in zijn geheel apart gezet, en alles wat leesbaar was is hier weer.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Teruggehaalde colleges: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Er zijn geen kopieën: tot nu toe zijn er geen colleges tegelijk verdwenen.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Opnamen zonder college</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

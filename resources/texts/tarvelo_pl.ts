@@ -31,6 +31,10 @@
         <source></source>
         <translation>Znów słychać dźwięk</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>Plik wykładów był uszkodzony %1. Odłożono go w całości, a wszystko, co dało się odczytać, jest znów tutaj.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Przywrócone wykłady: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Nie ma kopii: dotąd nie zniknęło naraz wiele wykładów.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Nagrania bez wykładu</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

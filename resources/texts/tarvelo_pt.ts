@@ -31,6 +31,10 @@
         <source></source>
         <translation>Ouve-se som de novo</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>O ficheiro das aulas estava danificado em %1. Foi posto de lado inteiro, e tudo o que se pôde ler está aqui de novo.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Aulas recuperadas: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Não há cópias: até agora não desapareceram várias aulas de uma vez.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Gravações sem aula</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

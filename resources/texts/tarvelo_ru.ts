@@ -31,6 +31,10 @@
         <source></source>
         <translation>Звук снова слышен</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>Файл лекций оказался повреждён (%1). Он целиком отложен в сторону, а всё, что удалось прочитать, снова здесь.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Возвращено лекций: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Копий нет: до сих пор лекции не исчезали помногу.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Записи без лекции</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

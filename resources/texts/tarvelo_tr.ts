@@ -31,6 +31,10 @@
         <source></source>
         <translation>Ses yeniden duyuluyor</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>Ders dosyasının %1 tarihinde hasarlı olduğu görüldü. Dosya bütünüyle bir kenara kondu; okunabilen her şey yine burada.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Geri getirilen dersler: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Kopya yok: şimdiye kadar toplu ders kaybı olmadı.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Dersi olmayan kayıtlar</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Звук знову чути</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>Файл лекцій виявився пошкодженим (%1). Його цілком відкладено, а все, що вдалося прочитати, знову тут.</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>Повернено лекцій: %1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>Копій немає: досі лекції не зникали по кілька відразу.</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>Записи без лекції</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

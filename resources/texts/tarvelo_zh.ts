@@ -31,6 +31,10 @@
         <source></source>
         <translation>又听到声音了</translation>
     </message>
+    <message id="BRING_BACK_DAMAGED">
+        <source></source>
+        <translation>%1 发现讲座文件已损坏。该文件已完整另存，所有能读取的内容都已恢复。</translation>
+    </message>
     <message id="BRING_BACK_DONE">
         <source></source>
         <translation>已找回的讲座：%1</translation>
@@ -46,6 +50,10 @@
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
         <translation>没有副本：到目前为止没有讲座成批消失。</translation>
+    </message>
+    <message id="BRING_BACK_RECORDINGS">
+        <source></source>
+        <translation>没有讲座的录音</translation>
     </message>
     <message id="BUTTON_BRING_BACK">
         <source></source>

@@ -47,7 +47,9 @@ AppDelegate::AppDelegate(const AppServices &services)
     , m_window(services.windows.mainWindow())
     , m_calendarView(*services.windows.mainOutlets().calendarView)
     , m_preferences(services.defaults, m_window, services.loginItem)
-    , m_bringBack(services.database, services.dates, m_window)
+    , m_bringBack(
+          services.database, services.dates,
+          [this] { return m_mediaLinksArrayController.getAudioFolderPath(); }, m_window)
     , m_menus(
           m_window, [this](Command command) { run(command); },
           [this](QAction *entry) { showHelp(entry); })

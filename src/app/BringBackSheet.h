@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/UnlistedRecordings.h"
 #include "store/LectureBackups.h"
 
 #include <QObject>
@@ -19,7 +20,9 @@ class LectureDatabase;
 namespace tarvelo::app {
 
 // The sheet of the main window that shows the copies made before lectures went in bulk, newest
-// first, and brings back what is missing from the one chosen. It says what came of it.
+// first, and brings back what is missing from the one chosen. Recordings without a lecture are one
+// more entry, which comes when they have been looked for. It says what came of it, and that a file
+// of lectures was damaged.
 class BringBackSheet final : public QObject
 {
     Q_OBJECT
@@ -27,10 +30,11 @@ class BringBackSheet final : public QObject
 public:
     // All must outlive this object, which parents its sheet to `mainWindow`.
     BringBackSheet(store::LectureDatabase &database, const platform::Dates &dates,
-                   QWidget &mainWindow);
+                   std::function<QString()> audioFolder, QWidget &mainWindow);
     ~BringBackSheet() override;
 
     QDialog *sheet() const { return m_sheet; }
+    const audio::UnlistedRecordings &recordings() const { return m_recordings; }
     void show();
 
 Q_SIGNALS:
@@ -39,14 +43,20 @@ Q_SIGNALS:
 private:
     void build();
     void list();
+    void addEntry(const QString &name, int lectures, int missing);
+    void listRecordings();
+    void sayWhatWasDamaged();
     void offer();
     void bringBack();
+    std::optional<int> bringBackRow(int row);
 
     store::LectureDatabase &m_database;
     const platform::Dates &m_dates;
+    audio::UnlistedRecordings m_recordings;
     QList<store::LectureBackups::Copy> m_copies;
     QDialog *m_sheet; // child of the main window, and all below are its
     QTreeWidget *m_list = nullptr;
+    QLabel *m_damaged = nullptr;
     QLabel *m_outcome = nullptr;
     QPushButton *m_bringBack = nullptr;
 };

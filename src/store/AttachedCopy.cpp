@@ -1,5 +1,6 @@
 #include "store/AttachedCopy.h"
 
+#include "store/RecordingRows.h"
 #include "store/Sqlite.h"
 #include "store/Tables.h"
 
@@ -60,6 +61,20 @@ int AttachedCopy::missing() const
         return lectures();
     return numberFrom(m_database, QStringLiteral("SELECT count(*)") + fromMissing(), {isMarked()})
         .value_or(lectures());
+}
+
+QList<QVariantList> AttachedCopy::lecturesWith(const QStringList &fileNames) const
+{
+    QList<QVariantList> lectures;
+    const auto rows =
+        isReadable() ? lecturesWithRecordings(fileNames, "copy", m_database) : std::nullopt;
+    for (const Row &row : rows.value_or(Rows())) {
+        QVariantList lecture;
+        for (const QString &column : LectureColumns.split(QStringLiteral(", ")))
+            lecture.append(row.value(column));
+        lectures.append(lecture);
+    }
+    return lectures;
 }
 
 // The free IDs first, so that none of them is given away.

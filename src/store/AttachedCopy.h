@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
+#include <QVariantList>
 
 namespace tarvelo::store {
 
@@ -21,6 +22,8 @@ public:
     int lectures() const;
     // All of them when they cannot be compared.
     int missing() const;
+    // Those with recordings of such names, as the insert statement takes them.
+    QList<QVariantList> lecturesWith(const QStringList &fileNames) const;
     // All or none, in the caller's transaction: under their own IDs where those are free, the
     // others behind all there are.
     bool putBackMissing();

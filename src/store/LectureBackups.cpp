@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 
 #include <algorithm>
 #include <utility>
@@ -125,6 +126,26 @@ std::optional<int> LectureBackups::bringBack(const QString &copyPath, Sqlite &da
         return missing;
     database.rollback();
     return std::nullopt;
+}
+
+void LectureBackups::fillIn(QList<QVariantList> &rows, Sqlite &database) const
+{
+    constexpr qsizetype Path = 6;
+    QHash<QString, QVariantList *> unknown;
+    QStringList recordings;
+    for (QVariantList &row : rows) {
+        const QString path = row.at(Path).toString();
+        unknown.insert(QDir::cleanPath(path), &row);
+        recordings.append(QFileInfo(path).fileName());
+    }
+    QStringList names = namesOfCopies();
+    std::reverse(names.begin(), names.end());
+    for (const QString &name : std::as_const(names)) {
+        const AttachedCopy copy(database, pathOf(name));
+        for (const QVariantList &known : copy.lecturesWith(recordings))
+            if (QVariantList *const row = unknown.take(QDir::cleanPath(known.at(Path).toString())))
+                *row = known;
+    }
 }
 
 void LectureBackups::holdRoom(const Sqlite &database) const

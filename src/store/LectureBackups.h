@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QStringList>
+#include <QVariantList>
 
 #include <optional>
 
@@ -49,6 +50,10 @@ public:
     // and then nothing has changed; else how many came back. A lecture that came back once is not
     // missing any more, also when it was changed or deleted since.
     std::optional<int> bringBack(const QString &copyPath, Sqlite &database) const;
+
+    // Rows for new lectures, as the insert statement takes them, get all that the newest copy with
+    // their recording knows.
+    void fillIn(QList<QVariantList> &rows, Sqlite &database) const;
 
     // Holds so much room on the disk that the next copy can be made on one that is full.
     void holdRoom(const Sqlite &database) const;

@@ -1,14 +1,17 @@
 #include "app/BringBackSheet.h"
 
 #include "app/Application.h"
+#include "audio/engine/Recordings.h"
 #include "calendar/CKCalendarView.h"
 #include "platform/Texts.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
 #include "support/LectureBuilder.h"
 #include "support/TestCase.h"
+#include "support/TestSound.h"
 
 #include <QDialog>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -85,6 +88,71 @@ private Q_SLOTS:
         QCOMPARE(outcome(), u"Lectures brought back: 2"_s);
     }
 
+    void recordingsWithoutALectureAreOneMoreEntryBehindTheCopies()
+    {
+        loseTwoLectures();
+        putRecording("Audio - 1.m4a");
+        putRecording("Audio - 2.m4a");
+
+        openAndSearch();
+
+        QCOMPARE(list().topLevelItemCount(), 2);
+        QVERIFY(list().topLevelItem(0)->isSelected());
+        QCOMPARE(list().topLevelItem(1)->text(0), u"Recordings without a lecture"_s);
+        QCOMPARE(list().topLevelItem(1)->text(1), u"2"_s);
+        QCOMPARE(list().topLevelItem(1)->text(2), u"2"_s);
+    }
+
+    void withoutCopiesTheRecordingsAreChosenAndComeBackByTheKeyboard()
+    {
+        putRecording("Audio - 1.m4a");
+        m_app->delegate.calendarDidSelectDate(nullptr, m_app->clock.now());
+        openAndSearch();
+        QCOMPARE(outcome(), QString());
+        QVERIFY(list().isEnabled());
+        QVERIFY(list().topLevelItem(0)->isSelected());
+
+        QTest::keyClick(&sheet(), Qt::Key_Return);
+
+        QCOMPARE(outcome(), u"Lectures brought back: 1"_s);
+        QCOMPARE(list().topLevelItemCount(), 0);
+        QVERIFY(!button().isEnabled());
+        QCOMPARE(m_app->controller.arrangedObjects().size(), 1U);
+        openAndSearch();
+        QCOMPARE(list().topLevelItemCount(), 0);
+    }
+
+    void whatIsChosenStaysChosenWhenTheRecordingsCome()
+    {
+        loseTwoLectures();
+        m_app->clock.advance(std::chrono::hours(1));
+        loseTwoLectures();
+        putRecording("Audio - 1.m4a");
+        open();
+        list().setCurrentItem(list().topLevelItem(1));
+
+        waitForSearch();
+
+        QCOMPARE(list().topLevelItemCount(), 3);
+        QVERIFY(list().topLevelItem(1)->isSelected());
+    }
+
+    void ofADamagedFileALineTells()
+    {
+        open();
+        QVERIFY(!damaged().isVisible());
+        sheet().close();
+        m_app->home.writeDatabaseFile("no database");
+        m_app->clock.advance(std::chrono::hours(24));
+        QVERIFY(m_app->database.damagedFiles().putAside(m_app->home.databaseFile()));
+
+        open();
+
+        QVERIFY(damaged().isVisible());
+        QCOMPARE(damaged().text(), u"The file of lectures was damaged on Mar 6, 2024. It was put "
+                                   "aside whole, and all that could be read is here again."_s);
+    }
+
     void itsCloseButtonClosesIt()
     {
         open();
@@ -102,6 +170,25 @@ private:
     QDialog &sheet() const { return *m_app->delegate.bringBackSheet().sheet(); }
     QTreeWidget &list() const { return *sheet().findChild<QTreeWidget *>(u"copies"_s); }
     QPushButton &button() const { return *sheet().findChild<QPushButton *>(u"bringBack"_s); }
+    void waitForSearch() const
+    {
+        QTRY_VERIFY_WITH_TIMEOUT(!m_app->delegate.bringBackSheet().recordings().isSearching(),
+                                 60000);
+    }
+    void openAndSearch() const
+    {
+        open();
+        waitForSearch();
+    }
+    // Of today.
+    void putRecording(const char *name) const
+    {
+        QFile file(m_app->controller.getAudioFolderPath() + QLatin1String(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(m_sound) == m_sound.size());
+        QVERIFY(file.flush());
+        QVERIFY(file.setFileTime(m_app->clock.now(), QFileDevice::FileModificationTime));
+    }
+    QLabel &damaged() const { return *sheet().findChild<QLabel *>(u"damaged"_s); }
     QString outcome() const { return sheet().findChild<QLabel *>(u"outcome"_s)->text(); }
 
     // Two without a recording, which go together.
@@ -113,6 +200,7 @@ private:
         m_app->database.deleteVoiceData(lecture);
     }
 
+    const QByteArray m_sound = tarvelo::tests::recordingOf(tarvelo::tests::tune(44100, 1));
     std::unique_ptr<Application> m_app;
 };
 

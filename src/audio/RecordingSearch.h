@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <QStringList>
+
+#include <atomic>
+#include <thread>
+
+namespace tarvelo::audio {
+
+struct FoundRecording
+{
+    QString path;
+    QDateTime modified;
+    double seconds = 0;
+};
+
+// Finds out which of the files hold sound, and how much, on a thread of its own: with hundreds of
+// them it takes a while. The signal comes on the main thread, once. The thread ends with this
+// object, after the file that it is at.
+class RecordingSearch final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit RecordingSearch(const QStringList &paths);
+    ~RecordingSearch() override;
+
+Q_SIGNALS:
+    void finished(const QList<tarvelo::audio::FoundRecording> &recordings);
+
+private:
+    void run(const QStringList &paths);
+
+    std::atomic<bool> m_isWanted = true;
+    std::thread m_thread;
+};
+
+} // namespace tarvelo::audio

@@ -1,0 +1,136 @@
+#include "audio/UnlistedRecordings.h"
+
+#include "audio/DurationText.h"
+#include "audio/RecordingDay.h"
+#include "platform/Dates.h"
+#include "store/LectureDatabase.h"
+#include "store/LectureJournal.h"
+#include "store/RecordingRows.h"
+#include "store/Statements.h"
+#include "store/Tables.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvelo::audio {
+
+namespace {
+
+// The same for all ways to write a path to the same file.
+QString plain(const QString &path)
+{
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return real.isEmpty() ? QDir::cleanPath(path) : real;
+}
+
+QStringList namesOf(const QStringList &paths)
+{
+    QStringList names;
+    for (const QString &path : paths)
+        names.append(QFileInfo(path).fileName());
+    return names;
+}
+
+} // namespace
+
+UnlistedRecordings::UnlistedRecordings(store::LectureDatabase &database,
+                                       const platform::Dates &dates,
+                                       std::function<QString()> audioFolder)
+    : m_database(database)
+    , m_dates(dates)
+    , m_audioFolder(std::move(audioFolder))
+{
+}
+
+UnlistedRecordings::~UnlistedRecordings() = default;
+
+void UnlistedRecordings::search()
+{
+    m_found.clear();
+    m_search = std::make_unique<RecordingSearch>(unlisted());
+    connect(m_search.get(), &RecordingSearch::finished, this,
+            [this](const QList<FoundRecording> &recordings) {
+                m_found = recordings;
+                m_search.release()->deleteLater();
+                Q_EMIT searched();
+            });
+}
+
+std::optional<int> UnlistedRecordings::bringBack()
+{
+    const QStringList still = unlisted();
+    m_found.removeIf([&still](const FoundRecording &found) { return !still.contains(found.path); });
+    store::Sqlite *const database = m_database.openDb();
+    if (!database)
+        return std::nullopt;
+    QList<QVariantList> rows;
+    QStringList paths;
+    for (const FoundRecording &recording : std::as_const(m_found)) {
+        rows.append(rowFor(recording));
+        paths.append(recording.path);
+    }
+    m_database.backups().fillIn(rows, *database);
+    if (!store::insertAll(rows, *database))
+        return std::nullopt;
+    m_found.clear();
+    return static_cast<int>(rows.size());
+}
+
+// In the order of their names, each file once, with the paths that a lecture would have.
+QStringList UnlistedRecordings::unlisted() const
+{
+    const QString folder = m_audioFolder();
+    QStringList paths;
+    for (const QFileInfo &file : QDir(folder).entryInfoList(
+             {QStringLiteral("*.m4a"), QStringLiteral("*.aac")}, QDir::Files, QDir::Name))
+        if (file.size() > 0)
+            paths.append(folder + u'/' + file.fileName());
+    const auto listedPaths = listed(namesOf(paths));
+    if (!listedPaths)
+        return {};
+    QSet<QString> known;
+    for (const QString &path : *listedPaths + promised())
+        known.insert(plain(path));
+    paths.removeIf([&known](const QString &path) {
+        const qsizetype before = known.size();
+        known.insert(plain(path));
+        return known.size() == before;
+    });
+    return paths;
+}
+
+// Null when it cannot be known now, and then no file may be taken for one without a lecture.
+std::optional<QStringList> UnlistedRecordings::listed(const QStringList &names) const
+{
+    store::Sqlite *const database = m_database.openDb();
+    return database ? store::pathsOfRecordings(names, *database) : std::nullopt;
+}
+
+// To lectures whose rows are still to be stored, in this run or at the next start: what lies beside
+// the take says so, under whatever name.
+QStringList UnlistedRecordings::promised() const
+{
+    constexpr qint64 LargestJournal = 16 << 20; // bytes
+    const QDir temporary(QFileInfo(m_database.backups().folder()).path() + QStringLiteral("/temp"));
+    QStringList paths;
+    for (const QFileInfo &file : temporary.entryInfoList(QDir::Files | QDir::Hidden)) {
+        const auto journal =
+            file.size() < LargestJournal ? store::journalIn(file.filePath()) : std::nullopt;
+        if (journal && !journal->target.isEmpty())
+            paths.append(journal->target);
+    }
+    return paths;
+}
+
+QVariantList UnlistedRecordings::rowFor(const FoundRecording &recording) const
+{
+    return store::newLectureRow(store::subjectToStore(QString()), QString(),
+                                dayOfRecording(recording.path, recording.modified, m_dates),
+                                recording.path, getDuration(wholeSeconds(recording.seconds)));
+}
+
+} // namespace tarvelo::audio
