@@ -46,8 +46,8 @@ public:
     // Seconds of sound taken so far, counted in samples: time spent paused is no part of it. Keeps
     // its value after stop().
     virtual double currentTime() const = 0;
-    // What the microphone gave to the take that runs, nothing while there is none. Time spent paused
-    // is no part of it.
+    // What the microphone gave to the take that runs, nothing while there is none. Time spent
+    // paused is no part of it.
     virtual SoundHeard soundHeard() const = 0;
     virtual void setMeteringEnabled(bool enabled) = 0;
     virtual void updateMeters() = 0;
