@@ -104,7 +104,9 @@ class Hands:
         self._xdotool("type", "--delay", "20", text)
 
     def press(self, window, keys):
-        found = self._xdotool("search", "--onlyvisible", "--name", f"^{window}$").split()
+        # The screen may show it a moment later than the accessibility bus tells of it.
+        found = wait_for(f"{window!r} on the screen", lambda: subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--name", f"^{window}$"], capture_output=True, text=True, check=False).stdout.split())
         self._xdotool("windowactivate", "--sync", found[-1], "key", keys)
 
     def describe(self):

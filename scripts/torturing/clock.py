@@ -108,6 +108,7 @@ class _Trial:
         window = names.NEW_LECTURE_WINDOW
         self._spoken.begin()
         self._show(begin)
+        self._hands.press(names.MAIN_WINDOW, "Home")  # to today, as that is now
         self._hands.press(names.MAIN_WINDOW, "ctrl+n")
         self._hands.window(window)
         self._hands.point_at(window, names.START_RECORDING)  # it may slide in late on a busy machine
