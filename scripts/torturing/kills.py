@@ -65,7 +65,10 @@ def _kill_recorder(tools, played, number, how, moment):
             raise Failed(f"the recorder ended with {recorder.returncode} and said {said!r}")
         take = sound.samples(path)
         # The witness may lag a little on a busy machine, and then the recorder's own word is the harder one.
-        return max(heard - played.span(take, heard)[1], recorded - len(take) / sound.RATE)
+        lost = max(heard - played.span(take, heard)[1], recorded - len(take) / sound.RATE)
+        if lost > MOST_LOST:
+            tools.tell(f"kill {number} ({how.name}) cost {lost:.2f} s: the recorder told {recorded:.2f} s, the file has {len(take) / sound.RATE:.2f} s")
+        return lost
     except Failed as failure:
         raise Failed(f"kill {number} ({how.name} at {recorded:.2f} s): {failure}; see {tools.keep(os.path.basename(path), path)}")
 
