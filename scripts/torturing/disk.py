@@ -28,7 +28,7 @@ def read_log(path):
         while head := file.readline():
             operation, seconds, *numbers = head.split()
             offset, length, of_path, of_other = (int(number) for number in numbers)
-            name, other = file.read(of_path).decode(), file.read(of_other).decode()
+            name, other = (os.path.normpath(file.read(size).decode()) for size in (of_path, of_other))
             data = file.read(length) if operation == b"write" else b""
             yield operation.decode(), float(seconds), name, other, offset, data
 
@@ -83,6 +83,9 @@ class Disk:
         moved = [path for path in self.names if path == name or path.startswith(name + "/")]
         for path in moved:
             self.names[other + path[len(name):]] = self.names.pop(path)
+
+    def _swap(self, name, other, *_):
+        self.names[name], self.names[other] = self.names[other], self.names[name]
 
     def _link(self, name, other, *_):
         self.names[other] = self.names[name]

@@ -260,7 +260,7 @@ int renameat2(int folder, const char *from, int toFolder, const char *to, unsign
     return noted(
         isOurs(source.c_str()) || isOurs(target.c_str()),
         [&] { return next(folder, from, toFolder, to, flags); },
-        [&](int) { note("rename", source, target); });
+        [&](int) { note((flags & RENAME_EXCHANGE) != 0 ? "swap" : "rename", source, target); });
 }
 
 int link(const char *from, const char *to) noexcept

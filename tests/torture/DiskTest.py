@@ -42,6 +42,13 @@ class DiskTest(unittest.TestCase):
         self.assertEqual(disk_after(*moved)["only what was synced"], {"/home": None, "/home/a": b"text"})
         self.assertEqual(disk_after(*moved, ("sync", "/home"))["only what was synced"], {"/home": None, "/home/b": b"text"})
 
+    def test_two_files_change_names_when_their_folder_is_synced(self):
+        swapped = [("create", "/home/a"), ("write", "/home/a", 0, b"a"), ("sync", "/home/a"), ("create", "/home/b"), ("sync", "/home"),
+                   ("swap", "/home/a", "/home/b")]
+
+        self.assertEqual(disk_after(*swapped)["only what was synced"]["/home/a"], b"a")
+        self.assertEqual(disk_after(*swapped, ("sync", "/home"))["only what was synced"]["/home/b"], b"a")
+
     def test_a_removed_file_comes_back_until_the_folder_is_synced(self):
         removed = [("create", "/home/a"), ("sync", "/home"), ("unlink", "/home/a")]
 
