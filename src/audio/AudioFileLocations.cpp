@@ -55,13 +55,26 @@ QString AudioFileLocations::getAudioFolderPath() const
 
 QString AudioFileLocations::getAudioSavePath() const
 {
+    return audioSavePathOf(m_dates.now());
+}
+
+QString AudioFileLocations::freeAudioSavePath() const
+{
+    QDateTime moment = m_dates.now();
+    while (QFileInfo::exists(audioSavePathOf(moment)))
+        moment = moment.addSecs(1);
+    return audioSavePathOf(moment);
+}
+
+QString AudioFileLocations::audioSavePathOf(const QDateTime &moment) const
+{
     QString path = getAudioFolderPath();
     // The second slash is wanted: it is part of every stored path, and file systems take both for
     // one.
     path += QStringLiteral("/Audio - ");
     // The year of the week is wanted here, so a name of the last days of December can begin with
     // the next year.
-    path += m_dates.format(m_dates.now(), QStringLiteral("YYYYMMddHHmmss"));
+    path += m_dates.format(moment, QStringLiteral("YYYYMMddHHmmss"));
     path += u'.' + extensionByFormat();
     return path;
 }
@@ -81,9 +94,9 @@ void AudioFileLocations::createFolders()
     const QString own = m_places.applicationSupport + u'/' + m_places.processName;
     for (const QString &folder : {own, m_places.applicationSupport + QStringLiteral("/Tarvelo")})
         platform::keepFolderPrivate(expandingTilde(folder));
-    const QString temporary = expandingTilde(own + QStringLiteral("/temp"));
-    createFolderIfMissing(temporary);
-    m_temporaryBasePath = temporary + u'/' + m_temporaryBasePath;
+    m_temporaryFolder = expandingTilde(own + QStringLiteral("/temp"));
+    createFolderIfMissing(m_temporaryFolder);
+    m_temporaryBasePath = m_temporaryFolder + u'/' + m_temporaryBasePath;
     // Made but not written to: saved files go to the product's folder. The two are one when the
     // program runs under its own name, and both are wanted.
     createFolderIfMissing(expandingTilde(own + QStringLiteral("/Audio")));

@@ -2,6 +2,7 @@
 
 #include "platform/Process.h"
 
+#include <QDateTime>
 #include <QString>
 
 namespace tarvelo::platform {
@@ -25,6 +26,8 @@ public:
 
     // The file of the take: empty until setTempAudioSavePathWithFormat() ran once.
     const QString &tempAudioSavePath() const { return m_tempAudioSavePath; }
+    // Where the temporary file lies, and what belongs to it; empty until createFolders() ran.
+    const QString &temporaryFolder() const { return m_temporaryFolder; }
     // The temporary file's path without an extension; the bare name until createFolders() ran.
     const QString &temporaryBasePath() const { return m_temporaryBasePath; }
     // "aac" when the preference "fileFormat" is 0, else "m4a". Read afresh at each call.
@@ -37,6 +40,8 @@ public:
     // since the clock was set back or repeats an hour, gets a name of its own: its lecture then has
     // the new sound, and the file is one without a lecture.
     void makeWayAt(const QString &path);
+    // The same, but of the next second whose path nobody has yet.
+    QString freeAudioSavePath() const;
     // Ends in "/". Makes the folder when it is missing.
     QString getAudioFolderPath() const;
 
@@ -53,9 +58,12 @@ public:
     void clearTempAudioSavePath() { m_tempAudioSavePath.clear(); }
 
 private:
+    QString audioSavePathOf(const QDateTime &moment) const;
+
     platform::Places m_places;
     const platform::UserDefaults &m_defaults;
     const platform::Dates &m_dates;
+    QString m_temporaryFolder;
     QString m_temporaryBasePath = QStringLiteral("tempAudioFile");
     QString m_tempAudioSavePath;
     // Of the last save.

@@ -1,6 +1,7 @@
 #include "lectures/LectureJournalKeeper.h"
 
 #include "audio/AudioFileLocations.h"
+#include "audio/LeftLectures.h"
 #include "lectures/DayList.h"
 #include "platform/Dates.h"
 #include "widgets/WholeText.h"
@@ -10,8 +11,16 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <utility>
+
+using namespace std::chrono_literals;
 
 namespace tarvelo::lectures {
+
+namespace {
+// The list of the day shows by then.
+constexpr auto AfterStart = 900ms;
+} // namespace
 
 using audio::TakeEvent;
 using State = store::LectureJournal::State;
@@ -21,6 +30,7 @@ LectureJournalKeeper::LectureJournalKeeper(const Collaborators &collaborators,
     : m_with(collaborators)
     , m_outlets(outlets)
     , m_write(collaborators.dates.clock(), [this] { writeNow(); })
+    , m_storeOwed(collaborators.dates.clock(), [this] { storeOwed(); })
 {
     m_with.recording.setTakeObserver([this](TakeEvent event) { takeChanged(event); });
     const auto changed = [this] { textChanged(); };
@@ -35,13 +45,19 @@ LectureJournalKeeper::~LectureJournalKeeper()
 
 void LectureJournalKeeper::start()
 {
-    m_folder = QFileInfo(m_with.locations.temporaryBasePath()).path();
-    if (!m_writer && m_owner.own(m_folder))
-        m_writer = std::make_unique<store::JournalWriter>(m_folder + u'/' + journalName());
+    m_folder = m_with.locations.temporaryFolder();
+    if (m_writer || !m_owner.own(m_folder))
+        return;
+    m_with.left.setAside();
+    m_writer = std::make_unique<store::JournalWriter>(m_folder + u'/' + journalName());
+    m_isStartUp = m_with.left.owed() > 0;
+    if (m_isStartUp)
+        m_storeOwed.schedule(AfterStart);
 }
 
 void LectureJournalKeeper::lectureOpened()
 {
+    leaveBehind();
     m_isOpen = true;
     m_journal = {};
     m_journal.id = m_with.dates.now().toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz"));
@@ -122,12 +138,44 @@ void LectureJournalKeeper::lectureMoves(const QString &target, const QString &du
     flush();
 }
 
-void LectureJournalKeeper::lectureStored(bool isStored)
+void LectureJournalKeeper::lectureStored(bool isStored, const Lecture &lecture)
 {
+    const QString &target = m_journal.target;
+    if (isStored && (target.isEmpty() || QFileInfo::exists(target))) {
+        endWithoutJournal();
+        return;
+    }
     m_isOpen = false;
     m_write.cancel();
-    if (m_writer && isStored)
-        m_writer->remove();
+    m_isOwed = m_writer != nullptr;
+    m_owed.insert(m_journal.id, lecture);
+    if (m_isOwed && m_storeOwed.pendingCount() == 0)
+        m_storeOwed.schedule(RetryInterval);
+}
+
+// Out of the way of the next lecture.
+void LectureJournalKeeper::leaveBehind()
+{
+    if (!std::exchange(m_isOwed, false))
+        return;
+    flush();
+    m_with.left.setAside();
+}
+
+void LectureJournalKeeper::storeOwed()
+{
+    leaveBehind();
+    bool isAnyStored = false;
+    m_with.left.storeOwed([this, &isAnyStored](const QString &id, qint64 row) {
+        isAnyStored = true;
+        if (const Lecture lecture = m_owed.take(id).lock())
+            lecture->setRecordUniqueID(row);
+    });
+    const bool isStartUp = std::exchange(m_isStartUp, false);
+    if (isAnyStored)
+        m_with.lecturesStored(isStartUp);
+    if (m_with.left.owed() > 0)
+        m_storeOwed.schedule(RetryInterval);
 }
 
 void LectureJournalKeeper::lectureClosed()
@@ -141,7 +189,15 @@ void LectureJournalKeeper::lectureCancelled()
     if (QFileInfo::exists(m_with.locations.tempAudioSavePath()))
         endWithMark();
     else
-        lectureStored(true);
+        endWithoutJournal();
+}
+
+void LectureJournalKeeper::endWithoutJournal()
+{
+    m_isOpen = false;
+    m_write.cancel();
+    if (m_writer)
+        m_writer->remove();
 }
 
 void LectureJournalKeeper::endWithMark()

@@ -1,15 +1,22 @@
 #pragma once
 
 #include "audio/RecordingControl.h"
+#include "lectures/LectureList.h"
 #include "lectures/LectureOutlets.h"
 #include "platform/DelayedCall.h"
 #include "platform/FolderOwner.h"
 #include "store/JournalWriter.h"
 #include "store/LectureJournal.h"
 
+#include <QHash>
 #include <QObject>
 
+#include <functional>
 #include <memory>
+
+namespace tarvelo::audio {
+class LeftLectures;
+}
 
 namespace tarvelo::lectures {
 
@@ -24,6 +31,8 @@ class LectureJournalKeeper final
 public:
     // Less than the five seconds after which nothing may be lost any more.
     static constexpr std::chrono::seconds Interval{4};
+    // Between two tries to store what the disk had no room for.
+    static constexpr std::chrono::seconds RetryInterval{10};
 
     // All of them outlive this object.
     struct Collaborators
@@ -32,6 +41,10 @@ public:
         const audio::AudioFileLocations &locations;
         audio::RecordingControl &recording;
         const DayList &dayList;
+        audio::LeftLectures &left;
+        // Rows that had no room, or that a process which died left to this one, are stored by now;
+        // whether the list may be without them.
+        std::function<void(bool)> lecturesStored;
     };
 
     LectureJournalKeeper(const Collaborators &collaborators, const NewLectureOutlets &outlets);
@@ -44,7 +57,7 @@ public:
     // A take beside it was left on purpose.
     static QString closedMarkName() { return QStringLiteral("lecture.closed"); }
 
-    // To be called once the folders are there.
+    // To be called once the folders are there. What an earlier process left is out of the way then.
     void start();
     bool ownsTake() const { return m_owner.owns(); }
 
@@ -53,7 +66,8 @@ public:
     void lectureDone();
     // The recording, if there is one, is about to be moved to `target`. Waits until the disk knows.
     void lectureMoves(const QString &target, const QString &duration);
-    void lectureStored(bool isStored);
+    // When it is not, the journal stays, and the row is stored as soon as that can be done.
+    void lectureStored(bool isStored, const Lecture &lecture);
     // Its take stays where it is.
     void lectureClosed();
     void lectureCancelled();
@@ -68,6 +82,9 @@ private:
     void textChanged();
     store::LectureJournal journal() const;
     void endWithMark();
+    void endWithoutJournal();
+    void leaveBehind();
+    void storeOwed();
 
     Collaborators m_with;
     NewLectureOutlets m_outlets;
@@ -75,9 +92,13 @@ private:
     QString m_folder;
     std::unique_ptr<store::JournalWriter> m_writer; // null as long as the folder is not ours
     bool m_isOpen = false;
+    bool m_isOwed = false; // the journal is of a lecture that is done and not stored
+    QHash<QString, std::weak_ptr<store::LectureInfoItem>> m_owed; // by the journal's ID
     store::LectureJournal m_journal; // what cannot be read from the window
     QDateTime m_written;
     platform::DelayedCall m_write;
+    platform::DelayedCall m_storeOwed;
+    bool m_isStartUp = false;
     QObject m_texts; // hears of their changes, as long as this object lives
 };
 

@@ -55,7 +55,9 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
                   [this] { reloadData(); }, [this] { goToCalendarView(nullptr); },
                   services.pendingRow},
                  windows.mainOutlets(), windows.popoverOutlets())
-    , m_journal({services.dates, m_locations, m_recordingControl, m_dayList},
+    , m_left(m_locations, services.dates, services.database)
+    , m_journal({services.dates, m_locations, m_recordingControl, m_dayList, m_left,
+                 [this](bool inList) { showStoredLectures(inList); }},
                 windows.newLectureOutlets())
     , m_newLecture({services.dates, services.database, m_locations, m_recordingControl, m_playback,
                     m_dayList, m_editing, m_journal, services.alerts},
@@ -252,6 +254,13 @@ void MediaLinksArrayController::onClosePlayAudioWindow(QWidget *sender)
     m_stopSoundPlay.schedule(StopAfterChange);
     if (sender && sender->window() != &m_windows.mainWindow())
         sender->window()->hide();
+}
+
+void MediaLinksArrayController::showStoredLectures(bool inList)
+{
+    m_windows.mainOutlets().calendarView->layoutSubviews();
+    if (inList && dateOfButtonClicked().isValid())
+        prepareViewForDate(dateOfButtonClicked());
 }
 
 void MediaLinksArrayController::reloadData()

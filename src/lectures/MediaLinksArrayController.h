@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/AudioFileLocations.h"
+#include "audio/LeftLectures.h"
 #include "audio/Playback.h"
 #include "audio/RecordingControl.h"
 #include "audio/RecordingWatch.h"
@@ -190,6 +191,9 @@ public:
     void doSaveNewAudioInfos() { m_newLecture.doSaveNewAudioInfos(); }
     void saveWhatWaits();
     LectureJournalKeeper &journal() { return m_journal; }
+    // What new lectures of processes that died left behind.
+    audio::LeftLectures &leftLectures() { return m_left; }
+    engine::AudioEngine &audioEngine() const { return m_services.engine; }
     void onCancelAddNewLecture(QWidget *sender) { m_newLecture.onCancelAddNewLecture(sender); }
     void onCloseLectureWindow(QWidget *sender) { m_newLecture.onCloseLectureWindow(sender); }
     void onDone(QWidget *sender) { m_newLecture.onDone(sender); }
@@ -264,6 +268,7 @@ private:
     void setInsertionPointColors();
     void tagConfirmButtons();
     void reloadData();
+    void showStoredLectures(bool inList);
     void removeArrangedObject(int row);
 
     LectureServices m_services;
@@ -283,6 +288,7 @@ private:
     LectureEditing m_editing;
     TextActivity m_textActivity{*this};
     LectureDeletion m_deletion;
+    audio::LeftLectures m_left;
     LectureJournalKeeper m_journal;
     NewLecture m_newLecture;
     CloseGuards m_closeGuards;

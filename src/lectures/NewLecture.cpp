@@ -138,7 +138,6 @@ void NewLecture::doSaveNewAudioInfos()
     const bool isStored = m_with.database.insertIntoDbwithSqlStatementWithArguments(
         store::statements::Insert,
         store::newLectureRow(subject, notes, day, audio.path, audio.duration));
-    m_with.journal.lectureStored(isStored);
 
     auto lecture = std::make_shared<store::LectureInfoItem>(
         subject, store::NewLectureCourse, store::NewLectureStart, store::NewLectureEnd, true);
@@ -147,6 +146,7 @@ void NewLecture::doSaveNewAudioInfos()
     if (store::Sqlite *connection = m_with.database.connection())
         lecture->setRecordUniqueID(connection->lastinsertedRowID());
     lecture->setLectureAudioPath(audio.path);
+    m_with.journal.lectureStored(isStored, lecture);
     m_with.dayList.append(lecture);
     LectureTable &table = *m_outlets.main.tblRecordSubjectList;
     table.scrollRowToVisible(table.rowCount() - 1);

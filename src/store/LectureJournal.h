@@ -14,19 +14,19 @@ struct LectureJournal
 {
     enum class State { Idle, Recording, Paused, Stopped };
 
-    QString id; // of the moment when it was opened; part of file names
-    QString subject;
-    QString notes;
-    QString day;  // as the row has it, in the user's own calendar
-    QString date; // the same day as ISO 8601 writes it
+    QString id = {}; // of the moment when it was opened; part of file names
+    QString subject = {};
+    QString notes = {};
+    QString day = {};  // as the row has it, in the user's own calendar
+    QString date = {}; // the same day as ISO 8601 writes it
     State state = State::Idle;
     double seconds = 0; // recorded
-    QString take;       // the file that is recorded into; empty before there was one
+    QString take = {};  // the file that is recorded into; empty before there was one
 
     // The student wants the lecture kept. From then on nothing more is asked.
     bool isDone = false;
-    QString target;   // where the recording is to lie; empty without one
-    QString duration; // as the row has it
+    QString target = {};   // where the recording is to lie; empty without one
+    QString duration = {}; // as the row has it
 
     // Nothing was typed or recorded.
     bool isBlank() const;

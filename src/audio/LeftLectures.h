@@ -1,0 +1,72 @@
+#pragma once
+
+#include "store/LectureJournal.h"
+
+#include <functional>
+
+namespace tarvelo::platform {
+class Dates;
+}
+namespace tarvelo::store {
+class LectureDatabase;
+}
+
+namespace tarvelo::audio {
+
+class AudioFileLocations;
+
+// What new lectures left behind whose row is not stored: since the program did not live to do it,
+// or since the disk had no room for it. Each is a recording, a journal, or both, moved out of the
+// way of the next take. Keeping one is a chain of steps, each of which can be the last one for now
+// and is done once; nothing goes before what takes its place is on the disk. Without a folder that
+// this process owns there is nothing. Main thread only.
+class LeftLectures final
+{
+public:
+    struct Left
+    {
+        QString journalPath; // also when there is none
+        QString takePath;    // empty without a recording
+        store::LectureJournal journal;
+        double seconds = 0; // of the recording
+    };
+
+    // All outlive this object.
+    LeftLectures(const AudioFileLocations &locations, const platform::Dates &dates,
+                 store::LectureDatabase &database);
+    LeftLectures(const LeftLectures &) = delete;
+    LeftLectures &operator=(const LeftLectures &) = delete;
+
+    // The folder of the take is this process's: moves aside what stands there of a lecture that is
+    // not open any more, unless it was left on purpose.
+    void setAside();
+
+    // Oldest first: those that nobody has decided on.
+    QList<Left> undecided() const;
+    // How many are to be kept and not yet stored.
+    int owed() const;
+
+    // False when not all of it could be done now: the rest is done by storeOwed().
+    bool keep(const Left &left);
+    void discard(const Left &left);
+    // Goes on with what is to be kept. `stored` hears of each, with its journal's ID and its row's.
+    void storeOwed(const std::function<void(const QString &, qint64)> &stored = {});
+
+private:
+    QList<Left> all() const;
+    void setTakeAside(const QString &path, const QString &name);
+    QString freeName(const QString &wish) const;
+    QString pathOf(const QString &name) const;
+    bool decide(Left &left);
+    bool choosePlace(Left &left);
+    bool moveTake(Left &left);
+    std::optional<qint64> store(const Left &left);
+    std::optional<qint64> storedRow(const Left &left) const;
+
+    const AudioFileLocations &m_locations;
+    const platform::Dates &m_dates;
+    store::LectureDatabase &m_database;
+    QString m_folder; // empty until it is ours
+};
+
+} // namespace tarvelo::audio

@@ -1,0 +1,110 @@
+// A program that dies after any of the steps by which it keeps a lecture, and the next one that
+// goes on with it.
+
+#include "audio/LeftStage.h"
+#include "support/TestCase.h"
+
+#include <dlfcn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+// 0: nobody dies.
+int s_stepsToLive = 0;
+
+void takeStep()
+{
+    if (s_stepsToLive > 0 && --s_stepsToLive == 0)
+        ::_exit(9);
+}
+
+} // namespace
+
+// Everything by which a file of the disk changes, of this program and of the libraries: they find
+// these before those of the system. The step that is the last one is done.
+#define STEP(result, name, parameters, arguments)                                                  \
+    extern "C" result name parameters                                                              \
+    {                                                                                              \
+        using Function = result(*) parameters;                                                     \
+        static const auto real = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, #name));            \
+        const result value = real arguments;                                                       \
+        takeStep();                                                                                \
+        return value;                                                                              \
+    }
+
+STEP(int, rename, (const char *from, const char *to) noexcept, (from, to))
+STEP(int, renameat2,
+     (int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept,
+     (fromFolder, from, toFolder, to, flags))
+STEP(int, unlink, (const char *path) noexcept, (path))
+STEP(int, fsync, (int file), (file))
+STEP(int, fdatasync, (int file), (file))
+STEP(int, ftruncate, (int file, off_t size) noexcept, (file, size))
+STEP(int, posix_fallocate, (int file, off_t at, off_t size), (file, at, size))
+STEP(ssize_t, pwrite, (int file, const void *bytes, size_t count, off_t at),
+     (file, bytes, count, at))
+STEP(ssize_t, pwrite64, (int file, const void *bytes, size_t count, off64_t at),
+     (file, bytes, count, at))
+
+using tarvelo::tests::LeftStage;
+
+class InterruptedKeepingTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whoeverDiesAfterAnyStepLosesAndDoublesNothing_data()
+    {
+        QTest::addColumn<bool>("hasJournal");
+        QTest::newRow("with a journal") << true;
+        QTest::newRow("a recording alone") << false;
+    }
+    void whoeverDiesAfterAnyStepLosesAndDoublesNothing()
+    {
+        QFETCH(bool, hasJournal);
+        LeftStage::takeBytes();
+        int steps = 0;
+        for (bool isThrough = false; !isThrough;) {
+            LeftStage stage;
+            stage.leaveTake();
+            if (hasJournal)
+                stage.leaveJournal();
+
+            isThrough = keepsInAnother(stage, ++steps);
+
+            goOn(stage);
+            stage.expectOneKeptLecture();
+            QVERIFY2(!QTest::currentTestFailed(), qPrintable(QString::number(steps)));
+        }
+        // As many as it takes to write, sync and name a recording, a journal and a row.
+        QVERIFY(steps > 20);
+    }
+
+private:
+    // True when the process lived to its end.
+    static bool keepsInAnother(const LeftStage &home, int steps)
+    {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            s_stepsToLive = steps;
+            LeftStage stage(home.places.places());
+            keepWhatIsThere(stage);
+            ::_exit(0);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    }
+    static void goOn(LeftStage &stage) { keepWhatIsThere(stage); }
+    static void keepWhatIsThere(LeftStage &stage)
+    {
+        stage.left.setAside();
+        stage.left.storeOwed();
+        for (const auto &left : stage.left.undecided())
+            stage.left.keep(left);
+    }
+};
+
+QTEST_GUILESS_MAIN(InterruptedKeepingTest)
+#include "InterruptedKeepingTest.moc"

@@ -1,0 +1,328 @@
+#include "audio/LeftLectures.h"
+
+#include "audio/AudioFileLocations.h"
+#include "audio/LeftStage.h"
+#include "support/DecodedAudio.h"
+#include "support/TestCase.h"
+
+using namespace Qt::StringLiterals;
+using tarvelo::audio::LeftLectures;
+using tarvelo::store::LectureJournal;
+using tarvelo::tests::DecodedAudio;
+using tarvelo::tests::LeftStage;
+using tarvelo::tests::MovieFacts;
+
+class LeftLecturesTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingLeftIsNothingToOffer()
+    {
+        m_stage->left.setAside();
+
+        QVERIFY(m_stage->left.undecided().isEmpty());
+        QCOMPARE(m_stage->left.owed(), 0);
+    }
+
+    // It is another process's, as long as nobody said otherwise.
+    void withoutAFolderOfItsOwnNothingIsOffered()
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+
+        QVERIFY(m_stage->left.undecided().isEmpty());
+        QVERIFY(QFile::exists(m_stage->takePath()));
+    }
+
+    void aTakeAndItsJournalAreOfferedTogetherAndOutOfTheWay()
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+
+        m_stage->left.setAside();
+
+        const auto lectures = m_stage->left.undecided();
+        QCOMPARE(lectures.size(), 1);
+        QCOMPARE(lectures[0].journal.subject, u"wave optics"_s);
+        QCOMPARE(lectures[0].journal.day, u"2024-02-29"_s);
+        QVERIFY(lectures[0].seconds > 1);
+        QVERIFY(!QFile::exists(m_stage->takePath()));
+        QVERIFY(!QFile::exists(m_stage->file("lecture.journal")));
+    }
+
+    void aTakeWithoutAJournalIsOfTheDayOnWhichItEnded()
+    {
+        m_stage->leaveTake();
+        QFile take(m_stage->takePath());
+        QVERIFY(take.open(QIODevice::ReadWrite));
+        QVERIFY(take.setFileTime(QDateTime(QDate(2024, 1, 31), QTime(12, 0), Qt::UTC),
+                                 QFileDevice::FileModificationTime));
+        take.close();
+
+        m_stage->left.setAside();
+
+        const auto lectures = m_stage->left.undecided();
+        QCOMPARE(lectures.size(), 1);
+        QCOMPARE(lectures[0].journal.day, u"2024-01-31"_s);
+        QVERIFY(m_stage->left.keep(lectures[0]));
+        QCOMPARE(m_stage->rows().value(0)["subject"_L1], u"Untitled"_s);
+        QCOMPARE(m_stage->rows().value(0)["recordingDate"_L1], u"2024-01-31"_s);
+    }
+
+    void aJournalWithoutATakeIsOfferedForItsNotes()
+    {
+        m_stage->leaveJournal();
+
+        m_stage->left.setAside();
+
+        const auto lectures = m_stage->left.undecided();
+        QCOMPARE(lectures.size(), 1);
+        QVERIFY(m_stage->left.keep(lectures[0]));
+        QCOMPARE(m_stage->rows().value(0)["notes"_L1], u"Huygens"_s);
+        QCOMPARE(m_stage->rows().value(0)["recordDuration"_L1], u"No Audio"_s);
+        QCOMPARE(m_stage->rows().value(0)["audioFileFullPath"_L1], u""_s);
+    }
+
+    void whereNothingWasTypedOrRecordedNothingIsOffered()
+    {
+        m_stage->leaveJournal({.id = u"20240304T080000000"_s});
+
+        m_stage->left.setAside();
+
+        QVERIFY(m_stage->left.undecided().isEmpty());
+        QCOMPARE(m_stage->names(), QStringList());
+    }
+
+    void aTakeInWhichNothingCanBeHeardIsNotOffered()
+    {
+        m_stage->write(m_stage->takePath(), m_stage->takeBytes().left(28));
+
+        m_stage->left.setAside();
+
+        QVERIFY(m_stage->left.undecided().isEmpty());
+    }
+
+    void aTakeThatWasClosedOnPurposeIsNotOffered()
+    {
+        m_stage->leaveTake();
+        m_stage->write(m_stage->file("lecture.closed"), "");
+
+        m_stage->left.setAside();
+
+        QVERIFY(m_stage->left.undecided().isEmpty());
+        QVERIFY(QFile::exists(m_stage->takePath()));
+    }
+
+    void aTakeThatIsOlderThanTheLectureStaysClosed()
+    {
+        m_stage->leaveTake();
+        m_stage->write(m_stage->file("lecture.closed"), "");
+        LectureJournal journal = LeftStage::journal();
+        journal.take.clear();
+        m_stage->leaveJournal(journal);
+
+        m_stage->left.setAside();
+
+        QVERIFY(m_stage->left.undecided().value(0).takePath.isEmpty());
+        QVERIFY(QFile::exists(m_stage->takePath()));
+    }
+
+    void aDamagedJournalCostsOnlyWhatStoodInIt()
+    {
+        m_stage->leaveTake();
+        m_stage->write(m_stage->file("lecture.journal"), QByteArray(4096, '\0'));
+
+        m_stage->left.setAside();
+
+        const auto lectures = m_stage->left.undecided();
+        QCOMPARE(lectures.size(), 1);
+        QVERIFY(m_stage->left.keep(lectures[0]));
+        QCOMPARE(m_stage->names(), QStringList());
+    }
+
+    void severalWaitOldestFirst()
+    {
+        for (const char *id : {"20240304T080000000", "20240302T080000000"}) {
+            LectureJournal journal = LeftStage::journal();
+            journal.id = QLatin1StringView(id);
+            m_stage->leaveTake();
+            m_stage->leaveJournal(journal);
+            m_stage->left.setAside();
+        }
+
+        const auto lectures = m_stage->left.undecided();
+
+        QCOMPARE(lectures.size(), 2);
+        QCOMPARE(lectures[0].journal.id, u"20240302T080000000"_s);
+        QVERIFY(!lectures[0].takePath.isEmpty() && !lectures[1].takePath.isEmpty());
+    }
+
+    void twoOfOneNameAreBothKept()
+    {
+        for (int i = 0; i < 2; ++i) {
+            m_stage->leaveTake();
+            m_stage->leaveJournal();
+            m_stage->left.setAside();
+        }
+
+        const auto lectures = m_stage->left.undecided();
+
+        QCOMPARE(lectures.size(), 2);
+        QVERIFY(!lectures[0].takePath.isEmpty() && !lectures[1].takePath.isEmpty());
+    }
+
+    void bothExtensionsAreFound()
+    {
+        m_stage->leaveTake();
+        QFile::copy(m_stage->takePath(), m_stage->file("tempAudioFile.aac"));
+        m_stage->leaveJournal();
+
+        m_stage->left.setAside();
+
+        QCOMPARE(m_stage->left.undecided().size(), 2);
+    }
+
+    void keptItIsALectureUnderItsDayWithAnIndexedRecording()
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        m_stage->left.setAside();
+
+        QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)));
+
+        m_stage->expectOneKeptLecture();
+        const auto row = m_stage->rows().value(0);
+        QCOMPARE(row["subject"_L1], u"wave optics"_s);
+        QCOMPARE(row["recordingDate"_L1], u"2024-02-29"_s);
+        QCOMPARE(row["recordDuration"_L1], u"00:00:02"_s);
+        const QString path = row["audioFileFullPath"_L1].toString();
+        QVERIFY(path.endsWith(u"/Audio//Audio - 20240305090000.m4a"_s));
+        QVERIFY(!MovieFacts::read(path)->isFragmented);
+    }
+
+    void aFileThatHasTheNameAlreadyIsNotTouched()
+    {
+        const QString taken = m_stage->locations.getAudioSavePath();
+        m_stage->write(taken, "another lecture");
+        m_stage->leaveTake();
+        m_stage->left.setAside();
+
+        QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)));
+
+        QCOMPARE(QFile(taken).size(), 15);
+        QVERIFY(QFile::exists(m_stage->rows().value(0)["audioFileFullPath"_L1].toString()));
+    }
+
+    void discardedItIsGone()
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        m_stage->left.setAside();
+
+        m_stage->left.discard(m_stage->left.undecided().at(0));
+
+        QVERIFY(m_stage->left.undecided().isEmpty());
+        QCOMPARE(m_stage->names(), QStringList());
+        QVERIFY(m_stage->rows().isEmpty());
+    }
+
+    void notDecidedItIsOfferedAgain()
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        m_stage->left.setAside();
+        QCOMPARE(m_stage->left.undecided().size(), 1);
+
+        m_stage->left.setAside();
+
+        QCOMPARE(m_stage->left.undecided().size(), 1);
+    }
+
+    void whatTheStudentIsDoneWithIsStoredWithoutAQuestion()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        m_stage->leaveTake();
+        m_stage->leaveJournal(journal);
+        m_stage->left.setAside();
+        QVERIFY(m_stage->left.undecided().isEmpty());
+        QCOMPARE(m_stage->left.owed(), 1);
+
+        m_stage->left.storeOwed();
+
+        m_stage->expectOneKeptLecture();
+    }
+
+    void aRowThatIsThereAlreadyIsNotDoubled_data()
+    {
+        QTest::addColumn<bool>("hasTake");
+        QTest::newRow("with a recording") << true;
+        QTest::newRow("notes alone") << false;
+    }
+    void aRowThatIsThereAlreadyIsNotDoubled()
+    {
+        QFETCH(bool, hasTake);
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = hasTake ? m_stage->locations.getAudioSavePath() : QString();
+        journal.duration = hasTake ? u"00:00:02"_s : u"No Audio"_s;
+        if (hasTake)
+            m_stage->write(journal.target, m_stage->takeBytes());
+        m_stage->database.insertIntoDbwithSqlStatementWithArguments(
+            tarvelo::store::statements::Insert, journal.row());
+        m_stage->leaveJournal(journal);
+        m_stage->left.setAside();
+
+        m_stage->left.storeOwed();
+
+        QCOMPARE(m_stage->rows().size(), 1);
+        QCOMPARE(m_stage->left.owed(), 0);
+    }
+
+    void whoseRecordingWasDeletedSinceIsNotBroughtBack()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->locations.getAudioSavePath();
+        m_stage->leaveJournal(journal);
+        m_stage->left.setAside();
+
+        m_stage->left.storeOwed();
+
+        QCOMPARE(m_stage->left.owed(), 0);
+        QVERIFY(m_stage->rows().isEmpty());
+    }
+
+    // A failed write of the program resets the table; one of this kind must not.
+    void whatCannotBeStoredNowCostsNoOtherLecture()
+    {
+        m_stage->database.insertIntoDbwithSqlStatementWithArguments(
+            tarvelo::store::statements::Insert, LeftStage::journal().row());
+        m_stage->leaveTake();
+        m_stage->left.setAside();
+        {
+            tarvelo::store::Sqlite other(m_stage->places.databaseFile());
+            QVERIFY(other.beginTransaction());
+
+            QVERIFY(!m_stage->left.keep(m_stage->left.undecided().at(0)));
+
+            QVERIFY(other.rollback());
+        }
+        QCOMPARE(m_stage->rows().size(), 1);
+        QCOMPARE(m_stage->left.owed(), 1);
+        qint64 stored = 0;
+        m_stage->left.storeOwed([&](const QString &, qint64 row) { stored = row; });
+        QCOMPARE(m_stage->rows().size(), 2);
+        QCOMPARE(m_stage->rows().at(1)["ID"_L1].toLongLong(), stored);
+    }
+
+private:
+    void prepare() override { m_stage = std::make_unique<LeftStage>(); }
+    void finish() override { m_stage.reset(); }
+
+    std::unique_ptr<LeftStage> m_stage;
+};
+
+QTEST_GUILESS_MAIN(LeftLecturesTest)
+#include "LeftLecturesTest.moc"

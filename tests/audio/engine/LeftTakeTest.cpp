@@ -1,0 +1,133 @@
+#include "audio/engine/LeftTake.h"
+
+#include "audio/engine/Recordings.h"
+#include "support/DecodedAudio.h"
+#include "support/TestCase.h"
+#include "support/TestSound.h"
+
+#include <QDir>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using namespace tarvelo::engine;
+using namespace tarvelo::tests;
+
+class LeftTakeTest final : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aTakeInFragmentsBecomesAnIndexedOneThatSoundsTheSame()
+    {
+        write(recordingOf(tune(44100, 4), Ending::CutOff));
+        QVERIFY(MovieFacts::read(path())->isFragmented);
+        const auto before = DecodedAudio::read(path());
+
+        QVERIFY(finishLeftTake(path()));
+
+        const auto after = DecodedAudio::read(path());
+        QVERIFY(!MovieFacts::read(path())->isFragmented);
+        QVERIFY(before->samples == after->samples);
+        QVERIFY(std::abs(MovieFacts::read(path())->seconds - before->seconds()) < 0.025);
+    }
+
+    void itsLengthIsKnownBeforeAndAfter()
+    {
+        write(recordingOf(tune(44100, 4), Ending::CutOff));
+        const double seconds = secondsOfLeftTake(path());
+        QVERIFY(seconds > 3 && seconds <= 4.05);
+
+        QVERIFY(finishLeftTake(path()));
+
+        QVERIFY(std::abs(secondsOfLeftTake(path()) - seconds) < 0.03);
+    }
+
+    // Wherever the last bytes were cut off, what stands before that is kept.
+    void whatWasCutOffIsKeptAsFarAsItIsWhole()
+    {
+        const QByteArray take = recordingOf(tune(44100, 4), Ending::CutOff);
+        for (const qsizetype size :
+             {take.size() - 1, take.size() - 100, take.size() * 3 / 4, take.size() / 2}) {
+            write(take.left(size));
+            const double seconds = secondsOfLeftTake(path());
+            const double share = static_cast<double>(size) / static_cast<double>(take.size());
+            QVERIFY(seconds > 4 * share - 1.2);
+
+            QVERIFY(finishLeftTake(path()));
+
+            QVERIFY(DecodedAudio::read(path())->seconds() > seconds - 0.05);
+            QVERIFY(!MovieFacts::read(path())->isFragmented);
+        }
+    }
+
+    void aFinishedTakeIsLeftAsItIs()
+    {
+        const QByteArray take = recordingOf(tune(44100, 2));
+        write(take);
+
+        QVERIFY(finishLeftTake(path()));
+
+        QCOMPARE(read(), take);
+    }
+
+    void whatIsNoTakeIsLeftAsItIs_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("text") << QByteArray("a shopping list");
+        QTest::newRow("zeros") << QByteArray(100'000, '\0');
+        QTest::newRow("only a head") << recordingOf(tune(44100, 2), Ending::CutOff).left(28);
+    }
+    void whatIsNoTakeIsLeftAsItIs()
+    {
+        QFETCH(QByteArray, bytes);
+        write(bytes);
+
+        QCOMPARE(secondsOfLeftTake(path()), 0.0);
+        finishLeftTake(path());
+
+        QCOMPARE(read(), bytes);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void aFileThatIsMissingIsNone()
+    {
+        QCOMPARE(secondsOfLeftTake(path()), 0.0);
+        QVERIFY(!finishLeftTake(path()));
+        QVERIFY(!QFile::exists(path()));
+    }
+
+    void whereNoCopyCanBeMadeTheTakeStays()
+    {
+        const QByteArray take = recordingOf(tune(44100, 2), Ending::CutOff);
+        write(take);
+        QVERIFY(QDir(m_folder->path()).mkdir(u".take.m4a.indexed"_s));
+
+        QVERIFY(!finishLeftTake(path()));
+
+        QCOMPARE(read(), take);
+    }
+
+private:
+    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
+    void finish() override { m_folder.reset(); }
+
+    QString path() const { return m_folder->filePath(u"take.m4a"_s); }
+    void write(const QByteArray &bytes) const
+    {
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray read() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_GUILESS_MAIN(LeftTakeTest)
+#include "LeftTakeTest.moc"
