@@ -71,9 +71,21 @@
         <source></source>
         <translation>حذف</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>تجاهل</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>تم</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>احتفاظ</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>استماع</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>المحاضرات</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>اليوم</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>ملاحظات</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>RTL</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>انتهى Tarvelo قبل حفظ هذه المحاضرة. احتفظ بها تحت يومها، أو استمع إليها أولاً. إذا أغلقت هذه النافذة فستُعرض المحاضرة مجدداً عند التشغيل التالي.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>لا يمكن الاحتفاظ بالمحاضرة الآن. لم يُفقد شيء: ستُعرض مجدداً عند التشغيل التالي.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>تعديل المحاضرة</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>محاضرة غير مكتملة</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

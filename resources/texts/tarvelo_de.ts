@@ -71,9 +71,21 @@
         <source></source>
         <translation>Löschen</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Verwerfen</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Fertig</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Behalten</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Anhören</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Vorlesungen</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Tag</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Notizen</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo endete, bevor diese Vorlesung gesichert war. Behalten Sie sie unter ihrem Tag, oder hören Sie sie erst an. Wenn Sie dieses Fenster schließen, wird sie beim nächsten Start wieder angeboten.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>Die Vorlesung kann jetzt nicht behalten werden. Nichts ist verloren: Beim nächsten Start wird sie wieder angeboten.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Vorlesung bearbeiten</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Nicht beendete Vorlesung</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

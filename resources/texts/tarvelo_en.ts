@@ -71,9 +71,21 @@
         <source></source>
         <translation>Delete</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Discard</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Done</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Keep</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Listen</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Lectures</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Day</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Notes</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo ended before this lecture was saved. Keep it under its day, or listen to it first. If you close this window, the lecture is offered again at the next start.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>The lecture cannot be kept now. Nothing is lost: it is offered again at the next start.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Edit Lecture</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Unfinished Lecture</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

@@ -71,9 +71,21 @@
         <source></source>
         <translation>Eliminar</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Descartar</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Listo</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Conservar</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Escuchar</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Clases</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Día</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Notas</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo terminó antes de que se guardara esta clase. Consérvela en su día o escúchela primero. Si cierra esta ventana, la clase se ofrecerá de nuevo en el próximo inicio.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>La clase no se puede conservar ahora. No se pierde nada: se ofrecerá de nuevo en el próximo inicio.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Editar la clase</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Clase sin terminar</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

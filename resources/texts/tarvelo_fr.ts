@@ -71,9 +71,21 @@
         <source></source>
         <translation>Supprimer</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Abandonner</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Terminé</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Conserver</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Écouter</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Cours</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Jour</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Notes</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo s’est terminé avant que ce cours soit enregistré. Conservez-le sous son jour, ou écoutez-le d’abord. Si vous fermez cette fenêtre, le cours sera proposé de nouveau au prochain démarrage.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>Le cours ne peut pas être conservé maintenant. Rien n’est perdu : il sera proposé de nouveau au prochain démarrage.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Modifier le cours</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Cours inachevé</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

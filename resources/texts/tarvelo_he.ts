@@ -71,9 +71,21 @@
         <source></source>
         <translation>מחיקה</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>מחיקה</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>סיום</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>שמירה</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>האזנה</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>הרצאות</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>יום</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>הערות</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>RTL</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo הסתיימה לפני שההרצאה הזו נשמרה. אפשר לשמור אותה תחת היום שלה, או להאזין לה תחילה. אם תסגרו את החלון, ההרצאה תוצע שוב בהפעלה הבאה.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>אי אפשר לשמור את ההרצאה כעת. דבר לא אבד: היא תוצע שוב בהפעלה הבאה.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>עריכת הרצאה</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>הרצאה שלא הושלמה</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

@@ -71,9 +71,21 @@
         <source></source>
         <translation>हटाएँ</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>छोड़ दें</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>पूर्ण</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>रखें</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>सुनें</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>व्याख्यान</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>दिन</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>नोट्स</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>यह व्याख्यान सहेजे जाने से पहले Tarvelo बंद हो गया। इसे इसके दिन के नीचे रखें, या पहले सुनें। यह विंडो बंद करने पर व्याख्यान अगली बार फिर दिखाया जाएगा।</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>व्याख्यान अभी रखा नहीं जा सकता। कुछ खोया नहीं है: यह अगली बार फिर दिखाया जाएगा।</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>व्याख्यान संपादित करें</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>अधूरा व्याख्यान</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

@@ -71,9 +71,21 @@
         <source></source>
         <translation>Elimina</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Scarta</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Fine</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Conserva</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Ascolta</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Lezioni</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Giorno</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Note</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo è terminato prima che questa lezione fosse salvata. Conservala nel suo giorno, oppure ascoltala prima. Se chiudi questa finestra, la lezione sarà proposta di nuovo al prossimo avvio.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>La lezione non può essere conservata ora. Nulla è perduto: sarà proposta di nuovo al prossimo avvio.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Modifica lezione</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Lezione non terminata</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

@@ -71,9 +71,21 @@
         <source></source>
         <translation>削除</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>破棄</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>完了</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>保存</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>聴く</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>講義</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>日付</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>メモ</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>この講義が保存される前に Tarvelo が終了しました。その日の講義として保存するか、先に聴くことができます。このウインドウを閉じると、次の起動時にもう一度表示されます。</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>今は講義を保存できません。何も失われていません。次の起動時にもう一度表示されます。</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>講義を編集</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>保存されていない講義</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

@@ -71,9 +71,21 @@
         <source></source>
         <translation>삭제</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>버리기</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>완료</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>보관</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>듣기</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>강의</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>날짜</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>메모</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>이 강의를 저장하기 전에 Tarvelo가 종료되었습니다. 해당 날짜에 보관하거나 먼저 들어 보세요. 이 창을 닫으면 다음에 시작할 때 다시 표시됩니다.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>지금은 강의를 보관할 수 없습니다. 잃은 것은 없으며 다음에 시작할 때 다시 표시됩니다.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>강의 편집</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>끝나지 않은 강의</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

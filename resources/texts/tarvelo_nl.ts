@@ -71,9 +71,21 @@
         <source></source>
         <translation>Verwijderen</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Weggooien</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Gereed</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Bewaren</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Beluisteren</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Colleges</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Dag</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Notities</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo is gestopt voordat dit college was opgeslagen. Bewaar het onder zijn dag, of beluister het eerst. Als u dit venster sluit, wordt het college bij de volgende start opnieuw aangeboden.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>Het college kan nu niet worden bewaard. Er is niets verloren: het wordt bij de volgende start opnieuw aangeboden.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>College bewerken</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Onvoltooid college</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

@@ -71,9 +71,21 @@
         <source></source>
         <translation>Usuń</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Odrzuć</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Gotowe</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Zachowaj</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Posłuchaj</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Wykłady</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Dzień</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Notatki</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo zakończył działanie, zanim ten wykład został zapisany. Zachowaj go pod jego dniem albo najpierw posłuchaj. Jeśli zamkniesz to okno, wykład pojawi się znowu przy następnym uruchomieniu.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>Nie można teraz zachować wykładu. Nic nie przepadło: pojawi się znowu przy następnym uruchomieniu.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Edycja wykładu</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Niedokończony wykład</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

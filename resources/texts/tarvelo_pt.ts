@@ -71,9 +71,21 @@
         <source></source>
         <translation>Excluir</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Descartar</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Concluir</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Guardar</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Ouvir</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Aulas</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Dia</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Notas</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>O Tarvelo terminou antes de esta aula ser guardada. Guarde-a no seu dia ou ouça-a primeiro. Se fechar esta janela, a aula será apresentada de novo no próximo arranque.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>A aula não pode ser guardada agora. Nada se perdeu: será apresentada de novo no próximo arranque.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Editar aula</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Aula por terminar</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

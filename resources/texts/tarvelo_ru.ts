@@ -71,9 +71,21 @@
         <source></source>
         <translation>Удалить</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Удалить</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Готово</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Сохранить</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Прослушать</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Лекции</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>День</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Заметки</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo завершился раньше, чем эта лекция была сохранена. Сохраните её под её днём или сначала прослушайте. Если закрыть это окно, лекция будет предложена снова при следующем запуске.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>Сейчас лекцию нельзя сохранить. Ничего не потеряно: она будет предложена снова при следующем запуске.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Изменение лекции</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Незавершённая лекция</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

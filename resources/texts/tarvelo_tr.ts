@@ -71,9 +71,21 @@
         <source></source>
         <translation>Sil</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Sil</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Bitti</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Sakla</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Dinle</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Dersler</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>Gün</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Notlar</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo bu ders kaydedilmeden sona erdi. Dersi kendi günü altında saklayın veya önce dinleyin. Bu pencereyi kapatırsanız ders bir sonraki açılışta yeniden sunulur.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>Ders şu anda saklanamıyor. Hiçbir şey kaybolmadı: bir sonraki açılışta yeniden sunulur.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Dersi düzenle</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Tamamlanmamış ders</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

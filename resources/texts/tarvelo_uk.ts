@@ -71,9 +71,21 @@
         <source></source>
         <translation>Видалити</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>Відкинути</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>Готово</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>Зберегти</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>Прослухати</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>Лекції</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>День</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>Нотатки</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo завершився раніше, ніж цю лекцію було збережено. Збережіть її під її днем або спершу прослухайте. Якщо закрити це вікно, лекцію буде запропоновано знову під час наступного запуску.</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>Зараз лекцію не можна зберегти. Нічого не втрачено: її буде запропоновано знову під час наступного запуску.</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>Редагування лекції</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>Незавершена лекція</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

@@ -71,9 +71,21 @@
         <source></source>
         <translation>删除</translation>
     </message>
+    <message id="BUTTON_DISCARD_LECTURE">
+        <source></source>
+        <translation>丢弃</translation>
+    </message>
     <message id="BUTTON_DONE">
         <source></source>
         <translation>完成</translation>
+    </message>
+    <message id="BUTTON_KEEP_LECTURE">
+        <source></source>
+        <translation>保留</translation>
+    </message>
+    <message id="BUTTON_LISTEN">
+        <source></source>
+        <translation>试听</translation>
     </message>
     <message id="BUTTON_NEW_LECTURE">
         <source></source>
@@ -203,6 +215,10 @@
         <source></source>
         <translation>讲座</translation>
     </message>
+    <message id="LABEL_LECTURE_DAY">
+        <source></source>
+        <translation>日期</translation>
+    </message>
     <message id="LABEL_NOTES">
         <source></source>
         <translation>笔记</translation>
@@ -234,6 +250,14 @@
     <message id="LAYOUT_DIRECTION">
         <source></source>
         <translation>LTR</translation>
+    </message>
+    <message id="LEFT_LECTURE_EXPLAINED">
+        <source></source>
+        <translation>Tarvelo 在保存这节课之前就结束了。您可以把它保留在当天，也可以先试听。如果关闭此窗口，下次启动时会再次询问。</translation>
+    </message>
+    <message id="LEFT_LECTURE_NOT_NOW">
+        <source></source>
+        <translation>现在无法保留这节课。没有任何内容丢失：下次启动时会再次询问。</translation>
     </message>
     <message id="MENU_ABOUT">
         <source></source>
@@ -418,6 +442,10 @@
     <message id="TITLE_EDIT_LECTURE">
         <source></source>
         <translation>编辑讲座</translation>
+    </message>
+    <message id="TITLE_LEFT_LECTURE">
+        <source></source>
+        <translation>未完成的课程</translation>
     </message>
     <message id="TITLE_NEW_LECTURE">
         <source></source>

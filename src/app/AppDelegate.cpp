@@ -50,6 +50,8 @@ AppDelegate::AppDelegate(const AppServices &services)
     , m_bringBack(
           services.database, services.dates,
           [this] { return m_mediaLinksArrayController.getAudioFolderPath(); }, m_window)
+    , m_leftLectures(services.mediaLinksArrayController.leftLectures(), services.dates,
+                     services.mediaLinksArrayController.audioEngine(), m_window)
     , m_menus(
           m_window, [this](Command command) { run(command); },
           [this](QAction *entry) { showHelp(entry); })
@@ -60,6 +62,7 @@ AppDelegate::AppDelegate(const AppServices &services)
     , m_activation(services.dates.clock())
     , m_showFirstWindow(services.dates.clock(), [this] { makeKeyAndOrderFront(m_window); })
     , m_foldupList(services.dates.clock(), [this] { foldupList(); })
+    , m_offerLeftLectures(services.dates.clock(), [this] { m_leftLectures.offer(); })
 {
     m_mediaLinksArrayController.setApplication(this);
     m_mediaLinksArrayController.setRowHost(this);
@@ -76,6 +79,10 @@ AppDelegate::AppDelegate(const AppServices &services)
     connect(&m_preferences, &Preferences::formatChosen, this,
             [this] { m_mediaLinksArrayController.setTempAudioSavePathWithFormat(); });
     connect(&m_bringBack, &BringBackSheet::lecturesCameBack, this, &AppDelegate::showLecturesAnew);
+    connect(&m_leftLectures, &LeftLectureSheet::lectureKept, this, [this] {
+        showLecturesAnew();
+        m_mediaLinksArrayController.journal().storeOwedLater();
+    });
     connect(&m_myStatusItem, &StatusItem::pressed, this, [this] { openAtFront(&m_myStatusItem); });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_activation,
             &Activation::stateChanged);
@@ -126,6 +133,7 @@ void AppDelegate::applicationDidFinishLaunching(QObject *)
 {
     if (m_preferences.integer(Preference::ShowWindowAtLogin) == 1)
         m_showFirstWindow.schedule(FirstWindowDelay);
+    m_offerLeftLectures.schedule(LeftLecturesDelay);
 }
 
 void AppDelegate::applicationWillBecomeActive(QObject *)

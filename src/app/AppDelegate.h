@@ -6,6 +6,7 @@
 #include "app/DayPopover.h"
 #include "app/DockIcon.h"
 #include "app/Help.h"
+#include "app/LeftLectureSheet.h"
 #include "app/LoginItem.h"
 #include "app/Preferences.h"
 #include "app/Request.h"
@@ -93,6 +94,8 @@ public:
     static constexpr int SlideBy = 400;
     static constexpr std::chrono::milliseconds FirstWindowDelay{400};
     static constexpr std::chrono::seconds FoldDelay{30};
+    // The window shows its first list by then.
+    static constexpr std::chrono::milliseconds LeftLecturesDelay{1200};
 
     explicit AppDelegate(const AppServices &services);
     ~AppDelegate() override;
@@ -160,6 +163,7 @@ public:
     void showHelp(QObject *sender);
 
     // -- Preferences
+    const LeftLectureSheet &leftLectureSheet() const { return m_leftLectures; }
     const BringBackSheet &bringBackSheet() const { return m_bringBack; }
     const Preferences &preferences() const { return m_preferences; }
     void onShowPreferences(QObject *sender);
@@ -190,6 +194,7 @@ private:
     calendar::CKCalendarView &m_calendarView;
     Preferences m_preferences;
     BringBackSheet m_bringBack;
+    LeftLectureSheet m_leftLectures;
     AppMenus m_menus;
     StatusItem m_myStatusItem;
     DayPopover m_dayPopover;
@@ -197,6 +202,7 @@ private:
     Activation m_activation;
     platform::DelayedCall m_showFirstWindow;
     platform::DelayedCall m_foldupList;
+    platform::DelayedCall m_offerLeftLectures;
     QDateTime m_dateOfButtonClicked;
     QPointer<widgets::ImageButton> m_btnDateButtonForRecording;
     QPointer<widgets::ImageButton> m_btnDateButtonClickedNow;

@@ -168,12 +168,14 @@ int LeftLectures::owed() const
         std::ranges::count_if(lectures, [](const Left &left) { return left.journal.isDone; }));
 }
 
-bool LeftLectures::keep(const Left &left)
+LeftLectures::Kept LeftLectures::keep(const Left &left)
 {
     Left kept = left;
     if (kept.journal.day.isEmpty())
         kept.journal.day = m_dates.format(m_dates.now(), DayFormat);
-    return decide(kept) && moveTake(kept) && store(kept);
+    if (!decide(kept))
+        return Kept::Undecided;
+    return moveTake(kept) && store(kept) ? Kept::Stored : Kept::Later;
 }
 
 // From here on it is kept, whoever does the rest.

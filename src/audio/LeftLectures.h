@@ -46,8 +46,10 @@ public:
     // How many are to be kept and not yet stored.
     int owed() const;
 
-    // False when not all of it could be done now: the rest is done by storeOwed().
-    bool keep(const Left &left);
+    // Later: it is decided, and storeOwed() does the rest. Undecided: not even that could be
+    // written down.
+    enum class Kept { Stored, Later, Undecided };
+    Kept keep(const Left &left);
     void discard(const Left &left);
     // Goes on with what is to be kept. `stored` hears of each, with its journal's ID and its row's.
     void storeOwed(const std::function<void(const QString &, qint64)> &stored = {});

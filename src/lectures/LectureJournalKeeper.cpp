@@ -149,7 +149,13 @@ void LectureJournalKeeper::lectureStored(bool isStored, const Lecture &lecture)
     m_write.cancel();
     m_isOwed = m_writer != nullptr;
     m_owed.insert(m_journal.id, lecture);
-    if (m_isOwed && m_storeOwed.pendingCount() == 0)
+    if (m_isOwed)
+        storeOwedLater();
+}
+
+void LectureJournalKeeper::storeOwedLater()
+{
+    if (m_storeOwed.pendingCount() == 0)
         m_storeOwed.schedule(RetryInterval);
 }
 

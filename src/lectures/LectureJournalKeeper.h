@@ -72,6 +72,9 @@ public:
     void lectureClosed();
     void lectureCancelled();
 
+    // Some are to be stored; the next try comes soon.
+    void storeOwedLater();
+
     // What has changed until now, when a lecture is open; waits for nothing.
     void writeNow();
     // Waits until all of it is on the disk. False when it could not be written.

@@ -65,7 +65,7 @@ private Q_SLOTS:
         const auto lectures = m_stage->left.undecided();
         QCOMPARE(lectures.size(), 1);
         QCOMPARE(lectures[0].journal.day, u"2024-01-31"_s);
-        QVERIFY(m_stage->left.keep(lectures[0]));
+        QVERIFY(m_stage->left.keep(lectures[0]) == LeftLectures::Kept::Stored);
         QCOMPARE(m_stage->rows().value(0)["subject"_L1], u"Untitled"_s);
         QCOMPARE(m_stage->rows().value(0)["recordingDate"_L1], u"2024-01-31"_s);
     }
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
         const auto lectures = m_stage->left.undecided();
         QCOMPARE(lectures.size(), 1);
-        QVERIFY(m_stage->left.keep(lectures[0]));
+        QVERIFY(m_stage->left.keep(lectures[0]) == LeftLectures::Kept::Stored);
         QCOMPARE(m_stage->rows().value(0)["notes"_L1], u"Huygens"_s);
         QCOMPARE(m_stage->rows().value(0)["recordDuration"_L1], u"No Audio"_s);
         QCOMPARE(m_stage->rows().value(0)["audioFileFullPath"_L1], u""_s);
@@ -137,7 +137,7 @@ private Q_SLOTS:
 
         const auto lectures = m_stage->left.undecided();
         QCOMPARE(lectures.size(), 1);
-        QVERIFY(m_stage->left.keep(lectures[0]));
+        QVERIFY(m_stage->left.keep(lectures[0]) == LeftLectures::Kept::Stored);
         QCOMPARE(m_stage->names(), QStringList());
     }
 
@@ -189,7 +189,7 @@ private Q_SLOTS:
         m_stage->leaveJournal();
         m_stage->left.setAside();
 
-        QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)));
+        QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)) == LeftLectures::Kept::Stored);
 
         m_stage->expectOneKeptLecture();
         const auto row = m_stage->rows().value(0);
@@ -208,7 +208,7 @@ private Q_SLOTS:
         m_stage->leaveTake();
         m_stage->left.setAside();
 
-        QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)));
+        QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)) == LeftLectures::Kept::Stored);
 
         QCOMPARE(QFile(taken).size(), 15);
         QVERIFY(QFile::exists(m_stage->rows().value(0)["audioFileFullPath"_L1].toString()));
@@ -305,7 +305,8 @@ private Q_SLOTS:
             tarvelo::store::Sqlite other(m_stage->places.databaseFile());
             QVERIFY(other.beginTransaction());
 
-            QVERIFY(!m_stage->left.keep(m_stage->left.undecided().at(0)));
+            QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)) ==
+                    LeftLectures::Kept::Later);
 
             QVERIFY(other.rollback());
         }

@@ -91,6 +91,7 @@ public:
 private:
     void start()
     {
+        defaults.setValue(QStringLiteral("fileFormat"), 1);
         locations.createFolders();
         locations.setTempAudioSavePathWithFormat();
     }

@@ -229,6 +229,73 @@ private Q_SLOTS:
         QCOMPARE(written()->notes, u"Lenses"_s);
     }
 
+    // As with a full disk: the row cannot be stored, and the table is not reset for it again.
+    void aRowThatCannotBeStoredNowIsStoredAsSoonAsItCan()
+    {
+        tarvelo::tests::aLecture().named("earlier").insertInto(m_program->database);
+        m_program->recordNewLecture(3);
+        subject().setText(u"Optics"_s);
+        auto other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
+        QVERIFY(other->beginTransaction());
+        m_program->finishNewLecture();
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"Optics"_s}));
+
+        m_program->clock.advance(10s);
+        QCOMPARE(m_program->controller.leftLectures().owed(), 1);
+        QVERIFY(other->rollback());
+        other.reset();
+        m_program->clock.advance(10s);
+
+        QCOMPARE(m_program->controller.leftLectures().owed(), 0);
+        const auto rows = m_program->storedRows();
+        QCOMPARE(rows.size(), 2);
+        QCOMPARE(rows[1]["subject"_L1], u"Optics"_s);
+        QCOMPARE(controller().arrangedObjects().at(0)->getRecordUniqueID(),
+                 rows[1]["ID"_L1].toLongLong());
+        m_program->clock.advance(1min);
+        QCOMPARE(m_program->storedRows().size(), 2);
+        QCOMPARE(names(), QStringList({u".owner"_s}));
+    }
+
+    void theNextLectureCanBeginWhileARowWaits()
+    {
+        tarvelo::tests::aLecture().named("earlier").insertInto(m_program->database);
+        auto other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
+        QVERIFY(other->beginTransaction());
+        m_program->recordNewLecture(3);
+        subject().setText(u"Optics"_s);
+        m_program->finishNewLecture();
+
+        m_program->recordNewLecture(4);
+        subject().setText(u"Acoustics"_s);
+        QVERIFY(other->rollback());
+        other.reset();
+        m_program->finishNewLecture();
+        m_program->clock.advance(20s);
+
+        QCOMPARE(m_program->storedRows().size(), 3);
+        QCOMPARE(m_program->controller.leftLectures().owed(), 0);
+    }
+
+    void aTakeThatCannotBeMovedGetsToItsPlaceLater()
+    {
+        m_program->recordNewLecture(3);
+        const QString audio = m_program->places.folder() + u"/Audio"_s;
+        QVERIFY(QDir(audio).removeRecursively());
+        QFile inTheWay(audio);
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        m_program->finishNewLecture();
+        const QString path = controller().arrangedObjects().at(0)->strLectureAudioPath();
+
+        m_program->clock.advance(10s);
+        QVERIFY(inTheWay.remove() && QDir().mkdir(audio));
+        m_program->clock.advance(10s);
+
+        QVERIFY(QFile::exists(path));
+        QCOMPARE(m_program->storedRows().size(), 1);
+        QCOMPARE(m_program->storedRows().value(0)["audioFileFullPath"_L1], path);
+    }
+
     void whileAnotherProcessOwnsTheTakeNothingIsWritten()
     {
         tarvelo::platform::FolderOwner other;

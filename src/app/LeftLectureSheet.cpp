@@ -1,0 +1,221 @@
+#include "app/LeftLectureSheet.h"
+
+#include "audio/DurationText.h"
+#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/SoundBytes.h"
+#include "lectures/LightPalette.h"
+#include "platform/Announcer.h"
+#include "platform/Dates.h"
+#include "platform/Texts.h"
+
+#include <QBoxLayout>
+#include <QDialog>
+#include <QEvent>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace tarvelo::app {
+
+namespace {
+
+using platform::Dates;
+using platform::text;
+
+constexpr int Width = 420;
+
+QLabel *wrapped(const char *name)
+{
+    auto *label = new QLabel;
+    label->setObjectName(QLatin1StringView(name));
+    label->setWordWrap(true);
+    // What a student typed is shown as it is.
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QPushButton *button(const char *name, const char *key)
+{
+    auto *made = new QPushButton(text(key));
+    made->setObjectName(QLatin1StringView(name));
+    // Return is for the one that keeps, wherever the keyboard is not on another one.
+    made->setAutoDefault(false);
+    return made;
+}
+
+} // namespace
+
+LeftLectureSheet::LeftLectureSheet(audio::LeftLectures &left, const platform::Dates &dates,
+                                   engine::AudioEngine &engine, QWidget &mainWindow)
+    : m_left(left)
+    , m_dates(dates)
+    , m_engine(engine)
+    , m_mainWindow(mainWindow)
+    , m_sheet(new QDialog(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                           Qt::WindowCloseButtonHint))
+{
+    build();
+}
+
+LeftLectureSheet::~LeftLectureSheet()
+{
+    delete m_sheet;
+}
+
+void LeftLectureSheet::build()
+{
+    m_sheet->setObjectName(QStringLiteral("leftLectureSheet"));
+    m_sheet->setWindowTitle(text("TITLE_LEFT_LECTURE"));
+    // As white as the windows, whatever the desktop's theme.
+    lectures::setLightPalette(*m_sheet);
+
+    auto *explained = wrapped("explained");
+    explained->setText(text("LEFT_LECTURE_EXPLAINED"));
+    m_subject = wrapped("leftSubject");
+    m_day = wrapped("leftDay");
+    m_length = wrapped("leftLength");
+    m_outcome = wrapped("outcome");
+    m_outcome->hide();
+    auto *form = new QFormLayout;
+    form->addRow(text("LABEL_SUBJECT"), m_subject);
+    form->addRow(text("LABEL_LECTURE_DAY"), m_day);
+    form->addRow(text("LABEL_RECORDING_DURATION"), m_length);
+
+    m_listen = button("listen", "BUTTON_LISTEN");
+    auto *discarding = button("discard", "BUTTON_DISCARD_LECTURE");
+    m_keep = button("keep", "BUTTON_KEEP_LECTURE");
+    m_keep->setDefault(true);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_listen);
+    buttons->addStretch();
+    buttons->addWidget(discarding);
+    buttons->addWidget(m_keep);
+    auto *column = new QVBoxLayout(m_sheet);
+    column->addWidget(explained);
+    column->addLayout(form);
+    column->addWidget(m_outcome);
+    column->addLayout(buttons);
+    m_sheet->setMinimumWidth(Width);
+
+    connect(m_listen, &QPushButton::clicked, this, &LeftLectureSheet::listenOrPause);
+    connect(discarding, &QPushButton::clicked, this, &LeftLectureSheet::discard);
+    connect(m_keep, &QPushButton::clicked, this, &LeftLectureSheet::keep);
+    connect(m_sheet, &QDialog::finished, this, &LeftLectureSheet::stopListening);
+}
+
+void LeftLectureSheet::offer()
+{
+    m_waiting = m_left.undecided();
+    if (m_waiting.isEmpty())
+        return;
+    if (!m_mainWindow.isVisible()) {
+        m_mainWindow.installEventFilter(this);
+        return;
+    }
+    showFirst();
+    m_sheet->open();
+    m_keep->setFocus();
+}
+
+bool LeftLectureSheet::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == &m_mainWindow && event->type() == QEvent::Show) {
+        m_mainWindow.removeEventFilter(this);
+        QMetaObject::invokeMethod(this, &LeftLectureSheet::offer, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void LeftLectureSheet::showFirst()
+{
+    const audio::LeftLectures::Left &left = m_waiting.first();
+    const QDateTime day = m_dates.parse(left.journal.day, QStringLiteral("yyyy-MM-dd"));
+    m_subject->setText(store::subjectToStore(left.journal.subject));
+    // One that another calendar wrote is shown as it wrote it.
+    m_day->setText(day.isValid() ? m_dates.format(day, Dates::Style::Full, Dates::Style::None)
+                                 : left.journal.day);
+    m_length->setText(left.takePath.isEmpty()
+                          ? text("MSG_NO_AUDIO_FOR_LECTURE")
+                          : audio::getDuration(audio::wholeSeconds(left.seconds)));
+    m_listen->setEnabled(left.seconds > 0);
+    m_outcome->hide();
+    m_sheet->setAccessibleDescription(text("LEFT_LECTURE_EXPLAINED") + u' ' + m_subject->text() +
+                                      QStringLiteral(", ") + m_day->text() + QStringLiteral(", ") +
+                                      m_length->text());
+}
+
+void LeftLectureSheet::goOn()
+{
+    stopListening();
+    m_waiting.removeFirst();
+    if (m_waiting.isEmpty()) {
+        m_sheet->accept();
+        return;
+    }
+    showFirst();
+    m_keep->setFocus();
+    platform::announce(*m_sheet, m_sheet->accessibleDescription());
+}
+
+void LeftLectureSheet::keep()
+{
+    stopListening();
+    if (m_left.keep(m_waiting.first()) == audio::LeftLectures::Kept::Undecided) {
+        m_outcome->setText(text("LEFT_LECTURE_NOT_NOW"));
+        m_outcome->show();
+        platform::announce(*m_sheet, m_outcome->text());
+        return;
+    }
+    Q_EMIT lectureKept();
+    platform::announce(m_mainWindow, text("ANNOUNCE_LECTURE_SAVED"));
+    goOn();
+}
+
+void LeftLectureSheet::discard()
+{
+    stopListening();
+    m_left.discard(m_waiting.first());
+    goOn();
+}
+
+void LeftLectureSheet::listenOrPause()
+{
+    if (!m_player) {
+        m_player = m_engine.makePlayer(engine::soundBytesOf(m_waiting.first().takePath));
+        if (!m_player)
+            return;
+        m_player->setDelegate(this);
+        m_player->prepareToPlay();
+    }
+    if (m_player->isPlaying())
+        m_player->pause();
+    else
+        m_player->play();
+    showWhetherPlaying();
+}
+
+void LeftLectureSheet::audioPlayerDidFinishPlayingSuccessfully(engine::AudioPlayer *, bool)
+{
+    stopListening();
+}
+
+// The player may be the one that calls.
+void LeftLectureSheet::stopListening()
+{
+    if (!m_player)
+        return;
+    m_player->setDelegate(nullptr);
+    m_player->stop();
+    QMetaObject::invokeMethod(
+        this, [gone = std::shared_ptr<engine::AudioPlayer>(std::move(m_player))] {},
+        Qt::QueuedConnection);
+    showWhetherPlaying();
+}
+
+void LeftLectureSheet::showWhetherPlaying()
+{
+    const bool isPlaying = m_player && m_player->isPlaying();
+    m_listen->setText(text(isPlaying ? "BUTTON_PAUSE" : "BUTTON_LISTEN"));
+}
+
+} // namespace tarvelo::app
