@@ -80,7 +80,7 @@ void LeftLectures::setAside()
     for (const QFileInfo &take : takes) {
         if (!areTakesLeft)
             break;
-        if (holdsNothing(take.filePath())) {
+        if (!(journal && journal->isDone) && holdsNothing(take.filePath())) {
             QFile::remove(take.filePath());
             continue;
         }

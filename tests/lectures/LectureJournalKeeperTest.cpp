@@ -265,6 +265,7 @@ private Q_SLOTS:
         m_program->recordNewLecture(3);
         subject().setText(u"Optics"_s);
         m_program->finishNewLecture();
+        m_program->clock.advance(1s);
 
         m_program->recordNewLecture(4);
         subject().setText(u"Acoustics"_s);
