@@ -30,12 +30,14 @@ def _moment(*parts, fold=0):
 
 NOON = _moment(2026, 11, 20, 12)
 HOUR, DAY = 3600, 86400
+LAST = _moment(2027, 4, 1, 12)
 # What happens, when the lecture is begun, and what the clock then shows from the event on, counted from the event.
+# Each begins later than the one before: the program shows the day of that, and a new lecture is filed under the day shown unless that is past.
 JUMPS = {
+    "end of summer time": (_moment(2026, 10, 25, 2, 58), 119 - 8),
     "set back an hour": (NOON, -HOUR),
     "set on three hours": (NOON + HOUR, 3 * HOUR),
     "midnight": (_moment(2026, 11, 20, 23, 58), 119 - 8),
-    "end of summer time": (_moment(2026, 10, 25, 2, 58), 119 - 8),
     "set back a year": (NOON + DAY, -365 * DAY),
     "set on ten years": (NOON + 2 * DAY, 3653 * DAY),
     "beginning of summer time": (_moment(2027, 3, 28, 1, 58), 119 - 8),
@@ -86,7 +88,7 @@ class _Trial:
         library = glob.glob("/usr/lib/*/faketime/libfaketimeMT.so.1")
         if not library:
             raise Failed("there is no libfaketime")
-        self._show(NOON)
+        self._show(_moment(2026, 10, 25, 1) if which == "first" else LAST)
         false = {"LD_PRELOAD": library[0], "FAKETIME_TIMESTAMP_FILE": self._offset, "FAKETIME_NO_CACHE": "1",
                  "FAKETIME_DONT_FAKE_MONOTONIC": "1", "NO_FAKE_STAT": "1", "TZ": zone}
         os.environ.update(false)
@@ -104,11 +106,10 @@ class _Trial:
 
     def _lecture(self, event):
         """Gives how much of what was spoken is missing, in seconds."""
-        begin, jump = JUMPS.get(event, (NOON + 5 * DAY, 0))
+        begin, jump = JUMPS.get(event, (LAST, 0))
         window = names.NEW_LECTURE_WINDOW
         self._spoken.begin()
         self._show(begin)
-        self._hands.press(names.MAIN_WINDOW, "Home")  # to today, as that is now
         self._hands.press(names.MAIN_WINDOW, "ctrl+n")
         self._hands.window(window)
         self._hands.point_at(window, names.START_RECORDING)  # it may slide in late on a busy machine
