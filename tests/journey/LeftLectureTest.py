@@ -1,0 +1,109 @@
+"""A program that is killed while a lecture is recorded: the next start offers the lecture."""
+
+import datetime
+import os
+import signal
+import sys
+import tempfile
+import unittest
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
+
+from outside import names, proof, sound  # noqa: E402  (found by the path set above)
+from outside.desktop import Desktop  # noqa: E402
+from outside.waiting import wait_for  # noqa: E402
+
+PROGRAM = sys.argv.pop(1)
+SENTENCE = "Whatever happens now, this sentence must not be lost."
+SUBJECT = "Wave Optics"
+NOTES = "Huygens and his wavelets."
+SHEET = "Unfinished Lecture"
+KEEP = "Keep"
+DISCARD = "Discard"
+LISTEN = "Listen"
+HEARD = 0.98
+
+
+class LeftLectureTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.desktop = Desktop(folder.name)
+        self.desktop.__enter__()
+        self.addCleanup(self.desktop.__exit__)
+        server = sound.SoundServer()
+        server.__enter__()
+        self.addCleanup(server.__exit__)
+        self.server = server
+        self.sentence = os.path.join(folder.name, "sentence.wav")
+        sound.write_speech(SENTENCE, self.sentence)
+        from outside.program import Program  # finds its bus in the environment, which stands only now
+
+        self.program = Program(PROGRAM, self.desktop)
+        self.addCleanup(self.program.stop)
+        self.hands = self.program.hands
+        self.temporary = os.path.join(self.desktop.data, "Tarvelo", "temp")
+
+    def files(self):
+        return sorted(name for name in os.listdir(self.temporary) if not name.startswith("."))
+
+    def record(self, which):
+        self.program.start(which)
+        self.hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)
+        self.hands.write(names.NEW_LECTURE_WINDOW, names.SUBJECT, SUBJECT)
+        self.hands.write(names.NEW_LECTURE_WINDOW, names.NOTES, NOTES)
+        self.hands.click(names.NEW_LECTURE_WINDOW, names.START_RECORDING)
+        self.hands.control(names.NEW_LECTURE_WINDOW, names.PAUSE)
+        self.server.speak(self.sentence)
+        # What follows may be lost, the sentence not.
+        self.server.speak(self.sentence)
+
+    def kill(self):
+        self.program.send(signal.SIGKILL)
+        self.program.expect_end(-signal.SIGKILL)
+
+    def test_a_killed_lecture_is_kept(self):
+        self.record("first")
+        self.kill()
+
+        self.program.start("second")
+        self.hands.control(SHEET, LISTEN)
+        self.hands.click(SHEET, KEEP)
+        self.hands.window_goes(SHEET)
+
+        self.hands.row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
+        row = proof.lecture(self.desktop.data, SUBJECT, NOTES, datetime.date.today().isoformat())
+        agreement, _ = sound.correlation(sound.samples(row["audioFileFullPath"]), sound.samples(self.sentence))
+        self.assertGreater(agreement, HEARD)
+        self.assertEqual([], self.files())
+        self.program.quit()
+        self.program.expect_silence()
+
+    def test_discarded_it_is_gone(self):
+        self.record("first")
+        self.kill()
+
+        self.program.start("second")
+        self.hands.click(SHEET, DISCARD)
+        self.hands.window_goes(SHEET)
+
+        self.assertEqual([], self.files())
+        self.program.quit()
+
+    def test_a_request_to_end_leaves_it_to_the_next_start(self):
+        self.record("first")
+        self.program.send(signal.SIGTERM)
+        self.program.expect_end()
+
+        self.program.start("second")
+        self.hands.press(SHEET, "Escape")
+        self.hands.window_goes(SHEET)
+        self.program.quit()
+        self.program.start("third")
+
+        self.hands.window(SHEET)
+
+
+if __name__ == "__main__":
+    unittest.main()
