@@ -11,6 +11,13 @@ namespace tarvelo::audio {
 
 RecordingSearch::RecordingSearch(const QStringList &paths)
 try {
+    connect(
+        this, &RecordingSearch::ended, this,
+        [this] {
+            m_thread.join();
+            Q_EMIT finished(m_found);
+        },
+        Qt::QueuedConnection);
     const platform::AllSignalsBlocked blocked;
     m_thread = std::thread([this, paths] { run(paths); });
 } catch (const std::system_error &) {
@@ -26,17 +33,14 @@ RecordingSearch::~RecordingSearch()
 
 void RecordingSearch::run(const QStringList &paths)
 {
-    QList<FoundRecording> found;
     for (const QString &path : paths) {
         if (!m_isWanted)
             return;
         const double seconds = engine::secondsOfSound(path);
         if (seconds > 0)
-            found.append({path, QFileInfo(path).lastModified(), seconds});
+            m_found.append({path, QFileInfo(path).lastModified(), seconds});
     }
-    // This object waits for the thread before it goes, and takes what is queued for it along.
-    QMetaObject::invokeMethod(
-        this, [this, found] { Q_EMIT finished(found); }, Qt::QueuedConnection);
+    Q_EMIT ended();
 }
 
 } // namespace tarvelo::audio

@@ -29,11 +29,14 @@ public:
 
 Q_SIGNALS:
     void finished(const QList<tarvelo::audio::FoundRecording> &recordings);
+    // From the thread.
+    void ended();
 
 private:
     void run(const QStringList &paths);
 
     std::atomic<bool> m_isWanted = true;
+    QList<FoundRecording> m_found; // the thread's, until it has ended
     std::thread m_thread;
 };
 

@@ -43,6 +43,15 @@ Soundness byResult(int result)
 
 IntegrityCheck::IntegrityCheck(const QString &file)
 try {
+    connect(
+        this, &IntegrityCheck::ended, this,
+        [this] {
+            std::unique_lock lock(m_mutex);
+            const Soundness soundness = m_soundness;
+            lock.unlock();
+            Q_EMIT finished(soundness);
+        },
+        Qt::QueuedConnection);
     const platform::AllSignalsBlocked blocked;
     m_thread = std::thread([this, file] { run(file); });
 } catch (const std::system_error &) {
@@ -75,9 +84,9 @@ void IntegrityCheck::end(Soundness soundness)
     const std::lock_guard lock(m_mutex);
     m_isRunning = false;
     m_hasEnded.notify_all();
+    m_soundness = soundness;
     if (m_isWanted)
-        QMetaObject::invokeMethod(
-            this, [this, soundness] { Q_EMIT finished(soundness); }, Qt::QueuedConnection);
+        Q_EMIT ended();
 }
 
 Soundness IntegrityCheck::look(sqlite3 *database)

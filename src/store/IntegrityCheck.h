@@ -26,6 +26,8 @@ public:
 
 Q_SIGNALS:
     void finished(tarvelo::store::Soundness soundness);
+    // From the thread.
+    void ended();
 
 private:
     void run(const QString &file);
@@ -36,6 +38,7 @@ private:
     std::condition_variable m_hasEnded;
     bool m_isWanted = true;
     bool m_isRunning = true;
+    Soundness m_soundness = Soundness::Unknown;
     sqlite3 *m_database = nullptr; // while it is asked
     std::thread m_thread;
 };
