@@ -135,9 +135,13 @@ void BringBackSheet::listRecordings()
     if (m_recordings.count() == 0)
         return;
     const int chosen = m_list->indexOfTopLevelItem(m_list->currentItem());
+    const bool wasNothingThere = !m_list->isEnabled();
     if (m_copies.isEmpty())
         m_outcome->clear();
     list();
+    // The keyboard was on Close, which was all there was; Return would close the sheet.
+    if (wasNothingThere)
+        m_list->setFocus();
     if (chosen > 0)
         m_list->setCurrentItem(m_list->topLevelItem(chosen));
     if (m_sheet->isVisible())

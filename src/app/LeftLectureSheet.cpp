@@ -15,6 +15,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace tarvelo::app {
 
 namespace {
@@ -96,6 +98,7 @@ void LeftLectureSheet::build()
     column->addWidget(m_outcome);
     column->addLayout(buttons);
     m_sheet->setMinimumWidth(Width);
+    m_sheet->resize(Width, m_sheet->height());
 
     connect(m_listen, &QPushButton::clicked, this, &LeftLectureSheet::listenOrPause);
     connect(discarding, &QPushButton::clicked, this, &LeftLectureSheet::discard);
@@ -142,6 +145,17 @@ void LeftLectureSheet::showFirst()
     m_sheet->setAccessibleDescription(text("LEFT_LECTURE_EXPLAINED") + u' ' + m_subject->text() +
                                       QStringLiteral(", ") + m_day->text() + QStringLiteral(", ") +
                                       m_length->text());
+    fit();
+}
+
+// Wrapped texts need a height that depends on the width, which windows do not ask for.
+void LeftLectureSheet::fit()
+{
+    QLayout &column = *m_sheet->layout();
+    column.activate();
+    const int width = std::max(m_sheet->width(), column.totalMinimumSize().width());
+    m_sheet->setMinimumHeight(column.totalHeightForWidth(width));
+    m_sheet->resize(width, m_sheet->minimumHeight());
 }
 
 void LeftLectureSheet::goOn()
@@ -163,6 +177,7 @@ void LeftLectureSheet::keep()
     if (m_left.keep(m_waiting.first()) == audio::LeftLectures::Kept::Undecided) {
         m_outcome->setText(text("LEFT_LECTURE_NOT_NOW"));
         m_outcome->show();
+        fit();
         platform::announce(*m_sheet, m_outcome->text());
         return;
     }

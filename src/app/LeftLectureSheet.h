@@ -48,6 +48,7 @@ Q_SIGNALS:
 private:
     void build();
     void showFirst();
+    void fit();
     void goOn();
     void keep();
     void discard();
