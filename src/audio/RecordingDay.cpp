@@ -43,7 +43,7 @@ QDateTime momentInName(const QString &path, const platform::Dates &dates)
                       yearAtTheBeginning(dates.format(dates.now(), QStringLiteral("YYYY")));
     for (const int years : {0, -1, 1, apart, apart - 1, apart + 1}) {
         const QString text = QString::number(year + years) + digits.mid(4);
-        const QDateTime moment = dates.parse(text, QStringLiteral("yyyyMMddHHmmss"));
+        QDateTime moment = dates.parse(text, QStringLiteral("yyyyMMddHHmmss"));
         if (moment.isValid() && dates.format(moment, NamePattern) == digits)
             return moment;
     }

@@ -4,13 +4,16 @@
 #include "lectures/LectureTable.h"
 #include "platform/Alerts.h"
 #include "platform/Texts.h"
+#include "store/LectureJournal.h"
 #include "support/LectureBuilder.h"
 #include "widgets/LevelIndicator.h"
 #include "widgets/PopOver.h"
 
 #include <QApplication>
 #include <QDialog>
+#include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -38,6 +41,7 @@ public:
     {
     }
 
+    void leftLecture();
     void main();
     void row();
     // False when the view did not come to rest.
@@ -68,6 +72,20 @@ private:
     const Look &m_look;
 };
 
+// A lecture that a process which did not live to store it has written down.
+void leaveLecture(const Application &program)
+{
+    const store::LectureJournal journal{.id = u"20240304T080000000"_s,
+                                        .subject = u"Wave optics"_s,
+                                        .notes = u"Huygens"_s,
+                                        .day = u"2024-03-04"_s,
+                                        .date = u"2024-03-04"_s};
+    const QString folder = program.home.folder() + u"/temp"_s;
+    QFile file(folder + u"/lecture.journal"_s);
+    if (QDir().mkpath(folder) && file.open(QIODevice::WriteOnly))
+        file.write(store::toBytes(journal));
+}
+
 // A student's month.
 void Tour::fill() const
 {
@@ -82,6 +100,15 @@ void Tour::fill() const
         add(aLecture().named("Linear algebra").on(day));
     m_program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 5));
     m_program.windows.mainOutlets().calendarView->layoutSubviews();
+}
+
+void Tour::leftLecture()
+{
+    m_program.window().show();
+    m_program.clock.advance(app::AppDelegate::LeftLecturesDelay);
+    QDialog &sheet = *m_program.delegate.leftLectureSheet().sheet();
+    look("left-lecture", sheet);
+    sheet.close();
 }
 
 void Tour::main()
@@ -225,9 +252,11 @@ QStringList languages()
 
 bool goThrough(Application &program, const std::function<void(const QString &, QWidget &)> &look)
 {
+    leaveLecture(program);
     program.launch();
     program.clock.advance(500ms); // until the path of the take is known
     Tour tour(program, look);
+    tour.leftLecture();
     tour.main();
     tour.row();
     const bool isAllShown = tour.lectureView();
