@@ -2,11 +2,14 @@
 
 #include "audio/engine/MovieOutput.h"
 #include "audio/engine/OutputFile.h"
+#include "platform/Descriptor.h"
 #include "platform/DurableFiles.h"
 
 #include <QFile>
 
 #include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarvelo::engine {
@@ -15,11 +18,93 @@ namespace {
 
 constexpr std::int64_t SamplesInPacket = 1024; // in all of AAC's low complexity profile
 
-struct InputCloser
+constexpr int BufferSize = 256 * 1024;
+
+// A take that is read packet by packet. FFmpeg's own way to a file asks the system for the size of
+// it with each packet, which for a long lecture is half of all that keeping it costs.
+class TakeReader final
 {
-    void operator()(AVFormatContext *input) const { avformat_close_input(&input); }
+public:
+    explicit TakeReader(const std::string &path)
+        : m_file(QFile::decodeName(path.c_str()), O_RDONLY)
+    {
+    }
+    TakeReader(const TakeReader &) = delete;
+    TakeReader &operator=(const TakeReader &) = delete;
+    ~TakeReader();
+
+    // False when there is no take.
+    bool open();
+    AVFormatContext &input() { return *m_input; }
+
+private:
+    bool openBytes();
+    static int readBytes(void *self, std::uint8_t *bytes, int count);
+    static std::int64_t seek(void *self, std::int64_t offset, int whence);
+
+    platform::Descriptor m_file;
+    std::int64_t m_size = 0;
+    std::int64_t m_position = 0;
+    AVIOContext *m_io = nullptr;
+    AVFormatContext *m_input = nullptr;
 };
-using InputPointer = std::unique_ptr<AVFormatContext, InputCloser>;
+
+TakeReader::~TakeReader()
+{
+    avformat_close_input(&m_input);
+    if (m_io)
+        av_freep(&m_io->buffer);
+    avio_context_free(&m_io);
+}
+
+bool TakeReader::open()
+{
+    struct stat status = {};
+    if (!m_file.isOpen() || ::fstat(m_file.number(), &status) != 0)
+        return false;
+    m_size = status.st_size;
+    m_input = openBytes() ? avformat_alloc_context() : nullptr;
+    if (!m_input)
+        return false;
+    m_input->pb = m_io;
+    return avformat_open_input(&m_input, "", av_find_input_format("mov"), nullptr) >= 0;
+}
+
+bool TakeReader::openBytes()
+{
+    auto buffer = static_cast<std::uint8_t *>(av_malloc(BufferSize));
+    if (!buffer)
+        return false;
+    m_io = avio_alloc_context(buffer, BufferSize, 0, this, &TakeReader::readBytes, nullptr,
+                              &TakeReader::seek);
+    if (!m_io)
+        av_free(buffer);
+    return m_io != nullptr;
+}
+
+int TakeReader::readBytes(void *self, std::uint8_t *bytes, int count)
+{
+    auto take = static_cast<TakeReader *>(self);
+    ssize_t given = -1;
+    do
+        given = ::pread(take->m_file.number(), bytes, static_cast<std::size_t>(count),
+                        take->m_position);
+    while (given < 0 && errno == EINTR);
+    if (given < 0)
+        return AVERROR(EIO);
+    take->m_position += given;
+    return given == 0 ? AVERROR_EOF : static_cast<int>(given);
+}
+
+std::int64_t TakeReader::seek(void *self, std::int64_t offset, int whence)
+{
+    auto take = static_cast<TakeReader *>(self);
+    if (whence == AVSEEK_SIZE)
+        return take->m_size;
+    if (whence != SEEK_SET || offset < 0)
+        return AVERROR(EINVAL);
+    return take->m_position = offset;
+}
 
 // Hidden, and always the same for one take: what a crash left is written over, not gathered.
 std::string siblingOf(const std::string &path)
@@ -27,15 +112,6 @@ std::string siblingOf(const std::string &path)
     const auto slash = path.rfind('/');
     const auto nameAt = slash == std::string::npos ? 0 : slash + 1;
     return path.substr(0, nameAt) + "." + path.substr(nameAt) + ".indexed";
-}
-
-InputPointer openTake(const std::string &path)
-{
-    AVFormatContext *input = nullptr;
-    // The prefix keeps a colon in the name from being taken for a protocol's.
-    if (avformat_open_input(&input, ("file:" + path).c_str(), nullptr, nullptr) < 0)
-        return nullptr;
-    return InputPointer(input);
 }
 
 bool copySound(AVFormatContext &input, OutputFile &file, const TakeExtent &extent)
@@ -64,9 +140,9 @@ bool copySound(AVFormatContext &input, OutputFile &file, const TakeExtent &exten
 
 bool writeCopy(const std::string &from, const std::string &to, const TakeExtent &extent)
 {
-    const InputPointer input = openTake(from);
-    const auto file = input ? OutputFile::create(to) : nullptr;
-    return file && copySound(*input, *file, extent) && file->sync();
+    TakeReader take(from);
+    const auto file = take.open() ? OutputFile::create(to) : nullptr;
+    return file && copySound(take.input(), *file, extent) && file->sync();
 }
 
 } // namespace

@@ -40,6 +40,8 @@ bool MovieOutput::open(Form form, const AVCodecParameters &track, AVRational tim
         return false;
     m_muxer->pb = m_io;
     m_muxer->flags |= AVFMT_FLAG_CUSTOM_IO;
+    // A write for each packet costs more than all else that keeping a lecture takes.
+    m_muxer->flush_packets = 0;
     AVStream *stream = avformat_new_stream(m_muxer, nullptr);
     if (!stream || avcodec_parameters_copy(stream->codecpar, &track) < 0)
         return false;
