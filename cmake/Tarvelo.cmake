@@ -68,17 +68,13 @@ if(TARVELO_VALGRIND)
 endif()
 
 # One test program a production class:
-# tarvelo_test(SqliteTest SOURCES SqliteTest.cpp LINK tarvelo_store [LABELS x] [ENVIRONMENT a=b]
-#     [CONFIGURATIONS y]: run by ctest -C y, not with the others).
+# tarvelo_test(SqliteTest SOURCES SqliteTest.cpp LINK tarvelo_store [LABELS x] [ENVIRONMENT a=b]).
 function(tarvelo_test name)
-    cmake_parse_arguments(ARG "SERIAL" "CONFIGURATIONS" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvelo_test_support Qt6::Test tarvelo_options)
-    add_test(NAME ${name} COMMAND ${TARVELO_TEST_LAUNCHER} $<TARGET_FILE:${name}> CONFIGURATIONS ${ARG_CONFIGURATIONS})
+    add_test(NAME ${name} COMMAND ${TARVELO_TEST_LAUNCHER} $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_ENABLE_HIGHDPI_SCALING=0;LC_ALL=C.UTF-8;TZ=UTC;${TARVELO_TEST_ENVIRONMENT};${ARG_ENVIRONMENT}")
-    if(ARG_SERIAL)
-        set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE)
-    endif()
 endfunction()

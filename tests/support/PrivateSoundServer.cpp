@@ -53,6 +53,17 @@ void load(const QStringList &module)
     answerOf(QStringList(QStringLiteral("load-module")) + module);
 }
 
+// What microphone and speaker are made of. Both play what they have taken: when one takes some back
+// for who comes in later, what listens to it hears that moment twice or not at all.
+QStringList soundModules(const PrivateSoundServer::Options &options)
+{
+    return {QStringLiteral("module-null-sink sink_name=speaker norewinds=1"),
+            QStringLiteral("module-null-sink sink_name=mic norewinds=1 rate=%1 channels=%2")
+                .arg(options.rate)
+                .arg(options.channels),
+            QStringLiteral("module-remap-source source_name=microphone master=mic.monitor")};
+}
+
 QStringList sinkInputs()
 {
     return {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")};
@@ -95,18 +106,12 @@ PrivateSoundServer::~PrivateSoundServer()
 
 bool PrivateSoundServer::writeScript(const Options &options) const
 {
-    // The speaker plays what it has taken: when it takes some back, what listens to it hears that
-    // moment twice or not at all.
     QString script;
-    if (options.hasMicrophone)
-        script += QStringLiteral("load-module module-null-sink sink_name=speaker norewinds=1\n"
-                                 "load-module module-null-sink sink_name=mic rate=%1 channels=%2\n"
-                                 "load-module module-remap-source source_name=microphone "
-                                 "master=mic.monitor\n"
-                                 "set-default-source microphone\n"
-                                 "set-default-sink speaker\n")
-                      .arg(options.rate)
-                      .arg(options.channels);
+    if (options.hasMicrophone) {
+        for (const QString &module : soundModules(options))
+            script += QStringLiteral("load-module %1\n").arg(module);
+        script += QStringLiteral("set-default-source microphone\nset-default-sink speaker\n");
+    }
     // Last, so that who can connect finds everything.
     script += QStringLiteral("load-module module-native-protocol-unix auth-anonymous=1 "
                              "socket=%1\n")
@@ -258,13 +263,10 @@ bool PrivateSoundServer::pullOutEverything()
 
 bool PrivateSoundServer::plugInEverything()
 {
-    load({QStringLiteral("module-null-sink"), QStringLiteral("sink_name=speaker"),
-          QStringLiteral("norewinds=1")});
-    load({QStringLiteral("module-null-sink"), QStringLiteral("sink_name=mic"),
-          QStringLiteral("rate=%1").arg(m_options.rate),
-          QStringLiteral("channels=%1").arg(m_options.channels)});
+    for (const QString &module : soundModules(m_options))
+        load(module.split(QLatin1Char(' ')));
     answerOf({QStringLiteral("set-default-sink"), QStringLiteral("speaker")});
-    return plugInMicrophone() && keepAwake();
+    return chooseMicrophone(QStringLiteral("microphone")) && keepAwake();
 }
 
 bool PrivateSoundServer::hang()

@@ -157,17 +157,21 @@ double correlation(std::span<const float> one, std::span<const float> other)
     return together / (std::sqrt(oneAlone * otherAlone) + 1e-12);
 }
 
-Likeness compare(std::span<const float> played, std::span<const float> recorded, int rate,
+Likeness compare(std::span<const float> original, std::span<const float> recorded, int rate,
                  double searchSeconds)
 {
     Likeness likeness;
+    // An encoder lets a sound be heard some samples before it begins.
+    const std::ptrdiff_t lead = rate / 100;
+    std::vector<float> played(static_cast<std::size_t>(lead));
+    played.insert(played.end(), original.begin(), original.end());
     // The player may have begun after the recorder.
     const auto loud = std::ranges::find_if(recorded, [](float it) { return std::abs(it) > 0.01F; });
     recorded = recorded.subspan(static_cast<std::size_t>(loud - recorded.begin()));
     const auto start = findStart(played, recorded, rate, searchSeconds);
     if (start < 0)
         return likeness;
-    likeness.start = static_cast<double>(start) / rate;
+    likeness.start = static_cast<double>(std::max<std::ptrdiff_t>(start - lead, 0)) / rate;
     likeness.correlation = correlation(piece(played, start, recorded.size()), recorded);
     const auto second = static_cast<std::size_t>(rate);
     const std::ptrdiff_t reach = rate / 40;

@@ -28,7 +28,7 @@ struct Likeness
 };
 
 // Looks for the beginning within the first `searchSeconds` of what was played.
-Likeness compare(std::span<const float> played, std::span<const float> recorded, int rate,
+Likeness compare(std::span<const float> original, std::span<const float> recorded, int rate,
                  double searchSeconds = 60);
 
 // The longest time, in seconds, for which the level of a steady tone is not within half and one and
