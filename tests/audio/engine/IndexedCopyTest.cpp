@@ -1,6 +1,5 @@
 #include "audio/engine/IndexedCopy.h"
 #include "audio/engine/AacEncoder.h"
-#include "audio/engine/DecodedSource.h"
 #include "audio/engine/FragmentedFile.h"
 #include "audio/engine/Resampler.h"
 #include "support/DecodedAudio.h"
@@ -78,26 +77,6 @@ private Q_SLOTS:
         QVERIFY(QFile(path()).size() < 100000);
     }
 
-    // 32 bits count the samples of 27 hours, and in a table of them there is no room for more than
-    // so many packets either.
-    void aTakeOfMoreThanADayIsWholeToTheLastSample()
-    {
-        constexpr std::int64_t Samples = 30LL * 3600 * 44100 + 123;
-        writeFragmented(1);
-        QVERIFY(DecodedSource::open(content())); // somebody listened to another one before
-        const auto extent = writeSilence(Samples);
-
-        QVERIFY(replaceWithIndexedCopy(file(), extent));
-
-        QVERIFY(!MovieFacts::read(path())->isFragmented);
-        const auto take = DecodedSource::open(content());
-        QVERIFY(take);
-        QCOMPARE(std::llround(take->seconds() * 44100), Samples);
-        take->seek(Samples - 1000);
-        std::vector<float> sound(2 * 44100);
-        QCOMPARE(take->read(sound), 1000U);
-    }
-
 private:
     void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
 
@@ -121,31 +100,6 @@ private:
             encoder->encode(samples, output);
         }
         encoder->finish(output);
-        take->finish();
-        return take->extentInFile();
-    }
-
-    // One and the same packet, again and again.
-    TakeExtent writeSilence(std::int64_t samples) const
-    {
-        const auto encoder = AacEncoder::create({});
-        const PacketPointer silence(av_packet_alloc());
-        const auto keep = [&](const AVPacket &packet) {
-            av_packet_unref(silence.get());
-            return av_packet_ref(silence.get(), &packet) == 0;
-        };
-        for (int frame = 0; frame < 4; ++frame) {
-            AVFrame *quiet = encoder->frame();
-            av_samples_set_silence(quiet->extended_data, 0, encoder->frameLength(), 2,
-                                   AV_SAMPLE_FMT_FLTP);
-            encoder->encode(encoder->frameLength(), keep);
-        }
-        const auto take = FragmentedFile::create(OutputFile::create(file()), encoder->codec());
-        for (std::int64_t at = -encoder->frameLength(); at < samples; at += silence->duration) {
-            silence->pts = silence->dts = at;
-            silence->duration = std::min<std::int64_t>(encoder->frameLength(), samples - at);
-            take->add(*silence);
-        }
         take->finish();
         return take->extentInFile();
     }
