@@ -161,10 +161,10 @@ Likeness compare(std::span<const float> original, std::span<const float> recorde
                  double searchSeconds)
 {
     Likeness likeness;
-    // An encoder lets a sound be heard some samples before it begins.
+    // An encoder lets a sound be heard some samples before it begins, and after its end.
     const std::ptrdiff_t lead = rate / 100;
-    std::vector<float> played(static_cast<std::size_t>(lead));
-    played.insert(played.end(), original.begin(), original.end());
+    std::vector<float> played(original.size() + 2 * static_cast<std::size_t>(lead));
+    std::ranges::copy(original, played.begin() + lead);
     // The player may have begun after the recorder.
     const auto loud = std::ranges::find_if(recorded, [](float it) { return std::abs(it) > 0.01F; });
     recorded = recorded.subspan(static_cast<std::size_t>(loud - recorded.begin()));

@@ -326,12 +326,16 @@ private:
     static bool isExactWhereItIsNotStretched(const Hearer &hearer, std::span<const float> sound,
                                              double seconds)
     {
+        const auto isStretched = [&](std::size_t at) {
+            const double step = hearer.seconds[at] - hearer.seconds[at - 1];
+            return std::abs(step * 44100 - 1) >= 1e-3;
+        };
         std::size_t exact = 0;
         std::size_t since = 0; // the last moment at another rate
-        for (std::size_t at = 1; at < hearer.sound.size(); ++at) {
-            const double step = (hearer.seconds[at] - hearer.seconds[at - 1]) * 44100;
-            since = std::abs(step - 1) < 1e-3 ? since + 1 : 0;
-            if (static_cast<double>(since) < Fade * 44100)
+        // The first frame of another rate is still at the second at which it would have been.
+        for (std::size_t at = 1; at + 1 < hearer.sound.size(); ++at) {
+            since = isStretched(at) ? 0 : since + 1;
+            if (static_cast<double>(since) < Fade * 44100 || isStretched(at + 1))
                 continue;
             const auto place = static_cast<std::size_t>(std::lround(hearer.seconds[at] * 44100));
             if (place >= sound.size() || std::abs(hearer.sound[at] - sound[place] / 2) > 0.001F)
