@@ -21,17 +21,17 @@ def _seconds(duration):
     return hours * 3600 + minutes * 60 + seconds
 
 
-def lecture(data, subject, notes, day):
-    """The one row of the database, as a dictionary, when it is the lecture that was recorded."""
+def lecture(data, subject, notes, day, others=0):
+    """The newest row of the database, as a dictionary, when it is the lecture that was recorded and there are so many others."""
     path = os.path.join(data, "Tarvelo", "TarveloInfo.db")
     if not os.path.exists(path):
         raise Failed(f"there is no database {path}")
     with sqlite3.connect(f"file:{path}?mode=ro", uri=True) as database:
         database.row_factory = sqlite3.Row
-        rows = [dict(row) for row in database.execute(f"SELECT {COLUMNS} FROM audioData")]
-    if len(rows) != 1:
-        raise Failed(f"the database holds {len(rows)} lectures instead of one")
-    row = rows[0]
+        rows = [dict(row) for row in database.execute(f"SELECT {COLUMNS} FROM audioData ORDER BY rowid")]
+    if len(rows) != 1 + others:
+        raise Failed(f"the database holds {len(rows)} lectures instead of {1 + others}")
+    row = rows[-1]
     for column, wanted in (("subject", subject), ("notes", notes), ("recordingDate", day)):
         if row[column] != wanted:
             raise Failed(f"the row's {column} is {row[column]!r} instead of {wanted!r}")

@@ -126,7 +126,7 @@ class Scenes:
         self._rest()
         self._window("alone", names.MAIN_WINDOW)
         self._hands.click(names.MAIN_WINDOW, "Back to List")
-        self._hands.click(names.MAIN_WINDOW, "Close")
+        self._hands.click(names.MAIN_WINDOW, names.CLOSE)
         self._hands.press(names.MAIN_WINDOW, "F6")
         self._play(subject)
         self._edit(subject)

@@ -1,6 +1,6 @@
 """The power is cut: the disk forgets what was not forced to it.
 
-The real program records, saves, deletes and is started again while a layer before the C library writes down what it
+The real program records, saves, deletes, is killed, started again and keeps what was left, while a layer before the C library writes down what it
 does to its files. Afterwards the folder is made again as each of many moments may have left it."""
 
 import collections
@@ -75,25 +75,23 @@ class Story:
             if stops:
                 sitting.stop()
             sitting.save(subject)
-            self._add(subject, self._row_path(subject), saved=time.monotonic())
+            self._add(subject, time.monotonic(), self._played.now(), saved=time.monotonic())
         deleting = time.monotonic()
         sitting.delete("Optics")
         self.lectures[0] = self.lectures[0]._replace(deleted=deleting)
         sitting.begin("Kepler")
         sitting.listen(seconds)
-        killed = time.monotonic()
+        killed, heard = time.monotonic(), self._played.now()
         sitting.program.send(signal.SIGKILL)
         sitting.program.expect_end(-signal.SIGKILL)
-        self._add("Kepler", os.path.join(self.home, "temp", "tempAudioFile.m4a"))
-        self.last = killed
+        sitting.start(**layer)
+        sitting.keep_left("Kepler")
+        self._add("Kepler", killed, heard, saved=time.monotonic())
+        self.last = time.monotonic()
 
-    def _row_path(self, subject):
-        rows = student.rows_of(self.home)
-        return rows[subject]
-
-    def _add(self, subject, path, saved=None):
-        ended, heard = time.monotonic(), self._played.now()
-        samples = sound.samples(path)
+    def _add(self, subject, ended, heard, saved):
+        """It was recorded until the moment `ended`, of which the witness had heard so many seconds by then."""
+        samples = sound.samples(student.rows_of(self.home)[subject])
         begin, end = (ended - heard + moment for moment in self._played.span(samples, heard))
         self.lectures.append(Lecture(subject, samples, begin, end, saved, None))
 
@@ -146,7 +144,7 @@ class Cuts:
             if lecture.deleted and moment >= lecture.deleted:
                 continue
             self._expect_sound(lecture, moment, list(sounds.values()))
-            if lecture.saved and moment > lecture.saved + MOST_LOST and lecture.subject not in rows:
+            if moment > lecture.saved + MOST_LOST and lecture.subject not in rows:
                 raise Failed(f"the row of {lecture.subject!r} is gone, {moment - lecture.saved:.2f} s after it was stored")
             if lecture.subject in rows and os.path.normpath(rows[lecture.subject]).replace(self._story.home, self._folder) not in sounds:
                 raise Failed(f"the file of {lecture.subject!r} is gone")

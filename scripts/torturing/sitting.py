@@ -64,6 +64,12 @@ class Sitting:
         self.hands.window_goes(names.NEW_LECTURE_WINDOW)
         self.hands.row(names.MAIN_WINDOW, names.LECTURES, subject)
 
+    def keep_left(self, subject):
+        """What a killed program left is asked about after the next start."""
+        self.hands.click(names.LEFT_LECTURE, names.KEEP)
+        self.hands.window_goes(names.LEFT_LECTURE)
+        self.hands.row(names.MAIN_WINDOW, names.LECTURES, subject)
+
     def delete(self, subject):
         self.hands.point_at_row(names.MAIN_WINDOW, names.LECTURES, subject)
         self.hands.click(names.MAIN_WINDOW, names.DELETE)

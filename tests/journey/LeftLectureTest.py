@@ -18,10 +18,6 @@ PROGRAM = sys.argv.pop(1)
 SENTENCE = "Whatever happens now, this sentence must not be lost."
 SUBJECT = "Wave Optics"
 NOTES = "Huygens and his wavelets."
-SHEET = "Unfinished Lecture"
-KEEP = "Keep"
-DISCARD = "Discard"
-LISTEN = "Listen"
 HEARD = 0.98
 
 
@@ -50,8 +46,11 @@ class LeftLectureTest(unittest.TestCase):
 
     def record(self, which):
         self.program.start(which)
+        self.record_now(SUBJECT)
+
+    def record_now(self, subject):
         self.hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)
-        self.hands.write(names.NEW_LECTURE_WINDOW, names.SUBJECT, SUBJECT)
+        self.hands.write(names.NEW_LECTURE_WINDOW, names.SUBJECT, subject)
         self.hands.write(names.NEW_LECTURE_WINDOW, names.NOTES, NOTES)
         self.hands.click(names.NEW_LECTURE_WINDOW, names.START_RECORDING)
         self.hands.control(names.NEW_LECTURE_WINDOW, names.PAUSE)
@@ -63,19 +62,22 @@ class LeftLectureTest(unittest.TestCase):
         self.program.send(signal.SIGKILL)
         self.program.expect_end(-signal.SIGKILL)
 
+    def expect_sentence_in(self, subject, others=0):
+        row = proof.lecture(self.desktop.data, subject, NOTES, datetime.date.today().isoformat(), others)
+        agreement, _ = sound.correlation(sound.samples(row["audioFileFullPath"]), sound.samples(self.sentence))
+        self.assertGreater(agreement, HEARD)
+
     def test_a_killed_lecture_is_kept(self):
         self.record("first")
         self.kill()
 
         self.program.start("second")
-        self.hands.control(SHEET, LISTEN)
-        self.hands.click(SHEET, KEEP)
-        self.hands.window_goes(SHEET)
+        self.hands.control(names.LEFT_LECTURE, names.LISTEN)
+        self.hands.click(names.LEFT_LECTURE, names.KEEP)
+        self.hands.window_goes(names.LEFT_LECTURE)
 
         self.hands.row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
-        row = proof.lecture(self.desktop.data, SUBJECT, NOTES, datetime.date.today().isoformat())
-        agreement, _ = sound.correlation(sound.samples(row["audioFileFullPath"]), sound.samples(self.sentence))
-        self.assertGreater(agreement, HEARD)
+        self.expect_sentence_in(SUBJECT)
         self.assertEqual([], self.files())
         self.program.quit()
         self.program.expect_silence()
@@ -85,8 +87,8 @@ class LeftLectureTest(unittest.TestCase):
         self.kill()
 
         self.program.start("second")
-        self.hands.click(SHEET, DISCARD)
-        self.hands.window_goes(SHEET)
+        self.hands.click(names.LEFT_LECTURE, names.DISCARD)
+        self.hands.window_goes(names.LEFT_LECTURE)
 
         self.assertEqual([], self.files())
         self.program.quit()
@@ -97,12 +99,48 @@ class LeftLectureTest(unittest.TestCase):
         self.program.expect_end()
 
         self.program.start("second")
-        self.hands.press(SHEET, "Escape")
-        self.hands.window_goes(SHEET)
+        self.hands.press(names.LEFT_LECTURE, "Escape")
+        self.hands.window_goes(names.LEFT_LECTURE)
         self.program.quit()
         self.program.start("third")
 
-        self.hands.window(SHEET)
+        self.hands.window(names.LEFT_LECTURE)
+
+    def test_a_closed_lecture_stays_and_is_not_offered(self):
+        self.record("first")
+        self.hands.click(names.NEW_LECTURE_WINDOW, names.STOP)
+        self.hands.control(names.NEW_LECTURE_WINDOW, names.PLAY)
+        self.hands.click(names.NEW_LECTURE_WINDOW, names.CLOSE)
+        self.hands.window_goes(names.NEW_LECTURE_WINDOW)
+        self.program.quit()
+
+        self.program.start("second")
+
+        # With a sheet before it the main window would take no click.
+        self.hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)
+        self.hands.window(names.NEW_LECTURE_WINDOW)
+        self.assertIn("tempAudioFile.m4a", self.files())
+
+    def test_what_is_recorded_before_an_answer_is_another_lecture(self):
+        self.record("first")
+        self.kill()
+        self.program.start("second")
+        self.hands.press(names.LEFT_LECTURE, "Escape")
+        self.hands.window_goes(names.LEFT_LECTURE)
+
+        self.record_now("Kepler")
+        self.hands.click(names.NEW_LECTURE_WINDOW, names.STOP)
+        self.hands.control(names.NEW_LECTURE_WINDOW, names.PLAY)
+        self.hands.click(names.NEW_LECTURE_WINDOW, names.DONE)
+        self.hands.row(names.MAIN_WINDOW, names.LECTURES, "Kepler")
+        self.expect_sentence_in("Kepler")
+        self.program.quit()
+        self.program.start("third")
+        self.hands.click(names.LEFT_LECTURE, names.KEEP)
+        self.hands.row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
+
+        self.expect_sentence_in(SUBJECT, others=1)
+        self.assertEqual([], self.files())
 
 
 if __name__ == "__main__":
