@@ -151,6 +151,7 @@ void CustomWindow::shrink()
         layout()->setSizeConstraint(QLayout::SetNoConstraint);
     setMinimumSize(0, 0);
 
+    const QRect whole = geometry();
     const QRectF frame = frameOnScreen(*this);
     QVariantAnimation animation;
     animation.setDuration(ShrinkMilliseconds);
@@ -168,6 +169,9 @@ void CustomWindow::shrink()
     connect(&animation, &QVariantAnimation::finished, &end, &QEventLoop::quit);
     animation.start();
     end.exec(QEventLoop::ExcludeUserInputEvents);
+    // Who was hidden on the way may have heard of an earlier, smaller shape after that.
+    if (!isVisible())
+        setGeometry(whole);
 }
 
 void CustomWindow::hideEvent(QHideEvent *event)
