@@ -1,6 +1,7 @@
 #include "audio/Playback.h"
 
 #include "audio/AudioFileLocations.h"
+#include "audio/PlaySpeeds.h"
 #include "audio/PlayerDisplay.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
@@ -45,23 +46,11 @@ void showPlay(ImageButton &button)
     button.setAlternateImage(platform::imageNamed(QStringLiteral("playH")));
 }
 
-// In single precision, each from the base: a third is 1.0 ÷ 3.0, not 0.333.
+// In single precision, each from the base. Nothing for a segment that stands for no speed.
 std::optional<float> rateOfSegment(int segment, float base)
 {
-    switch (segment) {
-    case 0:
-        return base / 5.0F;
-    case 1:
-        return base * 0.25F;
-    case 2:
-        return base / 3.0F;
-    case 3:
-        return base * 0.5F;
-    case 4:
-        return base;
-    default:
-        return std::nullopt;
-    }
+    const auto at = static_cast<std::size_t>(segment);
+    return at < PlaySpeeds.size() ? std::optional(base / PlaySpeeds[at].divisor) : std::nullopt;
 }
 
 } // namespace

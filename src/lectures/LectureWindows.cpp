@@ -1,5 +1,6 @@
 #include "lectures/LectureWindows.h"
 
+#include "audio/PlaySpeeds.h"
 #include "calendar/CKCalendarView.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureTableAccess.h"
@@ -361,13 +362,10 @@ void LectureWindows::buildPlayAudioWindow()
     ui.btnPauseLecture->setImage(imageNamed(QStringLiteral("pause")));
     ui.btnPauseLecture->setAlternateImage(imageNamed(QStringLiteral("pauseH")));
     ui.btnPauseLecture->setTag(2);
-    ui.segPlaySpeed->addSegment(QStringLiteral("⅕×"), platform::text("SPEED_FIFTH"));
-    ui.segPlaySpeed->addSegment(QStringLiteral("¼×"), platform::text("SPEED_QUARTER"));
-    ui.segPlaySpeed->addSegment(QStringLiteral("⅓×"), platform::text("SPEED_THIRD"));
-    ui.segPlaySpeed->addSegment(QStringLiteral("½×"), platform::text("SPEED_HALF"));
-    ui.segPlaySpeed->addSegment(QStringLiteral("1×"), platform::text("SPEED_RECORDED"));
+    for (const audio::PlaySpeed &speed : audio::PlaySpeeds)
+        ui.segPlaySpeed->addSegment(QString::fromUtf8(speed.label), platform::text(speed.nameKey));
     // That of a lecture that was just opened.
-    ui.segPlaySpeed->setSelectedSegment(4);
+    ui.segPlaySpeed->setSelectedSegment(ui.segPlaySpeed->segmentCount() - 1);
     // The speeds came into being last, and are not what comes last.
     QWidget::setTabOrder(ui.segPlaySpeed->findChildren<QAbstractButton *>().constLast(),
                          ui.btnClosePlayAudio);
