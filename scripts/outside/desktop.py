@@ -4,10 +4,18 @@ import os
 import shutil
 import subprocess
 import tempfile
+import time
 
 from .waiting import Children, wait_for
 
 SCREEN = "1440x900x24"
+EVENING = 21  # o'clock: what begins later may end on another day
+MORNING_ZONE = "Etc/GMT+12"  # where it is then the morning of the same day
+
+
+def zone():
+    """One in which no midnight comes before the end of what is done here: what was recorded today stays in today's list."""
+    return MORNING_ZONE if time.gmtime().tm_hour >= EVENING else "UTC"
 
 
 class Desktop:
@@ -39,6 +47,7 @@ class Desktop:
         shutil.rmtree(self._runtime, ignore_errors=True)
         os.environ.clear()
         os.environ.update(self._before)
+        time.tzset()
 
     def program_folders(self):
         """Those that the program made for itself, which are there after its first start."""
@@ -59,6 +68,7 @@ class Desktop:
         environment = {
             "PATH": os.environ["PATH"],
             "LC_ALL": "C.UTF-8",
+            "TZ": zone(),
             "HOME": os.path.join(self.folder, "home"),
             "XDG_DATA_HOME": self.data,
             "XDG_CONFIG_HOME": os.path.join(self.folder, "config"),
@@ -71,6 +81,7 @@ class Desktop:
                 if key.endswith("SAN_OPTIONS") or key in ("TZ", "QT_LOGGING_RULES")}
         os.environ.clear()
         os.environ.update(environment | kept)
+        time.tzset()
         for key, value in environment.items():
             if key == "HOME" or key.startswith("XDG_"):
                 os.makedirs(value, exist_ok=True)

@@ -589,6 +589,31 @@ private Q_SLOTS:
         QVERIFY(!platform::hasAttachedSheet(program.window()));
     }
 
+    void thePreferencesAreReachedThroughTheDelegate()
+    {
+        Application program;
+        program.launch();
+        QDialog *sheet = program.delegate.preferences().preferrenceWindow();
+        QCheckBox off;
+        QButtonGroup formats;
+        QCheckBox first;
+        formats.addButton(&first, 0);
+        first.setChecked(true);
+        QCheckBox other;
+        formats.addButton(&other, 1);
+
+        program.delegate.setStatusForHideMainWindowOnStart(&off);
+        program.delegate.setLogoAtMenubarOrDockPanel(&off);
+        program.delegate.onChangeFormatChoice(&formats);
+        sheet->open();
+        program.delegate.sheetDidEndReturnCodeContextInfo(sheet, 0, nullptr);
+
+        QVERIFY(program.settings().contains("showWindowAtLogin=0"));
+        QVERIFY(program.settings().contains("DockIcon=false"));
+        QVERIFY(program.controller.tempAudioSavePath().endsWith(QStringLiteral(".aac")));
+        QVERIFY(!sheet->isVisible());
+    }
+
 private:
     static qsizetype selectedCells(const Application &program)
     {

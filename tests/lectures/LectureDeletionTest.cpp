@@ -369,6 +369,8 @@ private Q_SLOTS:
         press(viewOf(2)->btnDelete());
         popovers().btnConfirmNo->click();
 
+        controller().onRemoveNotesRecord(nullptr);
+        QVERIFY(!controller().isConfirmDeleteShowing());
         controller().onRemoveNotesRecord(main().btnAddItem);
 
         QVERIFY(controller().isConfirmDeleteShowing());

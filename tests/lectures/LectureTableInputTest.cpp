@@ -236,6 +236,16 @@ private Q_SLOTS:
         QCOMPARE(button()->geometry(), QRect(width - 30, row.y(), 30, row.height() - 1));
     }
 
+    void fingersThatLeaveARowUncoverItsActionWhole()
+    {
+        swipe(1, {-400, 0});
+        swipe(1, {5, 0});
+
+        wheelAt(viewOf(1)->geometry().center(), {}, {}, {}, Qt::ScrollEnd);
+
+        QTRY_COMPARE(viewOf(1)->x(), -button()->sizeHint().width());
+    }
+
     void theWheelWithShiftUncoversTheActionWhole()
     {
         turnWheel(1, {0, -120}, Qt::ShiftModifier);
@@ -398,10 +408,10 @@ private:
         wheelAt(viewOf(row)->geometry().center(), {}, angle, modifiers);
     }
     void wheelAt(const QPoint &position, const QPoint &pixels, const QPoint &angle,
-                 Qt::KeyboardModifiers modifiers)
+                 Qt::KeyboardModifiers modifiers, Qt::ScrollPhase phase = Qt::NoScrollPhase)
     {
         QWheelEvent event(position, m_table->viewport()->mapToGlobal(position), pixels, angle,
-                          Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+                          Qt::NoButton, modifiers, phase, false);
         QApplication::sendEvent(m_table->viewport(), &event);
     }
     void listenToButtons()

@@ -109,6 +109,32 @@ private Q_SLOTS:
         QCOMPARE(m_program->engine.takeAsked(), inOrder({"player play"}));
     }
 
+    void theLectureViewsButtonsPlayAndPause()
+    {
+        openFirstInTheView();
+
+        view().bPlay->click();
+        QCOMPARE(m_program->engine.takeAsked(), inOrder({"player play"}));
+        view().bPause->click();
+
+        QCOMPARE(m_program->engine.takeAsked(), inOrder({"player pause"}));
+    }
+
+    // It only shows where the lecture is: wanted so.
+    void theLectureViewsSliderSeeksNothingWhenItIsLetGo()
+    {
+        m_program->engine.playerDuration = 100;
+        openFirstInTheView();
+        m_program->engine.playedSeconds = 40;
+
+        view().sliderEditProgress->setSliderDown(true);
+        view().sliderEditProgress->setValue(view().sliderEditProgress->maximum() / 4);
+        view().sliderEditProgress->setSliderDown(false);
+
+        QCOMPARE(m_program->engine.playedSeconds, 40.0);
+        QCOMPARE(m_program->engine.takeAsked(), QStringList());
+    }
+
     void keysPauseAndPlayInTurn_data()
     {
         QTest::addColumn<Qt::Key>("key");
@@ -286,6 +312,16 @@ private:
     {
         showTwoLectures();
         row(0).btnPlay()->click();
+        m_program->engine.takeAsked();
+    }
+    const tarvelo::audio::EditPlayerOutlets &view()
+    {
+        return m_program->windows.editPlayerOutlets();
+    }
+    void openFirstInTheView()
+    {
+        showTwoLectures();
+        controller().openPlayEditWindow(row(0).btnPlay());
         m_program->engine.takeAsked();
     }
 

@@ -118,6 +118,24 @@ private Q_SLOTS:
         of(button).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 
         QCOMPARE(pressed, 1);
+        QVERIFY(of(button).actionInterface()->actionNames().contains(
+            QAccessibleActionInterface::pressAction()));
+    }
+
+    void aToggleCanBeGivenTheKeyboard()
+    {
+        QWidget window;
+        ImageButton button(&window);
+        button.setCheckable(true);
+        button.setFocusPolicy(Qt::StrongFocus);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.setFocus(Qt::OtherFocusReason);
+        QVERIFY(!button.hasFocus());
+
+        of(button).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+
+        QVERIFY(button.hasFocus());
     }
 
     void aLevelHasAValue()
@@ -128,6 +146,12 @@ private Q_SLOTS:
         QCOMPARE(of(level).role(), QAccessible::ProgressBar);
         QCOMPARE(of(level).valueInterface()->currentValue().toDouble(), 0.5);
         QCOMPARE(of(level).valueInterface()->maximumValue().toDouble(), 1.0);
+        QCOMPARE(of(level).valueInterface()->minimumValue().toDouble(), 0.0);
+        QCOMPARE(of(level).valueInterface()->minimumStepSize().toDouble(), 0.0);
+
+        // It shows, and is not set from outside.
+        of(level).valueInterface()->setCurrentValue(1.0);
+        QCOMPARE(level.floatValue(), 0.5F);
     }
 };
 

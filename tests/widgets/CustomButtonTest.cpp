@@ -38,6 +38,11 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(&button, &entering);
 
         QCOMPARE(button.image().name(), QStringLiteral("arrowleft"));
+
+        QEvent leaving(QEvent::Leave);
+        QCoreApplication::sendEvent(&button, &leaving);
+
+        QCOMPARE(button.image().name(), QStringLiteral("arrowleft"));
     }
 
     void beingMadeReadyTwiceLeavesOneTrackingRectangle()

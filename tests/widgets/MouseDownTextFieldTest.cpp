@@ -85,6 +85,22 @@ private Q_SLOTS:
         QCOMPARE(m_stage->delegate.clicked.size(), 2);
     }
 
+    void whereSomeoneWritesTheMouseSelects()
+    {
+        m_stage->delegate.opens = true;
+        const QPoint begin(1, heading().height() / 2);
+        const QPoint end(heading().width() - 4, heading().height() / 2);
+        dragOver(begin, end);
+        QVERIFY(!heading().hasSelectedText());
+
+        dragOver(begin, end);
+        QCOMPARE(heading().selectedText(), u"Optics"_s);
+
+        heading().deselect();
+        QTest::mouseDClick(&heading(), Qt::LeftButton, {}, begin + QPoint(12, 0));
+        QCOMPARE(heading().selectedText(), u"Optics"_s);
+    }
+
     void whoeverComesByKeyboardTypesAtOnce()
     {
         m_stage->delegate.opens = true;
@@ -184,6 +200,14 @@ private:
     void finish() override { m_stage.reset(); }
 
     MouseDownTextField &heading() const { return m_stage->heading; }
+    void dragOver(const QPoint &begin, const QPoint &end) const
+    {
+        QTest::mousePress(&heading(), Qt::LeftButton, {}, begin);
+        QMouseEvent move(QEvent::MouseMove, end, heading().mapToGlobal(end), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&heading(), &move);
+        QTest::mouseRelease(&heading(), Qt::LeftButton, {}, end);
+    }
 
     std::unique_ptr<Stage> m_stage;
 };
