@@ -15,19 +15,13 @@ constexpr std::int64_t Slack = std::int64_t{64} << 10;
 std::unique_ptr<FragmentedFile> FragmentedFile::create(std::unique_ptr<OutputFile> file,
                                                        const AVCodecContext &encoder)
 {
-    const std::unique_ptr<AVCodecParameters, void (*)(AVCodecParameters *)> track(
-        avcodec_parameters_alloc(), [](AVCodecParameters *it) { avcodec_parameters_free(&it); });
-    if (!track || avcodec_parameters_from_context(track.get(), &encoder) < 0)
+    auto maker = FragmentMaker::create(encoder);
+    if (!maker)
         return nullptr;
     std::unique_ptr<FragmentedFile> take(new FragmentedFile(std::move(file)));
     take->m_rate = encoder.sample_rate;
-    take->m_movie =
-        MovieOutput::create(MovieOutput::Form::Fragmented, *track, encoder.time_base,
-                            [written = &take->m_written](std::int64_t, auto bytes) {
-                                written->insert(written->end(), bytes.begin(), bytes.end());
-                                return true;
-                            });
-    return take->m_movie ? std::move(take) : nullptr;
+    take->m_maker = std::move(maker);
+    return take;
 }
 
 FragmentedFile::FragmentedFile(std::unique_ptr<OutputFile> file)
@@ -58,66 +52,87 @@ double FragmentedFile::secondsSafe() const
     return isFull() ? seconds(m_added) : Everything;
 }
 
-bool FragmentedFile::add(const AVPacket &packet)
+void FragmentedFile::add(const AVPacket &packet)
 {
-    if (!m_movie->add(packet))
-        return false;
+    m_maker->add(packet);
     m_added = {m_added.packets + 1, packet.pts + packet.duration};
-    const double seconds = static_cast<double>(m_added.samples - m_cut.samples) / m_rate;
-    return seconds < FragmentSeconds || cut();
+    if (isFragmentDue())
+        retry();
+}
+
+bool FragmentedFile::isFragmentDue() const
+{
+    return static_cast<double>(m_added.samples - m_cut.samples) / m_rate >= FragmentSeconds;
 }
 
 bool FragmentedFile::cut()
 {
-    if (!m_movie->cutFragment())
+    auto fragment = m_maker->make();
+    if (!fragment)
         return false;
     m_cut = m_added;
-    putWaiting();
-    retry();
+    m_bytesWaiting += fragment->size();
+    m_waiting.push_back({std::move(*fragment), m_cut});
     return true;
 }
 
-void FragmentedFile::putWaiting()
+void FragmentedFile::retry()
 {
-    m_bytesWaiting += m_written.size();
-    m_waiting.push_back({std::exchange(m_written, {}), m_cut});
+    if (isFragmentDue())
+        cut();
+    putWaiting();
+    syncNowAndThen();
 }
 
 // One after the other: of a disk that has not room for all, each that fits is safe.
-void FragmentedFile::retry()
+void FragmentedFile::putWaiting()
 {
-    for (; !m_waiting.empty(); m_waiting.pop_front()) {
-        const Fragment &next = m_waiting.front();
+    for (m_diskFails = false; !m_waiting.empty(); m_waiting.pop_front()) {
+        Fragment &next = m_waiting.front();
+        next.offset = m_file->size();
         m_diskFails = !m_file->append(next.bytes);
         if (m_diskFails)
             return;
         m_bytesWaiting -= next.bytes.size();
+        m_bytesUnsynced += next.bytes.size();
         m_inFile = next.upToIt;
+        m_unsynced.push_back(std::move(next));
     }
-    syncNowAndThen();
 }
 
 void FragmentedFile::syncNowAndThen()
 {
-    const auto now = std::chrono::steady_clock::now();
-    if (now - m_synced < SyncInterval)
+    if (std::chrono::steady_clock::now() - m_synced >= SyncInterval)
+        sync();
+}
+
+// A disk tells only once that it lost something, and takes it for written afterwards: all that it
+// may be is written again, for the next time.
+void FragmentedFile::sync()
+{
+    m_synced = std::chrono::steady_clock::now();
+    if (m_file->sync()) {
+        m_unsynced.clear();
+        m_bytesUnsynced = 0;
         return;
-    m_file->sync();
-    m_synced = now;
+    }
+    for (; m_bytesUnsynced > MostBytesWaiting; m_unsynced.pop_front())
+        m_bytesUnsynced -= m_unsynced.front().bytes.size();
+    for (const Fragment &fragment : m_unsynced)
+        m_file->writeAt(fragment.offset, fragment.bytes);
 }
 
 bool FragmentedFile::finish()
 {
     m_reserve.giveBack();
-    const bool written = cut() && m_movie->finish();
-    putWaiting();
-    retry();
-    // What was given back is free on some disks only when they have written that down.
-    if (m_diskFails && m_file->sync())
-        retry();
-    m_file->sync();
-    // Players do without the list of the fragments, which is what comes last.
-    return written && m_inFile.packets == m_added.packets;
+    const bool isCut = cut() || cut();
+    // The second time also because what was given back is free on some disks only when they have
+    // written that down.
+    for (int time = 0; time < 2 && (time == 0 || m_diskFails || !isSynced()); ++time) {
+        putWaiting();
+        sync();
+    }
+    return isCut && m_inFile.packets == m_added.packets;
 }
 
 } // namespace tarvelo::engine

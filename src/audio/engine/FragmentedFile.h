@@ -1,6 +1,6 @@
 #pragma once
 
-#include "audio/engine/MovieOutput.h"
+#include "audio/engine/FragmentMaker.h"
 #include "audio/engine/OutputFile.h"
 #include "audio/engine/Reserve.h"
 #include "audio/engine/TakeExtent.h"
@@ -36,38 +36,44 @@ public:
     // The disk did not take the last fragment.
     bool isDiskFailing() const { return m_diskFails; }
     // More sound would only be lost: call retry() until there is room again.
-    bool isFull() const { return m_bytesWaiting >= MostBytesWaiting; }
+    bool isFull() const { return m_bytesWaiting + m_maker->bytesKept() >= MostBytesWaiting; }
+    // All that stands in the file was forced to the disk.
+    bool isSynced() const { return m_unsynced.empty(); }
 
-    // False only when the sound itself cannot be written, never for a failing disk.
-    bool add(const AVPacket &packet);
+    void add(const AVPacket &packet);
     void retry();
-    // Writes what is left and closes the file; false when not all of the sound got there.
+    // Writes what is left and forces it to the disk; false when not all of the sound got into the
+    // file.
     bool finish();
 
 private:
     // Whole, and with the header before the first.
     struct Fragment
     {
-        std::vector<std::uint8_t> bytes;
+        FragmentMaker::Bytes bytes;
         TakeExtent upToIt;
+        std::int64_t offset = 0; // in the file, once it is there
     };
 
     explicit FragmentedFile(std::unique_ptr<OutputFile> file);
     double seconds(const TakeExtent &extent) const;
+    bool isFragmentDue() const;
     bool cut();
     void putWaiting();
     void syncNowAndThen();
+    void sync();
 
     std::unique_ptr<OutputFile> m_file;
     Reserve m_reserve;
-    std::vector<std::uint8_t> m_written; // by the movie, since the last fragment
-    std::unique_ptr<MovieOutput> m_movie;
+    std::unique_ptr<FragmentMaker> m_maker;
     int m_rate = 0;
     TakeExtent m_added;
     TakeExtent m_cut;
     TakeExtent m_inFile;
     std::deque<Fragment> m_waiting;
     std::size_t m_bytesWaiting = 0;
+    std::deque<Fragment> m_unsynced;
+    std::size_t m_bytesUnsynced = 0;
     bool m_diskFails = false;
     std::chrono::steady_clock::time_point m_synced = std::chrono::steady_clock::now();
 };

@@ -145,13 +145,25 @@ bool writeCopy(const std::string &from, const std::string &to, const TakeExtent 
     return file && copySound(take.input(), *file, extent) && file->sync();
 }
 
+// A writer that was refused memory does not always say so: then the index lacks something.
+bool isWhole(const std::string &copy, const TakeExtent &extent)
+{
+    TakeReader reader(copy);
+    if (!reader.open() || reader.input().nb_streams != 1)
+        return false;
+    AVStream *track = reader.input().streams[0];
+    return avformat_index_get_entries_count(track) == extent.packets &&
+           av_rescale_q(track->duration, track->time_base, {1, track->codecpar->sample_rate}) >=
+               extent.samples;
+}
+
 } // namespace
 
 bool replaceWithIndexedCopy(const std::string &path, const TakeExtent &extent)
 {
     keepFfmpegQuiet();
     const std::string sibling = siblingOf(path);
-    if (writeCopy(path, sibling, extent) &&
+    if (writeCopy(path, sibling, extent) && isWhole(sibling, extent) &&
         platform::renameDurably(QFile::decodeName(sibling.c_str()),
                                 QFile::decodeName(path.c_str())))
         return true;

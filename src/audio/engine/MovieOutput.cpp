@@ -9,19 +9,23 @@ constexpr int BufferSize = 64 * 1024;
 // delay_moov and not empty_moov: only the former can say that the encoder's first 23 ms are no part
 // of the sound. Without the trailer's index memory does not grow with the take.
 constexpr const char *FragmentedFlags = "frag_custom+delay_moov+default_base_moof+skip_trailer";
+constexpr const char *FurtherFlags =
+    "frag_custom+delay_moov+default_base_moof+skip_trailer+frag_discont";
 
 } // namespace
 
 std::unique_ptr<MovieOutput> MovieOutput::create(Form form, const AVCodecParameters &track,
-                                                 AVRational timeBase, ByteOutput output)
+                                                 AVRational timeBase, ByteOutput output,
+                                                 int firstFragment)
 {
     keepFfmpegQuiet();
-    std::unique_ptr<MovieOutput> movie(new MovieOutput(std::move(output)));
-    return movie->open(form, track, timeBase) ? std::move(movie) : nullptr;
+    std::unique_ptr<MovieOutput> movie(new MovieOutput(form, std::move(output)));
+    return movie->open(track, timeBase, firstFragment) ? std::move(movie) : nullptr;
 }
 
-MovieOutput::MovieOutput(ByteOutput output)
-    : m_output(std::move(output))
+MovieOutput::MovieOutput(Form form, ByteOutput output)
+    : m_form(form)
+    , m_output(std::move(output))
 {
 }
 
@@ -33,9 +37,9 @@ MovieOutput::~MovieOutput()
     avio_context_free(&m_io);
 }
 
-bool MovieOutput::open(Form form, const AVCodecParameters &track, AVRational timeBase)
+bool MovieOutput::open(const AVCodecParameters &track, AVRational timeBase, int firstFragment)
 {
-    if (!openBytes(form == Form::Indexed) || !m_packet ||
+    if (!openBytes() || !m_packet ||
         avformat_alloc_output_context2(&m_muxer, nullptr, "mp4", nullptr) < 0)
         return false;
     m_muxer->pb = m_io;
@@ -52,20 +56,23 @@ bool MovieOutput::open(Form form, const AVCodecParameters &track, AVRational tim
     // The length of the edit list counts in these: in the usual thousandths a take would be up to
     // 22 samples too long.
     av_dict_set_int(&options, "movie_timescale", timeBase.den, 0);
-    if (form == Form::Fragmented)
-        av_dict_set(&options, "movflags", FragmentedFlags, 0);
+    if (m_form != Form::Indexed) {
+        const bool isFurther = m_form == Form::FurtherFragments;
+        av_dict_set(&options, "movflags", isFurther ? FurtherFlags : FragmentedFlags, 0);
+        av_dict_set_int(&options, "fragment_index", firstFragment, 0);
+    }
     const int result = avformat_write_header(m_muxer, &options);
     av_dict_free(&options);
     return result >= 0;
 }
 
-bool MovieOutput::openBytes(bool canSeek)
+bool MovieOutput::openBytes()
 {
     auto buffer = static_cast<std::uint8_t *>(av_malloc(BufferSize));
     if (!buffer)
         return false;
     m_io = avio_alloc_context(buffer, BufferSize, 1, this, nullptr, &MovieOutput::writeBytes,
-                              canSeek ? &MovieOutput::seek : nullptr);
+                              m_form == Form::Indexed ? &MovieOutput::seek : nullptr);
     if (!m_io)
         av_free(buffer);
     return m_io != nullptr;
@@ -85,12 +92,14 @@ bool MovieOutput::add(const AVPacket &packet)
 
 bool MovieOutput::cutFragment()
 {
-    // The first time round the muxer only puts out the header and keeps the fragment.
-    for (int time = m_hasHeader ? 1 : 0; time < 2; ++time)
-        if (av_write_frame(m_muxer, nullptr) < 0)
-            return false;
-    m_hasHeader = true;
-    return flush();
+    // The first time the muxer only puts out the header and keeps the fragment.
+    m_hasHeader = m_hasHeader || putOut();
+    return m_hasHeader && putOut();
+}
+
+bool MovieOutput::putOut()
+{
+    return av_write_frame(m_muxer, nullptr) >= 0 && flush();
 }
 
 bool MovieOutput::finish()
@@ -107,7 +116,8 @@ bool MovieOutput::flush()
 int MovieOutput::writeBytes(void *self, std::uint8_t *bytes, int count)
 {
     auto movie = static_cast<MovieOutput *>(self);
-    if (!movie->m_output(movie->m_position, {bytes, static_cast<std::size_t>(count)}))
+    const bool isDropped = movie->m_form == Form::FurtherFragments && !movie->m_hasHeader;
+    if (!isDropped && !movie->m_output(movie->m_position, {bytes, static_cast<std::size_t>(count)}))
         return AVERROR(EIO);
     movie->m_position += count;
     return count;

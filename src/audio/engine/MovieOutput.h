@@ -16,30 +16,35 @@ public:
     // The offset counts from the beginning of the file; false tells the muxer to give up.
     using ByteOutput = std::function<bool(std::int64_t offset, std::span<const std::uint8_t>)>;
 
-    enum class Form { Fragmented, Indexed };
+    // Further fragments belong behind those of another movie: they come without a header, and
+    // their times count from the first sample of all.
+    enum class Form { Fragmented, FurtherFragments, Indexed };
 
-    // Null when the track cannot be written.
+    // Null when the track cannot be written. Fragments are numbered from 1.
     static std::unique_ptr<MovieOutput> create(Form form, const AVCodecParameters &track,
-                                               AVRational timeBase, ByteOutput output);
+                                               AVRational timeBase, ByteOutput output,
+                                               int firstFragment = 1);
     MovieOutput(const MovieOutput &) = delete;
     MovieOutput &operator=(const MovieOutput &) = delete;
     ~MovieOutput();
 
     // Times are in the time base of create(). The packet is left as it was.
     bool add(const AVPacket &packet);
-    // Fragmented form: puts out what was added since the last cut as one fragment, before the first
-    // one the header.
+    // Not in the indexed form: puts out what was added since the last cut as one fragment, before
+    // the first one the header.
     bool cutFragment();
     bool finish();
 
 private:
-    explicit MovieOutput(ByteOutput output);
-    bool openBytes(bool canSeek);
-    bool open(Form form, const AVCodecParameters &track, AVRational timeBase);
+    MovieOutput(Form form, ByteOutput output);
+    bool openBytes();
+    bool open(const AVCodecParameters &track, AVRational timeBase, int firstFragment);
+    bool putOut();
     bool flush();
     static int writeBytes(void *self, std::uint8_t *bytes, int count);
     static std::int64_t seek(void *self, std::int64_t offset, int whence);
 
+    const Form m_form;
     ByteOutput m_output;
     std::int64_t m_position = 0;
     AVRational m_timeBase{0, 1};

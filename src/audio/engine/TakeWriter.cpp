@@ -6,6 +6,20 @@
 
 namespace tarvelo::engine {
 
+namespace {
+
+// What an encoder without memory may leave lying.
+constexpr int MostSecondsWaiting = 10;
+
+// Memory that was refused once is given the next time, if it ever is.
+template <typename Attempt>
+bool twice(Attempt attempt)
+{
+    return attempt() || attempt();
+}
+
+} // namespace
+
 std::unique_ptr<TakeWriter> TakeWriter::create(const std::string &path, const PcmFormat &input,
                                                const RecorderSettings &settings)
 {
@@ -31,7 +45,7 @@ TakeWriter::TakeWriter(std::string path, std::unique_ptr<Resampler> resampler,
     , m_resampler(std::move(resampler))
     , m_encoder(std::move(encoder))
     , m_file(std::move(file))
-    , m_packetOutput([this](const AVPacket &packet) { return m_file->add(packet); })
+    , m_packetOutput([this](const AVPacket &packet) { m_file->add(packet); })
 {
 }
 
@@ -40,22 +54,31 @@ TakeWriter::~TakeWriter()
     finish();
 }
 
+bool TakeWriter::isFull() const
+{
+    const int most = MostSecondsWaiting * m_encoder->codec().sample_rate;
+    return m_file->isFull() || m_resampler->available() > most;
+}
+
 bool TakeWriter::write(std::span<const float> interleaved)
 {
-    if (m_isFinished || m_isBroken)
+    if (m_isFinished)
         return false;
-    if (m_file->isFull())
+    if (isFull()) {
         m_file->retry();
-    if (m_file->isFull())
+        encodeFrames();
+    }
+    if (isFull())
         return false;
     m_isEmpty = m_isEmpty && interleaved.empty();
-    m_isBroken = !m_resampler->put(interleaved) || !encodeFrames();
-    return !m_isBroken;
+    const bool isTaken = twice([&] { return m_resampler->put(interleaved); });
+    encodeFrames();
+    return isTaken;
 }
 
 bool TakeWriter::encodeFrames()
 {
-    while (m_resampler->available() >= m_encoder->frameLength())
+    while (m_samplesInFrame > 0 || m_resampler->available() >= m_encoder->frameLength())
         if (!encode(m_encoder->frameLength()))
             return false;
     return true;
@@ -63,10 +86,16 @@ bool TakeWriter::encodeFrames()
 
 bool TakeWriter::encode(int samples)
 {
-    AVFrame *frame = m_encoder->frame();
-    if (!frame || !m_resampler->take(*frame, samples))
+    if (m_samplesInFrame == 0) {
+        AVFrame *frame = m_encoder->frame();
+        if (!frame || !m_resampler->take(*frame, samples))
+            return false;
+        m_samplesInFrame = samples;
+    }
+    if (!m_encoder->encode(m_samplesInFrame, m_packetOutput))
         return false;
-    return m_encoder->encode(samples, m_packetOutput);
+    m_samplesInFrame = 0;
+    return true;
 }
 
 bool TakeWriter::encodeRest()
@@ -74,12 +103,13 @@ bool TakeWriter::encodeRest()
     // A file without any sound is one that not every player opens.
     if (m_isEmpty)
         m_resampler->put(std::vector<float>(2048, 0.0F));
-    if (!m_resampler->finish() || !encodeFrames())
+    const bool isAllOut = twice([this] { return m_resampler->finish(); });
+    if (!twice([this] { return encodeFrames(); }))
         return false;
     const int rest = m_resampler->available();
-    if (rest > 0 && !encode(rest))
+    if (rest > 0 && !twice([this, rest] { return encode(rest); }))
         return false;
-    return m_encoder->finish(m_packetOutput);
+    return twice([this] { return m_encoder->finish(m_packetOutput); }) && isAllOut;
 }
 
 bool TakeWriter::finish()
@@ -87,9 +117,10 @@ bool TakeWriter::finish()
     if (m_isFinished)
         return m_isComplete;
     m_isFinished = true;
-    const bool encoded = !m_isBroken && encodeRest();
-    m_isComplete = m_file->finish() && encoded;
-    replaceWithIndexedCopy(m_path, m_file->extentInFile());
+    const bool isEncoded = encodeRest();
+    const bool isWritten = m_file->finish();
+    const bool isIndexed = replaceWithIndexedCopy(m_path, m_file->extentInFile());
+    m_isComplete = isEncoded && isWritten && (isIndexed || m_file->isSynced());
     return m_isComplete;
 }
 

@@ -7,8 +7,9 @@
 namespace tarvelo::engine {
 
 // Samples in, an MPEG-4 file out: resamples, encodes and writes, all in the thread that calls. Its
-// memory does not grow with the take. A disk that takes no more is no failure while recording:
-// what stands in the file stays, and sound is taken again as soon as there is room.
+// memory does not grow with the take. A disk that takes no more is no failure while recording, nor
+// is a machine without memory: what stands in the file stays, and sound is taken again as soon as
+// there is room.
 class TakeWriter final
 {
 public:
@@ -33,6 +34,7 @@ public:
 private:
     TakeWriter(std::string path, std::unique_ptr<Resampler> resampler,
                std::unique_ptr<AacEncoder> encoder, std::unique_ptr<FragmentedFile> file);
+    bool isFull() const;
     bool encodeFrames();
     bool encodeRest();
     bool encode(int samples);
@@ -42,7 +44,7 @@ private:
     std::unique_ptr<AacEncoder> m_encoder;
     std::unique_ptr<FragmentedFile> m_file;
     AacEncoder::PacketOutput m_packetOutput;
-    bool m_isBroken = false;
+    int m_samplesInFrame = 0; // of the encoder, which it has not taken yet
     bool m_isFinished = false;
     bool m_isComplete = false;
     bool m_isEmpty = true;

@@ -57,7 +57,7 @@ private:
         const PacketPointer silence(av_packet_alloc());
         const auto keep = [&](const AVPacket &packet) {
             av_packet_unref(silence.get());
-            return av_packet_ref(silence.get(), &packet) == 0;
+            av_packet_ref(silence.get(), &packet);
         };
         for (int frame = 0; frame < 4; ++frame) {
             AVFrame *quiet = encoder->frame();

@@ -34,9 +34,8 @@ std::vector<PacketPointer> packetsOfNoise()
             for (int sample = 0; sample < encoder->frameLength(); ++sample)
                 samples[sample] = static_cast<float>(std::rand() % 2000 - 1000) / 1100;
         }
-        encoder->encode(encoder->frameLength(), [&packets](AVPacket &packet) {
+        encoder->encode(encoder->frameLength(), [&packets](const AVPacket &packet) {
             packets.emplace_back(av_packet_clone(&packet));
-            return true;
         });
     }
     return packets;
@@ -166,8 +165,7 @@ private:
         while (!take.isFull()) {
             const auto &packet = m_packets[m_next % m_packets.size()];
             packet->pts = packet->dts = m_first + static_cast<std::int64_t>(m_next++) * 1024;
-            if (!take.add(*packet))
-                return -1;
+            take.add(*packet);
         }
         return static_cast<double>(m_first + static_cast<std::int64_t>(m_next) * 1024) / Rate;
     }

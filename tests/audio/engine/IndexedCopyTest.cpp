@@ -93,7 +93,7 @@ private:
         const auto encoder = AacEncoder::create({});
         const auto resampler = Resampler::create({44100, 1}, {44100, 2});
         const auto take = FragmentedFile::create(OutputFile::create(file()), encoder->codec());
-        const auto output = [&](const AVPacket &packet) { return take->add(packet); };
+        const auto output = [&](const AVPacket &packet) { take->add(packet); };
         resampler->put(tune(44100, seconds));
         while (const int samples = std::min(resampler->available(), encoder->frameLength())) {
             resampler->take(*encoder->frame(), samples);
