@@ -11,22 +11,27 @@ namespace {
 
 constexpr qsizetype HeaderSize = 8;
 
+// Larger than what the index of a lecture of a week takes.
+constexpr qint64 MostLookedAt = qint64(64) << 20;
+
 struct Box
 {
-    QByteArrayView type;
+    QByteArray type;
     // With the header; more than there is where the file is cut off, less than a header when it
     // makes no sense.
     qint64 size;
 };
 
-Box boxAt(QByteArrayView movie, qsizetype at)
+Box boxAt(ByteSource &movie, qint64 at)
 {
-    const char *header = movie.data() + at;
-    Box box{movie.sliced(at + 4, 4), qFromBigEndian<quint32>(header)};
+    const QByteArray header = movie.piece(at, 2 * HeaderSize);
+    if (header.size() < HeaderSize)
+        return {{}, 0};
+    Box box{header.sliced(4, 4), qFromBigEndian<quint32>(header.constData())};
     if (box.size == 0) // to the end of the file
         box.size = movie.size() - at;
-    else if (box.size == 1 && movie.size() - at >= 2 * HeaderSize)
-        box.size = qFromBigEndian<qint64>(header + HeaderSize);
+    else if (box.size == 1 && header.size() == 2 * HeaderSize)
+        box.size = qFromBigEndian<qint64>(header.constData() + HeaderSize);
     return box;
 }
 
@@ -60,21 +65,22 @@ bool beginsLikeMovie(QByteArrayView head)
     return head.size() >= HeaderSize && std::ranges::find(Types, head.sliced(4, 4)) != Types.end();
 }
 
-std::optional<MovieOutline> outlineOf(QByteArrayView movie)
+std::optional<MovieOutline> outlineOf(ByteSource &movie)
 {
     MovieOutline outline;
     bool mayHoldFragments = false;
     bool isNumberMissing = false;
-    qsizetype at = 0;
+    qint64 at = 0;
     while (movie.size() - at >= HeaderSize) {
         const Box box = boxAt(movie, at);
         if (box.size < HeaderSize)
             break;
         const bool isFragment = box.type == "moof";
         const bool isCutOff = box.size > movie.size() - at;
-        const auto end = isCutOff ? movie.size() : at + static_cast<qsizetype>(box.size);
+        const auto end = isCutOff ? movie.size() : at + box.size;
         if (box.type != "mdat") {
-            const auto content = movie.sliced(at + HeaderSize, end - at - HeaderSize);
+            const QByteArray content =
+                movie.piece(at + HeaderSize, std::min(end - at - HeaderSize, MostLookedAt));
             mayHoldFragments = mayHoldFragments || isFragment || content.indexOf("moof") >= 0;
             isNumberMissing = isNumberMissing || hasTrackWithoutNumber(content);
         }
@@ -85,8 +91,13 @@ std::optional<MovieOutline> outlineOf(QByteArrayView movie)
     }
     if (mayHoldFragments && isNumberMissing)
         return std::nullopt;
-    outline.size = at;
+    outline.size = static_cast<qsizetype>(at);
     return outline;
+}
+
+std::optional<MovieOutline> outlineOf(const QByteArray &movie)
+{
+    return outlineOf(*ByteSource::ofBytes(movie));
 }
 
 } // namespace tarvelo::engine

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/engine/ByteSource.h"
+
 #include <QByteArrayView>
 
 #include <optional>
@@ -21,6 +23,7 @@ bool beginsLikeMovie(QByteArrayView head);
 
 // Nothing for a file with fragments and a track that has no number: FFmpeg would count to a
 // thousand million for each row of them.
-std::optional<MovieOutline> outlineOf(QByteArrayView movie);
+std::optional<MovieOutline> outlineOf(ByteSource &movie);
+std::optional<MovieOutline> outlineOf(const QByteArray &movie);
 
 } // namespace tarvelo::engine

@@ -1,17 +1,12 @@
 #include "audio/engine/SoundBytes.h"
 
+#include "audio/engine/ByteSource.h"
 #include "audio/engine/SoundSignature.h"
 
-#include <QFile>
-
 #include <algorithm>
-#include <array>
-#include <cerrno>
 #include <cstdint>
-#include <fcntl.h>
 #include <new>
 #include <sys/mman.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarvelo::engine {
@@ -23,53 +18,6 @@ constexpr qint64 SmallSize = 1 << 20;
 
 // Two days of a recording.
 constexpr qint64 LargestSize = qint64(2) << 30;
-
-class OpenFile final
-{
-public:
-    // Never waits, as opening a pipe would.
-    explicit OpenFile(const QString &path)
-        : m_file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC))
-    {
-    }
-    OpenFile(const OpenFile &) = delete;
-    OpenFile &operator=(const OpenFile &) = delete;
-    ~OpenFile()
-    {
-        if (m_file >= 0)
-            ::close(m_file);
-    }
-
-    // 0 also for what is no ordinary file.
-    qint64 size() const
-    {
-        struct stat status = {};
-        const bool isFile = m_file >= 0 && ::fstat(m_file, &status) == 0 && S_ISREG(status.st_mode);
-        return isFile ? status.st_size : 0;
-    }
-
-    // How many bytes there were, fewer than asked for only at the end of the file; -1 when it
-    // cannot be read.
-    qint64 read(char *bytes, qint64 count) const
-    {
-        qint64 done = 0;
-        while (done < count) {
-            const ssize_t now =
-                ::pread(m_file, bytes + done, static_cast<std::size_t>(count - done), done);
-            if (now < 0 && errno == EINTR)
-                continue;
-            if (now < 0)
-                return -1;
-            if (now == 0)
-                break;
-            done += now;
-        }
-        return done;
-    }
-
-private:
-    int m_file;
-};
 
 // In large pages the memory for three hours is there in half the time. Where there are none it
 // stays as it is.
@@ -83,13 +31,6 @@ void useLargePages(QByteArray &bytes)
         ::madvise(reinterpret_cast<void *>(first), end - first, MADV_HUGEPAGE);
 }
 
-bool promisesSound(const OpenFile &file)
-{
-    std::array<char, SignatureLength> head{};
-    const qint64 count = file.read(head.data(), SignatureLength);
-    return count > 0 && beginsLikeSound(QByteArrayView(head.data(), count));
-}
-
 // Whoever fills the memory of the machine ends more than this program.
 bool canBeHeld(qint64 size)
 {
@@ -101,13 +42,14 @@ bool canBeHeld(qint64 size)
 
 QByteArray soundBytesOf(const QString &path)
 try {
-    const OpenFile file(path);
-    const qint64 size = file.size();
-    if (size <= 0 || !canBeHeld(size) || (size > SmallSize && !promisesSound(file)))
+    const auto file = ByteSource::ofFile(path);
+    const qint64 size = file ? file->size() : 0;
+    if (size <= 0 || !canBeHeld(size) ||
+        (size > SmallSize && !beginsLikeSound(file->piece(0, SignatureLength))))
         return {};
     QByteArray bytes(size, Qt::Uninitialized);
     useLargePages(bytes);
-    const qint64 count = file.read(bytes.data(), size);
+    const qint64 count = file->read(0, bytes.data(), size);
     if (count <= 0)
         return {};
     bytes.truncate(count);

@@ -3,14 +3,16 @@
 #include "audio/engine/SoundSignature.h"
 
 #include <algorithm>
-#include <cstring>
 #include <mutex>
+#include <utility>
 
 namespace tarvelo::engine {
 
 namespace {
 
-constexpr int BufferSize = 64 * 1024;
+constexpr int BufferSize = 256 * 1024;
+
+constexpr std::int64_t SamplesInPacket = 1024; // in all of AAC's low complexity profile
 
 // What a lecture may have come in, and no more: every reader that is not there can be fooled by no
 // file. Play lists and the like, which lead to other files, are not among them.
@@ -47,23 +49,31 @@ void limitMemory()
 
 std::unique_ptr<SoundFileInput> SoundFileInput::open(const QByteArray &bytes)
 {
+    return open(ByteSource::ofBytes(bytes), Kind::Strange);
+}
+
+std::unique_ptr<SoundFileInput> SoundFileInput::open(std::shared_ptr<ByteSource> bytes, Kind kind)
+{
     keepFfmpegQuiet();
     limitMemory();
-    if (!beginsLikeSound(QByteArrayView(bytes).first(std::min(bytes.size(), SignatureLength))))
+    const QByteArray head = bytes ? bytes->piece(0, SignatureLength) : QByteArray();
+    if (!beginsLikeSound(head))
         return nullptr;
-    MovieOutline outline{bytes.size()};
-    if (beginsLikeMovie(bytes)) {
-        const auto found = outlineOf(bytes);
+    MovieOutline outline{static_cast<qsizetype>(bytes->size())};
+    if (beginsLikeMovie(head)) {
+        const auto found = outlineOf(*bytes);
         if (!found)
             return nullptr;
         outline = *found;
     }
-    std::unique_ptr<SoundFileInput> input(new SoundFileInput(bytes, outline));
+    std::unique_ptr<SoundFileInput> input(new SoundFileInput(std::move(bytes), outline, kind));
     return input->openDemuxer() ? std::move(input) : nullptr;
 }
 
-SoundFileInput::SoundFileInput(const QByteArray &bytes, const MovieOutline &outline)
-    : m_bytes(bytes)
+SoundFileInput::SoundFileInput(std::shared_ptr<ByteSource> bytes, const MovieOutline &outline,
+                               Kind kind)
+    : m_bytes(std::move(bytes))
+    , m_kind(kind)
     , m_size(outline.size)
     , m_holdsFragments(outline.holdsFragments)
 {
@@ -95,7 +105,9 @@ bool SoundFileInput::openDemuxer()
     av_dict_set(&options, "max_streams", MostTracks, 0);
     const int result = avformat_open_input(&m_demuxer, "", format, &options);
     av_dict_free(&options);
-    return result >= 0 && avformat_find_stream_info(m_demuxer, nullptr) >= 0 && chooseTrack();
+    return result >= 0 &&
+           (m_kind == Kind::Take || avformat_find_stream_info(m_demuxer, nullptr) >= 0) &&
+           chooseTrack();
 }
 
 bool SoundFileInput::openBytes()
@@ -191,12 +203,20 @@ std::int64_t SoundFileInput::endByHeader() const
     return std::min(cut, end);
 }
 
+std::int64_t SoundFileInput::packetsIndexed() const
+{
+    return avformat_index_get_entries_count(m_demuxer->streams[m_track]);
+}
+
 bool SoundFileInput::read(AVPacket &packet)
 {
     const bool isPlain = av_get_bits_per_sample(track().codecpar->codec_id) > 0;
     while (!m_isCancelled && av_read_frame(m_demuxer, &packet) >= 0) {
         // A packet that the file's end cuts through would be heard as a crack; of plain samples
         // what there is of it is as good as all.
+        // Without its decoder the reader does not know how long the last one is.
+        if (m_kind == Kind::Take && packet.duration == 0)
+            packet.duration = SamplesInPacket;
         if (isPlain)
             packet.flags &= ~AV_PKT_FLAG_CORRUPT;
         if (packet.stream_index == m_track && !(packet.flags & AV_PKT_FLAG_CORRUPT))
@@ -215,13 +235,13 @@ int SoundFileInput::readBytes(void *self, std::uint8_t *bytes, int count)
 {
     auto input = static_cast<SoundFileInput *>(self);
     const std::int64_t left = input->m_size - input->m_position;
-    const auto given = static_cast<int>(std::min<std::int64_t>(left, count));
-    if (given <= 0 || input->m_isCancelled)
+    const std::int64_t wanted = std::min<std::int64_t>(left, count);
+    if (wanted <= 0 || input->m_isCancelled)
         return AVERROR_EOF;
-    std::memcpy(bytes, input->m_bytes.constData() + input->m_position,
-                static_cast<std::size_t>(given));
+    const auto given = static_cast<int>(
+        input->m_bytes->read(input->m_position, reinterpret_cast<char *>(bytes), wanted));
     input->m_position += given;
-    return given;
+    return given > 0 ? given : AVERROR(EIO);
 }
 
 std::int64_t SoundFileInput::seekBytes(void *self, std::int64_t offset, int whence)

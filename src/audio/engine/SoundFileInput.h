@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/engine/ByteSource.h"
 #include "audio/engine/Ffmpeg.h"
 #include "audio/engine/MovieOutline.h"
 
@@ -10,7 +11,7 @@
 
 namespace tarvelo::engine {
 
-// The sound track of a file that lies in memory, packet by packet. Takes any bytes: those of a
+// The sound track of a file, packet by packet. Takes any bytes: those of a
 // stranger, of a file that was cut off, or of none at all. Opens no other file, whatever the bytes
 // refer to. For one thread at a time, but for cancel().
 class SoundFileInput final
@@ -21,13 +22,22 @@ public:
         "aac,alac,mp3float,flac,vorbis,opus,pcm_u8,pcm_s8,pcm_s16le,pcm_s16be,pcm_s24le,pcm_s24be,"
         "pcm_s32le,pcm_s32be,pcm_f32le,pcm_f32be,pcm_f64le,pcm_f64be,pcm_alaw,pcm_mulaw";
 
+    // A take of this program's says all about its sound at its beginning; a stranger's file is
+    // searched for it, with its decoder.
+    enum class Kind { Strange, Take };
+
     // Null when the bytes are no file with sound. They are shared, not copied.
     static std::unique_ptr<SoundFileInput> open(const QByteArray &bytes);
+    static std::unique_ptr<SoundFileInput> open(std::shared_ptr<ByteSource> bytes, Kind kind);
     SoundFileInput(const SoundFileInput &) = delete;
     SoundFileInput &operator=(const SoundFileInput &) = delete;
     ~SoundFileInput();
 
     const AVStream &track() const { return *m_demuxer->streams[m_track]; }
+    // As far as the index knows.
+    std::int64_t packetsIndexed() const;
+    // What was read is not all that there was.
+    bool hasFailed() const { return m_bytes->hasFailed(); }
     // The time stamp, in the track's time base, at which playing begins.
     std::int64_t origin() const;
     // Seconds of sound, also of a file that is cut off. Reads the file, without decoding, when
@@ -42,7 +52,7 @@ public:
     void cancel() { m_isCancelled = true; }
 
 private:
-    SoundFileInput(const QByteArray &bytes, const MovieOutline &outline);
+    SoundFileInput(std::shared_ptr<ByteSource> bytes, const MovieOutline &outline, Kind kind);
     bool openDemuxer();
     bool openBytes();
     bool chooseTrack();
@@ -54,7 +64,8 @@ private:
     static int readBytes(void *self, std::uint8_t *bytes, int count);
     static std::int64_t seekBytes(void *self, std::int64_t offset, int whence);
 
-    const QByteArray m_bytes;
+    const std::shared_ptr<ByteSource> m_bytes;
+    const Kind m_kind;
     const std::int64_t m_size; // of what is shown to the demuxer
     const bool m_holdsFragments;
     std::int64_t m_position = 0;

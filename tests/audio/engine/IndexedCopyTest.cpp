@@ -1,5 +1,6 @@
 #include "audio/engine/IndexedCopy.h"
 #include "audio/engine/AacEncoder.h"
+#include "audio/engine/BadPlace.h"
 #include "audio/engine/FragmentedFile.h"
 #include "audio/engine/Resampler.h"
 #include "support/DecodedAudio.h"
@@ -50,6 +51,19 @@ private Q_SLOTS:
         QCOMPARE(content(), before);
     }
 
+    void aFileThatCannotBeReadToItsEndIsLeftAsItIs()
+    {
+        const auto extent = writeFragmented(3);
+        const auto before = content();
+        for (qsizetype place = 5000; place < before.size(); place += before.size() / 7) {
+            {
+                const BadPlace bad(place, EIO);
+                QVERIFY(!replaceWithIndexedCopy(file(), extent));
+            }
+            QCOMPARE(content(), before);
+        }
+    }
+
     void whatIsNoMovieIsLeftAsItIs()
     {
         QFile note(path());
@@ -57,8 +71,8 @@ private Q_SLOTS:
         note.write("a shopping list");
         note.close();
 
-        QVERIFY(!replaceWithIndexedCopy(file(), {1, 1024}));
-        QVERIFY(!replaceWithIndexedCopy(file() + ".missing", {1, 1024}));
+        QVERIFY(!replaceWithIndexedCopy(file(), TakeExtent{1, 1024}));
+        QVERIFY(!replaceWithIndexedCopy(file() + ".missing", TakeExtent{1, 1024}));
 
         QCOMPARE(content(), QByteArray("a shopping list"));
     }

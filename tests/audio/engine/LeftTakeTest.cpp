@@ -1,5 +1,6 @@
 #include "audio/engine/LeftTake.h"
 
+#include "audio/engine/BadPlace.h"
 #include "audio/engine/Recordings.h"
 #include "support/DecodedAudio.h"
 #include "support/TestCase.h"
@@ -7,7 +8,9 @@
 
 #include <QDir>
 
+#include <atomic>
 #include <cmath>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::engine;
@@ -107,6 +110,69 @@ private Q_SLOTS:
         QVERIFY(!finishLeftTake(path()));
 
         QCOMPARE(read(), take);
+    }
+
+    // A disk that wears out, once or for good.
+    void aTakeThatCannotBeReadToItsEndStays_data()
+    {
+        QTest::addColumn<int>("times");
+        QTest::newRow("once") << 1;
+        QTest::newRow("always") << BadPlace::Always;
+    }
+    void aTakeThatCannotBeReadToItsEndStays()
+    {
+        QFETCH(int, times);
+        const QByteArray take = recordingOf(tune(44100, 4), Ending::CutOff);
+        for (const qsizetype place : {take.size() / 5, take.size() / 2, take.size() - 3000}) {
+            write(take);
+            const bool isFinished = [&] {
+                const BadPlace bad(place, EIO, times);
+                return finishLeftTake(path());
+            }();
+
+            QVERIFY(isFinished || read() == take);
+            QVERIFY(DecodedAudio::read(path())->seconds() > 3.5);
+            QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+        }
+    }
+
+    void aSignalThatBreaksOffReadingCostsNothing()
+    {
+        const QByteArray take = recordingOf(tune(44100, 4), Ending::CutOff);
+        write(take);
+        const double seconds = secondsOfLeftTake(path());
+        {
+            const BadPlace bad(take.size() / 2, EINTR, 3);
+            QCOMPARE(secondsOfLeftTake(path()), seconds);
+            QVERIFY(finishLeftTake(path()));
+        }
+
+        QVERIFY(!MovieFacts::read(path())->isFragmented);
+        QVERIFY(std::abs(secondsOfLeftTake(path()) - seconds) < 0.03);
+    }
+
+    // Another program empties the file, or records into it, meanwhile.
+    void aTakeThatChangesWhileItIsReadDoesNoHarm()
+    {
+        const QByteArray take = recordingOf(tune(44100, 4), Ending::CutOff);
+        write(take);
+        std::atomic<bool> isEnough = false;
+        std::thread changes([&] {
+            while (!isEnough) {
+                QFile::resize(path(), 5000);
+                std::this_thread::yield();
+                write(take);
+                std::this_thread::yield();
+            }
+        });
+
+        bool isAlright = true;
+        for (int time = 0; time < 300; ++time)
+            isAlright = isAlright && secondsOfLeftTake(path()) < 5;
+        isEnough = true;
+        changes.join();
+
+        QVERIFY(isAlright);
     }
 
 private:

@@ -1,4 +1,5 @@
 #include "audio/engine/SoundBytes.h"
+#include "audio/engine/BadPlace.h"
 #include "support/OrdinaryUser.h"
 #include "support/TestCase.h"
 
@@ -93,6 +94,32 @@ private Q_SLOTS:
 
         const tarvelo::tests::OrdinaryUser user;
         QVERIFY(soundBytesOf(file).isNull());
+    }
+
+    void ofAFileWithABadPlaceAllBeforeItIsRead()
+    {
+        const QByteArray bytes = QByteArray("RIFF____WAVEfmt ") + QByteArray(3'000'001, 'x');
+        const QString file = fileOf(bytes);
+        const tarvelo::tests::BadPlace bad(2'000'000, EIO);
+
+        QCOMPARE(soundBytesOf(file), bytes.first(2'000'000));
+    }
+
+    void aFileThatCannotBeReadAtAllGivesNothing()
+    {
+        const QString file = fileOf("short");
+        const tarvelo::tests::BadPlace bad(0, EIO);
+
+        QVERIFY(soundBytesOf(file).isNull());
+    }
+
+    void aSignalThatBreaksOffReadingCostsNothing()
+    {
+        const QByteArray bytes(100'000, 'x');
+        const QString file = fileOf(bytes);
+        const tarvelo::tests::BadPlace bad(5000, EINTR, 3);
+
+        QCOMPARE(soundBytesOf(file), bytes);
     }
 
     void fourGibibytesOfZerosCostNothing()
