@@ -1,15 +1,13 @@
 """The power is cut: the disk forgets what was not forced to it.
 
 The real program records, saves, deletes, is killed, started again and keeps what was left, while a layer before the C library writes down what it
-does to its files. Afterwards the folder is made again as each of many moments may have left it."""
+does to its files. Afterwards the folder is made again as each of many moments may have left it, and on some of them the student starts anew."""
 
 import collections
 import os
 import shutil
 import signal
 import time
-
-import numpy
 
 from outside import sound
 from outside.desktop import Desktop
@@ -19,31 +17,39 @@ from . import disk, student
 from .played import Played
 from .result import Result
 from .sitting import Sitting
+from .started import Starts, seconds_of
 
 EVENT = "power cut"
 PROMISE = "the last 3 s"
 MOST_LOST = 3.0
-FRAME = 1024  # samples
+# Of the states of the disk.
+STARTED = 1.0
+STARTED_IN_SHORT = 0.25
 
 Lecture = collections.namedtuple("Lecture", "subject sound begin end saved deleted")
 
 
 def run(tools, short):
-    with Desktop(tools.folder) as desktop, sound.SoundServer(), Played(tools.random, tools.folder) as played:
-        story = Story(tools, desktop, played)
-        story.tell(short)
-    cuts = Cuts(tools, story)
-    moments = sorted(tools.random.uniform(story.first, story.last) for _ in range(20 if short else 100))
-    for moment in moments:
-        cuts.at(moment)
-    cuts.expect_all_seen()
+    with Desktop(tools.folder) as desktop, sound.SoundServer():
+        with Played(tools.random, tools.folder) as played:
+            story = Story(tools, desktop, played)
+            story.tell(short)
+        sitting = Sitting(tools, desktop, played)
+        cuts = Cuts(tools, story, Starts(tools, sitting), STARTED_IN_SHORT if short else STARTED)
+        moments = sorted(tools.random.uniform(story.first, story.last) for _ in range(20 if short else 100))
+        for moment in moments:
+            cuts.at(moment)
+        sitting.program.expect_silence()
+    starts = cuts.starts
     tools.tell(f"{len(moments)} cuts in {story.last - story.first:.0f} s, {cuts.states} states of the disk, {len(cuts.broken)} of them with a loss")
+    tools.tell(f"{starts.count} starts on them, {starts.by_program} by the whole program; {starts.offered} lectures were offered and kept")
     for line in cuts.broken[:10]:
         tools.tell(line)
     if cuts.broken:
         tools.keep("broken.txt", "\n".join(cuts.broken) + "\n")
         tools.keep("log", story.log)
-    return Result(not cuts.broken, f"{len(moments)} cuts, {cuts.states} states of the disk, at most {cuts.most:.2f} s lost, every file readable")
+    return Result(not cuts.broken, f"{len(moments)} cuts, {cuts.states} states of the disk: at most {cuts.most:.2f} s lost, every file readable; "
+                  f"{starts.count} starts on them, {starts.offered} lectures offered and kept")
 
 
 class Story:
@@ -99,14 +105,18 @@ class Story:
 class Cuts:
     """Judges what each cut may have left."""
 
-    def __init__(self, tools, story):
+    def __init__(self, tools, story, starts, share):
         self._tools = tools
         self._story = story
+        self._share = share
         self._records = list(disk.read_log(story.log))
         self._disk = disk.Disk(story.home)
+        self._expect_all_seen()
         self._done = 0
         self._decoded = {}
-        self._folder = os.path.join(tools.folder, "cut")
+        # In its old place, since the rows and the journals have whole paths.
+        self._folder = story.home
+        self.starts = starts
         self.states = 0
         self.most = 0.0
         self.broken = []
@@ -123,10 +133,12 @@ class Cuts:
             self.states += 1
             try:
                 self._judge(moment)
+                if self._tools.random.random() < self._share:
+                    self.starts.start(moment, self._lectures_at(moment), self._sound_of)
             except Failed as failure:
                 self.broken.append(f"{moment - self._story.first:.2f} s, {variant}: {failure}")
 
-    def expect_all_seen(self):
+    def _expect_all_seen(self):
         """The layer missed nothing: what it makes of the end is what is there."""
         tree = disk.replay(self._story.home, self._records)
         for path, content in tree.items():
@@ -140,14 +152,16 @@ class Cuts:
     def _judge(self, moment):
         rows = student.rows_of(self._folder)
         sounds = {path: self._sound_of(path) for path in student.sounds_of(self._folder)}
-        for lecture in self._story.lectures:
-            if lecture.deleted and moment >= lecture.deleted:
-                continue
+        for lecture in self._lectures_at(moment):
             self._expect_sound(lecture, moment, list(sounds.values()))
             if moment > lecture.saved + MOST_LOST and lecture.subject not in rows:
                 raise Failed(f"the row of {lecture.subject!r} is gone, {moment - lecture.saved:.2f} s after it was stored")
-            if lecture.subject in rows and os.path.normpath(rows[lecture.subject]).replace(self._story.home, self._folder) not in sounds:
+            if lecture.subject in rows and os.path.normpath(rows[lecture.subject]) not in sounds:
                 raise Failed(f"the file of {lecture.subject!r} is gone")
+
+    def _lectures_at(self, moment):
+        """Those that nobody deleted by then."""
+        return [lecture for lecture in self._story.lectures if not lecture.deleted or moment < lecture.deleted]
 
     def _expect_sound(self, lecture, moment, sounds):
         recorded = min(moment, lecture.end) - lecture.begin
@@ -163,13 +177,3 @@ class Cuts:
         if content not in self._decoded:
             self._decoded[content] = student.decoded(path)
         return self._decoded[content]
-
-
-def seconds_of(samples, whole):
-    """How much of a lecture's beginning it is, sample by sample; none when it is something else. In an unfinished file
-    the frame with which the encoder warms up is heard by some readers, and in its last frame the encoder may differ."""
-    for before in (0, FRAME):
-        length = min(len(samples) - before, len(whole)) - 2 * FRAME
-        if length > 0 and numpy.abs(samples[before : before + length] - whole[:length]).max() < 1e-3:
-            return (length + 2 * FRAME) / sound.RATE
-    return 0.0

@@ -1,9 +1,11 @@
 """The student without a screen (tests/torture/Student.cpp), and what stands in the folder afterwards."""
 
+import collections
 import os
 import shutil
 import sqlite3
 import subprocess
+import tempfile
 
 import numpy
 
@@ -11,6 +13,11 @@ from outside import sound
 from outside.waiting import Failed
 
 ENVIRONMENT = {"QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8", "TZ": "UTC", "QT_ENABLE_HIGHDPI_SCALING": "0"}
+
+
+# A row of the table.
+Lecture = collections.namedtuple("Lecture", "subject notes day path duration")
+COLUMNS = "subject, notes, recordingDate, audioFileFullPath, recordDuration"
 
 
 class Student:
@@ -29,39 +36,58 @@ class Student:
         """Gives the seconds that the windows said were recorded, 0 without a recording."""
         return self.end(self.start(*tasks, **environment))
 
+    def told(self, *tasks):
+        """Gives all that was said meanwhile, in lines."""
+        return self._said(self.start(*tasks))
+
+    def end(self, process, words=""):
+        return max((float(line.split()[1]) for line in self._said(process, words) if line.startswith("recorded")), default=0.0)
+
     @staticmethod
-    def end(process, words=""):
+    def _said(process, words=""):
         said, errors = process.communicate(words, timeout=600)
         if process.returncode != 0 or errors:
             raise Failed(f"it ended with {process.returncode} and said {errors.strip()[:300]!r}")
-        return max((float(line.split()[1]) for line in said.splitlines() if line.startswith("recorded")), default=0.0)
+        return said.splitlines()
 
 
 def rows_of(home):
-    """{subject: path} of every row; fails when the database is damaged. Half a change is taken back."""
-    return _rows_in(os.path.join(home, "TarveloInfo.db"))
+    """{subject: path} of every row."""
+    return {lecture.subject: lecture.path for lecture in lectures_of(home)}
 
 
-def copied_rows_of(home):
+def lectures_of(home):
+    """Every row; fails when the database is damaged."""
+    return _lectures_in(os.path.join(home, "TarveloInfo.db"))
+
+
+def copied_lectures_of(home):
     """The same of all copies."""
     folder = os.path.join(home, "Backups")
-    found = {}
-    for name in sorted(os.listdir(folder)) if os.path.isdir(folder) else []:
-        if name.endswith(".db"):
-            found |= _rows_in(os.path.join(folder, name))
-    return found
+    names = sorted(os.listdir(folder)) if os.path.isdir(folder) else []
+    return [lecture for name in names if name.endswith(".db") for lecture in _lectures_in(os.path.join(folder, name))]
 
 
-def _rows_in(path):
+def _lectures_in(path):
+    """Who looks takes half a change back. The program is to do that itself: only a copy is looked at."""
     if not os.path.exists(path) or os.path.getsize(path) == 0 and not os.path.exists(path + "-journal"):
-        return {}
+        return []
+    with tempfile.TemporaryDirectory() as folder:
+        looked_at = os.path.join(folder, os.path.basename(path))
+        for ending in ("", "-journal"):
+            if os.path.exists(path + ending):
+                shutil.copyfile(path + ending, looked_at + ending)
+        return _lectures_of_file(looked_at)
+
+
+def _lectures_of_file(path):
     database = sqlite3.connect(path)
     try:
         verdict = database.execute("PRAGMA integrity_check").fetchone()[0]
         if verdict != "ok":
             raise Failed(f"{os.path.basename(path)} is damaged: {verdict}")
         there = database.execute("SELECT count(*) FROM sqlite_master WHERE name = 'audioData'").fetchone()[0]
-        return dict(database.execute("SELECT subject, audioFileFullPath FROM audioData").fetchall()) if there else {}
+        return [Lecture(*row) for row in database.execute(f"SELECT {COLUMNS} FROM audioData")] if there else []
     except sqlite3.Error as error:
         raise Failed(f"{os.path.basename(path)}: {error}") from None
     finally:

@@ -3,15 +3,20 @@
 // writes half, and the number of the call, from 1, or 0 for none. Files count when they lie below
 // TORTURE_FOLDER; memory counts when one of the libraries asks for it whose names TORTURE_LIBRARIES
 // holds. Counting begins at the start when TORTURE_BEGIN is set, else when the program calls
-// torture_begin(). At the end the file that TORTURE_COUNT names has how many calls there were.
+// torture_begin(). Without TORTURE_FAULT nothing fails, and at the end the file that TORTURE_COUNT
+// names has a line for each kind: its name, and how many calls there were.
 
 #include "torture/Layer.h"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
+#include <cstdint>
 #include <cstdio>
 #include <fcntl.h>
+#include <link.h>
 #include <string_view>
 #include <sys/syscall.h>
 
@@ -44,8 +49,10 @@ struct Fault
     }
 };
 
+constexpr std::array Kinds{"write", "sync", "rename", "open", "truncate", "unlink", "memory"};
+
 std::atomic<bool> g_counts = false;
-std::atomic<long> g_calls = 0;
+std::array<std::atomic<long>, Kinds.size()> g_calls;
 
 const Fault &fault()
 {
@@ -53,12 +60,19 @@ const Fault &fault()
     return wanted;
 }
 
+bool isCounted(const char *kind)
+{
+    return g_counts && (fault().kind[0] == '\0' || std::strcmp(kind, fault().kind) == 0);
+}
+
 // Whether it is this call that fails.
 bool strikes(const char *kind)
 {
-    if (!g_counts || std::strcmp(kind, fault().kind) != 0)
+    if (!isCounted(kind))
         return false;
-    return ++g_calls == fault().number;
+    const auto *const at = std::ranges::find_if(
+        Kinds, [kind](const char *known) { return std::strcmp(kind, known) == 0; });
+    return ++g_calls.at(static_cast<std::size_t>(at - Kinds.begin())) == fault().number;
 }
 
 template <typename Result>
@@ -101,23 +115,46 @@ int truncateTo(int file, off64_t size)
     return isOurFile(file) && strikes("truncate") ? failure<int>() : next(file, size);
 }
 
-// Looks nothing up that could ask for memory itself.
-bool isOfOurLibraries(const void *caller)
+// Where the code of our libraries lies. All of them are there before anything runs.
+struct Range
 {
-    static const char *const libraries = setting("TORTURE_LIBRARIES");
-    Dl_info place = {};
-    if (::dladdr(caller, &place) == 0 || !place.dli_fname)
-        return false;
-    std::string_view name = place.dli_fname;
-    name = name.substr(name.rfind('/') + 1);
+    std::uintptr_t begin = 0;
+    std::uintptr_t end = 0;
+};
+std::array<Range, 32> g_ours;
+std::size_t g_oursCount = 0;
+
+bool isOfOurLibraries(std::string_view path)
+{
+    std::string_view name = path.substr(path.rfind('/') + 1);
     name = name.substr(0, name.find(".so"));
-    return !name.empty() && std::string_view(libraries).find(name) != std::string_view::npos;
+    const std::string_view libraries = setting("TORTURE_LIBRARIES");
+    return !name.empty() && libraries.find(name) != std::string_view::npos;
+}
+
+int noteRanges(dl_phdr_info *library, std::size_t, void *)
+{
+    for (int at = 0; isOfOurLibraries(library->dlpi_name) && at < library->dlpi_phnum; ++at) {
+        const auto &part = library->dlpi_phdr[at];
+        const std::uintptr_t begin = library->dlpi_addr + part.p_vaddr;
+        if (part.p_type == PT_LOAD && (part.p_flags & PF_X) != 0 && g_oursCount < g_ours.size())
+            g_ours.at(g_oursCount++) = {begin, begin + part.p_memsz};
+    }
+    return 0;
+}
+
+// Is asked very often, and must not ask for memory itself.
+bool isOurs(const void *caller)
+{
+    const auto place = reinterpret_cast<std::uintptr_t>(caller);
+    return std::any_of(g_ours.begin(), g_ours.begin() + g_oursCount, [place](const Range &range) {
+        return place >= range.begin && place < range.end;
+    });
 }
 
 bool isOutOfMemory(const void *caller)
 {
-    static const bool isAsked = std::strcmp(fault().kind, "memory") == 0;
-    if (!g_counts || !isAsked || !isOfOurLibraries(caller) || !strikes("memory"))
+    if (!isCounted("memory") || !isOurs(caller) || !strikes("memory"))
         return false;
     errno = ENOMEM;
     return true;
@@ -126,15 +163,20 @@ bool isOutOfMemory(const void *caller)
 class Count final
 {
 public:
-    Count() { g_counts = *setting("TORTURE_BEGIN") != '\0'; }
+    Count()
+    {
+        ::dl_iterate_phdr(noteRanges, nullptr);
+        g_counts = *setting("TORTURE_BEGIN") != '\0';
+    }
     ~Count()
     {
         g_counts = false;
-        char text[32];
-        const int size = std::snprintf(text, sizeof text, "%ld\n", g_calls.load());
+        if (fault().kind[0] != '\0')
+            return;
         const int file = static_cast<int>(
             ::syscall(SYS_open, setting("TORTURE_COUNT"), O_WRONLY | O_CREAT | O_TRUNC, 0600));
-        static_cast<void>(::syscall(SYS_write, file, text, static_cast<size_t>(size)));
+        for (std::size_t kind = 0; kind < Kinds.size(); ++kind)
+            ::dprintf(file, "%s %ld\n", Kinds.at(kind), g_calls.at(kind).load());
         ::syscall(SYS_close, file);
     }
 };

@@ -2,10 +2,22 @@
 //
 //     Student DATA-FOLDER TASK...
 //
-// The tasks are done one after the other: record:SUBJECT:SECONDS, leave:SUBJECT:SECONDS (records,
-// and the process ends at once), edit:SUBJECT:NEW-SUBJECT, delete:SUBJECT, wait (for a line of
-// input, and then for ten minutes of the windows' clock), and begin, from where on the layer counts
-// that may stand before the C library. What was recorded is told in seconds.
+// The tasks are done one after the other:
+//
+//     record:SUBJECT:SECONDS      a lecture that is saved
+//     interrupt:SUBJECT:SECONDS   the same, with a pause in its middle during which nobody listens
+//     notes:SUBJECT               the same without a recording
+//     cancel:SUBJECT:SECONDS      one that is cancelled
+//     leave:SUBJECT:SECONDS       the process ends at once, while it records
+//     done:SUBJECT:SECONDS        and here when Done was pressed, before anything is moved or
+//     stored edit:SUBJECT:NEW-SUBJECT delete:SUBJECT offered                     tells what is
+//     offered of lectures that were left, and what is owed keep                        all that is
+//     offered discard                     the first that is offered back brings lectures back from
+//     every copy that has some later                       an hour of the windows' clock wait for a
+//     line of input, and then for ten minutes of that clock begin                       from where
+//     on a layer counts that may stand before the C library
+//
+// What was recorded is told in seconds.
 
 #include "support/LectureProgram.h"
 #include "support/TestSound.h"
@@ -17,6 +29,8 @@
 
 #include <cstdio>
 #include <dlfcn.h>
+#include <functional>
+#include <map>
 
 using namespace std::chrono_literals;
 using namespace tarvelo;
@@ -47,29 +61,60 @@ public:
     void record(const QString &subject, double seconds)
     {
         listen(subject, seconds);
-        m_windows.recordingOutlets().btnStopRecord->click();
-        m_clock.advance(500ms);
-        m_windows.newLectureOutlets().BtnDoneOrClose->click();
-        m_clock.advance(5s);
+        stop();
+        save();
     }
 
     // Tells what the window shows: that much a student relies on.
     void listen(const QString &subject, double seconds)
     {
-        m_controller.onAddItem(nullptr);
-        m_windows.newLectureOutlets().txtSubjectForNewNote->setText(subject);
-        m_windows.newLectureOutlets().txtView->setPlainText(subject + QStringLiteral(" notes"));
+        write(subject);
         m_windows.recordingOutlets().btnStartRecord->click();
-        // The time stands still while the disk takes nothing.
-        const std::vector<float> sound = tune(44100, 10);
-        for (double heard = 0; heard < seconds; heard += 0.5) {
-            const auto from = static_cast<std::size_t>(heard * 44100) % sound.size();
-            m_engine.hear(
-                std::span(sound).subspan(from, std::min<std::size_t>(22050, sound.size() - from)));
-            m_clock.advance(500ms);
-        }
+        hear(seconds);
         std::printf("recorded %.3f\n", m_engine.time());
         std::fflush(stdout);
+    }
+
+    void interrupt(const QString &subject, double seconds)
+    {
+        write(subject);
+        m_windows.recordingOutlets().btnStartRecord->click();
+        hear(seconds / 2);
+        m_windows.recordingOutlets().btnPauseResumeRecording->click();
+        hear(seconds);
+        m_windows.recordingOutlets().btnPauseResumeRecording->click();
+        hear(seconds / 2);
+        std::printf("recorded %.3f\n", m_engine.time());
+        std::fflush(stdout);
+        stop();
+        save();
+    }
+
+    void takeNotes(const QString &subject)
+    {
+        write(subject);
+        m_clock.advance(5s);
+        save();
+    }
+
+    void cancel(const QString &subject, double seconds)
+    {
+        listen(subject, seconds);
+        stop();
+        m_windows.newLectureOutlets().BtnCancelAddNewLecture->click();
+        m_clock.advance(5s);
+    }
+
+    void stop()
+    {
+        m_windows.recordingOutlets().btnStopRecord->click();
+        m_clock.advance(500ms);
+    }
+
+    void pressDone()
+    {
+        m_windows.newLectureOutlets().BtnDoneOrClose->click();
+        m_controller.journal().flush();
     }
 
     void edit(const QString &subject, const QString &newSubject)
@@ -93,6 +138,39 @@ public:
         m_clock.advance(5s);
     }
 
+    void tellOffered()
+    {
+        for (const auto &left : m_controller.leftLectures().undecided())
+            std::printf("offered %.3f %s\n", left.seconds, qPrintable(left.journal.subject));
+        if (const int owed = m_controller.leftLectures().owed(); owed > 0)
+            std::printf("owed %d\n", owed);
+        std::fflush(stdout);
+    }
+
+    void keepOffered()
+    {
+        for (const auto &left : m_controller.leftLectures().undecided())
+            m_controller.leftLectures().keep(left);
+        m_controller.journal().storeOwedLater();
+    }
+
+    void discardOffered(const QString &subject)
+    {
+        for (const auto &left : m_controller.leftLectures().undecided())
+            if (left.journal.subject == subject)
+                m_controller.leftLectures().discard(left);
+    }
+
+    void bringBack()
+    {
+        store::Sqlite *const database = m_database.openDb();
+        if (!database)
+            return;
+        for (const auto &copy : m_database.backups().copies(*database))
+            if (copy.missing > 0)
+                m_database.backups().bringBack(copy.filePath, *database);
+    }
+
     void later() { m_clock.advance(1h); }
 
     void wait()
@@ -105,6 +183,31 @@ public:
     }
 
 private:
+    void write(const QString &subject)
+    {
+        m_controller.onAddItem(nullptr);
+        m_windows.newLectureOutlets().txtSubjectForNewNote->setText(subject);
+        m_windows.newLectureOutlets().txtView->setPlainText(subject + QStringLiteral(" notes"));
+    }
+
+    // The time stands still while the disk takes nothing.
+    void hear(double seconds)
+    {
+        static const std::vector<float> sound = tune(44100, 2);
+        for (double heard = 0; heard < seconds; heard += 0.5) {
+            const auto from = static_cast<std::size_t>(heard * 44100) % sound.size();
+            m_engine.hear(
+                std::span(sound).subspan(from, std::min<std::size_t>(22050, sound.size() - from)));
+            m_clock.advance(500ms);
+        }
+    }
+
+    void save()
+    {
+        m_windows.newLectureOutlets().BtnDoneOrClose->click();
+        m_clock.advance(5s);
+    }
+
     int rowOf(const QString &subject) const
     {
         const lectures::LectureList &all = m_controller.arrangedObjects();
@@ -140,25 +243,44 @@ void beginToCount()
         begin();
 }
 
+[[noreturn]] void endAtOnce()
+{
+    std::_Exit(0);
+}
+
 void perform(Student &student, const QString &task)
 {
     const QStringList words = task.split(u':');
-    if (words[0] == u"record")
-        student.record(words.value(1), words.value(2).toDouble());
-    if (words[0] == u"leave") {
-        student.listen(words.value(1), words.value(2).toDouble());
-        std::_Exit(0);
-    }
-    if (words[0] == u"edit")
-        student.edit(words.value(1), words.value(2));
-    if (words[0] == u"delete")
-        student.remove(words.value(1));
-    if (words[0] == u"later")
-        student.later();
-    if (words[0] == u"wait")
-        student.wait();
-    if (words[0] == u"begin")
-        beginToCount();
+    const QString &subject = words.value(1);
+    const double seconds = words.value(2).toDouble();
+    const std::map<QString, std::function<void()>> tasks{
+        {QStringLiteral("record"), [&] { student.record(subject, seconds); }},
+        {QStringLiteral("interrupt"), [&] { student.interrupt(subject, seconds); }},
+        {QStringLiteral("notes"), [&] { student.takeNotes(subject); }},
+        {QStringLiteral("cancel"), [&] { student.cancel(subject, seconds); }},
+        {QStringLiteral("leave"),
+         [&] {
+             student.listen(subject, seconds);
+             endAtOnce();
+         }},
+        {QStringLiteral("done"),
+         [&] {
+             student.listen(subject, seconds);
+             student.stop();
+             student.pressDone();
+             endAtOnce();
+         }},
+        {QStringLiteral("edit"), [&] { student.edit(subject, words.value(2)); }},
+        {QStringLiteral("delete"), [&] { student.remove(subject); }},
+        {QStringLiteral("offered"), [&] { student.tellOffered(); }},
+        {QStringLiteral("keep"), [&] { student.keepOffered(); }},
+        {QStringLiteral("discard"), [&] { student.discardOffered(subject); }},
+        {QStringLiteral("back"), [&] { student.bringBack(); }},
+        {QStringLiteral("later"), [&] { student.later(); }},
+        {QStringLiteral("wait"), [&] { student.wait(); }},
+        {QStringLiteral("begin"), [] { beginToCount(); }},
+    };
+    tasks.at(words.first())();
 }
 
 // Windows cannot be raised where there is no screen; whatever else is said counts.

@@ -1,0 +1,52 @@
+"""How long a process was ready to go on and got no processor, in the kernel's own words (schedstat)."""
+
+import contextlib
+import os
+import time
+
+INTERVAL = 0.05  # seconds between two looks
+
+
+class Waited:
+    """Of one process, by looks at it from time to time. What it sleeps, or waits for a disk or a lock, is not counted."""
+
+    def __init__(self, pid):
+        self._folder = f"/proc/{pid}/task"
+        self._looks = []  # (moment, monotonic time, {thread: seconds})
+        self._ready = {}  # thread: (its turns until now, since when it is known to be ready without another one)
+
+    def look(self, moment):
+        """`moment` is any clock's."""
+        now = time.monotonic()
+        if self._looks and now - self._looks[-1][1] < INTERVAL:
+            return
+        threads = {}
+        for thread in os.listdir(self._folder):
+            with contextlib.suppress(OSError):  # it has ended
+                threads[thread] = self._of(thread, now)
+        self._looks.append((moment, now, threads))
+
+    def since(self, moment):
+        """Of the thread that waited longest from the first look at or after the moment to the last one: at least so many seconds."""
+        later = [threads for when, _, threads in self._looks if when >= moment]
+        if not later:
+            return 0.0
+        first, last = later[0], later[-1]
+        return max((last[thread] - first[thread] for thread in last if thread in first), default=0.0)
+
+    def _of(self, thread, now):
+        """Before its last turn, and since then as far as that was seen."""
+        ran, waited, turns = self._read(thread, "schedstat").split()
+        is_ready = self._read(thread, "stat").rpartition(")")[2].split()[0] == "R"
+        before, since = self._ready.get(thread, (None, now))
+        if not is_ready:
+            self._ready.pop(thread, None)
+            return int(waited) / 1e9
+        if (ran, turns) != before:
+            since = now
+        self._ready[thread] = ((ran, turns), since)
+        return int(waited) / 1e9 + now - since
+
+    def _read(self, thread, name):
+        with open(os.path.join(self._folder, thread, name), encoding="utf-8") as file:
+            return file.read()
