@@ -16,7 +16,7 @@ from outside.waiting import Failed, wait_for
 
 from . import judged, student
 from .result import Result
-from .works import WORKS
+from .works import FAILING_NO_MORE, WORKS
 
 EVENT = "every write, sync, rename, open, allocation failing once (ENOSPC, EIO, EINTR, short write, ENOMEM), one step further each time"
 PROMISE = "nothing that was there before"
@@ -106,6 +106,8 @@ class Desk:
         _, judgement = self._prepared[work]
         try:
             judgement.expect_nothing_lost(recorded)
+            if work.spoiled:
+                self._execute(FAILING_NO_MORE)
             said = self._student.told(*COMING_BACK)
         except Failed as failure:
             return str(failure)
@@ -114,6 +116,10 @@ class Desk:
         except Failed as failure:
             return f"after the next start {failure}"
         return ""
+
+    def _execute(self, statement):
+        with contextlib.closing(sqlite3.connect(os.path.join(self._student.home, "TarveloInfo.db"))) as database, database:
+            database.execute(statement)
 
     def _state(self):
         """Of two folders with the same in them the program makes the same."""
@@ -134,8 +140,7 @@ class Desk:
         for session in work.before:
             self._student.do(*session)
         if work.spoiled:
-            with contextlib.closing(sqlite3.connect(os.path.join(self._student.home, "TarveloInfo.db"))) as database, database:
-                database.execute(work.spoiled)
+            self._execute(work.spoiled)
         template = f"{self._folder}-before{len(self._prepared)}"
         shutil.copytree(self._folder, template)
         self._prepared[work] = template, judged.Judgement(work, self._student.home)

@@ -5,6 +5,7 @@ import dataclasses
 OPTICS, WAVES, ALGEBRA, LIGHT, KEPLER, NEWTON = "Optics", "Waves", "Algebra", "Light", "Kepler", "Newton"
 RECORDED = (f"record:{OPTICS}:1", f"record:{WAVES}:1")
 FAILING_INSERT = "CREATE TRIGGER failure BEFORE INSERT ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
+FAILING_NO_MORE = "DROP TRIGGER IF EXISTS failure"
 FAILING_UPDATE = "CREATE TRIGGER failure BEFORE UPDATE ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
 
 
@@ -13,7 +14,7 @@ class Work:
     name: str
     # Sessions of the student, one process each.
     before: tuple = (RECORDED,)
-    spoiled: str = ""  # a statement that makes the next write fail, run on the database that they leave
+    spoiled: str = ""  # a statement that makes the next write fail, run on the database that they leave, and lifted before they come back
     # Without "begin" calls are counted from the program's start. Of the whole program, which has no tasks: None.
     tasks: tuple | None = ()
     new: frozenset = frozenset()  # lectures that have to be stored in the end; some of them may be left from before
