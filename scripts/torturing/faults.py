@@ -42,38 +42,38 @@ def run(tools, short):
     desks = queue.Queue()
     for number in range(AT_A_TIME):
         desks.put(Desk(tools, number))
-    faults = list(all_faults(desks.queue[0], tools.random, short))
     with concurrent.futures.ThreadPoolExecutor(AT_A_TIME) as pool:
-        losses = [loss for loss in pool.map(lambda fault: on_a_desk(desks, fault), faults) if loss]
-    seen = collections.Counter(reason for _, reason in losses)
-    for reason, count in seen.most_common(20):
-        tools.tell(f"{count} times: {reason}")
+        calls = dict(zip(WORKS, pool.map(lambda work: on_a_desk(desks, lambda desk: desk.counts(work)), WORKS)))
+        faults = list(all_faults(calls, tools.random, short))
+        lost = list(pool.map(lambda fault: on_a_desk(desks, lambda desk: desk.lost_by(*fault)), faults))
+    losses = [(fault, loss) for fault, loss in zip(faults, lost) if loss]
+    for (name, loss), count in collections.Counter((fault[0].name, loss) for fault, loss in losses).most_common(20):
+        tools.tell(f"{name}, {count} times: {loss}")
     if losses:
-        tools.keep("losses.txt", "".join(f"{fault}: {reason}\n" for fault, reason in losses))
-    return Result(not losses, f"{len(faults)} faults in {', '.join(work.name for work in WORKS)}: {len(losses)} of them lost something")
+        tools.keep("losses.txt", "".join(f"{told(*fault)}: {loss}\n" for fault, loss in losses))
+    return Result(not losses, f"{len(faults)} faults in {len(WORKS)} works, and a start after each: {len(losses)} of them lost something, or left it twice")
 
 
-def all_faults(desk, random, short):
+def all_faults(calls, random, short):
     """Work, kind, error and number of the call."""
-    for work in WORKS:
-        calls = desk.counts(work)
+    for work, counts in calls.items():
         for kind, errors in ERRORS.items():
             # The student's start asks the same memory of SQLite.
             if kind == "memory" and work.tasks is None:
                 continue
-            found = [(work, kind, error, number) for error in errors for number in range(1, calls[kind] + 1)]
+            found = [(work, kind, error, number) for error in errors for number in range(1, counts[kind] + 1)]
             yield from random.sample(found, min(IN_SHORT, len(found))) if short else found
 
 
-def on_a_desk(desks, fault):
-    """Gives the fault and what was lost, in words, or nothing."""
+def told(work, kind, error, number):
+    return f"{work.name}, {kind} {number}, {errno.errorcode.get(error, error)}"
+
+
+def on_a_desk(desks, act):
+    """On the next one that is free."""
     desk = desks.get()
     try:
-        desk.suffer(*fault)
-        return None
-    except Failed as failure:
-        work, kind, error, number = fault
-        return f"{work.name}, {kind} {number}, {errno.errorcode.get(error, error)}", f"{work.name}: {failure}"
+        return act(desk)
     finally:
         desks.put(desk)
 
@@ -94,13 +94,16 @@ class Desk:
         self._perform(work, "")
         return {kind: int(count) for kind, count in (line.split() for line in student.content(self._count).decode().splitlines())}
 
-    def suffer(self, work, kind, error, number):
-        recorded = self._perform(work, f"{kind} {error} {number}")
+    def lost_by(self, work, kind, error, number):
+        """In words, or nothing."""
+        try:
+            recorded = self._perform(work, f"{kind} {error} {number}")
+        except Failed as failure:
+            return str(failure)
         left = (work, recorded, self._state())
         if left not in self._judged:
             self._judged[left] = self._what_was_lost(work, recorded)
-        if self._judged[left]:
-            raise Failed(self._judged[left])
+        return self._judged[left]
 
     def _what_was_lost(self, work, recorded):
         _, judgement = self._prepared[work]

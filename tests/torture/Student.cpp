@@ -90,6 +90,15 @@ public:
         save();
     }
 
+    // Another program has the database to itself meanwhile.
+    void recordRefused(const QString &subject, double seconds)
+    {
+        store::Sqlite other(m_database.openDb()->filePath());
+        if (!other.executeNonQuery(QStringLiteral("BEGIN EXCLUSIVE")))
+            std::printf("not refused\n");
+        record(subject, seconds);
+    }
+
     void takeNotes(const QString &subject)
     {
         write(subject);
@@ -268,6 +277,11 @@ void perform(Student &student, const QString &task)
              student.listen(subject, seconds);
              student.stop();
              student.pressDone();
+             endAtOnce();
+         }},
+        {QStringLiteral("refused"),
+         [&] {
+             student.recordRefused(subject, seconds);
              endAtOnce();
          }},
         {QStringLiteral("edit"), [&] { student.edit(subject, words.value(2)); }},
