@@ -82,8 +82,9 @@ bool DamagedFiles::replaceWithSound(const QString &file) const
     if (!aside || !rescueLectures(aside->filePath, sound))
         return false;
     // An old journal would be taken for that of the sound file, and written over it.
-    QFile::remove(journalOf(file));
-    const bool isReplaced = platform::renameDurably(sound, file);
+    const QString journal = journalOf(file);
+    const bool isReplaced = (!QFileInfo::exists(journal) || platform::removeDurably(journal)) &&
+                            platform::renameDurably(sound, file);
     QFile::remove(sound);
     return isReplaced;
 }

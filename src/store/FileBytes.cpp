@@ -1,5 +1,6 @@
 #include "store/FileBytes.h"
 
+#include "platform/DurableFiles.h"
 #include "platform/PrivateFiles.h"
 
 #include <QFile>
@@ -18,6 +19,30 @@ bool copyBytes(const QString &from, const QString &to)
     const bool isCopied = QFile::copy(from, to);
     platform::keepFilePrivate(to);
     return isCopied;
+}
+
+bool copyWithJournal(const QString &from, const QString &to)
+{
+    removeWithJournal(to);
+    return copyBytes(from, to) &&
+           (!QFile::exists(journalOf(from)) || copyBytes(journalOf(from), journalOf(to)));
+}
+
+bool renameWithJournalDurably(const QString &from, const QString &to)
+{
+    QFile::remove(journalOf(to));
+    if (QFile::exists(journalOf(from)) && !platform::renameDurably(journalOf(from), journalOf(to)))
+        return false;
+    if (platform::renameDurably(from, to))
+        return true;
+    QFile::remove(journalOf(to));
+    return false;
+}
+
+void removeWithJournal(const QString &path)
+{
+    QFile::remove(path);
+    QFile::remove(journalOf(path));
 }
 
 bool haveSameBytes(const QString &onePath, const QString &otherPath)

@@ -9,6 +9,13 @@ namespace tarvelo::store {
 // In the place of what is there, for its user alone.
 bool copyBytes(const QString &from, const QString &to);
 
+// The same with the journal beside it. What was changed meanwhile stands in that, so it comes last.
+bool copyWithJournal(const QString &from, const QString &to);
+
+// The file with its journal, under one name or the other; the journal is there before the file is.
+bool renameWithJournalDurably(const QString &from, const QString &to);
+void removeWithJournal(const QString &path);
+
 // False also when one of them cannot be read.
 bool haveSameBytes(const QString &onePath, const QString &otherPath);
 

@@ -28,7 +28,7 @@ constexpr qint64 RoomForTheRest = 128 << 10; // bytes
 
 bool vacuumsInto(Sqlite &database, const QString &path)
 {
-    QFile::remove(path);
+    removeWithJournal(path);
     platform::createFileIfMissing(path);
     return database.executeNonQuery(QStringLiteral("VACUUM INTO ?"), path);
 }
@@ -51,27 +51,29 @@ LectureBackups::LectureBackups(QString folder, const platform::Clock &clock)
 {
 }
 
-QString LectureBackups::keep(Sqlite &database, const QString &going)
+std::optional<QString> LectureBackups::keep(Sqlite &database, const QString &going)
 {
     const auto isThere = hasTable(database, "main", QStringLiteral("audioData"));
     const auto leaving = database.executeQuery(going);
-    if (isThere && (!*isThere || (leaving && leaving->isEmpty())))
-        return {};
+    // A list that ends early is no word about what goes.
+    const bool areKnown = leaving && database.errorCode() == 0;
+    if (isThere && (!*isThere || (areKnown && leaving->isEmpty())))
+        return QString();
     platform::createFolderIfMissing(m_folder);
     QString path = pathOf(nameAfter(namesOfCopies()));
     if (writesCopy(database, going, path))
         return path;
-    return QFile::remove(roomPath()) && writesCopy(database, going, path) ? path : QString();
+    return QFile::remove(roomPath()) && writesCopy(database, going, path) ? std::optional(path)
+                                                                          : std::nullopt;
 }
 
 bool LectureBackups::writesCopy(Sqlite &database, const QString &going, const QString &path) const
 {
     const QString half = pathOf(QStringLiteral(".copy"));
-    const bool isWritten =
-        (vacuumsInto(database, half) && marks(half, going)) || copyBytes(database.filePath(), half);
-    const bool isKept = isWritten && platform::renameDurably(half, path);
-    QFile::remove(half);
-    QFile::remove(journalOf(half));
+    const bool isWritten = (vacuumsInto(database, half) && marks(half, going)) ||
+                           copyWithJournal(database.filePath(), half);
+    const bool isKept = isWritten && renameWithJournalDurably(half, path);
+    removeWithJournal(half);
     return isKept;
 }
 
@@ -80,10 +82,19 @@ void LectureBackups::settle(Sqlite &database, const QString &copyPath)
     if (copyPath.isEmpty())
         return;
     if (isOfNoUse(database, copyPath))
-        QFile::remove(copyPath);
+        removeWithJournal(copyPath);
     const QStringList names = namesOfCopies();
     for (qsizetype at = 0; at < names.size() - Kept; ++at)
-        QFile::remove(pathOf(names.at(at)));
+        removeWithJournal(pathOf(names.at(at)));
+}
+
+void LectureBackups::change(const QString &copyPath, const QString &sql,
+                            const QVariantList &arguments) const
+{
+    if (!QFileInfo::exists(copyPath))
+        return;
+    Sqlite copy(copyPath);
+    copy.executeNonQueryArguments(sql, arguments);
 }
 
 // A write that fails again and again, since the file is locked or damaged, must not push older
@@ -93,10 +104,17 @@ bool LectureBackups::isOfNoUse(Sqlite &database, const QString &copyPath) const
     {
         const AttachedCopy copy(database, copyPath);
         if (copy.isReadable())
-            return copy.missing() == 0;
+            // One that lectures cannot be counted in is not known to be of no use.
+            return copy.missing() == 0 && copy.lectures() > 0;
     }
     const QStringList names = namesOfCopies();
-    return names.size() > 1 && haveSameBytes(copyPath, pathOf(names.at(names.size() - 2)));
+    if (names.size() < 2)
+        return false;
+    const QString before = pathOf(names.at(names.size() - 2));
+    const bool hasJournal = QFile::exists(journalOf(copyPath));
+    return haveSameBytes(copyPath, before) &&
+           (hasJournal ? haveSameBytes(journalOf(copyPath), journalOf(before))
+                       : !QFile::exists(journalOf(before)));
 }
 
 QList<LectureBackups::Copy> LectureBackups::copies(Sqlite &database) const

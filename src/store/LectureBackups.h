@@ -38,11 +38,14 @@ public:
     const QString &folder() const { return m_folder; }
 
     // `going` is a query for the "ID" of every lecture that is about to go. Gives the copy's path,
-    // an empty text when there is none: nothing goes, or none could be made.
-    QString keep(Sqlite &database, const QString &going);
+    // an empty text when nothing goes. Null when none could be made, and then nothing may go.
+    std::optional<QString> keep(Sqlite &database, const QString &going);
     // To be called when they are gone: a copy of lectures that are all still there goes again, and
     // so do the oldest.
     void settle(Sqlite &database, const QString &copyPath);
+
+    // A change that found its lecture gone is made there, so that it comes back with it.
+    void change(const QString &copyPath, const QString &sql, const QVariantList &arguments) const;
 
     // Newest first. What cannot be read is not listed.
     QList<Copy> copies(Sqlite &database) const;

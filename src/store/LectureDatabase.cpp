@@ -21,16 +21,21 @@ LectureDatabase::~LectureDatabase() = default;
 
 Sqlite *LectureDatabase::openDb()
 {
-    if (m_connection)
+    const bool isKnown = m_connection != nullptr;
+    if (isKnown && !m_connection->filePath().isEmpty())
         return m_connection.get();
-    m_connection = std::make_unique<Sqlite>();
+    if (!isKnown)
+        m_connection = std::make_unique<Sqlite>();
     platform::createFolderIfMissing(m_folder);
     const QString file = m_folder + QStringLiteral("/TarveloInfo.db");
     // SQLite would make it by the umask; its journal has the mode of the file.
     platform::createFileIfMissing(file);
-    if (!openFile(file))
+    if (openFile(file))
+        return m_connection.get();
+    // One that could not be opened again stays the object that others know.
+    if (!isKnown)
         m_connection.reset();
-    return m_connection.get();
+    return nullptr;
 }
 
 // The first look at a file takes back what a death left half done, by the journal. A damaged file
@@ -94,25 +99,32 @@ bool LectureDatabase::insertIntoDbwithSqlStatementWithArguments(const QString &s
     return writeOrReset(sql, arguments, statements::CreateAfterInsert);
 }
 
-void LectureDatabase::updateToDoDatawithSqlStatementWithArguments(const QString &sql,
+bool LectureDatabase::updateToDoDatawithSqlStatementWithArguments(const QString &sql,
                                                                   const QVariantList &arguments)
 {
-    writeOrReset(sql, arguments, statements::CreateAfterUpdate);
+    return writeOrReset(sql, arguments, statements::CreateAfterUpdate);
 }
 
 // The path is pasted as it stands: with an apostrophe in it the statement fails, and nothing goes.
-void LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
+bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
 {
-    if (!m_connection)
-        return;
     const QString &path = lecture.getLectureAudioPath();
+    // Without a row, an empty path would find lectures that it has nothing to do with.
+    if (!lecture.hasRow() && (!m_connection || path.isEmpty()))
+        return true;
+    if (!m_connection)
+        return false;
     const QString going = statements::IdsByPathBegin + path + statements::IdsByPathEnd;
     const auto rows = m_connection->executeQuery(going);
-    const QString copy =
-        rows && rows->size() > 1 ? m_backups.keep(*m_connection, going) : QString();
-    m_connection->executeNonQuery(statements::DeleteByPathBegin + path +
-                                  statements::DeleteByPathEnd);
-    m_backups.settle(*m_connection, copy);
+    if (!rows || m_connection->errorCode() != 0)
+        return false;
+    const auto copy = rows->size() > 1 ? m_backups.keep(*m_connection, going) : QString();
+    if (!copy)
+        return false;
+    const bool isGone = m_connection->executeNonQuery(statements::DeleteByPathBegin + path +
+                                                      statements::DeleteByPathEnd);
+    m_backups.settle(*m_connection, *copy);
+    return isGone;
 }
 
 bool LectureDatabase::writeOrReset(const QString &sql, const QVariantList &arguments,
@@ -134,12 +146,18 @@ bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariant
     // not stored, and nothing is lost.
     if (soundnessOfEveryPage(database) == Soundness::Damaged && !replaceWithSound())
         return false;
-    const QString copy = m_backups.keep(database, statements::AllIds);
-    database.executeNonQuery(statements::Drop);
-    database.executeNonQuery(creationText);
-    database.executeNonQuery(statements::DeleteAll);
-    m_backups.settle(database, copy);
+    // Without a copy nothing goes. What was held for it is free then, and may be all that was
+    // wanting.
+    const auto copy = m_backups.keep(database, statements::AllIds);
+    if (copy) {
+        database.executeNonQuery(statements::Drop);
+        database.executeNonQuery(creationText);
+        database.executeNonQuery(statements::DeleteAll);
+        m_backups.settle(database, *copy);
+    }
     const bool isWritten = database.executeNonQueryArguments(sql, arguments);
+    if (isWritten && copy && creationText == statements::CreateAfterUpdate)
+        m_backups.change(*copy, sql, arguments);
     makeIndexes();
     return isWritten;
 }

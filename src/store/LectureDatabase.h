@@ -43,15 +43,16 @@ public:
 
     // When the statement fails, for whatever reason, the table is dropped with all its lectures,
     // made anew, and the statement run once more. This is how the table comes into being, and the
-    // loss in all other cases is wanted as it is; the audio files stay. True when it was run at
-    // last.
+    // loss in all other cases is wanted as it is; the audio files stay. Lectures of which no copy
+    // can be made are not dropped. True when it was run at last.
     bool insertIntoDbwithSqlStatementWithArguments(const QString &sql,
                                                    const QVariantList &arguments);
-    void updateToDoDatawithSqlStatementWithArguments(const QString &sql,
+    bool updateToDoDatawithSqlStatementWithArguments(const QString &sql,
                                                      const QVariantList &arguments);
     // Goes by the audio path: every lecture with the same path goes, so all without audio at once.
-    // Never opens the database.
-    void deleteVoiceData(const LectureInfoItem &lecture);
+    // Never opens the database. False when the lecture stays: the statement failed, or several
+    // would go of which no copy can be made.
+    bool deleteVoiceData(const LectureInfoItem &lecture);
 
 private:
     bool writeOrReset(const QString &sql, const QVariantList &arguments,

@@ -4,6 +4,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include <limits>
+
 namespace tarvelo::platform {
 class Image;
 }
@@ -15,6 +17,9 @@ namespace tarvelo::store {
 class LectureInfoItem final
 {
 public:
+    // The ID of a lecture without a row; no row has it.
+    static constexpr qint64 NoRow = std::numeric_limits<qint64>::min();
+
     LectureInfoItem(const QString &subject, const QString &course, const QString &durationStart,
                     const QString &end, bool checked);
 
@@ -35,6 +40,8 @@ public:
 
     const QString &getLectureAudioPath() const { return m_strLectureAudioPath; }
     qint64 getRecordUniqueID() const { return m_intRecordUniqueID; }
+    // It may be 0 too, as rows are given IDs by other programs.
+    bool hasRow() const { return m_intRecordUniqueID != NoRow; }
     QString description() const;
     platform::Image iconImage() const;
     QColor colorSubject() const { return {99, 99, 99}; }

@@ -28,15 +28,9 @@ constexpr qsizetype HeaderSize = 100;
 constexpr qsizetype PageSize = 4096;
 constexpr qsizetype ChangeCounter = 24;
 
-void removeDatabase(const QString &path)
-{
-    QFile::remove(path);
-    QFile::remove(journalOf(path));
-}
-
 bool makeEmpty(const QString &path)
 {
-    removeDatabase(path);
+    removeWithJournal(path);
     platform::createFileIfMissing(path);
     Sqlite database(path);
     return makeLecturesIfMissing(database);
@@ -141,13 +135,6 @@ bool writeWithNewBeginning(const QString &damagedPath, const QString &path, qsiz
     return made.resize(0) && made.seek(0) && made.write(whole) == whole.size() && made.flush();
 }
 
-bool writeAsItIs(const QString &damagedPath, const QString &path)
-{
-    removeDatabase(path);
-    return copyBytes(damagedPath, path) && (!QFile::exists(journalOf(damagedPath)) ||
-                                            copyBytes(journalOf(damagedPath), journalOf(path)));
-}
-
 } // namespace
 
 bool rescueLectures(const QString &damagedPath, const QString &soundPath)
@@ -155,8 +142,8 @@ bool rescueLectures(const QString &damagedPath, const QString &soundPath)
     const QString readable = soundPath + QStringLiteral(".read");
     const QString attempt = soundPath + QStringLiteral(".attempt");
     const auto tidy = qScopeGuard([&] {
-        removeDatabase(readable);
-        removeDatabase(attempt);
+        removeWithJournal(readable);
+        removeWithJournal(attempt);
     });
     Rescued best{-1, false};
     // The whole first page says where the table begins, so another one is the last way: it may lead
@@ -165,14 +152,14 @@ bool rescueLectures(const QString &damagedPath, const QString &soundPath)
         if (best.isWhole || (newBeginning == PageSize && best.lectures > 0))
             break;
         const bool isWritten = newBeginning == 0
-                                   ? writeAsItIs(damagedPath, readable)
+                                   ? copyWithJournal(damagedPath, readable)
                                    : writeWithNewBeginning(damagedPath, readable, newBeginning);
         const auto rescued = isWritten ? rescue(readable, attempt) : std::nullopt;
         if (!rescued)
             return false;
         if (rescued->lectures <= best.lectures)
             continue;
-        removeDatabase(soundPath);
+        removeWithJournal(soundPath);
         if (!QFile::rename(attempt, soundPath))
             return false;
         best = *rescued;

@@ -6,11 +6,31 @@
 #include "support/Modes.h"
 #include "support/TestCase.h"
 
+#include <cerrno>
 #include <memory>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::store;
 using namespace tarvelo::tests;
+
+namespace {
+
+QByteArray stubborn;
+
+} // namespace
+
+// Stands in for the C library's in this program: one file cannot be removed.
+extern "C" int unlinkUnlessStubborn(const char *path) noexcept __asm__("unlink");
+extern "C" int unlinkUnlessStubborn(const char *path) noexcept
+{
+    if (stubborn == path) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(::syscall(SYS_unlink, path));
+}
 
 class DamagedFilesTest final : public TestCase
 {
@@ -93,6 +113,18 @@ private Q_SLOTS:
         QCOMPARE(names().size(), 2);
     }
 
+    void anOldJournalThatCannotBeRemovedIsLeftToItsOwnFile()
+    {
+        write(damaged(), "an old journal");
+        stubborn = QFile::encodeName(file() + u"-journal"_s);
+
+        QVERIFY(!m_files->replaceWithSound(file()));
+
+        QCOMPARE(contentOf(file()), damaged());
+        stubborn.clear();
+        QVERIFY(m_files->replaceWithSound(file()));
+    }
+
     void withoutRoomToPutItAsideTheFileStaysAsItIs()
     {
         m_places->makeFolder();
@@ -156,6 +188,7 @@ private:
     }
     void finish() override
     {
+        stubborn.clear();
         m_files.reset();
         m_places.reset();
     }

@@ -247,9 +247,9 @@ private Q_SLOTS:
         add(aLecture().named("Ethics").withoutAudio());
         LectureBackups backups(folder(), m_clock);
 
-        const QString copy = backups.keep(connection(), statements::AllIds);
+        const auto copy = backups.keep(connection(), statements::AllIds);
 
-        QVERIFY(QFileInfo::exists(copy));
+        QVERIFY(copy && QFileInfo::exists(*copy));
         QCOMPARE(bringBack(), 0);
         QCOMPARE(everything(), u"1 Logic, 2 Ethics"_s);
     }
@@ -314,6 +314,90 @@ private Q_SLOTS:
         QCOMPARE(bringBack(), 1);
     }
 
+    void whereNoCopyCanBeMadeAFailedWriteTakesNothing()
+    {
+        add(aLecture().named("Optics"));
+        add(aLecture().named("Logic").withoutAudio());
+        blockFolder();
+
+        reset();
+
+        QCOMPARE(everything(), u"1 Optics, 2 Logic"_s);
+        add(aLecture().named("Ethics"));
+        QCOMPARE(everything(), u"1 Optics, 2 Logic, 3 Ethics"_s);
+    }
+
+    void whereNoCopyCanBeMadeSeveralLecturesAreNotDeletedButOneIs()
+    {
+        add(aLecture().named("Logic").withoutAudio());
+        add(aLecture().named("Ethics").withoutAudio());
+        add(aLecture().named("Optics"));
+        blockFolder();
+
+        QVERIFY(!remove(QString()));
+        QVERIFY(remove(u"/music/optics.aac"_s));
+
+        QCOMPARE(everything(), u"1 Logic, 2 Ethics"_s);
+    }
+
+    void whereNoCopyCanBeMadeATableWithNothingToLoseIsMadeAnew()
+    {
+        blockFolder();
+
+        add(aLecture().named("Optics"));
+
+        QCOMPARE(everything(), u"1 Optics"_s);
+    }
+
+    void aCopyOfAFileInTheMiddleOfAChangeIsAsItWasBefore()
+    {
+        for (int number = 0; number < 60; ++number)
+            add(aLecture().named("Optics").withNotes(QString(400, u'n')));
+        Sqlite other(m_places->databaseFile());
+        QVERIFY(other.executeQuery(u"PRAGMA cache_size = 1"_s));
+        QVERIFY(other.beginTransaction());
+        QVERIFY(other.executeNonQuery(u"UPDATE audioData SET subject = 'half', notes = ''"_s));
+
+        reset();
+
+        QVERIFY(other.rollback());
+        const QStringList names = QDir(folder()).entryList({u"*.db"_s}, QDir::Files);
+        QCOMPARE(names.size(), 1);
+        Sqlite copy(folder() + u'/' + names.value(0));
+        QCOMPARE(subjectsIn(copy), QStringList(60, u"Optics"_s));
+    }
+
+    void aChangeThatEmptiedTheTableComesBackWithItsLecture()
+    {
+        const qint64 id = add(aLecture().named("Optics"));
+        add(aLecture().named("Logic").withoutAudio());
+        QVERIFY(connection().executeNonQuery(
+            u"CREATE TEMP TRIGGER once BEFORE UPDATE ON main.audioData BEGIN SELECT "
+            "RAISE(ABORT, 'no'); END"_s));
+
+        change(id, u"Wave Optics"_s);
+
+        QVERIFY(everything().isEmpty());
+        QCOMPARE(bringBack(), 2);
+        QCOMPARE(everything(), u"1 Wave Optics, 2 Logic"_s);
+    }
+
+    void aCopyThatCannotBeReadNowStays()
+    {
+        add(aLecture().named("Logic").withoutAudio());
+        LectureBackups backups(folder(), m_clock);
+        const auto copy = backups.keep(connection(), statements::AllIds);
+        QVERIFY(copy && connection().executeNonQuery(u"DROP TABLE audioData"_s));
+        QFile file(*copy);
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(4096));
+        file.write(QByteArray(file.size() - 4096, '\xa5'));
+        file.close();
+
+        backups.settle(connection(), *copy);
+
+        QVERIFY(QFileInfo::exists(*copy));
+    }
+
     void otherFilesInTheFolderStayAndAreNotListed()
     {
         add(aLecture());
@@ -364,11 +448,19 @@ private:
     qint64 add(const LectureBuilder &lecture) const { return lecture.insertInto(*m_database); }
     // A statement that fails for whatever reason.
     void reset() const { m_database->insertIntoDbwithSqlStatementWithArguments(u"nonsense"_s, {}); }
-    void remove(const QString &audioPath) const
+    // Where the copies go, something else lies.
+    void blockFolder() const
+    {
+        m_places->makeFolder();
+        QDir(folder()).removeRecursively();
+        QFile inTheWay(folder());
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    }
+    bool remove(const QString &audioPath) const
     {
         LectureInfoItem lecture(u"Any"_s, u""_s, u""_s, u""_s, false);
         lecture.setLectureAudioPath(audioPath);
-        m_database->deleteVoiceData(lecture);
+        return m_database->deleteVoiceData(lecture);
     }
     void change(qint64 id, const QString &subject) const
     {

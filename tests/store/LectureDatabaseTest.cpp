@@ -98,6 +98,17 @@ private Q_SLOTS:
         QVERIFY(m_database->openDb());
     }
 
+    void whatWasClosedIsOpenedAgainForTheNextCall()
+    {
+        aLecture().insertInto(*m_database);
+        Sqlite *const first = m_database->connection();
+        first->close();
+
+        QCOMPARE(m_database->lecturesOfDay(u"2024-03-05"_s)->size(), 1);
+
+        QCOMPARE(m_database->openDb(), first);
+    }
+
     void beforeTheFirstInsertThereIsNoTableToAsk()
     {
         QVERIFY(!m_database->lecturesOfDay(u"2024-03-05"_s));
@@ -251,6 +262,17 @@ private Q_SLOTS:
         m_database->deleteVoiceData(lectureAt(u"/why?.aac"_s));
 
         QCOMPARE(subjectsOfDay(u"2024-03-05"_s), QStringList());
+    }
+
+    void aLectureWithoutRowAndAudioTakesNoOther()
+    {
+        aLecture().withoutAudio().insertInto(*m_database);
+        LectureInfoItem lecture = lectureAt(QString());
+        lecture.setRecordUniqueID(LectureInfoItem::NoRow);
+
+        QVERIFY(m_database->deleteVoiceData(lecture));
+
+        QCOMPARE(m_database->lecturesOfDay(u"2024-03-05"_s)->size(), 1);
     }
 
     void deletingNeverOpensTheDatabase()
