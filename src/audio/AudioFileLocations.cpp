@@ -79,14 +79,16 @@ QString AudioFileLocations::audioSavePathOf(const QDateTime &moment) const
     return path;
 }
 
-void AudioFileLocations::makeWayAt(const QString &path)
+bool AudioFileLocations::makeWayAt(const QString &path)
 {
     const qint64 second = m_dates.now().toSecsSinceEpoch();
     const bool isOfThisSecond = m_savedPath == path && m_savedSecond == second;
-    if (!isOfThisSecond && QFileInfo::exists(path))
-        platform::renameDurably(path, freeNameLike(path));
+    if (!isOfThisSecond && QFileInfo::exists(path) &&
+        !platform::renameDurably(path, freeNameLike(path)))
+        return false;
     m_savedPath = path;
     m_savedSecond = second;
+    return true;
 }
 
 void AudioFileLocations::createFolders()

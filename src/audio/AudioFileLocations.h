@@ -38,8 +38,9 @@ public:
     // For a save at the path, right before it. A file that an earlier save of this same second left
     // there stays and is replaced, which is wanted. One of another moment that had the same name,
     // since the clock was set back or repeats an hour, gets a name of its own: its lecture then has
-    // the new sound, and the file is one without a lecture.
-    void makeWayAt(const QString &path);
+    // the new sound, and the file is one without a lecture. False when that could not be done, and
+    // then the save has to go elsewhere.
+    bool makeWayAt(const QString &path);
     // The same, but of the next second whose path nobody has yet.
     QString freeAudioSavePath() const;
     // Ends in "/". Makes the folder when it is missing.

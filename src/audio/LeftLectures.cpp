@@ -5,6 +5,7 @@
 #include "audio/engine/LeftTake.h"
 #include "platform/Dates.h"
 #include "platform/DurableFiles.h"
+#include "platform/DurableMove.h"
 #include "platform/SteadyFile.h"
 #include "store/LectureDatabase.h"
 #include "store/Statements.h"
@@ -35,20 +36,6 @@ bool holdsNothing(const QString &takePath)
 {
     return QFileInfo(takePath).size() < MostBytesOfSilence &&
            engine::secondsOfLeftTake(takePath) <= 0;
-}
-
-// One that lies on another disk is copied there first.
-bool moveDurably(const QString &from, const QString &to)
-{
-    if (platform::renameDurably(from, to))
-        return true;
-    const QFileInfo target(to);
-    const QString sibling =
-        target.path() + QStringLiteral("/.") + target.fileName() + QStringLiteral(".moved");
-    QFile::remove(sibling);
-    const bool isThere = QFile::copy(from, sibling) && platform::renameDurably(sibling, to);
-    QFile::remove(isThere ? from : sibling);
-    return isThere;
 }
 
 } // namespace
@@ -206,7 +193,8 @@ bool LeftLectures::moveTake(Left &left)
     engine::finishLeftTake(left.takePath);
     const bool isPlaceFree =
         !left.journal.target.isEmpty() && !QFileInfo::exists(left.journal.target);
-    return (isPlaceFree || choosePlace(left)) && moveDurably(left.takePath, left.journal.target);
+    return (isPlaceFree || choosePlace(left)) &&
+           platform::moveDurably(left.takePath, left.journal.target);
 }
 
 std::optional<qint64> LeftLectures::storedRow(const Left &left) const
@@ -262,6 +250,25 @@ void LeftLectures::storeOwed(const std::function<void(const QString &, qint64)> 
         if (row && stored)
             stored(left.journal.id, *row);
     }
+}
+
+bool LeftLectures::change(const QString &id, const QString &subject, const QString &notes)
+{
+    for (Left &left : all()) {
+        if (left.journal.id != id)
+            continue;
+        left.journal.subject = subject;
+        left.journal.notes = notes;
+        return platform::SteadyFile(left.journalPath).replace(store::toBytes(left.journal));
+    }
+    return true;
+}
+
+void LeftLectures::discard(const QString &id)
+{
+    for (const Left &left : all())
+        if (left.journal.id == id)
+            discard(left);
 }
 
 void LeftLectures::discard(const Left &left)

@@ -51,6 +51,10 @@ public:
     enum class Kept { Stored, Later, Undecided };
     Kept keep(const Left &left);
     void discard(const Left &left);
+    // By the journal's ID, as long as its row is not stored. A change that could not be written
+    // down is false.
+    bool change(const QString &id, const QString &subject, const QString &notes);
+    void discard(const QString &id);
     // Goes on with what is to be kept. `stored` hears of each, with its journal's ID and its row's.
     void storeOwed(const std::function<void(const QString &, qint64)> &stored = {});
 

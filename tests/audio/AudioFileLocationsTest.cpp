@@ -89,6 +89,23 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_locations->getAudioFolderPath()).entryList(QDir::Files).size(), 1);
     }
 
+    void whereAnEarlierFileCannotBeKeptTheSaveHasToGoElsewhere()
+    {
+        const QString path = m_locations->getAudioSavePath();
+        QVERIFY(write(path));
+        const QString folder = m_locations->getAudioFolderPath();
+        QVERIFY(setMode(folder, 0500));
+        {
+            const OrdinaryUser user;
+            QVERIFY(!m_locations->makeWayAt(path));
+        }
+        QVERIFY(setMode(folder, 0700));
+
+        QVERIFY(QFile::exists(path));
+        QVERIFY(m_locations->freeAudioSavePath() != path);
+        QVERIFY(m_locations->makeWayAt(path));
+    }
+
     void earlierFilesAreAllKept()
     {
         const QString path = m_locations->getAudioSavePath();
