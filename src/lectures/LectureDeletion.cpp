@@ -45,21 +45,23 @@ Lecture LectureDeletion::lectureAt(int row) const
                : nullptr;
 }
 
-void LectureDeletion::deleteLecture(const Lecture &lecture, int row)
+bool LectureDeletion::deleteLecture(const Lecture &lecture, int row)
 {
-    m_with.database.deleteVoiceData(*lecture);
+    if (!m_with.database.deleteVoiceData(*lecture))
+        return false;
+    m_with.forgetWaiting(*lecture);
     const QString path = lecture->getLectureAudioPath();
     if (QFile::exists(path))
         QFile::remove(path);
     m_with.removeArrangedObject(row);
+    return true;
 }
 
 void LectureDeletion::onDelete(int row)
 {
     const Lecture lecture = lectureAt(row);
-    if (!lecture)
+    if (!lecture || !deleteLecture(lecture, row))
         return;
-    deleteLecture(lecture, row);
     const QPointer<LectureDeletion> self(this);
     m_main.tblRecordSubjectList->removeRow(row, SlideUpDuration, [self] {
         if (self)
@@ -71,9 +73,8 @@ void LectureDeletion::onDeleteItem(QWidget *sender)
 {
     const int row = sender ? m_main.tblRecordSubjectList->rowForView(sender->parentWidget()) : -1;
     const Lecture lecture = lectureAt(row);
-    if (!lecture)
+    if (!lecture || !deleteLecture(lecture, row))
         return;
-    deleteLecture(lecture, row);
     m_with.reload();
     showShorterList();
 }

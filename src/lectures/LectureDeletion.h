@@ -18,7 +18,8 @@ class DayList;
 
 // Deletes lectures: at once, after a confirmation, or by the action that a swipe uncovers. The row
 // goes first, then the file, then the entry of the list: if removing the file fails, no lecture is
-// left that cannot be played. Nothing is ever reported, and what is not there is not deleted.
+// left that cannot be played. A lecture whose row cannot be deleted stays whole, in the list too.
+// Nothing is ever reported, and what is not there is not deleted.
 class LectureDeletion final : public QObject
 {
     Q_OBJECT
@@ -28,6 +29,8 @@ public:
     {
         store::LectureDatabase &database;
         DayList &dayList;
+        // What of it still waits to be stored is not stored any more.
+        std::function<void(const store::LectureInfoItem &)> forgetWaiting;
         // Takes one row out of the list, and tells who shows the list by other means than the
         // table.
         std::function<void(int row)> removeArrangedObject;
@@ -57,7 +60,8 @@ public:
 
 private:
     Lecture lectureAt(int row) const;
-    void deleteLecture(const Lecture &lecture, int row);
+    // False when its row stays, and then all of it does.
+    bool deleteLecture(const Lecture &lecture, int row);
     void chooseRowAction(LectureTable &table, int row);
     void showShorterList();
 

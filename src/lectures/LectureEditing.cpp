@@ -43,7 +43,9 @@ void show(const store::LectureInfoItem &lecture, QLineEdit &subject, QTextEdit &
 
 bool isSame(const Lecture &one, const Lecture &other)
 {
-    return one && other && one->getRecordUniqueID() == other->getRecordUniqueID();
+    if (!one || !other || !one->hasRow())
+        return one && one == other;
+    return one->getRecordUniqueID() == other->getRecordUniqueID();
 }
 
 } // namespace
@@ -51,6 +53,7 @@ bool isSame(const Lecture &one, const Lecture &other)
 LectureEditing::LectureEditing(const Collaborators &collaborators, const Outlets &outlets)
     : m_with(collaborators)
     , m_outlets(outlets)
+    , m_unsavedTexts(collaborators.database, collaborators.clock)
     , m_stopSoundPlayEdit(collaborators.clock, [this] { m_with.playback.stopSoundPlayEdit(); })
 {
 }
@@ -63,7 +66,9 @@ Lecture LectureEditing::selectedLectureOfSender(const QWidget *sender)
     if (row < 0 || row >= static_cast<int>(lectures.size()))
         return nullptr;
     table.selectRow(row);
-    return lectures[static_cast<std::size_t>(row)];
+    const Lecture &lecture = lectures[static_cast<std::size_t>(row)];
+    m_unsavedTexts.putInto(*lecture);
+    return lecture;
 }
 
 void LectureEditing::onEditLecture(QWidget *sender)
@@ -138,8 +143,14 @@ void LectureEditing::save(const Lecture &lecture, const QString &subject, const 
 {
     if (!lecture)
         return;
-    m_with.database.updateToDoDatawithSqlStatementWithArguments(
-        store::statements::Update, {subject, notes, QString::number(lecture->getRecordUniqueID())});
+    if (!lecture->hasRow())
+        m_with.changeWaiting(*lecture, subject, notes);
+    else if (m_with.database.updateToDoDatawithSqlStatementWithArguments(
+                 store::statements::Update,
+                 {subject, notes, QString::number(lecture->getRecordUniqueID())}))
+        m_unsavedTexts.forget(*lecture);
+    else
+        m_unsavedTexts.keep(*lecture, subject, notes);
     lecture->setSubject(subject);
     lecture->setNotes(notes);
     // The list may have been built anew while the lecture was open.
@@ -223,6 +234,8 @@ void LectureEditing::lecturesWereDeleted()
 
 bool LectureEditing::isStored(const store::LectureInfoItem &lecture) const
 {
+    if (!lecture.hasRow())
+        return m_with.isWaiting(lecture);
     store::Sqlite *connection = m_with.database.connection();
     const auto rows = connection ? connection->executeQueryArguments(
                                        QStringLiteral("select ID from audioData where ID = ?"),

@@ -4,7 +4,10 @@
 #include "lectures/LectureList.h"
 #include "lectures/LectureOutlets.h"
 #include "lectures/TextDelegate.h"
+#include "lectures/UnsavedTexts.h"
 #include "platform/DelayedCall.h"
+
+#include <functional>
 
 namespace tarvelo::audio {
 class Playback;
@@ -40,6 +43,10 @@ public:
         const DayList &dayList;
         ViewChanges &viewChanges;
         platform::Alerts &alerts;
+        // Of a lecture whose row waits to be stored: what it is to have, and whether it waits.
+        std::function<void(const store::LectureInfoItem &, const QString &, const QString &)>
+            changeWaiting;
+        std::function<bool(const store::LectureInfoItem &)> isWaiting;
     };
 
     struct Outlets
@@ -101,6 +108,7 @@ private:
     bool m_bIsEditingNow = false;
     bool m_bHasChangesInNote = false;
     bool m_bHasChangesInNoteTitle = false;
+    UnsavedTexts m_unsavedTexts;
     platform::DelayedCall m_stopSoundPlayEdit;
 };
 

@@ -148,9 +148,57 @@ void LectureJournalKeeper::lectureStored(bool isStored, const Lecture &lecture)
     m_isOpen = false;
     m_write.cancel();
     m_isOwed = m_writer != nullptr;
-    m_owed.insert(m_journal.id, lecture);
+    m_owed.insert(m_journal.id, {lecture, lecture->getRecordUniqueID(), target});
     if (m_isOwed)
         storeOwedLater();
+}
+
+// The list may have another object for a lecture that has a row.
+QString LectureJournalKeeper::journalOf(const store::LectureInfoItem &lecture) const
+{
+    for (auto owed = m_owed.begin(); owed != m_owed.end(); ++owed)
+        if (owed->lecture.lock().get() == &lecture ||
+            (lecture.hasRow() && owed->row == lecture.getRecordUniqueID() &&
+             owed->path == lecture.getLectureAudioPath()))
+            return owed.key();
+    return {};
+}
+
+bool LectureJournalKeeper::owes(const store::LectureInfoItem &lecture) const
+{
+    return !journalOf(lecture).isEmpty();
+}
+
+void LectureJournalKeeper::lectureChanged(const store::LectureInfoItem &lecture,
+                                          const QString &subject, const QString &notes)
+{
+    const QString id = journalOf(lecture);
+    if (id.isEmpty())
+        return;
+    m_changed.insert(id, {subject, notes});
+    writeChanges();
+}
+
+bool LectureJournalKeeper::writeChanges()
+{
+    if (m_changed.isEmpty())
+        return true;
+    leaveBehind();
+    m_changed.removeIf([this](const std::pair<const QString &, Texts &> &changed) {
+        return m_with.left.change(changed.first, changed.second.subject, changed.second.notes);
+    });
+    return m_changed.isEmpty();
+}
+
+void LectureJournalKeeper::lectureDeleted(const store::LectureInfoItem &lecture)
+{
+    const QString id = journalOf(lecture);
+    if (id.isEmpty())
+        return;
+    leaveBehind();
+    m_with.left.discard(id);
+    m_owed.remove(id);
+    m_changed.remove(id);
 }
 
 void LectureJournalKeeper::storeOwedLater()
@@ -171,10 +219,14 @@ void LectureJournalKeeper::leaveBehind()
 void LectureJournalKeeper::storeOwed()
 {
     leaveBehind();
+    if (!writeChanges()) {
+        storeOwedLater();
+        return;
+    }
     bool isAnyStored = false;
     m_with.left.storeOwed([this, &isAnyStored](const QString &id, qint64 row) {
         isAnyStored = true;
-        if (const Lecture lecture = m_owed.take(id).lock())
+        if (const Lecture lecture = m_owed.take(id).lecture.lock())
             lecture->setRecordUniqueID(row);
     });
     const bool isStartUp = std::exchange(m_isStartUp, false);

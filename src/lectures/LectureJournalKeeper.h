@@ -66,8 +66,16 @@ public:
     void lectureDone();
     // The recording, if there is one, is about to be moved to `target`. Waits until the disk knows.
     void lectureMoves(const QString &target, const QString &duration);
-    // When it is not, the journal stays, and the row is stored as soon as that can be done.
+    // With its recording in its place. When it is not, the journal stays, and what is missing is
+    // done as soon as that can be.
     void lectureStored(bool isStored, const Lecture &lecture);
+    // Whether something of it is still to be stored.
+    bool owes(const store::LectureInfoItem &lecture) const;
+    // Of a lecture without a row: its row is to have these texts.
+    void lectureChanged(const store::LectureInfoItem &lecture, const QString &subject,
+                        const QString &notes);
+    // Nothing of it is to be stored any more.
+    void lectureDeleted(const store::LectureInfoItem &lecture);
     // Its take stays where it is.
     void lectureClosed();
     void lectureCancelled();
@@ -88,6 +96,10 @@ private:
     void endWithoutJournal();
     void leaveBehind();
     void storeOwed();
+    // False when some of them are not on the disk.
+    bool writeChanges();
+    // Empty when nothing of it is owed.
+    QString journalOf(const store::LectureInfoItem &lecture) const;
 
     Collaborators m_with;
     NewLectureOutlets m_outlets;
@@ -96,7 +108,19 @@ private:
     std::unique_ptr<store::JournalWriter> m_writer; // null as long as the folder is not ours
     bool m_isOpen = false;
     bool m_isOwed = false; // the journal is of a lecture that is done and not stored
-    QHash<QString, std::weak_ptr<store::LectureInfoItem>> m_owed; // by the journal's ID
+    struct Owed
+    {
+        std::weak_ptr<store::LectureInfoItem> lecture;
+        qint64 row = store::LectureInfoItem::NoRow;
+        QString path = {};
+    };
+    struct Texts
+    {
+        QString subject;
+        QString notes;
+    };
+    QHash<QString, Owed> m_owed;     // by the journal's ID
+    QHash<QString, Texts> m_changed; // those that the journal does not have yet
     store::LectureJournal m_journal; // what cannot be read from the window
     QDateTime m_written;
     platform::DelayedCall m_write;

@@ -47,14 +47,20 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
     , m_sharing(services.places.music, services.mail, services.workspace)
     , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })
     , m_viewChanges(windows.mainOutlets(), windows.lectureViewOutlets())
-    , m_editing({services.dates.clock(), services.database, m_playback, m_dayList, m_viewChanges,
-                 services.alerts},
-                {windows.mainOutlets(), windows.editLectureOutlets(), windows.lectureViewOutlets(),
-                 windows.editPlayerOutlets(), windows.popoverOutlets()})
-    , m_deletion({services.database, m_dayList, [this](int row) { removeArrangedObject(row); },
-                  [this] { reloadData(); }, [this] { goToCalendarView(nullptr); },
-                  services.pendingRow},
-                 windows.mainOutlets(), windows.popoverOutlets())
+    , m_editing(
+          {services.dates.clock(), services.database, m_playback, m_dayList, m_viewChanges,
+           services.alerts,
+           [this](const store::LectureInfoItem &lecture, const QString &subject,
+                  const QString &notes) { m_journal.lectureChanged(lecture, subject, notes); },
+           [this](const store::LectureInfoItem &lecture) { return m_journal.owes(lecture); }},
+          {windows.mainOutlets(), windows.editLectureOutlets(), windows.lectureViewOutlets(),
+           windows.editPlayerOutlets(), windows.popoverOutlets()})
+    , m_deletion(
+          {services.database, m_dayList,
+           [this](const store::LectureInfoItem &lecture) { m_journal.lectureDeleted(lecture); },
+           [this](int row) { removeArrangedObject(row); }, [this] { reloadData(); },
+           [this] { goToCalendarView(nullptr); }, services.pendingRow},
+          windows.mainOutlets(), windows.popoverOutlets())
     , m_left(m_locations, services.dates, services.database)
     , m_journal({services.dates, m_locations, m_recordingControl, m_dayList, m_left,
                  [this](bool inList) { showStoredLectures(inList); }},

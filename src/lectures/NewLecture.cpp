@@ -14,7 +14,7 @@
 #include "platform/Alerts.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
-#include "platform/DurableFiles.h"
+#include "platform/DurableMove.h"
 #include "platform/Texts.h"
 #include "platform/WindowLevel.h"
 #include "store/LectureDatabase.h"
@@ -108,19 +108,15 @@ NewLecture::Audio NewLecture::takeAudioToItsPlace()
         m_with.journal.lectureMoves({}, store::NoAudio);
         return {QString(), store::NoAudio};
     }
-    const QString path = m_with.locations.getAudioSavePath();
+    QString path = m_with.locations.getAudioSavePath();
+    if (!m_with.locations.makeWayAt(path))
+        path = m_with.locations.freeAudioSavePath();
     QString duration =
         audio::getDuration(audio::wholeSeconds(m_with.recording.floatRecordingDuration()));
     m_with.journal.lectureMoves(path, duration);
-    m_with.locations.makeWayAt(path);
     // Two saves within one second share a path; the later one replaces the earlier file.
-    if (!platform::renameDurably(taken, path)) {
-        // It may be another disk.
-        if (QFile::exists(path))
-            QFile::remove(path);
-        QFile::rename(taken, path);
-    }
-    return {path, std::move(duration)};
+    const bool isInPlace = platform::moveDurably(taken, path);
+    return {path, std::move(duration), isInPlace};
 }
 
 void NewLecture::doSaveNewAudioInfos()
@@ -143,10 +139,10 @@ void NewLecture::doSaveNewAudioInfos()
         subject, store::NewLectureCourse, store::NewLectureStart, store::NewLectureEnd, true);
     lecture->setRecordingDuration(audio.duration);
     lecture->setNotes(notes);
-    if (store::Sqlite *connection = m_with.database.connection())
-        lecture->setRecordUniqueID(connection->lastinsertedRowID());
+    lecture->setRecordUniqueID(isStored ? m_with.database.connection()->lastinsertedRowID()
+                                        : store::LectureInfoItem::NoRow);
     lecture->setLectureAudioPath(audio.path);
-    m_with.journal.lectureStored(isStored, lecture);
+    m_with.journal.lectureStored(isStored && audio.isInPlace, lecture);
     m_with.dayList.append(lecture);
     LectureTable &table = *m_outlets.main.tblRecordSubjectList;
     table.scrollRowToVisible(table.rowCount() - 1);

@@ -73,7 +73,7 @@ public:
     // Slides the note view over the list.
     void onDone(QWidget *sender);
     // Stores the new lecture under the day shown. Files that cannot be moved are left where they
-    // are, and the row is stored with their new path all the same.
+    // are for a later try, and the row is stored with their new path all the same.
     void doSaveNewAudioInfos();
     // Brings a save forward that Done has scheduled; to be called before anything that would undo
     // it.
@@ -84,6 +84,7 @@ private:
     {
         QString path; // empty without audio
         QString duration;
+        bool isInPlace = true;
     };
 
     // Moves the finished take to its place, if there is one.

@@ -169,6 +169,38 @@ private Q_SLOTS:
         QVERIFY(m_program->alerts.sheets.isEmpty());
     }
 
+    void aLectureThatIsNotDeletedKeepsItsFileAndItsEntry()
+    {
+        store(aLecture().on("2024-03-05").named("Quoted").withAudio(audioPath("o'neill")));
+        showDay();
+
+        controller().onDelete(0);
+
+        QVERIFY(QFile::exists(audioPath("o'neill")));
+        QCOMPARE(m_program->subjectsShown(), QStringList{u"Quoted"_s});
+        controller().onDeleteItem(viewOf(0)->btnDelete());
+        QVERIFY(QFile::exists(audioPath("o'neill")));
+        QCOMPARE(storedSubjects(), QStringList{u"Quoted"_s});
+        QCOMPARE(viewOf(0)->objectValue()->strSubject(), u"Quoted"_s);
+        QVERIFY(m_program->alerts.sheets.isEmpty());
+    }
+
+    void severalLecturesOfWhichNoCopyCanBeMadeStay()
+    {
+        for (const char *name : {"Optics", "Logic"})
+            store(aLecture().on("2024-03-05").named(name).withAudio(audioPath("both")));
+        QDir(m_program->places.folder() + u"/Backups"_s).removeRecursively();
+        QFile inTheWay(m_program->places.folder() + u"/Backups"_s);
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        showDay();
+
+        controller().onDelete(0);
+
+        QVERIFY(QFile::exists(audioPath("both")));
+        QCOMPARE(storedSubjects().size(), 2);
+        QCOMPARE(m_program->subjectsShown().size(), 2);
+    }
+
     void theRowIsGoneFirstThenTheFileThenTheEntry()
     {
         QStringList order;

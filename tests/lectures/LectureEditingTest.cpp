@@ -343,6 +343,28 @@ private Q_SLOTS:
         QCOMPARE(m_program->storedRows().value(1)["subject"_L1].toString(), u"Statics"_s);
     }
 
+    void whatTheDatabaseCannotTakeNowIsSavedLaterAndStaysInTheLecture()
+    {
+        showLecturesAndEdit();
+        windowSubject().setText(u"Acoustics"_s);
+        windowNotes().setPlainText(u"Pipes"_s);
+        {
+            tarvelo::store::Sqlite other(m_program->places.databaseFile());
+            QVERIFY(other.beginTransaction());
+            doneButton().click();
+            QVERIFY(other.rollback());
+        }
+        controller().prepareViewForDate(m_program->today());
+
+        controller().onEditLecture(row(1)->btnEdit());
+        QCOMPARE(windowSubject().text() + windowNotes().toPlainText(), u"AcousticsPipes"_s);
+        m_program->clock.advance(10s);
+
+        QCOMPARE(m_program->storedRows().value(0)["subject"_L1].toString(), u"Acoustics"_s);
+        QCOMPARE(m_program->storedRows().value(0)["notes"_L1].toString(), u"Pipes"_s);
+        QCOMPARE(m_program->storedRows().value(1)["subject"_L1].toString(), u"Waves"_s);
+    }
+
     void doneBeforeAnyLectureWasOpenedIsHarmless()
     {
         showLectures();

@@ -1,0 +1,82 @@
+#include "lectures/UnsavedTexts.h"
+
+#include "store/LectureDatabase.h"
+#include "store/LectureInfoItem.h"
+
+#include <algorithm>
+
+namespace tarvelo::lectures {
+
+namespace {
+
+// An ID may be given again, and then the lecture that has it must not get the texts of another.
+const QString Update =
+    QStringLiteral("UPDATE audioData SET subject = ?, notes = ? WHERE ID = ? AND "
+                   "ifnull(audioFileFullPath, '') = ? AND (audioFileFullPath <> '' OR "
+                   "ifnull(notes, '') = ?)");
+
+} // namespace
+
+UnsavedTexts::UnsavedTexts(store::LectureDatabase &database, platform::Clock &clock)
+    : m_database(database)
+    , m_saveAll(clock, [this] { saveAll(); })
+{
+}
+
+UnsavedTexts::~UnsavedTexts()
+{
+    saveAll();
+}
+
+bool UnsavedTexts::areOf(const Texts &texts, const store::LectureInfoItem &lecture)
+{
+    return texts.id == lecture.getRecordUniqueID() &&
+           texts.audioPath == lecture.getLectureAudioPath();
+}
+
+void UnsavedTexts::keep(const store::LectureInfoItem &lecture, const QString &subject,
+                        const QString &notes)
+{
+    const auto known = std::find_if(m_texts.begin(), m_texts.end(),
+                                    [&](const Texts &texts) { return areOf(texts, lecture); });
+    if (known == m_texts.end()) {
+        m_texts.append({lecture.getRecordUniqueID(), lecture.getLectureAudioPath(),
+                        lecture.strNotes(), subject, notes});
+    } else {
+        known->subject = subject;
+        known->notes = notes;
+    }
+    if (m_saveAll.pendingCount() == 0)
+        m_saveAll.schedule(RetryInterval);
+}
+
+void UnsavedTexts::forget(const store::LectureInfoItem &lecture)
+{
+    m_texts.removeIf([&](const Texts &texts) { return areOf(texts, lecture); });
+}
+
+void UnsavedTexts::putInto(store::LectureInfoItem &lecture) const
+{
+    for (const Texts &texts : m_texts) {
+        if (!areOf(texts, lecture))
+            continue;
+        lecture.setSubject(texts.subject);
+        lecture.setNotes(texts.notes);
+    }
+}
+
+void UnsavedTexts::saveAll()
+{
+    m_texts.removeIf([this](const Texts &texts) { return save(texts); });
+    if (!m_texts.isEmpty())
+        m_saveAll.schedule(RetryInterval);
+}
+
+bool UnsavedTexts::save(const Texts &texts)
+{
+    store::Sqlite *const database = m_database.openDb();
+    return database && database->executeNonQuery(Update, texts.subject, texts.notes, texts.id,
+                                                 texts.audioPath, texts.storedNotes);
+}
+
+} // namespace tarvelo::lectures

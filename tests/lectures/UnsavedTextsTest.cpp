@@ -1,0 +1,146 @@
+#include "lectures/UnsavedTexts.h"
+
+#include "store/LectureInfoItem.h"
+#include "support/FakeClock.h"
+#include "support/LectureBuilder.h"
+#include "support/TemporaryPlaces.h"
+#include "support/TestCase.h"
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace tarvelo::store;
+using tarvelo::lectures::UnsavedTexts;
+using tarvelo::tests::aLecture;
+
+class UnsavedTextsTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatWaitsIsSavedAsSoonAsItCan()
+    {
+        const auto lecture = stored("/music/optics.m4a");
+        stored("/music/other.m4a");
+        auto other = std::make_unique<Sqlite>(m_places->databaseFile());
+        QVERIFY(other->beginTransaction());
+        m_texts->keep(lecture, u"Waves"_s, u"Pipes"_s);
+
+        m_clock.advance(10s);
+        QVERIFY(other->rollback());
+        other.reset();
+        QCOMPARE(everything(), QStringList({u"Optics: Lenses"_s, u"Optics: Lenses"_s}));
+        m_clock.advance(10s);
+
+        QCOMPARE(everything(), QStringList({u"Waves: Pipes"_s, u"Optics: Lenses"_s}));
+    }
+
+    void theLastTextsCount()
+    {
+        auto lecture = stored("");
+        m_texts->keep(lecture, u"Waves"_s, u"Pipes"_s);
+        lecture.setNotes(u"Pipes"_s);
+        m_texts->keep(lecture, u"Waves"_s, u"Pipes and strings"_s);
+
+        m_clock.advance(10s);
+
+        QCOMPARE(everything(), QStringList{u"Waves: Pipes and strings"_s});
+    }
+
+    void whatWasSavedOtherwiseIsForgotten()
+    {
+        const auto lecture = stored("");
+        m_texts->keep(lecture, u"Waves"_s, u"Pipes"_s);
+        m_texts->forget(lecture);
+
+        m_clock.advance(10s);
+
+        QCOMPARE(everything(), QStringList{u"Optics: Lenses"_s});
+    }
+
+    void aLectureThatIsReadAnewGetsItsTexts()
+    {
+        const auto lecture = stored("/music/optics.m4a");
+        auto other = stored("/music/other.m4a");
+        m_texts->keep(lecture, u"waves"_s, u"Pipes"_s);
+
+        auto again = lecture;
+        m_texts->putInto(again);
+        m_texts->putInto(other);
+
+        QCOMPARE(again.strSubject() + again.strNotes(), u"WavesPipes"_s);
+        QCOMPARE(other.strSubject() + other.strNotes(), u"OpticsLenses"_s);
+    }
+
+    void whoeverGetsTheIdOfADeletedLectureGetsNotItsTexts_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("with a recording") << u"/music/optics.m4a"_s;
+        QTest::newRow("without a recording") << QString();
+    }
+    void whoeverGetsTheIdOfADeletedLectureGetsNotItsTexts()
+    {
+        QFETCH(QString, path);
+        const auto lecture = stored(path);
+        m_texts->keep(lecture, u"Waves"_s, u"Pipes"_s);
+        m_database->deleteVoiceData(lecture);
+        const auto next = aLecture().named("Logic").withNotes("Sets").withAudio(u"/music/b.m4a"_s);
+        QCOMPARE(next.insertInto(*m_database), lecture.getRecordUniqueID());
+
+        m_clock.advance(10s);
+
+        QCOMPARE(everything(), QStringList{u"Logic: Sets"_s});
+    }
+
+    void theEndIsTheLastTry()
+    {
+        m_texts->keep(stored("/music/optics.m4a"), u"Waves"_s, u"Pipes"_s);
+
+        m_texts.reset();
+
+        QCOMPARE(everything(), QStringList{u"Waves: Pipes"_s});
+    }
+
+private:
+    void prepare() override
+    {
+        m_places = std::make_unique<tarvelo::tests::TemporaryPlaces>();
+        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+        m_texts = std::make_unique<UnsavedTexts>(*m_database, m_clock);
+    }
+    void finish() override
+    {
+        m_texts.reset();
+        m_database.reset();
+        m_places.reset();
+    }
+
+    LectureInfoItem stored(const char *path) const { return stored(QString::fromLatin1(path)); }
+    LectureInfoItem stored(const QString &path) const
+    {
+        LectureInfoItem lecture(u"Optics"_s, {}, {}, {}, false);
+        lecture.setNotes(u"Lenses"_s);
+        lecture.setLectureAudioPath(path);
+        lecture.setRecordUniqueID(
+            aLecture().withNotes("Lenses").withAudio(path).insertInto(*m_database));
+        return lecture;
+    }
+    QStringList everything() const
+    {
+        QStringList lectures;
+        const auto rows =
+            m_database->openDb()->executeQuery(u"select * from audioData order by ID"_s);
+        for (const Row &row : rows.value_or(Rows()))
+            lectures.append(row[u"subject"_s].toString() + u": "_s + row[u"notes"_s].toString());
+        return lectures;
+    }
+
+    tarvelo::tests::FakeClock m_clock;
+    std::unique_ptr<tarvelo::tests::TemporaryPlaces> m_places;
+    std::unique_ptr<LectureDatabase> m_database;
+    std::unique_ptr<UnsavedTexts> m_texts;
+};
+
+QTEST_GUILESS_MAIN(UnsavedTextsTest)
+#include "UnsavedTextsTest.moc"

@@ -1,0 +1,261 @@
+#include "lectures/CustomTableCellView.h"
+#include "lectures/NewLecture.h"
+#include "store/FullDisk.h"
+#include "support/LectureProgram.h"
+#include "support/TestCase.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using tarvelo::lectures::Lecture;
+using tarvelo::tests::aLecture;
+using tarvelo::tests::LectureProgram;
+using tarvelo::tests::SmallDisk;
+
+// A lecture that is in the list while its row, or its recording, waits for better times.
+class WaitingRowTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aLectureThatCouldNotBeStoredHasNoRow()
+    {
+        aLecture().named("earlier").insertInto(m_program->database);
+        finishWhileLocked("Optics", true);
+
+        QVERIFY(!lecture(0)->hasRow());
+        m_program->clock.advance(10s);
+
+        QVERIFY(lecture(0)->hasRow());
+        QCOMPARE(lecture(0)->getRecordUniqueID(), storedID(1));
+    }
+
+    void whatIsChangedMeanwhileIsStoredWithItAndInNoOther_data() { withAndWithoutRecording(); }
+    void whatIsChangedMeanwhileIsStoredWithItAndInNoOther()
+    {
+        QFETCH(bool, records);
+        aLecture().named("earlier").withNotes(u"Lenses"_s).insertInto(m_program->database);
+        finishWhileLocked("Optics", records);
+
+        change(0, u"wave optics"_s, u"Huygens"_s);
+        QCOMPARE(m_program->subjectsShown(), QStringList{u"Wave Optics"_s});
+        QCOMPARE(stored(), QStringList{u"earlier: Lenses"_s});
+        m_program->clock.advance(20s);
+
+        QCOMPARE(stored(), QStringList({u"earlier: Lenses"_s, u"wave optics: Huygens"_s}));
+        QCOMPARE(lecture(0)->strNotes(), u"Huygens"_s);
+    }
+
+    void whatIsChangedAfterItWasStoredIsStoredToo()
+    {
+        finishWhileLocked("Optics", true);
+        edit(0);
+        m_program->clock.advance(20s);
+        QCOMPARE(stored(), QStringList{u"Optics: "_s});
+
+        finishEdit(u"Acoustics"_s, u"Pipes"_s);
+
+        QCOMPARE(stored(), QStringList{u"Acoustics: Pipes"_s});
+        QCOMPARE(m_program->subjectsShown(), QStringList{u"Acoustics"_s});
+    }
+
+    void whatWasChangedMeanwhileOutlivesTheProgram()
+    {
+        finishWhileLocked("Optics", false);
+
+        change(0, u"Acoustics"_s, u"Pipes"_s);
+
+        m_program->controller.journal().flush();
+        QStringList subjects;
+        for (const QFileInfo &file : QDir(folder()).entryInfoList({u"*.journal"_s}))
+            subjects.append(tarvelo::store::journalIn(file.filePath())->subject);
+        QCOMPARE(subjects, QStringList{u"Acoustics"_s});
+    }
+
+    void twoThatWaitAreNotTakenForEachOther()
+    {
+        finishWhileLocked("Optics", false);
+        finishWhileLocked("Logic", false);
+
+        change(0, u"Acoustics"_s, u"Pipes"_s);
+        m_program->clock.advance(20s);
+
+        QCOMPARE(stored(), QStringList({u"Acoustics: Pipes"_s, u"Logic: "_s}));
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"Acoustics"_s, u"Logic"_s}));
+    }
+
+    void oneThatIsDeletedMeanwhileDoesNotComeBackAndTakesNoOther_data()
+    {
+        withAndWithoutRecording();
+    }
+    void oneThatIsDeletedMeanwhileDoesNotComeBackAndTakesNoOther()
+    {
+        QFETCH(bool, records);
+        aLecture().named("earlier").withoutAudio().insertInto(m_program->database);
+        finishWhileLocked("Optics", records);
+
+        controller().onDelete(0);
+        m_program->clock.advance(20s);
+
+        QVERIFY(m_program->subjectsShown().isEmpty());
+        QCOMPARE(stored(), QStringList{u"earlier: Lenses and mirrors"_s});
+        QCOMPARE(controller().leftLectures().owed(), 0);
+        QCOMPARE(filesIn(folder()), QStringList{u".owner"_s});
+        QVERIFY(filesIn(audio()).isEmpty());
+    }
+
+    void oneOfWhichOnlyTheRecordingWaitsIsDeletedWhole()
+    {
+        m_program->recordNewLecture(3);
+        QVERIFY(QDir(audio()).removeRecursively());
+        QFile inTheWay(audio());
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        m_program->finishNewLecture();
+        QCOMPARE(stored().size(), 1);
+
+        controller().prepareViewForDate(m_program->today());
+        controller().onDelete(0);
+        QVERIFY(inTheWay.remove());
+        m_program->clock.advance(20s);
+
+        QVERIFY(stored().isEmpty());
+        QCOMPARE(filesIn(folder()), QStringList{u".owner"_s});
+    }
+
+    void whileAnotherIsDeletedTheOpenOneStaysOpen()
+    {
+        aLecture().named("earlier").insertInto(m_program->database);
+        controller().prepareViewForDate(m_program->today());
+        finishWhileLocked("Optics", false);
+        edit(1);
+
+        controller().onDelete(0);
+        finishEdit(u"Acoustics"_s, u"Pipes"_s);
+        m_program->clock.advance(20s);
+
+        QCOMPARE(stored(), QStringList{u"Acoustics: Pipes"_s});
+    }
+
+    void whatIsWrittenIntoOneThatWasDeletedIsGoneWithIt()
+    {
+        finishWhileLocked("Optics", false);
+        edit(0);
+
+        controller().onDelete(0);
+        finishEdit(u"Acoustics"_s, u"Pipes"_s);
+        m_program->clock.advance(20s);
+
+        QVERIFY(stored().isEmpty());
+    }
+
+    // Both were saved within one second, and the audio folder is on a disk of its own.
+    void aRecordingThatFindsNoRoomCostsNoEarlierOne()
+    {
+        QVERIFY(QDir().mkpath(audio()));
+        SmallDisk disk(audio());
+        m_program->recordNewLecture(3);
+        m_program->finishNewLecture();
+        const QDateTime moment = m_program->clock.now();
+        const QString path = lecture(0)->strLectureAudioPath();
+        write(path, "the earlier take");
+        m_program->recordNewLecture(4);
+        const QByteArray take = QByteArray("the later take").repeated(3000);
+        write(controller().tempAudioSavePath(), take);
+        m_program->clock.set(moment.addMSecs(-200));
+
+        disk.fill();
+        m_program->finishNewLecture();
+        QCOMPARE(read(path), QByteArray("the earlier take"));
+        disk.emptyAgain();
+        m_program->clock.advance(20s);
+
+        QByteArrayList takes;
+        for (const QString &name : filesIn(audio()))
+            takes.append(read(audio() + u'/' + name));
+        QVERIFY(takes.contains("the earlier take") && takes.contains(take));
+        QCOMPARE(filesIn(folder()), QStringList{u".owner"_s});
+    }
+
+private:
+    void prepare() override
+    {
+        m_program = std::make_unique<LectureProgram>();
+        m_program->showDay(m_program->today());
+    }
+    void finish() override { m_program.reset(); }
+
+    static void withAndWithoutRecording()
+    {
+        QTest::addColumn<bool>("records");
+        QTest::newRow("with a recording") << true;
+        QTest::newRow("without a recording") << false;
+    }
+
+    // While another program holds the database, which it does not any more afterwards.
+    void finishWhileLocked(const char *subject, bool records)
+    {
+        if (records)
+            m_program->recordNewLecture(3);
+        else
+            controller().onAddItem(nullptr);
+        m_program->windows.newLectureOutlets().txtSubjectForNewNote->setText(
+            QString::fromLatin1(subject));
+        tarvelo::store::Sqlite other(m_program->places.databaseFile());
+        QVERIFY(other.beginTransaction());
+        m_program->finishNewLecture();
+        QVERIFY(other.rollback());
+    }
+    void edit(int row)
+    {
+        controller().onEditLecture(
+            m_program->windows.mainOutlets()
+                .tblRecordSubjectList->viewAtColumnRowMakeIfNecessary(0, row, true)
+                ->btnEdit());
+    }
+    void finishEdit(const QString &subject, const QString &notes)
+    {
+        const auto &window = m_program->windows.editLectureOutlets();
+        window.txtSubjectForEdit->setText(subject);
+        window.txtViewNotesForEdit->setPlainText(notes);
+        window.btnDoneEdit->click();
+    }
+    void change(int row, const QString &subject, const QString &notes)
+    {
+        edit(row);
+        finishEdit(subject, notes);
+    }
+
+    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
+    Lecture lecture(std::size_t row) { return controller().arrangedObjects().at(row); }
+    qint64 storedID(int row) { return m_program->storedRows().value(row)["ID"_L1].toLongLong(); }
+    QStringList stored()
+    {
+        QStringList lectures;
+        for (const auto &row : m_program->storedRows())
+            lectures.append(row["subject"_L1].toString() + u": "_s + row["notes"_L1].toString());
+        return lectures;
+    }
+
+    QString folder() const { return m_program->places.folder() + u"/temp"_s; }
+    QString audio() const { return m_program->places.folder() + u"/Audio"_s; }
+    static QStringList filesIn(const QString &folder)
+    {
+        return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+    static void write(const QString &path, const QByteArray &content)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+    static QByteArray read(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    std::unique_ptr<LectureProgram> m_program;
+};
+
+QTEST_MAIN(WaitingRowTest)
+#include "WaitingRowTest.moc"
