@@ -22,8 +22,10 @@ LectureDatabase::~LectureDatabase() = default;
 Sqlite *LectureDatabase::openDb()
 {
     const bool isKnown = m_connection != nullptr;
-    if (isKnown && !m_connection->filePath().isEmpty())
+    if (isKnown && !m_connection->filePath().isEmpty()) {
+        syncNames();
         return m_connection.get();
+    }
     if (!isKnown)
         m_connection = std::make_unique<Sqlite>();
     platform::createFolderIfMissing(m_folder);
@@ -45,6 +47,7 @@ bool LectureDatabase::openFile(const QString &file)
     const bool hasJournal = QFileInfo(journalOf(file)).size() > 0;
     const bool wasEmpty = QFileInfo(file).size() == 0;
     const auto aside = hasJournal ? m_damagedFiles.putAside(file) : std::nullopt;
+    m_syncsNames = false;
     if (!m_connection->open(file))
         return false;
     const bool isDamaged = soundnessAtFirstSight(*m_connection) == Soundness::Damaged;
@@ -76,7 +79,9 @@ bool LectureDatabase::replaceWithSound()
     const QString file = m_connection->filePath();
     m_connection->close();
     const bool isSound = m_damagedFiles.replaceWithSound(file);
+    m_syncsNames = false;
     m_connection->open(file);
+    syncNames();
     return isSound;
 }
 
@@ -114,6 +119,7 @@ bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
         return true;
     if (!m_connection)
         return false;
+    syncNames();
     const QString going = statements::IdsByPathBegin + path + statements::IdsByPathEnd;
     const auto rows = m_connection->executeQuery(going);
     if (!rows || m_connection->errorCode() != 0)
@@ -166,9 +172,16 @@ bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariant
 // does without; last in a reset, so that they take no room that the statement needs.
 void LectureDatabase::makeIndexes()
 {
-    m_connection->executeNonQuery(statements::SyncNamesToo);
+    syncNames();
     m_connection->executeNonQuery(statements::IndexByDay);
     m_connection->executeNonQuery(statements::IndexByMonth);
+}
+
+// Refused as long as another program holds the file, and then it is asked for again.
+void LectureDatabase::syncNames()
+{
+    if (!m_syncsNames)
+        m_syncsNames = m_connection->executeNonQuery(statements::SyncNamesToo);
 }
 
 } // namespace tarvelo::store

@@ -62,11 +62,13 @@ private:
     bool openFile(const QString &file);
     bool replaceWithSound();
     void makeIndexes();
+    void syncNames();
 
     QString m_folder;
     LectureBackups m_backups;
     DamagedFiles m_damagedFiles;
     std::unique_ptr<Sqlite> m_connection;
+    bool m_syncsNames = false; // of the connection as it was last opened
 };
 
 } // namespace tarvelo::store

@@ -45,6 +45,22 @@ private Q_SLOTS:
         QCOMPARE(rows->value(0).value(u"synchronous"_s).toInt(), 3);
     }
 
+    void theEndOfAChangeIsForcedToTheDiskAlsoWhenTheFileWasLockedAtFirst()
+    {
+        aLecture().insertInto(*m_database);
+        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+        Sqlite other(m_places->databaseFile());
+        QVERIFY(other.beginTransaction());
+        QVERIFY(m_database->openDb());
+        QVERIFY(other.rollback());
+
+        aLecture().insertInto(*m_database);
+
+        const auto rows = m_database->connection()->executeQuery(u"PRAGMA synchronous"_s);
+        QVERIFY(rows);
+        QCOMPARE(rows->value(0).value(u"synchronous"_s).toInt(), 3);
+    }
+
     void theDatabaseAndItsJournalAreForTheirUserAlone_data() { addUmasks(); }
     void theDatabaseAndItsJournalAreForTheirUserAlone()
     {

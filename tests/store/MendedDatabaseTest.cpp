@@ -144,6 +144,20 @@ private Q_SLOTS:
         QCOMPARE(subjectsIn(connection()).size(), 30);
     }
 
+    // 3 is SQLite's number for it.
+    void whatCannotBeMendedIsForcedToTheDiskAllTheSame()
+    {
+        start(withDamagedPage());
+        QDir().mkpath(m_places->folder() + u"/Backups/.sound.attempt"_s);
+
+        QVERIFY(m_database->openDb());
+        QVERIFY(!m_database->mendIfDamaged());
+
+        const auto rows = connection().executeQuery(u"PRAGMA synchronous"_s);
+        QVERIFY(rows);
+        QCOMPARE(rows->value(0).value(u"synchronous"_s).toInt(), 3);
+    }
+
     void oneDamageIsPutAsideOnceAlsoWhenItCannotBeMended()
     {
         start(withDamagedPage());
