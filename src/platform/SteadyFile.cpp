@@ -57,7 +57,7 @@ SteadyFile::SteadyFile(QString path)
 bool SteadyFile::replace(const QByteArray &content)
 {
     // What stands under the spare's name may be what the disk still has under the other one.
-    if (!m_namesAreSynced)
+    if (!m_namesAreSynced && !syncFolderOf(m_path))
         ::unlink(QFile::encodeName(spare()).constData());
     const qint64 wanted = std::max(m_room, roomFor(content.size()));
     if (!writeSpare(content, wanted) &&
@@ -86,7 +86,7 @@ bool SteadyFile::takePlace()
     const Descriptor room(spare(), O_WRONLY | O_CREAT);
     if (room.isOpen())
         static_cast<void>(::posix_fallocate(room.number(), 0, m_room));
-    return true;
+    return m_namesAreSynced;
 }
 
 void SteadyFile::remove()

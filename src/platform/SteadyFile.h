@@ -14,7 +14,7 @@ class SteadyFile final
 public:
     explicit SteadyFile(QString path);
 
-    // False when the old content stands.
+    // False when the old content stands, or may stand again after a power cut.
     bool replace(const QByteArray &content);
     // The file with its room.
     void remove();
@@ -28,7 +28,7 @@ private:
 
     QString m_path;
     qint64 m_room = 0;
-    bool m_namesAreSynced = true;
+    bool m_namesAreSynced = false; // what a process left that is gone is not known
 };
 
 } // namespace tarvelo::platform

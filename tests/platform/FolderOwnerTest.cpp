@@ -5,10 +5,28 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <dlfcn.h>
+#include <functional>
 #include <memory>
+#include <sys/file.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using tarvelo::platform::FolderOwner;
+
+namespace {
+std::function<void()> s_beforeLocking;
+}
+
+// The program finds this one before that of the system.
+extern "C" int flock(int file, int operation) noexcept
+{
+    if (const auto before = std::exchange(s_beforeLocking, {}))
+        before();
+    using Function = int (*)(int, int);
+    static const auto real = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, "flock"));
+    return real(file, operation);
+}
 
 class FolderOwnerTest final : public tarvelo::tests::TestCase
 {
@@ -40,6 +58,19 @@ private Q_SLOTS:
         FolderOwner owner;
 
         QVERIFY(!owner.own(m_folder->filePath(u"missing"_s)));
+    }
+
+    // Who had it took it away, and the lock is of a file that nobody finds any more.
+    void aFolderThatWentMeanwhileHasNoOwner()
+    {
+        auto first = std::make_unique<FolderOwner>();
+        QVERIFY(first->own(m_folder->path()));
+        const QString path = m_folder->filePath(u".owner"_s);
+        first.reset();
+        s_beforeLocking = [&path] { QVERIFY(QFile::remove(path)); };
+
+        FolderOwner second;
+        QVERIFY(!second.own(m_folder->path()));
     }
 
     void theFileIsForItsUserAlone()

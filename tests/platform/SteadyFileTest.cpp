@@ -1,5 +1,6 @@
 #include "platform/SteadyFile.h"
 
+#include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
 #include <QDir>
@@ -135,6 +136,38 @@ private Q_SLOTS:
         QVERIFY(!file.replace("content"));
     }
 
+    // A power cut may bring the old content back then.
+    void namesThatAreNotOnTheDiskAreSaid()
+    {
+        SteadyFile file(path());
+        QVERIFY(file.replace("first"));
+        tarvelo::tests::refuse("fsync", qPrintable(m_folder->path()));
+        QVERIFY(!file.replace("second"));
+        QVERIFY(tarvelo::tests::wasRefused());
+
+        QVERIFY(file.replace("third"));
+
+        QCOMPARE(read().trimmed(), QByteArray("third"));
+    }
+
+    // It may be what the disk still has under the other name.
+    void whatACrashLeftIsNotWrittenIntoUnlessTheNamesAreOnTheDisk()
+    {
+        QVERIFY(SteadyFile(path()).replace("first"));
+        struct stat before = {};
+        const QByteArray spare = QFile::encodeName(m_folder->filePath(u".file.spare"_s));
+        QCOMPARE(::stat(spare.constData(), &before), 0);
+        const int held = ::open(spare.constData(), O_RDONLY);
+        tarvelo::tests::refuse("fsync", qPrintable(m_folder->path()));
+
+        QVERIFY(SteadyFile(path()).replace("second"));
+
+        struct stat after = {};
+        QCOMPARE(::stat(QFile::encodeName(path()).constData(), &after), 0);
+        QVERIFY(before.st_ino != after.st_ino);
+        ::close(held);
+    }
+
     void itGoesWithItsRoom()
     {
         SteadyFile file(path());
@@ -159,7 +192,11 @@ private Q_SLOTS:
 
 protected:
     void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-    void finish() override { m_folder.reset(); }
+    void finish() override
+    {
+        tarvelo::tests::refuseNothing();
+        m_folder.reset();
+    }
 
 private:
     QString path() const { return m_folder->filePath(u"file"_s); }

@@ -1,0 +1,86 @@
+#include "platform/SureReading.h"
+
+#include "support/RefusedCalls.h"
+#include "support/TestCase.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace tarvelo::platform;
+using tarvelo::tests::refuse;
+using State = WholeFile::State;
+
+class SureReadingTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFolderHasItsNamesInOrderHiddenOnesToo()
+    {
+        write("b", "");
+        write(".a", "");
+
+        QCOMPARE(namesIn(m_folder->path()).value(), QStringList({u".a"_s, u"b"_s}));
+    }
+
+    void aFolderThatIsMissingOrCannotBeReadHasNoKnownNames()
+    {
+        QVERIFY(!namesIn(path("missing")));
+        refuse("opendir", qPrintable(m_folder->path()));
+        QVERIFY(!namesIn(m_folder->path()));
+    }
+
+    void whetherAFileIsThereIsKnownByItsFolderAlone()
+    {
+        write("a", "");
+
+        QVERIFY(isThere(path("a")) == true);
+        QVERIFY(isThere(path("b")) == false);
+        QVERIFY(!isThere(path("missing/b")));
+    }
+
+    void aFileIsReadWhole()
+    {
+        const QByteArray bytes(200'000, 'n');
+        write("a", bytes);
+
+        const WholeFile file = readWhole(path("a"), bytes.size());
+
+        QVERIFY(file.state == State::Read);
+        QCOMPARE(file.bytes, bytes);
+        QVERIFY(readWhole(path("a"), bytes.size() - 1).state == State::TooLarge);
+    }
+
+    void whatCannotBeReadIsNotTakenForMissingOrEmpty()
+    {
+        write("a", "content");
+        refuse("read", "/a");
+
+        QVERIFY(readWhole(path("a"), 100).state == State::Unreadable);
+        QVERIFY(readWhole(m_folder->path(), 100).state == State::Unreadable);
+        QVERIFY(readWhole(path("b"), 100).state == State::Missing);
+    }
+
+protected:
+    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
+    void finish() override
+    {
+        tarvelo::tests::refuseNothing();
+        m_folder.reset();
+    }
+
+private:
+    QString path(const char *name) const { return m_folder->filePath(QLatin1StringView(name)); }
+    void write(const char *name, const QByteArray &content) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_GUILESS_MAIN(SureReadingTest)
+#include "SureReadingTest.moc"

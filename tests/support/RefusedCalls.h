@@ -1,0 +1,112 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <mutex>
+#include <vector>
+
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+// Calls of the system that fail for once, for the program and the libraries of the test that
+// includes this: they find what stands here before what the system has. For one file of a test.
+namespace tarvelo::tests {
+
+struct Refusal
+{
+    QByteArray call = {}; // as "rename"
+    QByteArray path = {}; // a part of one that the call is about
+    int times = 0;
+    int error = EIO;
+};
+
+inline std::vector<Refusal> &refusals()
+{
+    static std::vector<Refusal> refused;
+    return refused;
+}
+
+// A journal is written by a thread of its own.
+inline std::recursive_mutex &refusalsMutex()
+{
+    static std::recursive_mutex mutex;
+    return mutex;
+}
+
+inline void refuse(const char *call, const char *path, int times = 1, int error = EIO)
+{
+    const std::lock_guard lock(refusalsMutex());
+    refusals().push_back({call, path, times, error});
+}
+inline void refuseNothing()
+{
+    const std::lock_guard lock(refusalsMutex());
+    refusals().clear();
+}
+// Whether all that was to be refused was asked for.
+inline bool wasRefused()
+{
+    const std::lock_guard lock(refusalsMutex());
+    return std::ranges::all_of(refusals(), [](const Refusal &one) { return one.times == 0; });
+}
+
+inline bool isRefused(const char *call, const char *path)
+{
+    const std::lock_guard lock(refusalsMutex());
+    for (Refusal &refused : refusals()) {
+        if (refused.times <= 0 || refused.call != call || !path ||
+            !strstr(path, refused.path.constData()))
+            continue;
+        --refused.times;
+        errno = refused.error;
+        return true;
+    }
+    return false;
+}
+
+inline bool isRefused(const char *call, int file)
+{
+    {
+        const std::lock_guard lock(refusalsMutex());
+        if (refusals().empty())
+            return false;
+    }
+    char name[32];
+    char path[4096] = {};
+    snprintf(name, sizeof name, "/proc/self/fd/%d", file);
+    return ::readlink(name, path, sizeof path - 1) > 0 && isRefused(call, path);
+}
+
+} // namespace tarvelo::tests
+
+#define REFUSABLE(result, name, parameters, arguments, about, failed)                              \
+    extern "C" result name parameters                                                              \
+    {                                                                                              \
+        using Function = result(*) parameters;                                                     \
+        static const auto real = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, #name));            \
+        return tarvelo::tests::isRefused(#name, about) ? failed : real arguments;                  \
+    }
+
+REFUSABLE(int, rename, (const char *from, const char *to) noexcept, (from, to), from, -1)
+REFUSABLE(int, renameat2,
+          (int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept,
+          (fromFolder, from, toFolder, to, flags), from, -1)
+REFUSABLE(int, access, (const char *path, int mode) noexcept, (path, mode), path, -1)
+REFUSABLE(int, mkdir, (const char *path, mode_t mode) noexcept, (path, mode), path, -1)
+REFUSABLE(char *, mkdtemp, (char *pattern) noexcept, (pattern), pattern, nullptr)
+REFUSABLE(int, unlink, (const char *path) noexcept, (path), path, -1)
+REFUSABLE(int, fsync, (int file), (file), file, -1)
+REFUSABLE(DIR *, opendir, (const char *path), (path), path, nullptr)
+REFUSABLE(ssize_t, read, (int file, void *bytes, size_t count), (file, bytes, count), file, -1)
+REFUSABLE(ssize_t, pwrite, (int file, const void *bytes, size_t count, off_t at),
+          (file, bytes, count, at), file, -1)
+REFUSABLE(ssize_t, pwrite64, (int file, const void *bytes, size_t count, off64_t at),
+          (file, bytes, count, at), file, -1)
