@@ -109,6 +109,17 @@ void AudioFileLocations::removeReserveLeft() const
     engine::Reserve::removeLeft(QFile::encodeName(m_temporaryBasePath).toStdString());
 }
 
+void AudioFileLocations::takesLieIn(const QString &folder)
+{
+    const auto inFolder = [&folder](const QString &path) {
+        return folder + u'/' + QFileInfo(path).fileName();
+    };
+    m_temporaryFolder = folder;
+    m_temporaryBasePath = inFolder(m_temporaryBasePath);
+    if (!m_tempAudioSavePath.isEmpty())
+        m_tempAudioSavePath = inFolder(m_tempAudioSavePath);
+}
+
 void AudioFileLocations::setTempAudioSavePathWithFormat()
 {
     m_tempAudioSavePath = m_temporaryBasePath + u'.' + extensionByFormat();

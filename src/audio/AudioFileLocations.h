@@ -55,6 +55,8 @@ public:
     // Gives back the room that a process that is dead held for the end of its take. Only for who
     // owns the folder of the take.
     void removeReserveLeft() const;
+    // Puts the temporary file into another folder, with the name that it has.
+    void takesLieIn(const QString &folder);
     // Starts again without a temporary file.
     void clearTempAudioSavePath() { m_tempAudioSavePath.clear(); }
 

@@ -7,36 +7,25 @@
 #include "platform/DurableFiles.h"
 #include "platform/DurableMove.h"
 #include "platform/SteadyFile.h"
+#include "platform/SureReading.h"
 #include "store/LectureDatabase.h"
 #include "store/Statements.h"
+#include "store/Tables.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
+#include <limits>
 
 namespace tarvelo::audio {
 
+using store::JournalFile;
 using store::LectureJournal;
 
 namespace {
 
-const QString OpenJournal = QStringLiteral("lecture.journal");
-const QString ClosedMark = QStringLiteral("lecture.closed");
-const QString JournalEnding = QStringLiteral(".journal");
-const QString NamePattern = QStringLiteral("leftover-*");
 const QString DayFormat = QStringLiteral("yyyy-MM-dd");
-
-// Of a take in which nothing can be heard; a longer one may be damaged, and is not thrown away.
-constexpr qint64 MostBytesOfSilence = 64 << 10;
-
-bool holdsNothing(const QString &takePath)
-{
-    return QFileInfo(takePath).size() < MostBytesOfSilence &&
-           engine::secondsOfLeftTake(takePath) <= 0;
-}
 
 } // namespace
 
@@ -48,86 +37,28 @@ LeftLectures::LeftLectures(const AudioFileLocations &locations, const platform::
 {
 }
 
-// The recording goes first, under a name that the journal tells: whoever is interrupted between the
-// two puts them together again.
-void LeftLectures::setAside()
+bool LeftLectures::setAside()
 {
-    m_folder = m_locations.temporaryFolder();
-    const QString path = pathOf(OpenJournal);
-    const bool isClosed = QFileInfo::exists(pathOf(ClosedMark));
-    const auto journal = store::journalIn(path);
-    const bool hasJournal = QFileInfo::exists(path);
-    const QString name = freeName(journal ? journal->id : QString());
-    // A mark beside a journal that has no take yet is that of an older take.
-    const bool areTakesLeft = !isClosed || (journal && !journal->take.isEmpty());
-    const QFileInfoList takes = QDir(m_folder).entryInfoList(
-        {QFileInfo(m_locations.temporaryBasePath()).fileName() + QStringLiteral(".*")},
-        QDir::Files);
-    bool hasTake = false;
-    for (const QFileInfo &take : takes) {
-        if (!areTakesLeft)
-            break;
-        if (!(journal && journal->isDone) && holdsNothing(take.filePath())) {
-            QFile::remove(take.filePath());
-            continue;
-        }
-        const bool isOfJournal =
-            hasJournal && !hasTake &&
-            (takes.size() == 1 || (journal && journal->take.endsWith(take.suffix())));
-        setTakeAside(take.filePath(), isOfJournal ? name : freeName({}));
-        hasTake = hasTake || isOfJournal;
-    }
-    const bool isBlank = journal && !hasTake && journal->subject.trimmed().isEmpty() &&
-                         journal->notes.trimmed().isEmpty() && !journal->isDone &&
-                         QDir(m_folder).entryList({name + QStringLiteral(".*")}).isEmpty();
-    if (isBlank || (hasJournal && !journal && !hasTake))
-        platform::SteadyFile(path).remove();
-    else if (hasJournal)
-        platform::SteadyFile(path).renameTo(pathOf(name + JournalEnding));
+    return setAside(m_locations.temporaryFolder());
 }
 
-void LeftLectures::setTakeAside(const QString &path, const QString &name)
+bool LeftLectures::setAside(const QString &folder)
 {
-    platform::renameDurably(path, pathOf(name + u'.' + QFileInfo(path).suffix()));
+    if (!m_files)
+        m_files.emplace(folder, QFileInfo(m_locations.temporaryBasePath()).fileName(), m_dates);
+    return m_files->moveFrom(folder);
 }
 
-// For a journal of that name: what an earlier try moved already is no hindrance.
-QString LeftLectures::freeName(const QString &wish) const
-{
-    static const QRegularExpression isPlain(QStringLiteral("^[0-9T]+$"));
-    const QString id = isPlain.match(wish).hasMatch()
-                           ? wish
-                           : m_dates.now().toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz"));
-    const QString first = QStringLiteral("leftover-") + id;
-    QString name = first;
-    const auto isTaken = [this, &wish](const QString &candidate) {
-        return wish.isEmpty()
-                   ? !QDir(m_folder).entryList({candidate + QStringLiteral(".*")}).isEmpty()
-                   : QFileInfo::exists(pathOf(candidate + JournalEnding));
-    };
-    for (int number = 2; isTaken(name); ++number)
-        name = first + u'-' + QString::number(number);
-    return name;
-}
-
+// Without those whose journal cannot be read now: nobody knows what is to be done with them.
 QList<LeftLectures::Left> LeftLectures::all() const
 {
-    if (m_folder.isEmpty())
-        return {};
-    QStringList names;
-    const auto files = QDir(m_folder).entryInfoList({NamePattern}, QDir::Files, QDir::Name);
-    for (const QFileInfo &file : files)
-        names.append(file.completeBaseName());
-    names.removeDuplicates();
+    const auto files = m_files ? m_files->all() : std::nullopt;
     QList<Left> lectures;
-    for (const QString &name : names) {
-        Left left{.journalPath = pathOf(name + JournalEnding), .takePath = {}, .journal = {}};
-        for (const QFileInfo &file : files)
-            if (file.completeBaseName() == name && file.filePath() != left.journalPath)
-                left.takePath = file.filePath();
-        left.journal = store::journalIn(left.journalPath).value_or(LectureJournal());
-        lectures.append(left);
-    }
+    for (const LeftFiles::Lecture &file : files.value_or(QList<LeftFiles::Lecture>()))
+        if (file.journal.state != JournalFile::State::Unreadable)
+            lectures.append({.journalPath = file.journalPath,
+                             .takePath = file.takePath,
+                             .journal = file.journal.journal});
     return lectures;
 }
 
@@ -148,11 +79,13 @@ QList<LeftLectures::Left> LeftLectures::undecided() const
     return lectures;
 }
 
+// What cannot be read now may be one.
 int LeftLectures::owed() const
 {
-    const QList<Left> lectures = all();
-    return static_cast<int>(
-        std::ranges::count_if(lectures, [](const Left &left) { return left.journal.isDone; }));
+    const auto files = m_files ? m_files->all() : std::optional(QList<LeftFiles::Lecture>());
+    return !files ? 1 : static_cast<int>(std::ranges::count_if(*files, [](const auto &file) {
+        return file.journal.journal.isDone || file.journal.state == JournalFile::State::Unreadable;
+    }));
 }
 
 LeftLectures::Kept LeftLectures::keep(const Left &left)
@@ -169,6 +102,7 @@ LeftLectures::Kept LeftLectures::keep(const Left &left)
 bool LeftLectures::decide(Left &left)
 {
     left.journal.isDone = true;
+    left.journal.lastRow = lastRow();
     return choosePlace(left);
 }
 
@@ -191,27 +125,48 @@ bool LeftLectures::moveTake(Left &left)
     }
     // Without it the recording plays too.
     engine::finishLeftTake(left.takePath);
-    const bool isPlaceFree =
-        !left.journal.target.isEmpty() && !QFileInfo::exists(left.journal.target);
-    return (isPlaceFree || choosePlace(left)) &&
-           platform::moveDurably(left.takePath, left.journal.target);
+    const QString &target = left.journal.target;
+    // With its folder it may be missing; what is not known is not written over.
+    m_locations.getAudioFolderPath();
+    const auto isTaken = target.isEmpty() ? std::optional(true) : platform::isThere(target);
+    return isTaken && (!*isTaken || choosePlace(left)) &&
+           platform::moveDurably(left.takePath, target);
 }
 
-std::optional<qint64> LeftLectures::storedRow(const Left &left) const
+qint64 LeftLectures::lastRow() const
+{
+    store::Sqlite *const database = m_database.openDb();
+    const auto isThere =
+        database ? store::hasTable(*database, "main", QStringLiteral("audioData")) : std::nullopt;
+    const auto rows =
+        isThere.value_or(false)
+            ? database->executeQuery(QStringLiteral("SELECT ifnull(max(ID), 0) FROM audioData"))
+            : std::nullopt;
+    if (rows && !rows->isEmpty())
+        return rows->first().first().toLongLong();
+    // Then none of those that are there may be taken for its own.
+    return isThere == false ? 0 : std::numeric_limits<qint64>::max();
+}
+
+// 0 when there is none; null when that cannot be known.
+std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) const
 {
     store::Sqlite *const database = m_database.connection();
-    const LectureJournal &journal = left.journal;
+    if (store::hasTable(*database, "main", QStringLiteral("audioData")) == false)
+        return 0;
     const auto rows =
         journal.target.isEmpty()
             ? database->executeQuery(
                   QStringLiteral("SELECT ID FROM audioData WHERE subject = ? AND notes = ? AND "
-                                 "recordingDate = ? AND audioFileFullPath = ''"),
-                  store::subjectToStore(journal.subject), journal.notes, journal.day)
+                                 "recordingDate = ? AND audioFileFullPath = '' AND ID > ?"),
+                  store::subjectToStore(journal.subject), journal.notes, journal.day,
+                  journal.lastRow.value_or(0))
             : database->executeQuery(
                   QStringLiteral("SELECT ID FROM audioData WHERE audioFileFullPath = ?"),
                   journal.target);
-    return rows && !rows->isEmpty() ? std::optional(rows->first().first().toLongLong())
-                                    : std::nullopt;
+    if (!rows)
+        return std::nullopt;
+    return rows->isEmpty() ? 0 : rows->first().first().toLongLong();
 }
 
 // Without the reset that a failed write of the program is followed by: nobody asked for this one
@@ -224,14 +179,15 @@ std::optional<qint64> LeftLectures::store(const Left &left)
     const auto insert = [&] {
         return database->executeNonQueryArguments(store::statements::Insert, left.journal.row());
     };
-    auto row = storedRow(left);
+    auto row = storedRow(left.journal);
     const auto makeTable = [&] {
         return database->executeNonQuery(store::statements::CreateAfterInsert);
     };
-    if (!row && (insert() || (makeTable() && insert())))
+    if (row == 0 && (insert() || (makeTable() && insert())))
         row = database->lastinsertedRowID();
-    if (row)
-        platform::SteadyFile(left.journalPath).remove();
+    if (row.value_or(0) == 0)
+        return std::nullopt;
+    platform::SteadyFile(left.journalPath).remove();
     return row;
 }
 
@@ -241,9 +197,11 @@ void LeftLectures::storeOwed(const std::function<void(const QString &, qint64)> 
         if (!left.journal.isDone)
             continue;
         const QString &target = left.journal.target;
-        // A recording that was moved and is gone was deleted with its lecture.
         if (left.takePath.isEmpty() && !target.isEmpty() && !QFileInfo::exists(target)) {
-            platform::SteadyFile(left.journalPath).remove();
+            // A recording that was moved and is gone was deleted with its lecture; one that cannot
+            // be looked for now is looked for later.
+            if (platform::isThere(target) == false)
+                platform::SteadyFile(left.journalPath).remove();
             continue;
         }
         const auto row = moveTake(left) ? store(left) : std::nullopt;
@@ -252,16 +210,21 @@ void LeftLectures::storeOwed(const std::function<void(const QString &, qint64)> 
     }
 }
 
-bool LeftLectures::change(const QString &id, const QString &subject, const QString &notes)
+std::optional<bool> LeftLectures::change(const QString &id, const QString &subject,
+                                         const QString &notes)
 {
-    for (Left &left : all()) {
-        if (left.journal.id != id)
+    const auto files = m_files ? m_files->all() : std::optional(QList<LeftFiles::Lecture>());
+    bool areAllKnown = files.has_value();
+    for (const LeftFiles::Lecture &file : files.value_or(QList<LeftFiles::Lecture>())) {
+        LectureJournal journal = file.journal.journal;
+        areAllKnown = areAllKnown && file.journal.state != JournalFile::State::Unreadable;
+        if (journal.id != id)
             continue;
-        left.journal.subject = subject;
-        left.journal.notes = notes;
-        return platform::SteadyFile(left.journalPath).replace(store::toBytes(left.journal));
+        journal.subject = subject;
+        journal.notes = notes;
+        return platform::SteadyFile(file.journalPath).replace(store::toBytes(journal));
     }
-    return true;
+    return areAllKnown ? std::nullopt : std::optional(false);
 }
 
 void LeftLectures::discard(const QString &id)
@@ -271,16 +234,30 @@ void LeftLectures::discard(const QString &id)
             discard(left);
 }
 
+LeftLectures::Left LeftLectures::unwritten(const QString &folder, const LectureJournal &journal)
+{
+    return {.journalPath = folder + u'/' + LeftFiles::journalName(),
+            .takePath = QFileInfo::exists(journal.take) ? journal.take : QString(),
+            .journal = journal};
+}
+
+std::optional<qint64> LeftLectures::storeUnwritten(const QString &folder,
+                                                   const LectureJournal &journal)
+{
+    Left left = unwritten(folder, journal);
+    return moveTake(left) ? store(left) : std::nullopt;
+}
+
+void LeftLectures::discardUnwritten(const QString &folder, const LectureJournal &journal)
+{
+    discard(unwritten(folder, journal));
+}
+
 void LeftLectures::discard(const Left &left)
 {
     if (!left.takePath.isEmpty())
         platform::removeDurably(left.takePath);
     platform::SteadyFile(left.journalPath).remove();
-}
-
-QString LeftLectures::pathOf(const QString &name) const
-{
-    return m_folder + u'/' + name;
 }
 
 } // namespace tarvelo::audio

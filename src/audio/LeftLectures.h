@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/LeftFiles.h"
 #include "store/LectureJournal.h"
 
 #include <functional>
@@ -37,13 +38,16 @@ public:
     LeftLectures(const LeftLectures &) = delete;
     LeftLectures &operator=(const LeftLectures &) = delete;
 
-    // The folder of the take is this process's: moves aside what stands there of a lecture that is
-    // not open any more, unless it was left on purpose.
-    void setAside();
+    // A folder of takes is this process's: moves aside what stands there of a lecture that is not
+    // open any more, unless it was left on purpose. False when something of it stands there still,
+    // and nothing may be written there. What was left is kept in the folder that was the first.
+    bool setAside(const QString &folder);
+    // Where takes lie now.
+    bool setAside();
 
     // Oldest first: those that nobody has decided on.
     QList<Left> undecided() const;
-    // How many are to be kept and not yet stored.
+    // How many are to be kept and not yet stored, with those of which nothing can be known now.
     int owed() const;
 
     // Later: it is decided, and storeOwed() does the rest. Undecided: not even that could be
@@ -52,27 +56,32 @@ public:
     Kept keep(const Left &left);
     void discard(const Left &left);
     // By the journal's ID, as long as its row is not stored. A change that could not be written
-    // down is false.
-    bool change(const QString &id, const QString &subject, const QString &notes);
+    // down is false, one for which there is no such journal null.
+    std::optional<bool> change(const QString &id, const QString &subject, const QString &notes);
     void discard(const QString &id);
     // Goes on with what is to be kept. `stored` hears of each, with its journal's ID and its row's.
     void storeOwed(const std::function<void(const QString &, qint64)> &stored = {});
+    // For one that is done and stands in the folder of the takes, whose journal cannot be written
+    // there. Its row, null when that is not stored.
+    std::optional<qint64> storeUnwritten(const QString &folder,
+                                         const store::LectureJournal &journal);
+    void discardUnwritten(const QString &folder, const store::LectureJournal &journal);
+    // Of the lectures stored until now, for the journal of one that is done.
+    qint64 lastRow() const;
 
 private:
     QList<Left> all() const;
-    void setTakeAside(const QString &path, const QString &name);
-    QString freeName(const QString &wish) const;
-    QString pathOf(const QString &name) const;
+    static Left unwritten(const QString &folder, const store::LectureJournal &journal);
     bool decide(Left &left);
     bool choosePlace(Left &left);
     bool moveTake(Left &left);
     std::optional<qint64> store(const Left &left);
-    std::optional<qint64> storedRow(const Left &left) const;
+    std::optional<qint64> storedRow(const store::LectureJournal &journal) const;
 
     const AudioFileLocations &m_locations;
     const platform::Dates &m_dates;
     store::LectureDatabase &m_database;
-    QString m_folder; // empty until it is ours
+    std::optional<LeftFiles> m_files; // null until a folder is ours
 };
 
 } // namespace tarvelo::audio

@@ -10,6 +10,7 @@
 #include "store/Tables.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
 
@@ -90,10 +91,11 @@ QStringList UnlistedRecordings::unlisted() const
         if (file.size() > 0)
             paths.append(folder + u'/' + file.fileName());
     const auto listedPaths = listed(namesOf(paths));
-    if (!listedPaths)
+    const auto promisedPaths = promised();
+    if (!listedPaths || !promisedPaths)
         return {};
     QSet<QString> known;
-    for (const QString &path : *listedPaths + promised())
+    for (const QString &path : *listedPaths + *promisedPaths)
         known.insert(plain(path));
     paths.removeIf([&known](const QString &path) {
         const qsizetype before = known.size();
@@ -111,17 +113,22 @@ std::optional<QStringList> UnlistedRecordings::listed(const QStringList &names) 
 }
 
 // To lectures whose rows are still to be stored, in this run or at the next start: what lies beside
-// the take says so, under whatever name.
-QStringList UnlistedRecordings::promised() const
+// a take says so, under whatever name. Null when one cannot be read now.
+std::optional<QStringList> UnlistedRecordings::promised() const
 {
     constexpr qint64 LargestJournal = 16 << 20; // bytes
-    const QDir temporary(QFileInfo(m_database.backups().folder()).path() + QStringLiteral("/temp"));
+    QDirIterator files(QFileInfo(m_database.backups().folder()).path() + QStringLiteral("/temp"),
+                       QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     QStringList paths;
-    for (const QFileInfo &file : temporary.entryInfoList(QDir::Files | QDir::Hidden)) {
-        const auto journal =
-            file.size() < LargestJournal ? store::journalIn(file.filePath()) : std::nullopt;
-        if (journal && !journal->target.isEmpty())
-            paths.append(journal->target);
+    while (files.hasNext()) {
+        const QFileInfo file(files.next());
+        if (file.size() >= LargestJournal)
+            continue;
+        const store::JournalFile found = store::readJournal(file.filePath());
+        if (found.state == store::JournalFile::State::Unreadable)
+            return std::nullopt;
+        if (!found.journal.target.isEmpty())
+            paths.append(found.journal.target);
     }
     return paths;
 }

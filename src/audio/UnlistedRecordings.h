@@ -44,7 +44,7 @@ Q_SIGNALS:
 private:
     QStringList unlisted() const;
     std::optional<QStringList> listed(const QStringList &names) const;
-    QStringList promised() const;
+    std::optional<QStringList> promised() const;
     QVariantList rowFor(const FoundRecording &recording) const;
 
     store::LectureDatabase &m_database;

@@ -29,7 +29,9 @@ LectureJournalKeeper::LectureJournalKeeper(const Collaborators &collaborators,
                                            const NewLectureOutlets &outlets)
     : m_with(collaborators)
     , m_outlets(outlets)
+    , m_places(collaborators.locations, collaborators.left)
     , m_write(collaborators.dates.clock(), [this] { writeNow(); })
+    , m_writeAgain(collaborators.dates.clock(), [this] { writeAgainIfItFailed(); })
     , m_storeOwed(collaborators.dates.clock(), [this] { storeOwed(); })
 {
     m_with.recording.setTakeObserver([this](TakeEvent event) { takeChanged(event); });
@@ -45,26 +47,34 @@ LectureJournalKeeper::~LectureJournalKeeper()
 
 void LectureJournalKeeper::start()
 {
-    m_folder = m_with.locations.temporaryFolder();
-    if (m_writer || !m_owner.own(m_folder))
-        return;
-    m_with.left.setAside();
-    m_writer = std::make_unique<store::JournalWriter>(m_folder + u'/' + journalName());
+    m_places.open();
     m_isStartUp = m_with.left.owed() > 0;
-    if (m_isStartUp)
+    if (m_isStartUp || m_places.hasOccupied())
         m_storeOwed.schedule(AfterStart);
 }
 
 void LectureJournalKeeper::lectureOpened()
 {
-    leaveBehind();
+    m_places.makeWay();
+    if (m_places.hasOccupied())
+        storeOwedLater();
     m_isOpen = true;
     m_journal = {};
     m_journal.id = m_with.dates.now().toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz"));
     writeNow();
     // Only now: a mark beside a journal says that the take is older than the lecture.
-    if (m_writer)
-        m_writer->removeOther(m_folder + u'/' + closedMarkName());
+    removeClosedMark();
+}
+
+void LectureJournalKeeper::removeClosedMark()
+{
+    if (auto *writer = m_places.writer())
+        writer->removeOther(closedMark());
+}
+
+QString LectureJournalKeeper::closedMark() const
+{
+    return m_places.path() + u'/' + closedMarkName();
 }
 
 void LectureJournalKeeper::takeChanged(TakeEvent event)
@@ -72,6 +82,8 @@ void LectureJournalKeeper::takeChanged(TakeEvent event)
     switch (event) {
     case TakeEvent::Started:
         m_journal.take = m_with.locations.tempAudioSavePath();
+        // Else a mark that did not go would say of this one too that it was left on purpose.
+        removeClosedMark();
         m_journal.state = State::Recording;
         break;
     case TakeEvent::Resumed:
@@ -102,13 +114,27 @@ void LectureJournalKeeper::textChanged()
 void LectureJournalKeeper::writeNow()
 {
     m_write.cancel();
-    if (!m_isOpen || !m_writer)
+    auto *writer = m_places.writer();
+    if (!m_isOpen || !writer)
         return;
-    m_writer->write(store::toBytes(journal()));
+    writer->write(store::toBytes(journal()));
     m_written = m_with.dates.now();
     // Its length changes as long as it runs.
     if (m_journal.state == State::Recording)
         m_write.schedule(Interval);
+    m_writeAgain.cancel();
+    m_writeAgain.schedule(Interval);
+}
+
+// Also when nobody types any more.
+void LectureJournalKeeper::writeAgainIfItFailed()
+{
+    auto *writer = m_places.writer();
+    const auto isWritten = m_isOpen && writer ? writer->isWritten() : true;
+    if (!isWritten)
+        m_writeAgain.schedule(Interval);
+    else if (!*isWritten)
+        writeNow();
 }
 
 store::LectureJournal LectureJournalKeeper::journal() const
@@ -123,17 +149,29 @@ store::LectureJournal LectureJournalKeeper::journal() const
     return journal;
 }
 
+void LectureJournalKeeper::programEnds()
+{
+    writeNow();
+    m_places.clear();
+}
+
 void LectureJournalKeeper::lectureDone()
 {
     m_journal.isDone = true;
+    m_journal.lastRow = m_with.left.lastRow();
     writeNow();
 }
 
 void LectureJournalKeeper::lectureMoves(const QString &target, const QString &duration)
 {
     m_journal.isDone = true;
+    m_journal.lastRow = m_with.left.lastRow();
     m_journal.target = target;
     m_journal.duration = duration;
+    writeNow();
+    // Twice, for what fails once: between the next two steps nothing else knows where it lies.
+    if (flush() || !m_places.writer())
+        return;
     writeNow();
     flush();
 }
@@ -143,14 +181,16 @@ void LectureJournalKeeper::lectureStored(bool isStored, const Lecture &lecture)
     const QString &target = m_journal.target;
     if (isStored && (target.isEmpty() || QFileInfo::exists(target))) {
         endWithoutJournal();
+        // What was not seen when it was to be moved is not written over.
+        if (target.isEmpty() && QFileInfo::exists(m_with.locations.tempAudioSavePath()))
+            m_places.setOccupied();
         return;
     }
     m_isOpen = false;
     m_write.cancel();
-    m_isOwed = m_writer != nullptr;
     m_owed.insert(m_journal.id, {lecture, lecture->getRecordUniqueID(), target});
-    if (m_isOwed)
-        storeOwedLater();
+    m_places.addOwed(journal());
+    storeOwedLater();
 }
 
 // The list may have another object for a lecture that has a row.
@@ -183,9 +223,14 @@ bool LectureJournalKeeper::writeChanges()
 {
     if (m_changed.isEmpty())
         return true;
-    leaveBehind();
+    m_places.clear();
     m_changed.removeIf([this](const std::pair<const QString &, Texts &> &changed) {
-        return m_with.left.change(changed.first, changed.second.subject, changed.second.notes);
+        const auto &[subject, notes] = changed.second;
+        const auto isWritten = m_places.changeOwed(changed.first, subject, notes)
+                                   ? std::optional(true)
+                                   : m_with.left.change(changed.first, subject, notes);
+        // Where none is found it may still stand in a place from where it could not be moved.
+        return isWritten.value_or(!m_places.hasOccupied());
     });
     return m_changed.isEmpty();
 }
@@ -195,10 +240,18 @@ void LectureJournalKeeper::lectureDeleted(const store::LectureInfoItem &lecture)
     const QString id = journalOf(lecture);
     if (id.isEmpty())
         return;
-    leaveBehind();
-    m_with.left.discard(id);
     m_owed.remove(id);
     m_changed.remove(id);
+    m_places.discardOwed(id);
+    m_places.clear();
+    m_deleted.append(id);
+    discardDeleted();
+}
+
+void LectureJournalKeeper::discardDeleted()
+{
+    for (const QString &id : std::as_const(m_deleted))
+        m_with.left.discard(id);
 }
 
 void LectureJournalKeeper::storeOwedLater()
@@ -207,32 +260,26 @@ void LectureJournalKeeper::storeOwedLater()
         m_storeOwed.schedule(RetryInterval);
 }
 
-// Out of the way of the next lecture.
-void LectureJournalKeeper::leaveBehind()
-{
-    if (!std::exchange(m_isOwed, false))
-        return;
-    flush();
-    m_with.left.setAside();
-}
-
 void LectureJournalKeeper::storeOwed()
 {
-    leaveBehind();
+    m_places.clear();
+    discardDeleted();
     if (!writeChanges()) {
         storeOwedLater();
         return;
     }
     bool isAnyStored = false;
-    m_with.left.storeOwed([this, &isAnyStored](const QString &id, qint64 row) {
+    const auto stored = [this, &isAnyStored](const QString &id, qint64 row) {
         isAnyStored = true;
         if (const Lecture lecture = m_owed.take(id).lecture.lock())
             lecture->setRecordUniqueID(row);
-    });
+    };
+    m_with.left.storeOwed(stored);
+    m_places.storeUnwritten(stored);
     const bool isStartUp = std::exchange(m_isStartUp, false);
     if (isAnyStored)
         m_with.lecturesStored(isStartUp);
-    if (m_with.left.owed() > 0)
+    if (m_with.left.owed() > 0 || m_places.hasOccupied())
         m_storeOwed.schedule(RetryInterval);
 }
 
@@ -254,21 +301,22 @@ void LectureJournalKeeper::endWithoutJournal()
 {
     m_isOpen = false;
     m_write.cancel();
-    if (m_writer)
-        m_writer->remove();
+    if (auto *writer = m_places.writer())
+        writer->remove();
 }
 
 void LectureJournalKeeper::endWithMark()
 {
     m_isOpen = false;
     m_write.cancel();
-    if (m_writer)
-        m_writer->renameTo(m_folder + u'/' + closedMarkName());
+    if (auto *writer = m_places.writer())
+        writer->renameTo(closedMark());
 }
 
 bool LectureJournalKeeper::flush()
 {
-    return m_writer && m_writer->flush();
+    auto *writer = m_places.writer();
+    return writer && writer->flush();
 }
 
 } // namespace tarvelo::lectures

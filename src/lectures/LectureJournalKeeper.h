@@ -1,18 +1,17 @@
 #pragma once
 
+#include "audio/LeftFiles.h"
 #include "audio/RecordingControl.h"
+#include "audio/TakePlaces.h"
 #include "lectures/LectureList.h"
 #include "lectures/LectureOutlets.h"
 #include "platform/DelayedCall.h"
-#include "platform/FolderOwner.h"
-#include "store/JournalWriter.h"
 #include "store/LectureJournal.h"
 
 #include <QHash>
 #include <QObject>
 
 #include <functional>
-#include <memory>
 
 namespace tarvelo::audio {
 class LeftLectures;
@@ -24,8 +23,7 @@ class DayList;
 
 // Writes down, beside the take, what the open new lecture is so far, so that nothing of it is lost
 // when the program does not live to store it: at once when the recording changes its state and at a
-// time tag, else within Interval of a change. It changes nothing of the lecture. A process that
-// does not own the folder of the take writes nothing.
+// time tag, else within Interval of a change. It changes nothing of the lecture.
 class LectureJournalKeeper final
 {
 public:
@@ -38,7 +36,7 @@ public:
     struct Collaborators
     {
         const platform::Dates &dates;
-        const audio::AudioFileLocations &locations;
+        audio::AudioFileLocations &locations;
         audio::RecordingControl &recording;
         const DayList &dayList;
         audio::LeftLectures &left;
@@ -53,21 +51,21 @@ public:
     ~LectureJournalKeeper();
 
     // In the folder of the take.
-    static QString journalName() { return QStringLiteral("lecture.journal"); }
+    static QString journalName() { return audio::LeftFiles::journalName(); }
     // A take beside it was left on purpose.
-    static QString closedMarkName() { return QStringLiteral("lecture.closed"); }
+    static QString closedMarkName() { return audio::LeftFiles::closedMarkName(); }
 
     // To be called once the folders are there. What an earlier process left is out of the way then.
     void start();
-    bool ownsTake() const { return m_owner.owns(); }
+    bool ownsUsualPlace() const { return m_places.ownsUsual(); }
 
     void lectureOpened();
     // Its row is to be stored in a moment.
     void lectureDone();
     // The recording, if there is one, is about to be moved to `target`. Waits until the disk knows.
     void lectureMoves(const QString &target, const QString &duration);
-    // With its recording in its place. When it is not, the journal stays, and what is missing is
-    // done as soon as that can be.
+    // With its recording in its place. When it is not, what is known of it stays, also when the
+    // journal cannot be written, and what is missing is done as soon as that can be.
     void lectureStored(bool isStored, const Lecture &lecture);
     // Whether something of it is still to be stored.
     bool owes(const store::LectureInfoItem &lecture) const;
@@ -83,8 +81,8 @@ public:
     // Some are to be stored; the next try comes soon.
     void storeOwedLater();
 
-    // What has changed until now, when a lecture is open; waits for nothing.
-    void writeNow();
+    // What has changed until now is written, and what could not be written yet is tried once more.
+    void programEnds();
     // Waits until all of it is on the disk. False when it could not be written.
     bool flush();
 
@@ -94,8 +92,13 @@ private:
     store::LectureJournal journal() const;
     void endWithMark();
     void endWithoutJournal();
-    void leaveBehind();
+    // When a lecture is open; waits for nothing.
+    void writeNow();
+    void writeAgainIfItFailed();
+    void removeClosedMark();
+    QString closedMark() const;
     void storeOwed();
+    void discardDeleted();
     // False when some of them are not on the disk.
     bool writeChanges();
     // Empty when nothing of it is owed.
@@ -103,11 +106,8 @@ private:
 
     Collaborators m_with;
     NewLectureOutlets m_outlets;
-    platform::FolderOwner m_owner;
-    QString m_folder;
-    std::unique_ptr<store::JournalWriter> m_writer; // null as long as the folder is not ours
+    audio::TakePlaces m_places;
     bool m_isOpen = false;
-    bool m_isOwed = false; // the journal is of a lecture that is done and not stored
     struct Owed
     {
         std::weak_ptr<store::LectureInfoItem> lecture;
@@ -121,9 +121,11 @@ private:
     };
     QHash<QString, Owed> m_owed;     // by the journal's ID
     QHash<QString, Texts> m_changed; // those that the journal does not have yet
+    QStringList m_deleted;           // whose journal goes as soon as it can
     store::LectureJournal m_journal; // what cannot be read from the window
     QDateTime m_written;
     platform::DelayedCall m_write;
+    platform::DelayedCall m_writeAgain;
     platform::DelayedCall m_storeOwed;
     bool m_isStartUp = false;
     QObject m_texts; // hears of their changes, as long as this object lives

@@ -229,7 +229,7 @@ void MediaLinksArrayController::onDoneNewLectureOrCloseWindow(QWidget *sender)
 void MediaLinksArrayController::saveWhatWaits()
 {
     m_newLecture.saveWhatWaits();
-    m_journal.writeNow();
+    m_journal.programEnds();
 }
 
 void MediaLinksArrayController::onClosePopoverConfirm(QWidget *)

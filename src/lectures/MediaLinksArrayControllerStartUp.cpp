@@ -71,7 +71,7 @@ void MediaLinksArrayController::awakeFromNib()
     setTypingAttributes();
     m_locations.createFolders();
     m_journal.start();
-    if (m_journal.ownsTake())
+    if (m_journal.ownsUsualPlace())
         m_locations.removeReserveLeft();
     setInsertionPointColors();
     m_windows.recordingOutlets().lblRecordingDuration->setText(QString());

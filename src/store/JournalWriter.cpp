@@ -56,6 +56,12 @@ bool JournalWriter::flush()
     return m_isWritten;
 }
 
+std::optional<bool> JournalWriter::isWritten()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_tasks.empty() && !m_isBusy ? std::optional(m_isWritten) : std::nullopt;
+}
+
 void JournalWriter::ask(Task task)
 {
     {

@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <thread>
 
 namespace tarvelo::store {
@@ -31,6 +32,8 @@ public:
 
     // Waits until all of that is done. False when the last content is not on the disk.
     bool flush();
+    // Whether the last content is on the disk; null as long as there is something to do.
+    std::optional<bool> isWritten();
 
 private:
     struct Task

@@ -1,6 +1,7 @@
 #include "store/LectureJournal.h"
 
-#include <QFile>
+#include "platform/SureReading.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -41,7 +42,7 @@ QVariantList LectureJournal::row() const
 
 QByteArray toBytes(const LectureJournal &journal)
 {
-    const QJsonObject object{
+    QJsonObject object{
         {QStringLiteral("id"), journal.id},
         {QStringLiteral("subject"), journal.subject},
         {QStringLiteral("notes"), journal.notes},
@@ -53,6 +54,8 @@ QByteArray toBytes(const LectureJournal &journal)
         {QStringLiteral("done"), journal.isDone},
         {QStringLiteral("target"), journal.target},
         {QStringLiteral("duration"), journal.duration}};
+    if (journal.lastRow)
+        object.insert(QStringLiteral("lastRow"), *journal.lastRow);
     return QJsonDocument(object).toJson();
 }
 
@@ -65,6 +68,7 @@ std::optional<LectureJournal> journalFrom(const QByteArray &bytes)
     const auto text = [&object](const char *key) {
         return object.value(QLatin1String(key)).toString();
     };
+    const QJsonValue lastRow = object.value(QLatin1String("lastRow"));
     return LectureJournal{.id = text("id"),
                           .subject = text("subject"),
                           .notes = text("notes"),
@@ -75,14 +79,22 @@ std::optional<LectureJournal> journalFrom(const QByteArray &bytes)
                           .take = text("take"),
                           .isDone = object.value(QLatin1String("done")).toBool(),
                           .target = text("target"),
-                          .duration = text("duration")};
+                          .duration = text("duration"),
+                          .lastRow = lastRow.isDouble() ? std::optional(lastRow.toInteger())
+                                                        : std::nullopt};
 }
 
-std::optional<LectureJournal> journalIn(const QString &path)
+JournalFile readJournal(const QString &path)
 {
-    QFile file(path);
-    return file.size() <= MostBytes && file.open(QIODevice::ReadOnly) ? journalFrom(file.readAll())
-                                                                      : std::nullopt;
+    using File = platform::WholeFile::State;
+    const platform::WholeFile file = platform::readWhole(path, MostBytes);
+    if (file.state == File::Missing)
+        return {JournalFile::State::Missing};
+    if (file.state == File::Unreadable)
+        return {JournalFile::State::Unreadable};
+    const auto journal = journalFrom(file.bytes);
+    return journal ? JournalFile{JournalFile::State::Read, *journal}
+                   : JournalFile{JournalFile::State::Worthless};
 }
 
 QString subjectToStore(const QString &typed)

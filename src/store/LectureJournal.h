@@ -27,6 +27,8 @@ struct LectureJournal
     bool isDone = false;
     QString target = {};   // where the recording is to lie; empty without one
     QString duration = {}; // as the row has it
+    // The last row that there was when it was done: one that is equal and came later is its own.
+    std::optional<qint64> lastRow = {};
 
     // Nothing was typed or recorded.
     bool isBlank() const;
@@ -38,8 +40,17 @@ struct LectureJournal
 QByteArray toBytes(const LectureJournal &journal);
 // Blanks may follow. Null for anything else.
 std::optional<LectureJournal> journalFrom(const QByteArray &bytes);
-// Null when there is no such file.
-std::optional<LectureJournal> journalIn(const QString &path);
+
+// What is known of a journal's file.
+struct JournalFile
+{
+    // Only what was read whole can be worthless: it holds no journal, and never will.
+    enum class State { Missing, Unreadable, Worthless, Read };
+
+    State state;
+    LectureJournal journal = {}; // when it was read
+};
+JournalFile readJournal(const QString &path);
 
 // What a lecture is called whose subject was typed as this.
 QString subjectToStore(const QString &typed);

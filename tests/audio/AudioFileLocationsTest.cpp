@@ -218,6 +218,20 @@ private Q_SLOTS:
         QCOMPARE(m_locations->tempAudioSavePath(), QString());
     }
 
+    void takesCanLieElsewhereUnderTheSameName()
+    {
+        m_locations->createFolders();
+        m_locations->takesLieIn(QStringLiteral("/elsewhere"));
+        QCOMPARE(m_locations->tempAudioSavePath(), QString());
+        QCOMPARE(m_locations->temporaryFolder(), QStringLiteral("/elsewhere"));
+        m_locations->setTempAudioSavePathWithFormat();
+        QCOMPARE(m_locations->tempAudioSavePath(), QStringLiteral("/elsewhere/tempAudioFile.aac"));
+
+        m_locations->takesLieIn(QStringLiteral("/nowhere"));
+
+        QCOMPARE(m_locations->tempAudioSavePath(), QStringLiteral("/nowhere/tempAudioFile.aac"));
+    }
+
     void theFormatChoosesTheExtension_data()
     {
         QTest::addColumn<QVariant>("format");

@@ -2,6 +2,7 @@
 // goes on with it.
 
 #include "audio/LeftStage.h"
+#include "audio/TakeFolder.h"
 #include "support/TestCase.h"
 
 #include <dlfcn.h>
@@ -47,6 +48,8 @@ STEP(ssize_t, pwrite, (int file, const void *bytes, size_t count, off_t at),
 STEP(ssize_t, pwrite64, (int file, const void *bytes, size_t count, off64_t at),
      (file, bytes, count, at))
 
+using namespace Qt::StringLiterals;
+using tarvelo::audio::TakeFolder;
 using tarvelo::tests::LeftStage;
 
 class InterruptedKeepingTest final : public tarvelo::tests::TestCase
@@ -57,12 +60,15 @@ private Q_SLOTS:
     void whoeverDiesAfterAnyStepLosesAndDoublesNothing_data()
     {
         QTest::addColumn<bool>("hasJournal");
-        QTest::newRow("with a journal") << true;
-        QTest::newRow("a recording alone") << false;
+        QTest::addColumn<bool>("isOfSecond");
+        QTest::newRow("with a journal") << true << false;
+        QTest::newRow("a recording alone") << false << false;
+        QTest::newRow("of a second process") << true << true;
     }
     void whoeverDiesAfterAnyStepLosesAndDoublesNothing()
     {
         QFETCH(bool, hasJournal);
+        QFETCH(bool, isOfSecond);
         LeftStage::takeBytes();
         int steps = 0;
         for (bool isThrough = false; !isThrough;) {
@@ -70,6 +76,8 @@ private Q_SLOTS:
             stage.leaveTake();
             if (hasJournal)
                 stage.leaveJournal();
+            if (isOfSecond)
+                moveToSecond(stage);
 
             isThrough = keepsInAnother(stage, ++steps);
 
@@ -82,6 +90,14 @@ private Q_SLOTS:
     }
 
 private:
+    // As if the process had had a folder of its own.
+    static void moveToSecond(const LeftStage &stage)
+    {
+        const QString folder = stage.locations.temporaryFolder();
+        QVERIFY(QDir(folder).mkdir(u"take-abcdef"_s));
+        for (const QString &name : stage.names())
+            QVERIFY(QFile::rename(folder + u'/' + name, folder + u"/take-abcdef/"_s + name));
+    }
     // True when the process lived to its end.
     static bool keepsInAnother(const LeftStage &home, int steps)
     {
@@ -100,6 +116,9 @@ private:
     static void keepWhatIsThere(LeftStage &stage)
     {
         stage.left.setAside();
+        for (const QString &path : TakeFolder::below(stage.locations.temporaryFolder()))
+            if (const auto folder = TakeFolder::own(path))
+                stage.left.setAside(path);
         stage.left.storeOwed();
         for (const auto &left : stage.left.undecided())
             stage.left.keep(left);

@@ -3,6 +3,7 @@
 #include "audio/AudioFileLocations.h"
 #include "audio/LeftStage.h"
 #include "support/DecodedAudio.h"
+#include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
 using namespace Qt::StringLiterals;
@@ -11,6 +12,7 @@ using tarvelo::store::LectureJournal;
 using tarvelo::tests::DecodedAudio;
 using tarvelo::tests::LeftStage;
 using tarvelo::tests::MovieFacts;
+using tarvelo::tests::refuse;
 
 class LeftLecturesTest final : public tarvelo::tests::TestCase
 {
@@ -294,6 +296,77 @@ private Q_SLOTS:
         QVERIFY(m_stage->rows().isEmpty());
     }
 
+    void twoOfTheSameNotesAndDayAreTwo()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        m_stage->database.insertIntoDbwithSqlStatementWithArguments(
+            tarvelo::store::statements::Insert, journal.row());
+        journal.lastRow = m_stage->left.lastRow();
+        m_stage->leaveJournal(journal);
+        m_stage->left.setAside();
+
+        m_stage->left.storeOwed();
+        QCOMPARE(m_stage->rows().size(), 2);
+
+        // As when it died before the journal went.
+        m_stage->leaveJournal(journal);
+        m_stage->left.setAside();
+        m_stage->left.storeOwed();
+        QCOMPARE(m_stage->rows().size(), 2);
+    }
+
+    void whoseRecordingCannotBeLookedForNowIsNotForgotten()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->locations.getAudioSavePath();
+        m_stage->leaveJournal(journal);
+        m_stage->left.setAside();
+        const QString audio = m_stage->locations.getAudioFolderPath();
+        QVERIFY(QDir().rename(audio.chopped(1), audio.chopped(1) + u".away"_s));
+
+        m_stage->left.storeOwed();
+        QCOMPARE(m_stage->left.owed(), 1);
+
+        QVERIFY(QDir().rename(audio.chopped(1) + u".away"_s, audio.chopped(1)));
+        LeftStage::write(journal.target, m_stage->takeBytes());
+        m_stage->left.storeOwed();
+        QCOMPARE(m_stage->left.owed(), 0);
+        m_stage->expectOneKeptLecture();
+    }
+
+    void whoseJournalCannotBeReadNowIsNeitherOfferedNorForgotten()
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        m_stage->left.setAside();
+
+        refuse("read", ".journal");
+        QVERIFY(m_stage->left.undecided().isEmpty());
+        refuse("read", ".journal");
+        QCOMPARE(m_stage->left.owed(), 1);
+
+        QCOMPARE(m_stage->left.undecided().size(), 1);
+        QCOMPARE(m_stage->left.undecided().at(0).journal.subject, u"wave optics"_s);
+    }
+
+    void whatCannotBeWrittenDownIsStoredAllTheSame()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.take = m_stage->takePath();
+        journal.target = m_stage->locations.getAudioSavePath();
+        m_stage->leaveTake();
+
+        const auto row =
+            m_stage->left.storeUnwritten(m_stage->locations.temporaryFolder(), journal);
+
+        QVERIFY(row);
+        QCOMPARE(m_stage->rows().value(0)["ID"_L1].toLongLong(), *row);
+        m_stage->expectOneKeptLecture();
+    }
+
     // A failed write of the program resets the table; one of this kind must not.
     void whatCannotBeStoredNowCostsNoOtherLecture()
     {
@@ -320,7 +393,11 @@ private Q_SLOTS:
 
 private:
     void prepare() override { m_stage = std::make_unique<LeftStage>(); }
-    void finish() override { m_stage.reset(); }
+    void finish() override
+    {
+        tarvelo::tests::refuseNothing();
+        m_stage.reset();
+    }
 
     std::unique_ptr<LeftStage> m_stage;
 };

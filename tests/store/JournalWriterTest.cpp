@@ -22,6 +22,7 @@ private Q_SLOTS:
         writer.write("second");
 
         QVERIFY(writer.flush());
+        QVERIFY(writer.isWritten() == true);
         QCOMPARE(read(path()), QByteArray("second"));
     }
 
@@ -78,6 +79,7 @@ private Q_SLOTS:
         writer.write("content");
 
         QVERIFY(!writer.flush());
+        QVERIFY(writer.isWritten() == false);
     }
 
 protected:

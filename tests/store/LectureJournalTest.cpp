@@ -2,7 +2,10 @@
 
 #include "support/TestCase.h"
 
+#include <QFile>
 #include <QTemporaryDir>
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::store;
@@ -64,11 +67,31 @@ private Q_SLOTS:
         QVERIFY(read->state == State::Idle);
     }
 
-    void aFileThatIsMissingHoldsNoJournal()
+    void whatIsKnownOfAFileIsSaid()
     {
         const QTemporaryDir folder;
+        const QString path = folder.filePath(u"lecture.journal"_s);
+        using Found = JournalFile::State;
+        QVERIFY(readJournal(path).state == Found::Missing);
 
-        QVERIFY(!journalIn(folder.filePath(u"lecture.journal"_s)));
+        write(path, QByteArray(4096, '\0'));
+        QVERIFY(readJournal(path).state == Found::Worthless);
+
+        write(path, toBytes(full()) + QByteArray(100, ' '));
+        QVERIFY(readJournal(path).state == Found::Read);
+        QCOMPARE(readJournal(path).journal.subject, u"wave optics"_s);
+        QVERIFY(readJournal(folder.path()).state == Found::Unreadable);
+    }
+
+    void theLastRowIsReadBackWhenItIsKnown()
+    {
+        LectureJournal journal = full();
+        QVERIFY(!journalFrom(toBytes(journal))->lastRow);
+
+        for (const qint64 row : {qint64(0), qint64(7), std::numeric_limits<qint64>::max()}) {
+            journal.lastRow = row;
+            QCOMPARE(journalFrom(toBytes(journal))->lastRow.value_or(-1), row);
+        }
     }
 
     void anyTextIsKept_data()
@@ -113,6 +136,12 @@ private Q_SLOTS:
     }
 
 private:
+    static void write(const QString &path, const QByteArray &content)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
     static LectureJournal full()
     {
         return {.id = u"20240305T090000000"_s,

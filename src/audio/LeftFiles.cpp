@@ -1,0 +1,204 @@
+#include "audio/LeftFiles.h"
+
+#include "audio/engine/LeftTake.h"
+#include "platform/Dates.h"
+#include "platform/DurableFiles.h"
+#include "platform/SteadyFile.h"
+#include "platform/SureReading.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace tarvelo::audio {
+
+using platform::namesIn;
+using platform::SteadyFile;
+using store::JournalFile;
+using store::LectureJournal;
+
+namespace {
+
+const QString JournalEnding = QStringLiteral(".journal");
+const QString NameBegin = QStringLiteral("leftover-");
+
+// Of a take in which nothing can be heard; a longer one may be damaged, and is not thrown away.
+constexpr qint64 MostBytesOfSilence = 64 << 10;
+
+// Asked twice: what is looked at well may be looked at in vain once, for want of memory.
+bool holdsNothing(const QString &takePath)
+{
+    return platform::readWhole(takePath, MostBytesOfSilence).state ==
+               platform::WholeFile::State::Read &&
+           engine::secondsOfLeftTake(takePath) <= 0 && engine::secondsOfLeftTake(takePath) <= 0;
+}
+
+QString baseOf(const QString &name)
+{
+    return QFileInfo(name).completeBaseName();
+}
+
+QStringList beginning(const QString &begin, QStringList names)
+{
+    names.removeIf([&begin](const QString &name) { return !name.startsWith(begin); });
+    return names;
+}
+
+bool isJournal(const QString &name)
+{
+    return name.endsWith(JournalEnding);
+}
+
+} // namespace
+
+LeftFiles::LeftFiles(const QString &folder, const QString &takeName, const platform::Dates &dates)
+    : m_folder(folder)
+    , m_takeName(takeName)
+    , m_dates(dates)
+{
+}
+
+std::optional<QList<LeftFiles::Lecture>> LeftFiles::all() const
+{
+    const auto names = namesIn(m_folder);
+    if (!names)
+        return std::nullopt;
+    const QStringList left = beginning(NameBegin, *names);
+    QStringList bases;
+    for (const QString &name : left)
+        bases.append(baseOf(name));
+    bases.removeDuplicates();
+    QList<Lecture> lectures;
+    for (const QString &base : std::as_const(bases)) {
+        const QString journal = pathOf(base + JournalEnding);
+        Lecture lecture{
+            .journalPath = journal, .takePath = {}, .journal = store::readJournal(journal)};
+        for (const QString &name : left)
+            if (baseOf(name) == base && !isJournal(name))
+                lecture.takePath = pathOf(name);
+        lectures.append(lecture);
+    }
+    return lectures;
+}
+
+bool LeftFiles::moveFrom(const QString &from) const
+{
+    return (from == m_folder || moveLeftovers(from)) && moveLecture(from);
+}
+
+// Of a process that did not come to offer them, or to store them.
+bool LeftFiles::moveLeftovers(const QString &from) const
+{
+    const auto names = namesIn(from);
+    if (!names)
+        return false;
+    const QStringList left = beginning(NameBegin, *names);
+    bool isAllMoved = true;
+    for (const QString &name : left) {
+        const QString base = baseOf(name);
+        const auto isItsTake = [&base](const QString &other) {
+            return !isJournal(other) && baseOf(other) == base;
+        };
+        if (isJournal(name) && std::ranges::any_of(left, isItsTake))
+            continue; // goes with that
+        const QString journal = base + JournalEnding;
+        const QString free = freeName(base, !isJournal(name));
+        const bool isTakeMoved =
+            isJournal(name) ||
+            (!free.isEmpty() &&
+             platform::renameDurably(from + u'/' + name,
+                                     pathOf(free + u'.' + QFileInfo(name).suffix())));
+        const bool isJournalMoved =
+            !left.contains(journal) ||
+            (isTakeMoved && !free.isEmpty() &&
+             SteadyFile(from + u'/' + journal).renameTo(pathOf(free + JournalEnding)));
+        isAllMoved = isAllMoved && isTakeMoved && isJournalMoved;
+    }
+    return isAllMoved;
+}
+
+// The recording goes first, under a name that the journal tells: whoever is interrupted between the
+// two puts them together again.
+bool LeftFiles::moveLecture(const QString &from) const
+{
+    const auto names = namesIn(from);
+    const QString path = from + u'/' + journalName();
+    const JournalFile found = store::readJournal(path);
+    if (!names || found.state == JournalFile::State::Unreadable)
+        return false;
+    const bool hasJournal = found.state != JournalFile::State::Missing;
+    const LectureJournal &journal = found.journal;
+    QStringList takes;
+    // A mark beside a journal that has no take yet is that of an older take.
+    if (!names->contains(closedMarkName()) || !journal.take.isEmpty())
+        for (const QString &name : *names)
+            if (name.startsWith(m_takeName + u'.') && !QFileInfo(from + u'/' + name).isDir())
+                takes.append(from + u'/' + name);
+    if (!journal.isDone)
+        takes.removeIf(
+            [](const QString &take) { return holdsNothing(take) && QFile::remove(take); });
+    const auto isOfJournal = [&takes, &journal](const QString &take) {
+        return takes.size() == 1 || journal.take.endsWith(QFileInfo(take).suffix());
+    };
+    const auto ofJournal = std::ranges::find_if(takes, isOfJournal);
+    const bool hasTake = hasJournal && ofJournal != takes.end();
+    static const QRegularExpression isPlain(QStringLiteral("^[0-9T]+$"));
+    const QString wish =
+        isPlain.match(journal.id).hasMatch() ? NameBegin + journal.id : momentName();
+    const QString name = freeName(wish, hasTake);
+    if (name.isEmpty() || !moveTakes(takes, hasTake ? *ofJournal : QString(), name))
+        return false;
+    if (!hasJournal)
+        return true;
+    const bool isWorthless =
+        !hasTake && (found.state == JournalFile::State::Worthless || isBlank(journal, name));
+    if (!isWorthless)
+        return SteadyFile(path).renameTo(pathOf(name + JournalEnding));
+    SteadyFile(path).remove();
+    return true;
+}
+
+bool LeftFiles::moveTakes(const QStringList &takes, const QString &ofJournal,
+                          const QString &name) const
+{
+    return std::ranges::all_of(takes, [&](const QString &take) {
+        const QString base = take == ofJournal ? name : freeName(momentName(), true);
+        return !base.isEmpty() &&
+               platform::renameDurably(take, pathOf(base + u'.' + QFileInfo(take).suffix()));
+    });
+}
+
+// Nobody misses it, and it has no recording that an earlier try moved already.
+bool LeftFiles::isBlank(const LectureJournal &journal, const QString &name) const
+{
+    const auto names = namesIn(m_folder);
+    return names && journal.subject.trimmed().isEmpty() && journal.notes.trimmed().isEmpty() &&
+           !journal.isDone && beginning(name + u'.', *names).isEmpty();
+}
+
+QString LeftFiles::freeName(const QString &wish, bool hasTake) const
+{
+    const auto names = namesIn(m_folder);
+    if (!names)
+        return {};
+    const auto isTaken = [&](const QString &candidate) {
+        return hasTake ? std::ranges::any_of(*names,
+                                             [&candidate](const QString &name) {
+                                                 return baseOf(name) == candidate;
+                                             })
+                       : names->contains(candidate + JournalEnding);
+    };
+    QString name = wish;
+    for (int number = 2; isTaken(name); ++number)
+        name = wish + u'-' + QString::number(number);
+    return name;
+}
+
+QString LeftFiles::momentName() const
+{
+    return NameBegin + m_dates.now().toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz"));
+}
+
+} // namespace tarvelo::audio

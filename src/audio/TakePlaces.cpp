@@ -1,0 +1,152 @@
+#include "audio/TakePlaces.h"
+
+#include "audio/AudioFileLocations.h"
+#include "audio/LeftLectures.h"
+
+#include <algorithm>
+
+namespace tarvelo::audio {
+
+TakePlaces::TakePlaces(AudioFileLocations &locations, LeftLectures &left)
+    : m_locations(locations)
+    , m_left(left)
+{
+}
+
+void TakePlaces::open()
+{
+    if (!m_places.empty())
+        return;
+    m_usual = m_locations.temporaryFolder();
+    find();
+}
+
+void TakePlaces::makeWay()
+{
+    if (m_places.empty())
+        return;
+    Place &place = m_places.back();
+    if (!place.writer || (place.isOccupied && !clear(place)))
+        find();
+}
+
+void TakePlaces::find()
+{
+    if (auto usual = m_ownsUsual ? nullptr : TakeFolder::own(m_usual)) {
+        m_ownsUsual = true;
+        use(std::move(usual));
+        adoptLeft();
+        if (!m_places.back().isOccupied)
+            return;
+    }
+    if (!m_places.empty() && !m_places.back().folder && !m_places.back().owed)
+        m_places.pop_back();
+    use(TakeFolder::makeBelow(m_usual));
+}
+
+void TakePlaces::use(std::unique_ptr<TakeFolder> folder)
+{
+    // One that is missing: rather nothing is recorded than over what stands elsewhere.
+    Place place{.path = folder ? folder->path() : m_usual + QStringLiteral("/take")};
+    if (folder)
+        place.writer =
+            std::make_unique<store::JournalWriter>(place.path + u'/' + LeftFiles::journalName());
+    const bool isClear = !folder || m_left.setAside(place.path);
+    place.isOccupied = place.path == m_usual && !isClear;
+    place.folder = std::move(folder);
+    if (m_locations.temporaryFolder() != place.path)
+        m_locations.takesLieIn(place.path);
+    m_places.push_back(std::move(place));
+}
+
+// Whatever cannot be moved stays for the next start.
+void TakePlaces::adoptLeft()
+{
+    for (const QString &path : TakeFolder::below(m_usual))
+        if (const auto folder = TakeFolder::own(path))
+            m_left.setAside(path);
+}
+
+void TakePlaces::addOwed(const store::LectureJournal &journal)
+{
+    if (m_places.empty())
+        return;
+    m_places.back().owed = journal;
+    m_places.back().isOccupied = true;
+}
+
+TakePlaces::Place *TakePlaces::placeOwing(const QString &id)
+{
+    const auto found = std::ranges::find_if(
+        m_places, [&id](const Place &place) { return place.owed && place.owed->id == id; });
+    return found == m_places.end() ? nullptr : &*found;
+}
+
+bool TakePlaces::changeOwed(const QString &id, const QString &subject, const QString &notes)
+{
+    Place *const place = placeOwing(id);
+    if (!place)
+        return false;
+    place->owed->subject = subject;
+    place->owed->notes = notes;
+    if (place->writer)
+        place->writer->write(store::toBytes(*place->owed));
+    return true;
+}
+
+void TakePlaces::discardOwed(const QString &id)
+{
+    Place *const place = placeOwing(id);
+    if (!place)
+        return;
+    if (place->writer)
+        place->writer->remove();
+    m_left.discardUnwritten(place->path, *place->owed);
+    place->owed.reset();
+}
+
+void TakePlaces::setOccupied()
+{
+    if (!m_places.empty())
+        m_places.back().isOccupied = true;
+}
+
+bool TakePlaces::hasOccupied() const
+{
+    return std::ranges::any_of(m_places, [](const Place &place) { return place.isOccupied; });
+}
+
+void TakePlaces::clear()
+{
+    for (Place &place : m_places)
+        if (place.isOccupied)
+            clear(place);
+}
+
+bool TakePlaces::clear(Place &place)
+{
+    if (place.owed && place.writer && !place.writer->flush())
+        place.writer->write(store::toBytes(*place.owed));
+    if (place.owed && (!place.writer || !place.writer->flush()))
+        return false;
+    place.owed.reset();
+    place.isOccupied = !m_left.setAside(place.path);
+    return !place.isOccupied;
+}
+
+void TakePlaces::storeUnwritten(const std::function<void(const QString &, qint64)> &stored)
+{
+    for (Place &place : m_places) {
+        if (!place.owed)
+            continue;
+        const auto row = m_left.storeUnwritten(place.path, *place.owed);
+        if (!row)
+            continue;
+        const QString id = place.owed->id;
+        place.owed.reset();
+        place.isOccupied = place.folder && !m_left.setAside(place.path);
+        stored(id, *row);
+    }
+}
+
+} // namespace tarvelo::audio

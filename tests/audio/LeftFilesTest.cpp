@@ -1,0 +1,157 @@
+#include "audio/LeftFiles.h"
+
+#include "audio/LeftStage.h"
+#include "support/RefusedCalls.h"
+#include "support/TestCase.h"
+
+using namespace Qt::StringLiterals;
+using tarvelo::audio::LeftFiles;
+using tarvelo::store::JournalFile;
+using tarvelo::store::LectureJournal;
+using tarvelo::tests::LeftStage;
+using tarvelo::tests::refuse;
+
+class LeftFilesTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatIsMovedHasTheMomentOfTheLecture()
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+
+        QVERIFY(files().moveFrom(folder()));
+
+        QCOMPARE(m_stage->names(), QStringList({u"leftover-20240304T080000000.journal"_s,
+                                                u"leftover-20240304T080000000.m4a"_s}));
+    }
+
+    void aCallThatFailsOnceLosesAndPartsNothing_data()
+    {
+        QTest::addColumn<QByteArray>("call");
+        QTest::addColumn<QByteArray>("path");
+        for (const char *call : {"rename", "fsync"})
+            for (const char *path : {"/tempAudioFile.m4a", "/lecture.journal"})
+                QTest::addRow("%s of %s", call, path) << QByteArray(call) << QByteArray(path);
+        QTest::newRow("the journal is read")
+            << QByteArray("read") << QByteArray("/lecture.journal");
+        QTest::newRow("the folder is read") << QByteArray("opendir") << QByteArray("/temp");
+    }
+    void aCallThatFailsOnceLosesAndPartsNothing()
+    {
+        QFETCH(QByteArray, call);
+        QFETCH(QByteArray, path);
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        refuse(call.constData(), path.constData());
+
+        QVERIFY(!files().moveFrom(folder()));
+        QVERIFY(tarvelo::tests::wasRefused());
+        QVERIFY(files().moveFrom(folder()));
+
+        expectOneLecture();
+    }
+
+    // A look at it may fail by itself.
+    void aShortTakeThatCannotBeReadNowIsNotThrownAway()
+    {
+        m_stage->write(m_stage->takePath(), m_stage->takeBytes());
+        QVERIFY(QFileInfo(m_stage->takePath()).size() < 64 << 10);
+        refuse("read", "/tempAudioFile.m4a");
+
+        QVERIFY(files().moveFrom(folder()));
+
+        QVERIFY(tarvelo::tests::wasRefused());
+        QCOMPARE(files().all()->size(), 1);
+        QVERIFY(!files().all()->at(0).takePath.isEmpty());
+    }
+
+    void aJournalThatCannotBeReadNowIsKnownForThat()
+    {
+        m_stage->leaveJournal();
+        QVERIFY(files().moveFrom(folder()));
+        refuse("read", ".journal");
+
+        QVERIFY(files().all()->at(0).journal.state == JournalFile::State::Unreadable);
+        QVERIFY(files().all()->at(0).journal.state == JournalFile::State::Read);
+    }
+
+    void aTakeUnderTheNameIsNotWrittenOver()
+    {
+        LeftStage::write(m_stage->file("leftover-20240304T080000000.m4a"), "another");
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+
+        QVERIFY(files().moveFrom(folder()));
+
+        QCOMPARE(QFile(m_stage->file("leftover-20240304T080000000.m4a")).size(), 7);
+        QVERIFY(QFile::exists(m_stage->file("leftover-20240304T080000000-2.m4a")));
+        QVERIFY(QFile::exists(m_stage->file("leftover-20240304T080000000-2.journal")));
+    }
+
+    void fromAnotherFolderAllOfItIsMoved()
+    {
+        const QString other = folder() + u"/take-abcdef"_s;
+        QVERIFY(QDir().mkdir(other));
+        LeftStage::write(other + u"/tempAudioFile.m4a"_s, LeftStage::takeBytes());
+        LeftStage::write(other + u"/lecture.journal"_s,
+                         tarvelo::store::toBytes(LeftStage::journal()));
+        LectureJournal earlier = LeftStage::journal();
+        earlier.subject = u"earlier"_s;
+        LeftStage::write(other + u"/leftover-20240303T080000000.journal"_s,
+                         tarvelo::store::toBytes(earlier));
+        LeftStage::write(other + u"/leftover-20240303T080000000.aac"_s, LeftStage::takeBytes());
+
+        QVERIFY(files().moveFrom(other));
+
+        const auto all = files().all().value();
+        QCOMPARE(all.size(), 2);
+        QCOMPARE(all[0].journal.journal.subject, u"earlier"_s);
+        QVERIFY(all[0].takePath.endsWith(u".aac"_s));
+        QCOMPARE(all[1].journal.journal.subject, u"wave optics"_s);
+        QVERIFY(!all[1].takePath.isEmpty());
+        QVERIFY(QDir(other).isEmpty());
+    }
+
+    void whatWasLeftOnPurposeInAnotherFolderStaysThere()
+    {
+        const QString other = folder() + u"/take-abcdef"_s;
+        QVERIFY(QDir().mkdir(other));
+        LeftStage::write(other + u"/tempAudioFile.m4a"_s, LeftStage::takeBytes());
+        LeftStage::write(other + u"/lecture.closed"_s, "");
+
+        QVERIFY(files().moveFrom(other));
+
+        QVERIFY(files().all()->isEmpty());
+        QVERIFY(QFile::exists(other + u"/tempAudioFile.m4a"_s));
+    }
+
+    void ofAFolderThatCannotBeReadNothingIsKnown()
+    {
+        QVERIFY(!LeftFiles(folder() + u"/missing"_s, u"tempAudioFile"_s, m_stage->dates).all());
+    }
+
+private:
+    void prepare() override { m_stage = std::make_unique<LeftStage>(); }
+    void finish() override
+    {
+        tarvelo::tests::refuseNothing();
+        m_stage.reset();
+    }
+
+    QString folder() const { return m_stage->locations.temporaryFolder(); }
+    LeftFiles files() const { return {folder(), u"tempAudioFile"_s, m_stage->dates}; }
+    void expectOneLecture() const
+    {
+        const auto all = files().all().value();
+        QCOMPARE(all.size(), 1);
+        QCOMPARE(all[0].journal.journal.subject, u"wave optics"_s);
+        QCOMPARE(QFileInfo(all[0].takePath).size(), LeftStage::takeBytes().size());
+    }
+
+    std::unique_ptr<LeftStage> m_stage;
+};
+
+QTEST_GUILESS_MAIN(LeftFilesTest)
+#include "LeftFilesTest.moc"

@@ -1,0 +1,279 @@
+// What stands where the next take would be written, and cannot be moved away just now: nothing of
+// it is lost, and nothing of what comes next.
+
+#include "platform/FolderOwner.h"
+#include "support/LectureProgram.h"
+#include "support/RefusedCalls.h"
+#include "support/TestCase.h"
+
+#include <QDirIterator>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using tarvelo::store::LectureJournal;
+using tarvelo::tests::LectureProgram;
+using tarvelo::tests::refuse;
+using tarvelo::tests::refuseNothing;
+
+class OccupiedPlaceTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aLeftTakeThatCannotBeMovedAtStartIsNotWrittenOver_data()
+    {
+        QTest::addColumn<QByteArray>("call");
+        QTest::addColumn<QByteArray>("path");
+        QTest::newRow("its name") << QByteArray("rename") << QByteArray("/tempAudioFile.m4a");
+        QTest::newRow("its content") << QByteArray("fsync") << QByteArray("/tempAudioFile.m4a");
+        QTest::newRow("the journal's name")
+            << QByteArray("rename") << QByteArray("/lecture.journal");
+        QTest::newRow("the journal's content")
+            << QByteArray("read") << QByteArray("/lecture.journal");
+        QTest::newRow("the folder") << QByteArray("opendir") << QByteArray("/temp");
+    }
+    void aLeftTakeThatCannotBeMovedAtStartIsNotWrittenOver()
+    {
+        QFETCH(QByteArray, call);
+        QFETCH(QByteArray, path);
+        leaveTakeAndJournal();
+        refuse(call.constData(), path.constData());
+
+        m_program->showDay(m_program->today());
+        QVERIFY(tarvelo::tests::wasRefused());
+        m_program->recordNewLecture(3);
+        subject().setText(u"Acoustics"_s);
+        m_program->finishNewLecture();
+
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"Acoustics"_s}));
+        QCOMPARE(contentOf(m_program->storedRows().value(0)["audioFileFullPath"_L1].toString()),
+                 QByteArray("a take"));
+        m_program->clock.advance(10s);
+        expectLeftLecture();
+    }
+
+    void withoutARoomOfItsOwnEitherNothingIsWrittenOver()
+    {
+        leaveTakeAndJournal();
+        refuse("fsync", "/tempAudioFile.m4a", 1000);
+        refuse("mkdtemp", "/temp", 1000);
+        m_program->showDay(m_program->today());
+
+        m_program->recordNewLecture(3);
+        refuseNothing();
+        m_program->finishNewLecture();
+        m_program->clock.advance(10s);
+
+        expectLeftLecture();
+    }
+
+    void whatALivingProcessRecordsIsNotTouched()
+    {
+        leaveTakeAndJournal();
+        tarvelo::platform::FolderOwner other;
+        QVERIFY(other.own(folder()));
+        m_program->showDay(m_program->today());
+
+        m_program->recordNewLecture(3);
+        subject().setText(u"Acoustics"_s);
+        m_program->finishNewLecture();
+
+        QCOMPARE(contentOf(folder() + u"/tempAudioFile.m4a"_s), takeBytes());
+        QCOMPARE(m_program->storedRows().size(), 1);
+        QCOMPARE(contentOf(m_program->storedRows().value(0)["audioFileFullPath"_L1].toString()),
+                 QByteArray("a take"));
+    }
+
+    void whatASecondProcessLeftIsOfferedWhenItIsDead_data()
+    {
+        QTest::addColumn<bool>("isAlive");
+        QTest::newRow("dead") << false;
+        QTest::newRow("alive") << true;
+    }
+    void whatASecondProcessLeftIsOfferedWhenItIsDead()
+    {
+        QFETCH(bool, isAlive);
+        const QString itsOwn = folder() + u"/take-abcdef"_s;
+        leaveTakeAndJournal(itsOwn);
+        tarvelo::platform::FolderOwner second;
+        QVERIFY(!isAlive || second.own(itsOwn));
+
+        m_program->showDay(m_program->today());
+
+        if (isAlive) {
+            QVERIFY(controller().leftLectures().undecided().isEmpty());
+            QCOMPARE(contentOf(itsOwn + u"/tempAudioFile.m4a"_s), takeBytes());
+        } else {
+            expectLeftLecture();
+            QVERIFY(!QFile::exists(itsOwn));
+        }
+        QCOMPARE(controller().tempAudioSavePath(), folder() + u"/tempAudioFile.m4a"_s);
+    }
+
+    void aSecondProcessHasAFolderOfItsOwn()
+    {
+        tarvelo::platform::FolderOwner other;
+        QVERIFY(QDir().mkpath(folder()) && other.own(folder()));
+        m_program->showDay(m_program->today());
+        const QString itsOwn = QFileInfo(controller().tempAudioSavePath()).path();
+        QVERIFY(itsOwn.startsWith(folder() + u"/take-"_s) && QFile::exists(itsOwn));
+        m_program->recordNewLecture(3);
+        m_program->finishNewLecture();
+        controller().journal().flush();
+        QCOMPARE(QDir(itsOwn).entryList(QDir::Files), QStringList());
+    }
+
+    void aLectureThatIsOwedOutlivesAJournalThatCannotBeWritten()
+    {
+        m_program->showDay(m_program->today());
+        tarvelo::tests::aLecture().named("earlier").insertInto(m_program->database);
+        m_program->recordNewLecture(3);
+        subject().setText(u"Optics"_s);
+        auto other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
+        QVERIFY(other->beginTransaction());
+        controller().journal().flush();
+        refuse("pwrite", ".journal.spare", 1000, ENOSPC);
+
+        m_program->finishNewLecture();
+        m_program->recordNewLecture(4);
+        m_program->clock.advance(10s);
+        QVERIFY(other->rollback());
+        other.reset();
+        m_program->clock.advance(10s);
+        refuseNothing();
+        m_program->clock.advance(10s);
+
+        QCOMPARE(m_program->storedRows().size(), 2);
+        QCOMPARE(m_program->storedRows().value(1)["subject"_L1], u"Optics"_s);
+        QCOMPARE(contentOf(m_program->storedRows().value(1)["audioFileFullPath"_L1].toString()),
+                 QByteArray("a take"));
+    }
+
+    // It is not seen for a moment, and its lecture is stored without it.
+    void aTakeThatWasOverlookedIsNotWrittenOver()
+    {
+        m_program->showDay(m_program->today());
+        m_program->recordNewLecture(3);
+        write(controller().tempAudioSavePath(), takeBytes());
+        m_program->windows.newLectureOutlets().BtnDoneOrClose->click();
+        refuse("access", "/tempAudioFile.m4a");
+        m_program->clock.advance(200ms);
+        QVERIFY(tarvelo::tests::wasRefused());
+        QCOMPARE(m_program->storedRows().value(0)["recordDuration"_L1], u"No Audio"_s);
+
+        m_program->recordNewLecture(4);
+
+        const auto lectures = controller().leftLectures().undecided();
+        QCOMPARE(lectures.size(), 1);
+        QCOMPARE(contentOf(lectures[0].takePath), takeBytes());
+    }
+
+    void whatIsOwedIsWrittenDownAtTheEndAtLast()
+    {
+        m_program->showDay(m_program->today());
+        m_program->recordNewLecture(3);
+        subject().setText(u"Optics"_s);
+        auto other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
+        m_program->database.openDb();
+        QVERIFY(other->beginTransaction());
+        controller().journal().flush();
+        refuse("pwrite", ".journal.spare", 1000, ENOSPC);
+        m_program->finishNewLecture();
+        refuseNothing();
+
+        controller().saveWhatWaits();
+
+        QCOMPARE(controller().leftLectures().owed(), 1);
+    }
+
+    void notesThatCouldNotBeWrittenOnceAreWrittenSoon()
+    {
+        m_program->showDay(m_program->today());
+        controller().onAddItem(nullptr);
+        controller().journal().flush();
+        refuse("pwrite", ".journal.spare", 2);
+        subject().setText(u"Optics"_s);
+        m_program->clock.advance(4s);
+        controller().journal().flush();
+        QVERIFY(tarvelo::tests::wasRefused());
+
+        m_program->clock.advance(4s);
+
+        controller().journal().flush();
+        QVERIFY(contentOf(folder() + u"/lecture.journal"_s).contains("Optics"));
+    }
+
+    void twoLecturesOfTheSameNotesAreTwo()
+    {
+        m_program->showDay(m_program->today());
+        for (int i = 0; i < 2; ++i) {
+            std::unique_ptr<tarvelo::store::Sqlite> other;
+            if (i == 1) {
+                other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
+                QVERIFY(other->beginTransaction());
+            }
+            controller().onAddItem(nullptr);
+            subject().setText(u"Optics"_s);
+            m_program->finishNewLecture();
+        }
+
+        m_program->clock.advance(20s);
+
+        QCOMPARE(m_program->storedRows().size(), 2);
+    }
+
+protected:
+    void prepare() override
+    {
+        m_program = std::make_unique<LectureProgram>();
+        m_program->defaults.setValue(u"fileFormat"_s, 1);
+    }
+    void finish() override
+    {
+        refuseNothing();
+        m_program.reset();
+    }
+
+private:
+    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
+    QLineEdit &subject() { return *m_program->windows.newLectureOutlets().txtSubjectForNewNote; }
+    QString folder() const { return m_program->places.folder() + u"/temp"_s; }
+
+    // Too large to be taken for one in which nothing can be heard.
+    static QByteArray takeBytes() { return QByteArray(100'000, 's'); }
+    static void write(const QString &path, const QByteArray &content)
+    {
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly))
+            file.write(content);
+    }
+    static QByteArray contentOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void leaveTakeAndJournal() const { leaveTakeAndJournal(folder()); }
+    static void leaveTakeAndJournal(const QString &folder)
+    {
+        QDir().mkpath(folder);
+        write(folder + u"/tempAudioFile.m4a"_s, takeBytes());
+        LectureJournal journal;
+        journal.id = u"20240304T080000000"_s;
+        journal.subject = u"wave optics"_s;
+        journal.day = u"2024-02-29"_s;
+        journal.take = folder + u"/tempAudioFile.m4a"_s;
+        write(folder + u"/lecture.journal"_s, tarvelo::store::toBytes(journal));
+    }
+    void expectLeftLecture()
+    {
+        const auto lectures = controller().leftLectures().undecided();
+        QCOMPARE(lectures.size(), 1);
+        QCOMPARE(lectures[0].journal.subject, u"wave optics"_s);
+        QCOMPARE(contentOf(lectures[0].takePath), takeBytes());
+    }
+
+    std::unique_ptr<LectureProgram> m_program;
+};
+
+QTEST_MAIN(OccupiedPlaceTest)
+#include "OccupiedPlaceTest.moc"
