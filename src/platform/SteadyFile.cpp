@@ -58,7 +58,7 @@ bool SteadyFile::replace(const QByteArray &content)
 {
     // What stands under the spare's name may be what the disk still has under the other one.
     if (!m_namesAreSynced && !syncFolderOf(m_path))
-        ::unlink(QFile::encodeName(spare()).constData());
+        dropSpare();
     const qint64 wanted = std::max(m_room, roomFor(content.size()));
     if (!writeSpare(content, wanted) &&
         !writeSpare(content, std::max<qint64>(m_room, content.size() + 1)))
@@ -91,16 +91,24 @@ bool SteadyFile::takePlace()
 
 void SteadyFile::remove()
 {
-    ::unlink(QFile::encodeName(spare()).constData());
+    dropSpare();
     removeDurably(m_path);
     m_room = 0;
 }
 
 bool SteadyFile::renameTo(const QString &path)
 {
-    ::unlink(QFile::encodeName(spare()).constData());
+    dropSpare();
     m_room = 0;
     return renameDurably(m_path, path);
+}
+
+// Nobody would come back for it, and it holds old content: a call that fails is made again.
+void SteadyFile::dropSpare() const
+{
+    const QByteArray path = QFile::encodeName(spare());
+    if (::unlink(path.constData()) != 0 && errno != ENOENT)
+        ::unlink(path.constData());
 }
 
 // Hidden, and always the same: what a crash left is written over, not gathered.

@@ -24,6 +24,7 @@ public:
 private:
     bool writeSpare(const QByteArray &content, qint64 room) const;
     bool takePlace();
+    void dropSpare() const;
     QString spare() const;
 
     QString m_path;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -46,6 +47,17 @@ inline void refuse(const char *call, const char *path, int times = 1, int error 
     const std::lock_guard lock(refusalsMutex());
     refusals().push_back({call, path, times, error});
 }
+// Whichever it is.
+inline int &callsUntilRefusal()
+{
+    static int calls = 0;
+    return calls;
+}
+inline void refuseCall(int number)
+{
+    const std::lock_guard lock(refusalsMutex());
+    callsUntilRefusal() = number;
+}
 inline void refuseNothing()
 {
     const std::lock_guard lock(refusalsMutex());
@@ -61,6 +73,10 @@ inline bool wasRefused()
 inline bool isRefused(const char *call, const char *path)
 {
     const std::lock_guard lock(refusalsMutex());
+    if (callsUntilRefusal() > 0 && --callsUntilRefusal() == 0) {
+        errno = EIO;
+        return true;
+    }
     for (Refusal &refused : refusals()) {
         if (refused.times <= 0 || refused.call != call || !path ||
             !strstr(path, refused.path.constData()))
@@ -76,7 +92,7 @@ inline bool isRefused(const char *call, int file)
 {
     {
         const std::lock_guard lock(refusalsMutex());
-        if (refusals().empty())
+        if (refusals().empty() && callsUntilRefusal() == 0)
             return false;
     }
     char name[32];
@@ -110,3 +126,20 @@ REFUSABLE(ssize_t, pwrite, (int file, const void *bytes, size_t count, off_t at)
           (file, bytes, count, at), file, -1)
 REFUSABLE(ssize_t, pwrite64, (int file, const void *bytes, size_t count, off64_t at),
           (file, bytes, count, at), file, -1)
+REFUSABLE(int, fdatasync, (int file), (file), file, -1)
+REFUSABLE(int, ftruncate, (int file, off_t size) noexcept, (file, size), file, -1)
+REFUSABLE(int, posix_fallocate, (int file, off_t at, off_t size), (file, at, size), file, EIO)
+
+#define REFUSABLE_OPEN(name)                                                                       \
+    extern "C" int name(const char *path, int flags, ...)                                          \
+    {                                                                                              \
+        va_list rest;                                                                              \
+        va_start(rest, flags);                                                                     \
+        const auto mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : mode_t();                \
+        va_end(rest);                                                                              \
+        using Function = int (*)(const char *, int, ...);                                          \
+        static const auto real = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, #name));            \
+        return tarvelo::tests::isRefused("open", path) ? -1 : real(path, flags, mode);             \
+    }
+REFUSABLE_OPEN(open)
+REFUSABLE_OPEN(open64)
