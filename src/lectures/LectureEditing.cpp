@@ -43,7 +43,7 @@ void show(const store::LectureInfoItem &lecture, QLineEdit &subject, QTextEdit &
 
 bool isSame(const Lecture &one, const Lecture &other)
 {
-    if (!one || !other || !one->hasRow())
+    if (!one || !other || !one->hasRow() || !other->hasRow())
         return one && one == other;
     return one->getRecordUniqueID() == other->getRecordUniqueID();
 }
@@ -143,7 +143,9 @@ void LectureEditing::save(const Lecture &lecture, const QString &subject, const 
 {
     if (!lecture)
         return;
-    if (!lecture->hasRow())
+    if (lecture->hasGone())
+        m_with.database.changeGone(*lecture, subject, notes);
+    else if (!lecture->hasRow())
         m_with.changeWaiting(*lecture, subject, notes);
     else if (m_with.database.updateToDoDatawithSqlStatementWithArguments(
                  store::statements::Update,
@@ -232,10 +234,17 @@ void LectureEditing::lecturesWereDeleted()
     }
 }
 
+void LectureEditing::lecturesHaveGone(const QString &copyPath)
+{
+    for (const Lecture &lecture : {m_itemEditingNow, m_itemOfWindow, m_itemOfView})
+        if (lecture && lecture->hasRow())
+            lecture->setGoneTo(copyPath);
+}
+
 bool LectureEditing::isStored(const store::LectureInfoItem &lecture) const
 {
     if (!lecture.hasRow())
-        return m_with.isWaiting(lecture);
+        return lecture.hasGone() || m_with.isWaiting(lecture);
     store::Sqlite *connection = m_with.database.connection();
     const auto rows = connection ? connection->executeQueryArguments(
                                        QStringLiteral("select ID from audioData where ID = ?"),

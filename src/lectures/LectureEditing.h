@@ -79,6 +79,9 @@ public:
     void mouseDownTextFieldClicked(widgets::MouseDownTextField &field);
     // A lecture was deleted: what shows it saves no more, since its ID may be given again.
     void lecturesWereDeleted();
+    // The table was emptied: what is saved from now on into a lecture that was open goes to the
+    // copy in which that is.
+    void lecturesHaveGone(const QString &copyPath);
 
     void clearChanges();
     void textDidBeginEditing(QWidget *view) override;

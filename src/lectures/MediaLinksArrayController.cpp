@@ -81,10 +81,13 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
     , m_stopSoundPlay(services.dates.clock(), [this] { m_playback.stopSoundPlay(); })
 {
     connectControls();
+    m_services.database.setLecturesGone(
+        [this](const QString &copyPath) { lecturesHaveGone(copyPath); });
 }
 
 MediaLinksArrayController::~MediaLinksArrayController()
 {
+    m_services.database.setLecturesGone({});
     LectureTable &table = *m_windows.mainOutlets().tblRecordSubjectList;
     table.setRowActions(nullptr);
     table.setModel(nullptr);
@@ -281,6 +284,15 @@ void MediaLinksArrayController::removeArrangedObject(int row)
     m_dayList.removeObject(row);
     endRemoveRows();
     m_editing.lecturesWereDeleted();
+}
+
+// They stay in the list that shows, and must not be taken for those that get their IDs.
+void MediaLinksArrayController::lecturesHaveGone(const QString &copyPath)
+{
+    for (const Lecture &lecture : m_dayList.arrangedObjects())
+        if (lecture->hasRow())
+            lecture->setGoneTo(copyPath);
+    m_editing.lecturesHaveGone(copyPath);
 }
 
 } // namespace tarvelo::lectures

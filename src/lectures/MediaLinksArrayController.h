@@ -270,6 +270,7 @@ private:
     void reloadData();
     void showStoredLectures(bool inList);
     void removeArrangedObject(int row);
+    void lecturesHaveGone(const QString &copyPath);
 
     LectureServices m_services;
     const LectureWindows &m_windows;

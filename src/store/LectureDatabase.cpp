@@ -110,10 +110,23 @@ bool LectureDatabase::updateToDoDatawithSqlStatementWithArguments(const QString 
     return writeOrReset(sql, arguments, statements::CreateAfterUpdate);
 }
 
-// The path is pasted as it stands: with an apostrophe in it the statement fails, and nothing goes.
+void LectureDatabase::setLecturesGone(std::function<void(const QString &)> lecturesGone)
+{
+    m_lecturesGone = std::move(lecturesGone);
+}
+
+void LectureDatabase::changeGone(const LectureInfoItem &lecture, const QString &subject,
+                                 const QString &notes) const
+{
+    m_backups.change(lecture.copyPath(), statements::Update,
+                     {subject, notes, lecture.getRecordUniqueID()});
+}
+
 bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
 {
     const QString &path = lecture.getLectureAudioPath();
+    if (path.contains(u'\''))
+        return true;
     // Without a row, an empty path would find lectures that it has nothing to do with.
     if (!lecture.hasRow() && (!m_connection || path.isEmpty()))
         return true;
@@ -160,12 +173,21 @@ bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariant
         database.executeNonQuery(creationText);
         database.executeNonQuery(statements::DeleteAll);
         m_backups.settle(database, *copy);
+        tellOfEmptyTable(database, *copy);
     }
     const bool isWritten = database.executeNonQueryArguments(sql, arguments);
     if (isWritten && copy && creationText == statements::CreateAfterUpdate)
         m_backups.change(*copy, sql, arguments);
     makeIndexes();
     return isWritten;
+}
+
+void LectureDatabase::tellOfEmptyTable(Sqlite &database, const QString &copyPath)
+{
+    const auto ids = database.executeQuery(statements::AllIds);
+    const bool isEmpty = ids && ids->isEmpty() && database.errorCode() == 0;
+    if (isEmpty && !copyPath.isEmpty() && m_lecturesGone)
+        m_lecturesGone(copyPath);
 }
 
 // They only make the two queries fast. A file without the table, or one that cannot be written,

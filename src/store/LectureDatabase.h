@@ -5,6 +5,7 @@
 #include "store/LectureBackups.h"
 #include "store/Sqlite.h"
 
+#include <functional>
 #include <memory>
 
 namespace tarvelo::store {
@@ -49,9 +50,16 @@ public:
                                                    const QVariantList &arguments);
     bool updateToDoDatawithSqlStatementWithArguments(const QString &sql,
                                                      const QVariantList &arguments);
+    // Hears of every time the table was emptied, with the path of the copy that all lectures are
+    // in which had a row until then. Before the statement is run once more.
+    void setLecturesGone(std::function<void(const QString &)> lecturesGone);
+    // For a lecture that has gone: its row in the copy gets the texts, and comes back with them.
+    void changeGone(const LectureInfoItem &lecture, const QString &subject,
+                    const QString &notes) const;
     // Goes by the audio path: every lecture with the same path goes, so all without audio at once.
-    // Never opens the database. False when the lecture stays: the statement failed, or several
-    // would go of which no copy can be made.
+    // Never opens the database. The path is pasted as it stands, so that with an apostrophe in it
+    // no row goes, which is wanted. False when the lecture is to stay whole: its row could not be
+    // deleted now, or several would go of which no copy can be made.
     bool deleteVoiceData(const LectureInfoItem &lecture);
 
 private:
@@ -59,6 +67,7 @@ private:
                       const QString &creationText);
     bool reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
                const QString &creationText);
+    void tellOfEmptyTable(Sqlite &database, const QString &copyPath);
     bool openFile(const QString &file);
     bool replaceWithSound();
     void makeIndexes();
@@ -68,6 +77,7 @@ private:
     LectureBackups m_backups;
     DamagedFiles m_damagedFiles;
     std::unique_ptr<Sqlite> m_connection;
+    std::function<void(const QString &)> m_lecturesGone;
     bool m_syncsNames = false; // of the connection as it was last opened
 };
 

@@ -40,8 +40,12 @@ public:
 
     const QString &getLectureAudioPath() const { return m_strLectureAudioPath; }
     qint64 getRecordUniqueID() const { return m_intRecordUniqueID; }
-    // It may be 0 too, as rows are given IDs by other programs.
-    bool hasRow() const { return m_intRecordUniqueID != NoRow; }
+    // The ID may be 0 too, as rows are given IDs by other programs.
+    bool hasRow() const { return m_intRecordUniqueID != NoRow && !hasGone(); }
+    // Its row went with all others when the table was emptied. Another lecture may have the ID by
+    // now; in the copy that was made before, its row still has it.
+    bool hasGone() const { return !m_copyPath.isEmpty(); }
+    const QString &copyPath() const { return m_copyPath; }
     QString description() const;
     platform::Image iconImage() const;
     QColor colorSubject() const { return {99, 99, 99}; }
@@ -54,6 +58,7 @@ public:
     void setRecordingDuration(const QString &duration) { m_strRecordingDuration = duration; }
     void setLectureAudioPath(const QString &path) { m_strLectureAudioPath = path; }
     void setRecordUniqueID(qint64 id) { m_intRecordUniqueID = id; }
+    void setGoneTo(const QString &copyPath) { m_copyPath = copyPath; }
     void setPeriodStart(const QDateTime &start) { m_periodStart = start; }
     void setPeriodEnd(const QDateTime &end) { m_periodEnd = end; }
 
@@ -70,6 +75,7 @@ private:
     QString m_strLectureToken;
     qint64 m_intRecordUniqueID = 0;
     QString m_strLectureAudioPath;
+    QString m_copyPath;
 };
 
 } // namespace tarvelo::store

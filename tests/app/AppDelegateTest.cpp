@@ -247,6 +247,18 @@ private Q_SLOTS:
         QVERIFY(sheet.didEnd);
     }
 
+    void underAnotherSheetQuittingIsPutOffWithoutASecondOne()
+    {
+        Application program;
+        program.launch();
+        program.startRecording();
+        program.delegate.openSettingPanel(nullptr);
+
+        QCOMPARE(program.delegate.applicationShouldTerminate(nullptr), app::TerminateReply::Cancel);
+
+        QVERIFY(program.alerts.sheets.isEmpty());
+    }
+
     void quittingIsNotTriedAgainWhenTheSheetEnds()
     {
         Application program;

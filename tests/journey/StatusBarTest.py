@@ -73,6 +73,10 @@ class Item:
         event = GLib.Variant("(isvu)", (self.entries()[title], "clicked", GLib.Variant("s", ""), 0))
         self._call(self._menu, "com.canonical.dbusmenu", "Event", event)
 
+    def activate(self):
+        """Presses the item itself."""
+        self._call("/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", GLib.Variant("(ii)", (0, 0)))
+
     def _call(self, path, interface, method, arguments):
         answer = self._bus.call_sync(self._sender, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, 10000)
         return answer.unpack()
@@ -140,6 +144,10 @@ class StatusBarTest(unittest.TestCase):
         self.hands.press(names.MAIN_WINDOW, "ctrl+w")
         self.hands.window_goes(names.MAIN_WINDOW)
         item.press("Open Tarvelo")
+        self.hands.window(names.MAIN_WINDOW)
+        self.hands.press(names.MAIN_WINDOW, "ctrl+w")
+        self.hands.window_goes(names.MAIN_WINDOW)
+        item.activate()
         self.hands.window(names.MAIN_WINDOW)
         item.press("Quit")
         self.program.expect_end()

@@ -69,7 +69,7 @@ private Q_SLOTS:
         m_program->controller.journal().flush();
         QStringList subjects;
         for (const QFileInfo &file : QDir(folder()).entryInfoList({u"*.journal"_s}))
-            subjects.append(tarvelo::store::journalIn(file.filePath())->subject);
+            subjects.append(tarvelo::store::readJournal(file.filePath()).journal.subject);
         QCOMPARE(subjects, QStringList{u"Acoustics"_s});
     }
 

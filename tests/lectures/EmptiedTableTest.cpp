@@ -1,0 +1,164 @@
+#include "lectures/CustomTableCellView.h"
+#include "support/LectureProgram.h"
+#include "support/TestCase.h"
+
+using namespace Qt::StringLiterals;
+using tarvelo::lectures::Lecture;
+using tarvelo::tests::aLecture;
+using tarvelo::tests::LectureProgram;
+
+// A failed write empties the table, while the list goes on showing the lectures that were in it.
+class EmptiedTableTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aChangeOfALectureThatHasGoneTouchesNoOther()
+    {
+        loseTheEarlierOneToANewcomer();
+        QCOMPARE(stored(), QStringList{u"Newcomer: "_s});
+
+        change(0, u"wave optics"_s, u"Huygens"_s);
+
+        QCOMPARE(stored(), QStringList{u"Newcomer: "_s});
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"Wave Optics"_s, u"Newcomer"_s}));
+    }
+
+    void theChangeComesBackWithTheLecture()
+    {
+        loseTheEarlierOneToANewcomer();
+        change(0, u"wave optics"_s, u"Huygens"_s);
+
+        bringBack();
+
+        QCOMPARE(stored(), QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
+    }
+
+    void theNewcomerIsChangedAsEver()
+    {
+        loseTheEarlierOneToANewcomer();
+
+        change(1, u"acoustics"_s, u"Pipes"_s);
+        QCOMPARE(stored(), QStringList{u"acoustics: Pipes"_s});
+
+        bringBack();
+        QCOMPARE(stored(), QStringList({u"acoustics: Pipes"_s, u"Optics: Lenses"_s}));
+    }
+
+    void aWindowThatWasOpenBeforeSavesIntoTheCopyToo()
+    {
+        aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
+        controller().prepareViewForDate(m_program->today());
+        edit(0);
+        failNext("INSERT");
+        saveNewcomer();
+        controller().prepareViewForDate(m_program->today());
+
+        finishEdit(u"wave optics"_s, u"Huygens"_s);
+
+        QCOMPARE(stored(), QStringList{u"Newcomer: "_s});
+        bringBack();
+        QCOMPARE(stored(), QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
+    }
+
+    void theChangeThatEmptiedTheTableAndTheNextOneComeBack()
+    {
+        aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
+        controller().prepareViewForDate(m_program->today());
+        failNext("UPDATE");
+
+        change(0, u"wave optics"_s, u"Huygens"_s);
+        QVERIFY(stored().isEmpty());
+        change(0, u"wave optics"_s, u"Huygens and Fresnel"_s);
+
+        QVERIFY(stored().isEmpty());
+        bringBack();
+        QCOMPARE(stored(), QStringList{u"wave optics: Huygens and Fresnel"_s});
+    }
+
+    // The table is not emptied, and so nothing has gone.
+    void whileAnotherProgramHoldsTheFileNothingHasGone()
+    {
+        aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
+        controller().prepareViewForDate(m_program->today());
+        {
+            tarvelo::store::Sqlite other(m_program->places.databaseFile());
+            QVERIFY(other.beginTransaction());
+            saveNewcomer();
+            QVERIFY(other.rollback());
+        }
+
+        change(0, u"wave optics"_s, u"Huygens"_s);
+
+        QCOMPARE(stored(), QStringList{u"wave optics: Huygens"_s});
+    }
+
+private:
+    void prepare() override
+    {
+        m_program = std::make_unique<LectureProgram>();
+        m_program->showDay(m_program->today());
+    }
+    void finish() override { m_program.reset(); }
+
+    void loseTheEarlierOneToANewcomer()
+    {
+        aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
+        controller().prepareViewForDate(m_program->today());
+        failNext("INSERT");
+        saveNewcomer();
+    }
+    // What it runs into goes with the table, and is in no copy.
+    void failNext(const char *statement)
+    {
+        QVERIFY(m_program->database.openDb()->executeNonQuery(
+            u"CREATE TEMP TRIGGER failure BEFORE %1 ON main.audioData BEGIN SELECT "
+            "RAISE(ABORT, 'no'); END"_s.arg(QLatin1String(statement))));
+    }
+    void saveNewcomer()
+    {
+        controller().onAddItem(nullptr);
+        m_program->windows.newLectureOutlets().txtSubjectForNewNote->setText(u"Newcomer"_s);
+        m_program->finishNewLecture();
+    }
+    void bringBack()
+    {
+        auto &database = *m_program->database.openDb();
+        const auto copies = m_program->database.backups().copies(database);
+        QCOMPARE(copies.size(), 1);
+        QCOMPARE(m_program->database.backups().bringBack(copies.first().filePath, database), 1);
+    }
+    void edit(int row)
+    {
+        controller().onEditLecture(
+            m_program->windows.mainOutlets()
+                .tblRecordSubjectList->viewAtColumnRowMakeIfNecessary(0, row, true)
+                ->btnEdit());
+    }
+    void finishEdit(const QString &subject, const QString &notes)
+    {
+        const auto &window = m_program->windows.editLectureOutlets();
+        window.txtSubjectForEdit->setText(subject);
+        window.txtViewNotesForEdit->setPlainText(notes);
+        window.btnDoneEdit->click();
+    }
+    void change(int row, const QString &subject, const QString &notes)
+    {
+        edit(row);
+        finishEdit(subject, notes);
+    }
+
+    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
+    QStringList stored()
+    {
+        QStringList lectures;
+        for (const auto &row : m_program->storedRows())
+            lectures.append(row["subject"_L1].toString() + u": "_s + row["notes"_L1].toString());
+        return lectures;
+    }
+
+    std::unique_ptr<LectureProgram> m_program;
+};
+
+QTEST_MAIN(EmptiedTableTest)
+#include "EmptiedTableTest.moc"
