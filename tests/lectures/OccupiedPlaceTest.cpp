@@ -52,6 +52,64 @@ private Q_SLOTS:
         expectLeftLecture();
     }
 
+    void whicheverCallFailsOnceAtStartBothLecturesAreThere()
+    {
+        bool isThrough = false;
+        int call = 0;
+        while (!isThrough) {
+            ++call;
+            prepare();
+            leaveTakeAndJournal();
+            tarvelo::tests::refuseCall(call, "/Tarvelo/temp");
+            m_program->showDay(m_program->today());
+            isThrough = tarvelo::tests::callsUntilRefusal() > 0;
+            refuseNothing();
+
+            m_program->recordNewLecture(3);
+            subject().setText(u"Acoustics"_s);
+            m_program->finishNewLecture();
+            m_program->clock.advance(10s);
+
+            const QString number = QString::number(call);
+            QVERIFY2(foundInHome(takeBytes()), qPrintable(number));
+            QVERIFY2(foundInHome("wave optics"), qPrintable(number));
+            const auto rows = m_program->storedRows();
+            QVERIFY2(rows.size() == 1, qPrintable(number));
+            QVERIFY2(contentOf(rows[0]["audioFileFullPath"_L1].toString()) == "a take",
+                     qPrintable(number));
+        }
+        QVERIFY2(call > 20, qPrintable(QString::number(call)));
+    }
+
+    void whicheverCallFailsOnceWhileItIsKeptTheLectureIsThere()
+    {
+        bool isThrough = false;
+        int call = 0;
+        while (!isThrough) {
+            ++call;
+            prepare();
+            m_program->showDay(m_program->today());
+            m_program->recordNewLecture(3);
+            write(controller().tempAudioSavePath(), takeBytes());
+            subject().setText(u"Acoustics"_s);
+            controller().journal().flush();
+            tarvelo::tests::refuseCall(call, "/Tarvelo/");
+            m_program->finishNewLecture();
+            isThrough = tarvelo::tests::callsUntilRefusal() > 0;
+            refuseNothing();
+
+            m_program->recordNewLecture(4);
+            m_program->clock.advance(10s);
+
+            const QString number = QString::number(call);
+            QVERIFY2(foundInHome(takeBytes()), qPrintable(number));
+            const auto rows = m_program->storedRows();
+            QVERIFY2(rows.size() == 1 && rows[0]["subject"_L1] == u"Acoustics"_s,
+                     qPrintable(number));
+        }
+        QVERIFY2(call > 60, qPrintable(QString::number(call)));
+    }
+
     void withoutARoomOfItsOwnEitherNothingIsWrittenOver()
     {
         leaveTakeAndJournal();
@@ -251,6 +309,14 @@ private:
     {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    bool foundInHome(const QByteArray &content) const
+    {
+        QDirIterator files(m_program->places.folder(), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext())
+            if (contentOf(files.next()).contains(content))
+                return true;
+        return false;
     }
     void leaveTakeAndJournal() const { leaveTakeAndJournal(folder()); }
     static void leaveTakeAndJournal(const QString &folder)

@@ -47,21 +47,28 @@ inline void refuse(const char *call, const char *path, int times = 1, int error 
     const std::lock_guard lock(refusalsMutex());
     refusals().push_back({call, path, times, error});
 }
-// Whichever it is.
+// Whichever it is, of those that are about such a path.
 inline int &callsUntilRefusal()
 {
     static int calls = 0;
     return calls;
 }
-inline void refuseCall(int number)
+inline QByteArray &callsAbout()
+{
+    static QByteArray path;
+    return path;
+}
+inline void refuseCall(int number, const char *path = "")
 {
     const std::lock_guard lock(refusalsMutex());
     callsUntilRefusal() = number;
+    callsAbout() = path;
 }
 inline void refuseNothing()
 {
     const std::lock_guard lock(refusalsMutex());
     refusals().clear();
+    callsUntilRefusal() = 0;
 }
 // Whether all that was to be refused was asked for.
 inline bool wasRefused()
@@ -73,7 +80,8 @@ inline bool wasRefused()
 inline bool isRefused(const char *call, const char *path)
 {
     const std::lock_guard lock(refusalsMutex());
-    if (callsUntilRefusal() > 0 && --callsUntilRefusal() == 0) {
+    if (callsUntilRefusal() > 0 && path && strstr(path, callsAbout().constData()) &&
+        --callsUntilRefusal() == 0) {
         errno = EIO;
         return true;
     }
