@@ -1,6 +1,7 @@
 """A program that is killed while a lecture is recorded: the next start offers the lecture."""
 
 import datetime
+import fcntl
 import os
 import signal
 import sys
@@ -120,6 +121,30 @@ class LeftLectureTest(unittest.TestCase):
         self.hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)
         self.hands.window(names.NEW_LECTURE_WINDOW)
         self.assertIn("tempAudioFile.m4a", self.files())
+
+    def test_a_second_session_records_in_a_folder_of_its_own(self):
+        os.makedirs(self.temporary, mode=0o700)
+        owner = open(os.path.join(self.temporary, ".owner"), "w", encoding="utf-8")
+        self.addCleanup(owner.close)
+        fcntl.flock(owner, fcntl.LOCK_EX)
+        take = os.path.join(self.temporary, "tempAudioFile.m4a")
+        with open(take, "wb") as file:
+            file.write(b"alive")
+        self.record("second")
+        self.kill()
+        with open(take, "rb") as file:
+            self.assertEqual(b"alive", file.read())
+
+        os.remove(take)
+        owner.close()
+        self.program.start("next")
+        self.hands.click(names.LEFT_LECTURE, names.KEEP)
+        self.hands.row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
+
+        self.expect_sentence_in(SUBJECT)
+        self.assertEqual([], self.files())
+        self.program.quit()
+        self.program.expect_silence()
 
     def test_what_is_recorded_before_an_answer_is_another_lecture(self):
         self.record("first")
