@@ -30,6 +30,10 @@ class Program:
         self.hands.window(names.MAIN_WINDOW)
         self.hands.control(names.MAIN_WINDOW, names.NEW_LECTURE)
 
+    @property
+    def pid(self):
+        return self._process.pid
+
     def send(self, signal):
         self._process.send_signal(signal)
 

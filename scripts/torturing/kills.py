@@ -17,7 +17,7 @@ from outside.waiting import Failed
 from .played import Played
 from .result import Result
 from .sitting import Sitting
-from .waited import Waited
+from .waited import watched
 
 EVENT = "SIGKILL, crash, abort at any instant of a recording"
 PROMISE = "the last 1.0 s of sound; no notes older than 5 s, no time tag"
@@ -46,11 +46,17 @@ def run(tools, short):
         sitting.program.expect_silence()
     lost += [of_sound for of_sound, _ in of_notes]
     notes = max(of_typing for _, of_typing in of_notes)
-    starved = [one for one in lost if one.seconds > MOST_LOST]
-    without = f", {len(starved)} of them without a processor for what is above {MOST_LOST} s" if starved else ""
-    return Result(all(one.seconds - one.waited <= MOST_LOST for one in starved) and notes <= NOTES_SAFE,
+    held = all(one.seconds - one.waited <= MOST_LOST for one in lost)
+    starved = sum(1 for one in lost if one.seconds > MOST_LOST)
+    without = f" ({starved} times more than {MOST_LOST} s, for which there was no processor)" if held and starved else ""
+    return Result(held and notes <= NOTES_SAFE,
                   f"{len(lost)} kills, {len(of_notes)} of them of the whole program: at most {max(lost).seconds:.2f} s of sound, {_average(lost):.2f} s on "
                   f"average{without}; at most {notes:.1f} s of notes; no time tag")
+
+
+def _tell_of_more(tools, lost, what):
+    if lost.seconds > MOST_LOST:
+        tools.tell(f"{what}; {lost.seconds:.2f} s are lost, and it waited {lost.waited:.2f} s for a processor meanwhile")
 
 
 def _average(lost):
@@ -62,13 +68,12 @@ def _kill_recorder(tools, played, number, how, moment):
     path = os.path.join(tools.folder, f"take{number}.m4a")
     recorder = subprocess.Popen([tools.built("tests/audio/engine/RecordUntilKilled"), path], stdin=subprocess.DEVNULL,
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
-    waited = Waited(recorder.pid)
     recorded = 0.0
-    for line in recorder.stdout:
-        recorded = float(line)
-        waited.look(played.now())
-        if recorded >= moment:
-            break
+    with watched(recorder.pid, played.now) as waited:
+        for line in recorder.stdout:
+            recorded = float(line)
+            if recorded >= moment:
+                break
     heard = played.now()
     recorder.send_signal(how)
     # It may have told more by then; death may have cut its last line.
@@ -81,9 +86,7 @@ def _kill_recorder(tools, played, number, how, moment):
         # The witness may lag a little on a busy machine, and then the recorder's own word is the harder one.
         kept = played.span(take, heard)[1]
         lost = Lost(max(heard - kept, recorded - len(take) / sound.RATE), waited.since(kept))
-        if lost.seconds > MOST_LOST:
-            tools.tell(f"kill {number} ({how.name}) cost {lost.seconds:.2f} s: the recorder told {recorded:.2f} s, the file has "
-                       f"{len(take) / sound.RATE:.2f} s; meanwhile it waited {lost.waited:.2f} s for a processor")
+        _tell_of_more(tools, lost, f"kill {number} ({how.name}): the recorder told {recorded:.2f} s, the file has {len(take) / sound.RATE:.2f} s")
         return lost
     except Failed as failure:
         raise Failed(f"kill {number} ({how.name} at {recorded:.2f} s): {failure}; see {tools.keep(os.path.basename(path), path)}")
@@ -94,14 +97,17 @@ def _kill_program(tools, sitting, played, number, how, moment):
     shutil.rmtree(sitting.home, ignore_errors=True)
     sitting.start()
     sitting.begin(f"Lecture {number}", "Notes:")
-    typed = _type_until(sitting, played.now() + moment, sets_tags=number % 2 == 0)
+    with watched(sitting.program.pid, played.now) as waited:
+        typed = _type_until(sitting, played.now() + moment, sets_tags=number % 2 == 0)
     heard, ended = played.now(), time.monotonic()
     sitting.program.send(how)
     sitting.program.expect_end(-how)
     take = next(os.path.join(sitting.home, "temp", name) for name in os.listdir(os.path.join(sitting.home, "temp"))
                 if name.startswith("tempAudioFile"))
     try:
-        lost = Lost(heard - played.span(sound.samples(take), heard)[1], 0.0)
+        kept = played.span(sound.samples(take), heard)[1]
+        lost = Lost(heard - kept, waited.since(kept))
+        _tell_of_more(tools, lost, f"kill {number} of the program ({how.name})")
         return lost, _typing_lost(os.path.join(sitting.home, "temp", "lecture.journal"), typed, ended)
     except Failed as failure:
         raise Failed(f"kill {number} of the program ({how.name}): {failure}; see {tools.keep(f'program{number}', sitting.home)}") from None

@@ -2,9 +2,29 @@
 
 import contextlib
 import os
+import threading
 import time
 
 INTERVAL = 0.05  # seconds between two looks
+
+
+@contextlib.contextmanager
+def watched(pid, now):
+    """Looks all the time meanwhile, with the moment that `now` gives."""
+    waited = Waited(pid)
+    over = threading.Event()
+
+    def watch():
+        while not over.wait(INTERVAL):
+            waited.look(now())
+
+    watcher = threading.Thread(target=watch)
+    watcher.start()
+    try:
+        yield waited
+    finally:
+        over.set()
+        watcher.join()
 
 
 class Waited:
@@ -12,23 +32,21 @@ class Waited:
 
     def __init__(self, pid):
         self._folder = f"/proc/{pid}/task"
-        self._looks = []  # (moment, monotonic time, {thread: seconds})
+        self._looks = []  # (moment, {thread: seconds})
         self._ready = {}  # thread: (its turns until now, since when it is known to be ready without another one)
 
     def look(self, moment):
         """`moment` is any clock's."""
         now = time.monotonic()
-        if self._looks and now - self._looks[-1][1] < INTERVAL:
-            return
         threads = {}
         for thread in os.listdir(self._folder):
             with contextlib.suppress(OSError):  # it has ended
                 threads[thread] = self._of(thread, now)
-        self._looks.append((moment, now, threads))
+        self._looks.append((moment, threads))
 
     def since(self, moment):
         """Of the thread that waited longest from the first look at or after the moment to the last one: at least so many seconds."""
-        later = [threads for when, _, threads in self._looks if when >= moment]
+        later = [threads for when, threads in self._looks if when >= moment]
         if not later:
             return 0.0
         first, last = later[0], later[-1]
