@@ -99,7 +99,7 @@ class Desk:
         try:
             recorded = self._perform(work, f"{kind} {error} {number}")
         except Failed as failure:
-            return str(failure)
+            return f"{failure}, {self._what_was_lost(work, 0.0) or 'and all is there after the next start'}"
         left = (work, recorded, self._state())
         if left not in self._judged:
             self._judged[left] = self._what_was_lost(work, recorded)
