@@ -25,6 +25,8 @@ MOST_LOST = 1.0
 NOTES_SAFE = 5.0
 TIME_TAG = re.compile(r"\d\d:\d\d:\d\d")
 AT_A_TIME = 4
+SLOW = 4  # every so many recorders write to a slow disk
+SLOWNESS = "1500"  # milliseconds until it has taken what is forced to it
 SIGNALS = (signal.SIGKILL, signal.SIGKILL, signal.SIGKILL, signal.SIGABRT, signal.SIGSEGV)
 
 Lost = collections.namedtuple("Lost", "seconds waited")  # waited for a processor meanwhile, which nobody can write without
@@ -66,8 +68,9 @@ def _average(lost):
 def _kill_recorder(tools, played, number, how, moment):
     """Gives the seconds that were heard and are not in the take."""
     path = os.path.join(tools.folder, f"take{number}.m4a")
+    slow = {"LD_PRELOAD": tools.built("tests/torture/SlowDisk.so"), "TORTURE_SLOWNESS": SLOWNESS} if number % SLOW == 0 else {}
     recorder = subprocess.Popen([tools.built("tests/audio/engine/RecordUntilKilled"), path], stdin=subprocess.DEVNULL,
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, env=os.environ | slow)
     recorded = 0.0
     with watched(recorder.pid, played.now) as waited:
         for line in recorder.stdout:
@@ -86,7 +89,8 @@ def _kill_recorder(tools, played, number, how, moment):
         # The witness may lag a little on a busy machine, and then the recorder's own word is the harder one.
         kept = played.span(take, heard)[1]
         lost = Lost(max(heard - kept, recorded - len(take) / sound.RATE), waited.since(kept))
-        _tell_of_more(tools, lost, f"kill {number} ({how.name}): the recorder told {recorded:.2f} s, the file has {len(take) / sound.RATE:.2f} s")
+        what = f"kill {number} ({how.name}{', slow disk' if slow else ''})"
+        _tell_of_more(tools, lost, f"{what}: the recorder told {recorded:.2f} s, the file has {len(take) / sound.RATE:.2f} s")
         return lost
     except Failed as failure:
         raise Failed(f"kill {number} ({how.name} at {recorded:.2f} s): {failure}; see {tools.keep(os.path.basename(path), path)}")
