@@ -122,7 +122,7 @@ void PulseCapture::contextChanged()
         lost();
     if (state != PA_CONTEXT_READY)
         return;
-    forget(pa_context_get_source_info_by_name(
+    pa_operation *const question = pa_context_get_source_info_by_name(
         m_context.get(), "@DEFAULT_SOURCE@",
         [](pa_context *, const pa_source_info *microphone, int end, void *self) {
             if (microphone)
@@ -130,7 +130,10 @@ void PulseCapture::contextChanged()
             else if (end < 0)
                 static_cast<PulseCapture *>(self)->lost();
         },
-        this));
+        this);
+    if (!question)
+        lost();
+    forget(question);
 }
 
 void PulseCapture::microphoneFound(const pa_source_info &microphone)
@@ -172,9 +175,13 @@ void PulseCapture::openStream()
 void PulseCapture::streamChanged()
 {
     const pa_stream_state_t state = pa_stream_get_state(m_stream.get());
-    if (state == PA_STREAM_READY)
+    if (state == PA_STREAM_READY) {
         settle(Outcome::Opened);
-    else if (!PA_STREAM_IS_GOOD(state))
+        // Somebody may have paused or gone on since the stream was asked for.
+        const bool isCorked = pa_stream_is_corked(m_stream.get()) > 0;
+        if (isCorked != !m_sink)
+            forget(pa_stream_cork(m_stream.get(), m_sink ? 0 : 1, nullptr, nullptr));
+    } else if (!PA_STREAM_IS_GOOD(state))
         lost();
 }
 

@@ -1,10 +1,12 @@
 #include "audio/engine/RecordingCase.h"
+#include "audio/engine/ServerDoor.h"
 #include "support/StderrCatcher.h"
 
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
 using namespace tarvelo::engine;
 using namespace tarvelo::tests;
 
@@ -148,6 +150,52 @@ private Q_SLOTS:
         verifyThatAllIsThere();
     }
 
+    // The server is back, and has not answered yet.
+    void aPauseThatEndsWhileTheMicrophoneIsOpenedIsOver()
+    {
+        QVERIFY(startServer());
+        ServerDoor door(path(u"door"_s), server().socketPath());
+        const QByteArray way = "unix:" + QFile::encodeName(path(u"door"_s));
+        qputenv("PULSE_SERVER", way);
+        m_recorder = recording();
+        QVERIFY(door.isOpen() && m_recorder && isHeard());
+        m_recorder->pause();
+        qputenv("PULSE_SERVER", way); // nobody else's way any more
+        door.holdStreams();
+        door.sendAway();
+        QTRY_VERIFY_WITH_TIMEOUT(door.isHoldingOne(), Patience);
+
+        QVERIFY(m_recorder->record());
+        door.letThrough();
+
+        QVERIFY(goesOn() && isHeard());
+        verifyThatAllIsThere();
+        m_recorder.reset();
+    }
+
+    void aPauseWhileTheMicrophoneIsOpenedUsesItNoLonger()
+    {
+        QVERIFY(startServer());
+        ServerDoor door(path(u"door"_s), server().socketPath());
+        const QByteArray way = "unix:" + QFile::encodeName(path(u"door"_s));
+        qputenv("PULSE_SERVER", way);
+        m_recorder = recording();
+        QVERIFY(door.isOpen() && m_recorder && isHeard());
+        qputenv("PULSE_SERVER", way); // nobody else's way any more
+        door.holdStreams();
+        door.sendAway();
+        QTRY_VERIFY_WITH_TIMEOUT(door.isHoldingOne(), Patience);
+
+        m_recorder->pause();
+        door.letThrough();
+
+        QTRY_VERIFY_WITH_TIMEOUT(isMicrophoneHeldBack(), Patience);
+        QVERIFY(m_recorder->record());
+        QVERIFY(goesOn() && isHeard());
+        verifyThatAllIsThere();
+        m_recorder.reset();
+    }
+
 private:
     void prepare() override
     {
@@ -159,6 +207,14 @@ private:
         m_recorder.reset();
         m_passages.clear();
         m_stderr.reset();
+    }
+
+    static bool isMicrophoneHeldBack()
+    {
+        QProcess pactl;
+        pactl.start(u"env"_s, {u"LC_ALL=C"_s, u"pactl"_s, u"list"_s, u"source-outputs"_s});
+        return pactl.waitForFinished(Patience) &&
+               pactl.readAllStandardOutput().contains("Corked: yes");
     }
 
     static void everyOutage()
