@@ -15,16 +15,17 @@ namespace tarvelo::engine {
 
 namespace {
 
+using Kind = SoundFileInput::Kind;
+
 constexpr std::int64_t SamplesInPacket = 1024; // in all of AAC's low complexity profile
 // What two ways of measuring may differ by.
 constexpr double SecondsInPacket = 0.05;
 
 // FFmpeg's own way to a file asks the system for the size of it with each packet, which for a long
 // lecture is half of all that keeping it costs.
-std::unique_ptr<SoundFileInput> openTake(const std::string &path)
+std::unique_ptr<SoundFileInput> openTake(const std::string &path, SoundFileInput::Kind kind)
 {
-    return SoundFileInput::open(ByteSource::ofFile(QFile::decodeName(path.c_str())),
-                                SoundFileInput::Kind::Take);
+    return SoundFileInput::open(ByteSource::ofFile(QFile::decodeName(path.c_str())), kind);
 }
 
 // Hidden, and always the same for one take: what a crash left is written over, not gathered.
@@ -62,7 +63,7 @@ std::optional<TakeExtent> copyPackets(SoundFileInput &input, MovieOutput &movie,
 std::optional<TakeExtent> writeCopy(const std::string &from, const std::string &to,
                                     const std::optional<TakeExtent> &extent)
 {
-    const auto input = openTake(from);
+    const auto input = openTake(from, extent ? Kind::Take : Kind::Strange);
     const auto file = input ? OutputFile::create(to) : nullptr;
     if (!file)
         return std::nullopt;
@@ -79,7 +80,7 @@ std::optional<TakeExtent> writeCopy(const std::string &from, const std::string &
 // A writer that was refused memory does not always say so: then the index lacks something.
 bool holds(const std::string &copy, const TakeExtent &extent)
 {
-    const auto input = openTake(copy);
+    const auto input = openTake(copy, Kind::Take);
     if (!input)
         return false;
     const AVStream &track = input->track();
@@ -91,8 +92,8 @@ bool holds(const std::string &copy, const TakeExtent &extent)
 // Where nobody knows how long a take is, a reader that was refused memory may have ended early.
 bool isAsLong(const std::string &copy, const std::string &take)
 {
-    const auto copied = openTake(copy);
-    const auto input = openTake(take);
+    const auto copied = openTake(copy, Kind::Strange);
+    const auto input = openTake(take, Kind::Strange);
     return copied && input && copied->seconds() + SecondsInPacket >= input->seconds();
 }
 

@@ -9,7 +9,8 @@ namespace tarvelo::engine {
 
 double secondsOfLeftTake(const QString &path)
 {
-    const auto input = SoundFileInput::open(ByteSource::ofFile(path), SoundFileInput::Kind::Take);
+    const auto input =
+        SoundFileInput::open(ByteSource::ofFile(path), SoundFileInput::Kind::Strange);
     return input ? input->seconds() : 0;
 }
 

@@ -22,8 +22,9 @@ public:
         "aac,alac,mp3float,flac,vorbis,opus,pcm_u8,pcm_s8,pcm_s16le,pcm_s16be,pcm_s24le,pcm_s24be,"
         "pcm_s32le,pcm_s32be,pcm_f32le,pcm_f32be,pcm_f64le,pcm_f64be,pcm_alaw,pcm_mulaw";
 
-    // A take of this program's says all about its sound at its beginning; a stranger's file is
-    // searched for it, with its decoder.
+    // A take of this program's, read from beginning to end, says all about its sound at its
+    // beginning. A stranger's file, or one in which a place is looked for, is searched for it, with
+    // its decoder.
     enum class Kind { Strange, Take };
 
     // Null when the bytes are no file with sound. They are shared, not copied.

@@ -46,6 +46,17 @@ private Q_SLOTS:
         QVERIFY(std::abs(secondsOfLeftTake(path()) - seconds) < 0.03);
     }
 
+    void theLengthOfALongTakeIsThatOfAllOfIt()
+    {
+        write(recordingOf(tune(44100, 25), Ending::CutOff));
+        const double seconds = secondsOfLeftTake(path());
+        QVERIFY(seconds > 24 && seconds <= 25.05);
+
+        QVERIFY(finishLeftTake(path()));
+
+        QVERIFY(std::abs(secondsOfLeftTake(path()) - seconds) < 0.03);
+    }
+
     // Wherever the last bytes were cut off, what stands before that is kept.
     void whatWasCutOffIsKeptAsFarAsItIsWhole()
     {

@@ -1,0 +1,92 @@
+#include "audio/engine/FragmentedFile.h"
+
+#include "audio/engine/AacEncoder.h"
+#include "support/TestCase.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <chrono>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+using namespace tarvelo::engine;
+
+namespace {
+
+// As a disk does that failed to write: it says so once, and has forgotten what it was.
+int g_syncsFailing = 0;
+
+void forgetContent(int file)
+{
+    struct stat status = {};
+    if (::fstat(file, &status) == 0 && S_ISREG(status.st_mode)) {
+        const std::string path = "/proc/self/fd/" + std::to_string(file);
+        ::truncate(path.c_str(), 0);
+        ::truncate(path.c_str(), status.st_size);
+    }
+}
+
+} // namespace
+
+extern "C" __attribute__((used)) int fdatasync(int file)
+{
+    if (g_syncsFailing <= 0)
+        return static_cast<int>(::syscall(SYS_fdatasync, file));
+    --g_syncsFailing;
+    forgetContent(file);
+    errno = EIO;
+    return -1;
+}
+
+class FragmentedFileTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatADiskFailedToWriteIsWrittenAgain()
+    {
+        const QByteArray expected = takeOf(0);
+        QVERIFY(!expected.isEmpty());
+
+        QCOMPARE(takeOf(1), expected);
+
+        QVERIFY(m_isSynced);
+    }
+
+    void aDiskThatWritesNothingIsSaidToHaveFailed()
+    {
+        takeOf(1000);
+
+        QVERIFY(!m_isSynced);
+    }
+
+private:
+    QByteArray takeOf(int syncsFailing)
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("take.m4a")));
+        const auto encoder = AacEncoder::create({});
+        const auto take = FragmentedFile::create(
+            OutputFile::create(QFile::encodeName(file.fileName()).toStdString()), encoder->codec());
+        for (int frame = 0; frame < 100; ++frame) {
+            AVFrame *quiet = encoder->frame();
+            av_samples_set_silence(quiet->extended_data, 0, encoder->frameLength(), 2,
+                                   AV_SAMPLE_FMT_FLTP);
+            encoder->encode(encoder->frameLength(),
+                            [&](const AVPacket &packet) { take->add(packet); });
+        }
+        g_syncsFailing = syncsFailing;
+        take->finish();
+        g_syncsFailing = 0;
+        m_isSynced = take->isSynced();
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    bool m_isSynced = false;
+};
+
+QTEST_GUILESS_MAIN(FragmentedFileTest)
+#include "FragmentedFileTest.moc"
