@@ -97,29 +97,49 @@ void FragmentedFile::putWaiting()
         m_bytesUnsynced += next.bytes.size();
         m_inFile = next.upToIt;
         m_unsynced.push_back(std::move(next));
+        // A disk may take very long.
+        while (m_bytesUnsynced > MostBytesWaiting)
+            forgetOldestUnsynced();
     }
 }
 
 void FragmentedFile::syncNowAndThen()
 {
-    if (std::chrono::steady_clock::now() - m_synced >= SyncInterval)
-        sync();
+    if (const auto isOnDisk = m_sync.outcome())
+        syncEnded(*isOnDisk);
+    const auto now = std::chrono::steady_clock::now();
+    if (m_sync.isUnderWay() || now - m_synced < SyncInterval)
+        return;
+    m_synced = now;
+    m_syncing = m_unsynced.size();
+    m_sync.begin();
+}
+
+void FragmentedFile::sync()
+{
+    if (const auto isOnDisk = m_sync.wait())
+        syncEnded(*isOnDisk);
+    m_syncing = m_unsynced.size();
+    syncEnded(m_file->sync());
 }
 
 // A disk tells only once that it lost something, and takes it for written afterwards: all that it
 // may be is written again, for the next time.
-void FragmentedFile::sync()
+void FragmentedFile::syncEnded(bool isOnDisk)
 {
-    m_synced = std::chrono::steady_clock::now();
-    if (m_file->sync()) {
-        m_unsynced.clear();
-        m_bytesUnsynced = 0;
-        return;
-    }
-    for (; m_bytesUnsynced > MostBytesWaiting; m_unsynced.pop_front())
-        m_bytesUnsynced -= m_unsynced.front().bytes.size();
-    for (const Fragment &fragment : m_unsynced)
-        m_file->writeAt(fragment.offset, fragment.bytes);
+    while (isOnDisk && m_syncing > 0)
+        forgetOldestUnsynced();
+    m_syncing = 0;
+    if (!isOnDisk)
+        for (const Fragment &fragment : m_unsynced)
+            m_file->writeAt(fragment.offset, fragment.bytes);
+}
+
+void FragmentedFile::forgetOldestUnsynced()
+{
+    m_bytesUnsynced -= m_unsynced.front().bytes.size();
+    m_unsynced.pop_front();
+    m_syncing -= m_syncing > 0 ? 1 : 0;
 }
 
 bool FragmentedFile::finish()

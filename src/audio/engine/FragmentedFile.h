@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/engine/BackgroundSync.h"
 #include "audio/engine/FragmentMaker.h"
 #include "audio/engine/OutputFile.h"
 #include "audio/engine/Reserve.h"
@@ -14,7 +15,7 @@ namespace tarvelo::engine {
 // A take on the disk while it grows: only whole fragments of a quarter of a second stand in the
 // file, so that it plays whatever happens to the program, the machine or the disk. A fragment for
 // which there is no room waits in memory and is tried again with the next one, and at the end with
-// the room that was held for it.
+// the room that was held for it. Nobody waits for the disk to have it for certain but the end.
 class FragmentedFile final
 {
 public:
@@ -62,8 +63,11 @@ private:
     void putWaiting();
     void syncNowAndThen();
     void sync();
+    void syncEnded(bool isOnDisk);
+    void forgetOldestUnsynced();
 
     std::unique_ptr<OutputFile> m_file;
+    BackgroundSync m_sync{*m_file};
     Reserve m_reserve;
     std::unique_ptr<FragmentMaker> m_maker;
     int m_rate = 0;
@@ -74,6 +78,7 @@ private:
     std::size_t m_bytesWaiting = 0;
     std::deque<Fragment> m_unsynced;
     std::size_t m_bytesUnsynced = 0;
+    std::size_t m_syncing = 0; // of the unsynced, those that the sync which is under way is for
     bool m_diskFails = false;
     std::chrono::steady_clock::time_point m_synced = std::chrono::steady_clock::now();
 };

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <sys/stat.h>
@@ -17,7 +18,11 @@ using namespace tarvelo::engine;
 namespace {
 
 // As a disk does that failed to write: it says so once, and has forgotten what it was.
-int g_syncsFailing = 0;
+std::atomic<int> g_syncsFailing = 0;
+
+// As a disk that takes its time: until `g_isDiskBusy` is over.
+std::atomic<bool> g_isDiskBusy = false;
+std::atomic<bool> g_isSyncWaiting = false;
 
 void forgetContent(int file)
 {
@@ -33,6 +38,8 @@ void forgetContent(int file)
 
 extern "C" __attribute__((used)) int fdatasync(int file)
 {
+    g_isSyncWaiting = g_isDiskBusy.load();
+    g_isDiskBusy.wait(true);
     if (g_syncsFailing <= 0)
         return static_cast<int>(::syscall(SYS_fdatasync, file));
     --g_syncsFailing;
@@ -63,7 +70,45 @@ private Q_SLOTS:
         QVERIFY(!m_isSynced);
     }
 
+    // What waits in memory is lost when the program is killed.
+    void aDiskThatTakesItsTimeKeepsNothingFromTheFile()
+    {
+        const QTemporaryDir folder;
+        const auto encoder = AacEncoder::create({});
+        const auto take = FragmentedFile::create(
+            OutputFile::create(
+                QFile::encodeName(folder.filePath(QStringLiteral("take.m4a"))).toStdString()),
+            encoder->codec());
+        g_isDiskBusy = true;
+        while (!g_isSyncWaiting)
+            addSilence(*encoder, *take, 10);
+
+        const double before = take->secondsInFile();
+        addSilence(*encoder, *take, 100);
+        const double grown = take->secondsInFile() - before;
+        const bool wasSynced = take->isSynced();
+        g_isDiskBusy = false;
+        g_isDiskBusy.notify_all();
+        take->finish();
+
+        QVERIFY2(grown > 100 * 1024 / 44100.0 - 2 * FragmentedFile::FragmentSeconds,
+                 qPrintable(QString::number(grown)));
+        QVERIFY(!wasSynced);
+        QVERIFY(take->isSynced());
+    }
+
 private:
+    static void addSilence(AacEncoder &encoder, FragmentedFile &take, int frames)
+    {
+        for (int frame = 0; frame < frames; ++frame) {
+            AVFrame *quiet = encoder.frame();
+            av_samples_set_silence(quiet->extended_data, 0, encoder.frameLength(), 2,
+                                   AV_SAMPLE_FMT_FLTP);
+            encoder.encode(encoder.frameLength(),
+                           [&](const AVPacket &packet) { take.add(packet); });
+        }
+    }
+
     QByteArray takeOf(int syncsFailing)
     {
         const QTemporaryDir folder;
@@ -71,13 +116,7 @@ private:
         const auto encoder = AacEncoder::create({});
         const auto take = FragmentedFile::create(
             OutputFile::create(QFile::encodeName(file.fileName()).toStdString()), encoder->codec());
-        for (int frame = 0; frame < 100; ++frame) {
-            AVFrame *quiet = encoder->frame();
-            av_samples_set_silence(quiet->extended_data, 0, encoder->frameLength(), 2,
-                                   AV_SAMPLE_FMT_FLTP);
-            encoder->encode(encoder->frameLength(),
-                            [&](const AVPacket &packet) { take->add(packet); });
-        }
+        addSilence(*encoder, *take, 100);
         g_syncsFailing = syncsFailing;
         take->finish();
         g_syncsFailing = 0;
