@@ -166,7 +166,10 @@ std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) con
                   journal.target);
     if (!rows)
         return std::nullopt;
-    return rows->isEmpty() ? 0 : rows->first().first().toLongLong();
+    for (const auto &row : *rows)
+        if (!journal.target.isEmpty() || !m_rows.values().contains(row.first().toLongLong()))
+            return row.first().toLongLong();
+    return 0;
 }
 
 // Without the reset that a failed write of the program is followed by: nobody asked for this one
@@ -179,7 +182,9 @@ std::optional<qint64> LeftLectures::store(const Left &left)
     const auto insert = [&] {
         return database->executeNonQueryArguments(store::statements::Insert, left.journal.row());
     };
-    auto row = storedRow(left.journal);
+    // A journal that could not be removed is no second lecture.
+    auto row =
+        m_rows.contains(left.journal.id) ? m_rows.value(left.journal.id) : storedRow(left.journal);
     const auto makeTable = [&] {
         return database->executeNonQuery(store::statements::CreateAfterInsert);
     };
@@ -187,14 +192,17 @@ std::optional<qint64> LeftLectures::store(const Left &left)
         row = database->lastinsertedRowID();
     if (row.value_or(0) == 0)
         return std::nullopt;
+    if (!left.journal.id.isEmpty())
+        m_rows.insert(left.journal.id, *row);
     platform::SteadyFile(left.journalPath).remove();
     return row;
 }
 
-void LeftLectures::storeOwed(const std::function<void(const QString &, qint64)> &stored)
+void LeftLectures::storeOwed(const std::function<void(const QString &, qint64)> &stored,
+                             const QStringList &notYet)
 {
     for (Left &left : all()) {
-        if (!left.journal.isDone)
+        if (!left.journal.isDone || notYet.contains(left.journal.id))
             continue;
         const QString &target = left.journal.target;
         if (left.takePath.isEmpty() && !target.isEmpty() && !QFileInfo::exists(target)) {

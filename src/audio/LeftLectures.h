@@ -3,6 +3,8 @@
 #include "audio/LeftFiles.h"
 #include "store/LectureJournal.h"
 
+#include <QHash>
+
 #include <functional>
 
 namespace tarvelo::platform {
@@ -59,8 +61,10 @@ public:
     // down is false, one for which there is no such journal null.
     std::optional<bool> change(const QString &id, const QString &subject, const QString &notes);
     void discard(const QString &id);
-    // Goes on with what is to be kept. `stored` hears of each, with its journal's ID and its row's.
-    void storeOwed(const std::function<void(const QString &, qint64)> &stored = {});
+    // Goes on with what is to be kept, but for the journals with these IDs. `stored` hears of each,
+    // with its journal's ID and its row's.
+    void storeOwed(const std::function<void(const QString &, qint64)> &stored = {},
+                   const QStringList &notYet = {});
     // For one that is done and stands in the folder of the takes, whose journal cannot be written
     // there. Its row, null when that is not stored.
     std::optional<qint64> storeUnwritten(const QString &folder,
@@ -81,6 +85,7 @@ private:
     const AudioFileLocations &m_locations;
     const platform::Dates &m_dates;
     store::LectureDatabase &m_database;
+    QHash<QString, qint64> m_rows;    // stored by this process, by the journal's ID
     std::optional<LeftFiles> m_files; // null until a folder is ours
 };
 

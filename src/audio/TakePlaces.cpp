@@ -103,6 +103,7 @@ void TakePlaces::discardOwed(const QString &id)
         place->writer->remove();
     m_left.discardUnwritten(place->path, *place->owed);
     place->owed.reset();
+    place->isOccupied = place->folder != nullptr;
 }
 
 void TakePlaces::setOccupied()

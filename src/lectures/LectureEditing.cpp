@@ -143,13 +143,8 @@ void LectureEditing::save(const Lecture &lecture, const QString &subject, const 
 {
     if (!lecture)
         return;
-    if (lecture->hasGone())
-        m_with.database.changeGone(*lecture, subject, notes);
-    else if (!lecture->hasRow())
-        m_with.changeWaiting(*lecture, subject, notes);
-    else if (m_with.database.updateToDoDatawithSqlStatementWithArguments(
-                 store::statements::Update,
-                 {subject, notes, QString::number(lecture->getRecordUniqueID())}))
+    m_with.changeWaiting(*lecture, subject, notes);
+    if (isSaved(*lecture, subject, notes))
         m_unsavedTexts.forget(*lecture);
     else
         m_unsavedTexts.keep(*lecture, subject, notes);
@@ -162,6 +157,18 @@ void LectureEditing::save(const Lecture &lecture, const QString &subject, const 
         shown->setSubject(subject);
         shown->setNotes(notes);
     }
+}
+
+// One without a row has nothing to save but what waits of it.
+bool LectureEditing::isSaved(const store::LectureInfoItem &lecture, const QString &subject,
+                             const QString &notes)
+{
+    const qint64 id = lecture.getRecordUniqueID();
+    if (lecture.hasGone())
+        return m_with.database.changeGone(lecture.copyPath(), id, subject, notes);
+    return !lecture.hasRow() ||
+           m_with.database.updateToDoDatawithSqlStatementWithArguments(
+               store::statements::Update, {subject, notes, QString::number(id)});
 }
 
 void LectureEditing::onDoneEdit(QWidget *sender)
@@ -234,11 +241,32 @@ void LectureEditing::lecturesWereDeleted()
     }
 }
 
-void LectureEditing::lecturesHaveGone(const QString &copyPath)
+void LectureEditing::lectureWasDeleted(const store::LectureInfoItem &lecture)
+{
+    m_unsavedTexts.forget(lecture);
+}
+
+void LectureEditing::lecturesHaveGone(const store::GoneLectures &gone)
 {
     for (const Lecture &lecture : {m_itemEditingNow, m_itemOfWindow, m_itemOfView})
-        if (lecture && lecture->hasRow())
-            lecture->setGoneTo(copyPath);
+        if (lecture)
+            gone.mark(*lecture);
+    m_unsavedTexts.lecturesHaveGone(gone);
+}
+
+void LectureEditing::lecturesCameBack()
+{
+    for (const Lecture &lecture : {m_itemEditingNow, m_itemOfWindow, m_itemOfView}) {
+        if (!lecture || !lecture->hasGone())
+            continue;
+        const auto rows = m_with.database.connection()->executeQuery(
+            QStringLiteral("SELECT ID FROM audioData WHERE audioFileFullPath = ? AND "
+                           "ifnull(notes, '') = ?"),
+            lecture->getLectureAudioPath(), lecture->strNotes() + QStringLiteral(""));
+        if (!rows || rows->isEmpty())
+            continue;
+        lecture->setRow(rows->first().first().toLongLong());
+    }
 }
 
 bool LectureEditing::isStored(const store::LectureInfoItem &lecture) const

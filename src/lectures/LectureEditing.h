@@ -79,9 +79,11 @@ public:
     void mouseDownTextFieldClicked(widgets::MouseDownTextField &field);
     // A lecture was deleted: what shows it saves no more, since its ID may be given again.
     void lecturesWereDeleted();
-    // The table was emptied: what is saved from now on into a lecture that was open goes to the
-    // copy in which that is.
-    void lecturesHaveGone(const QString &copyPath);
+    void lectureWasDeleted(const store::LectureInfoItem &lecture);
+    // What is saved from now on into one of them that was open goes to the copy in which it is.
+    void lecturesHaveGone(const store::GoneLectures &gone);
+    // And goes to its row again.
+    void lecturesCameBack();
 
     void clearChanges();
     void textDidBeginEditing(QWidget *view) override;
@@ -99,6 +101,8 @@ private:
     void save(const Lecture &lecture, const QString &subject, const QString &notes);
     // True also when that cannot be asked.
     bool isStored(const store::LectureInfoItem &lecture) const;
+    bool isSaved(const store::LectureInfoItem &lecture, const QString &subject,
+                 const QString &notes);
     bool lectureViewShowsUntouched(const Lecture &lecture) const;
     void textWasTouched();
 

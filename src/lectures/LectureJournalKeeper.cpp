@@ -152,7 +152,7 @@ store::LectureJournal LectureJournalKeeper::journal() const
 void LectureJournalKeeper::programEnds()
 {
     writeNow();
-    m_places.clear();
+    storeWhatCanBe();
 }
 
 void LectureJournalKeeper::lectureDone()
@@ -219,10 +219,10 @@ void LectureJournalKeeper::lectureChanged(const store::LectureInfoItem &lecture,
     writeChanges();
 }
 
-bool LectureJournalKeeper::writeChanges()
+void LectureJournalKeeper::writeChanges()
 {
     if (m_changed.isEmpty())
-        return true;
+        return;
     m_places.clear();
     m_changed.removeIf([this](const std::pair<const QString &, Texts &> &changed) {
         const auto &[subject, notes] = changed.second;
@@ -232,7 +232,6 @@ bool LectureJournalKeeper::writeChanges()
         // Where none is found it may still stand in a place from where it could not be moved.
         return isWritten.value_or(!m_places.hasOccupied());
     });
-    return m_changed.isEmpty();
 }
 
 void LectureJournalKeeper::lectureDeleted(const store::LectureInfoItem &lecture)
@@ -260,22 +259,26 @@ void LectureJournalKeeper::storeOwedLater()
         m_storeOwed.schedule(RetryInterval);
 }
 
-void LectureJournalKeeper::storeOwed()
+bool LectureJournalKeeper::storeWhatCanBe()
 {
     m_places.clear();
     discardDeleted();
-    if (!writeChanges()) {
-        storeOwedLater();
-        return;
-    }
+    writeChanges();
     bool isAnyStored = false;
     const auto stored = [this, &isAnyStored](const QString &id, qint64 row) {
         isAnyStored = true;
         if (const Lecture lecture = m_owed.take(id).lecture.lock())
-            lecture->setRecordUniqueID(row);
+            lecture->setRow(row);
     };
-    m_with.left.storeOwed(stored);
+    // Those whose changes are not on the disk yet come later.
+    m_with.left.storeOwed(stored, m_changed.keys());
     m_places.storeUnwritten(stored);
+    return isAnyStored;
+}
+
+void LectureJournalKeeper::storeOwed()
+{
+    const bool isAnyStored = storeWhatCanBe();
     const bool isStartUp = std::exchange(m_isStartUp, false);
     if (isAnyStored)
         m_with.lecturesStored(isStartUp);

@@ -99,8 +99,8 @@ private:
     QString closedMark() const;
     void storeOwed();
     void discardDeleted();
-    // False when some of them are not on the disk.
-    bool writeChanges();
+    void writeChanges();
+    bool storeWhatCanBe();
     // Empty when nothing of it is owed.
     QString journalOf(const store::LectureInfoItem &lecture) const;
 

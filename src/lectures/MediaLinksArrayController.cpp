@@ -55,12 +55,14 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
            [this](const store::LectureInfoItem &lecture) { return m_journal.owes(lecture); }},
           {windows.mainOutlets(), windows.editLectureOutlets(), windows.lectureViewOutlets(),
            windows.editPlayerOutlets(), windows.popoverOutlets()})
-    , m_deletion(
-          {services.database, m_dayList,
-           [this](const store::LectureInfoItem &lecture) { m_journal.lectureDeleted(lecture); },
-           [this](int row) { removeArrangedObject(row); }, [this] { reloadData(); },
-           [this] { goToCalendarView(nullptr); }, services.pendingRow},
-          windows.mainOutlets(), windows.popoverOutlets())
+    , m_deletion({services.database, m_dayList,
+                  [this](const store::LectureInfoItem &lecture) {
+                      m_journal.lectureDeleted(lecture);
+                      m_editing.lectureWasDeleted(lecture);
+                  },
+                  [this](int row) { removeArrangedObject(row); }, [this] { reloadData(); },
+                  [this] { goToCalendarView(nullptr); }, services.pendingRow},
+                 windows.mainOutlets(), windows.popoverOutlets())
     , m_left(m_locations, services.dates, services.database)
     , m_journal({services.dates, m_locations, m_recordingControl, m_dayList, m_left,
                  [this](bool inList) { showStoredLectures(inList); }},
@@ -82,7 +84,7 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
 {
     connectControls();
     m_services.database.setLecturesGone(
-        [this](const QString &copyPath) { lecturesHaveGone(copyPath); });
+        [this](const store::GoneLectures &gone) { lecturesHaveGone(gone); });
 }
 
 MediaLinksArrayController::~MediaLinksArrayController()
@@ -287,12 +289,11 @@ void MediaLinksArrayController::removeArrangedObject(int row)
 }
 
 // They stay in the list that shows, and must not be taken for those that get their IDs.
-void MediaLinksArrayController::lecturesHaveGone(const QString &copyPath)
+void MediaLinksArrayController::lecturesHaveGone(const store::GoneLectures &gone)
 {
     for (const Lecture &lecture : m_dayList.arrangedObjects())
-        if (lecture->hasRow())
-            lecture->setGoneTo(copyPath);
-    m_editing.lecturesHaveGone(copyPath);
+        gone.mark(*lecture);
+    m_editing.lecturesHaveGone(gone);
 }
 
 } // namespace tarvelo::lectures

@@ -193,6 +193,8 @@ public:
     LectureJournalKeeper &journal() { return m_journal; }
     // What new lectures of processes that died left behind.
     audio::LeftLectures &leftLectures() { return m_left; }
+    // From a copy, into the table.
+    void lecturesCameBack() { m_editing.lecturesCameBack(); }
     engine::AudioEngine &audioEngine() const { return m_services.engine; }
     void onCancelAddNewLecture(QWidget *sender) { m_newLecture.onCancelAddNewLecture(sender); }
     void onCloseLectureWindow(QWidget *sender) { m_newLecture.onCloseLectureWindow(sender); }
@@ -270,7 +272,7 @@ private:
     void reloadData();
     void showStoredLectures(bool inList);
     void removeArrangedObject(int row);
-    void lecturesHaveGone(const QString &copyPath);
+    void lecturesHaveGone(const store::GoneLectures &gone);
 
     LectureServices m_services;
     const LectureWindows &m_windows;

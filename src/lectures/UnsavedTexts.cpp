@@ -30,7 +30,7 @@ UnsavedTexts::~UnsavedTexts()
 
 bool UnsavedTexts::areOf(const Texts &texts, const store::LectureInfoItem &lecture)
 {
-    return texts.id == lecture.getRecordUniqueID() &&
+    return texts.id == lecture.getRecordUniqueID() && texts.copyPath == lecture.copyPath() &&
            texts.audioPath == lecture.getLectureAudioPath();
 }
 
@@ -40,8 +40,8 @@ void UnsavedTexts::keep(const store::LectureInfoItem &lecture, const QString &su
     const auto known = std::find_if(m_texts.begin(), m_texts.end(),
                                     [&](const Texts &texts) { return areOf(texts, lecture); });
     if (known == m_texts.end()) {
-        m_texts.append({lecture.getRecordUniqueID(), lecture.getLectureAudioPath(),
-                        lecture.strNotes(), subject, notes});
+        m_texts.append({lecture.getRecordUniqueID(), lecture.copyPath(),
+                        lecture.getLectureAudioPath(), lecture.strNotes(), subject, notes});
     } else {
         known->subject = subject;
         known->notes = notes;
@@ -53,6 +53,13 @@ void UnsavedTexts::keep(const store::LectureInfoItem &lecture, const QString &su
 void UnsavedTexts::forget(const store::LectureInfoItem &lecture)
 {
     m_texts.removeIf([&](const Texts &texts) { return areOf(texts, lecture); });
+}
+
+void UnsavedTexts::lecturesHaveGone(const store::GoneLectures &gone)
+{
+    for (Texts &texts : m_texts)
+        if (texts.copyPath.isEmpty() && gone.has(texts.id))
+            texts.copyPath = gone.copyPath;
 }
 
 void UnsavedTexts::putInto(store::LectureInfoItem &lecture) const
@@ -74,6 +81,8 @@ void UnsavedTexts::saveAll()
 
 bool UnsavedTexts::save(const Texts &texts)
 {
+    if (!texts.copyPath.isEmpty())
+        return m_database.changeGone(texts.copyPath, texts.id, texts.subject, texts.notes);
     store::Sqlite *const database = m_database.openDb();
     return database && database->executeNonQuery(Update, texts.subject, texts.notes, texts.id,
                                                  texts.audioPath, texts.storedNotes);

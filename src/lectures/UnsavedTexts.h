@@ -8,6 +8,7 @@
 namespace tarvelo::store {
 class LectureDatabase;
 class LectureInfoItem;
+struct GoneLectures;
 } // namespace tarvelo::store
 
 namespace tarvelo::lectures {
@@ -30,6 +31,8 @@ public:
     void keep(const store::LectureInfoItem &lecture, const QString &subject, const QString &notes);
     // They were saved after all, or replaced.
     void forget(const store::LectureInfoItem &lecture);
+    // What waits for them is to be saved in the copy in which they are.
+    void lecturesHaveGone(const store::GoneLectures &gone);
     // A lecture that was read from the store gets those that wait for it.
     void putInto(store::LectureInfoItem &lecture) const;
 
@@ -37,6 +40,7 @@ private:
     struct Texts
     {
         qint64 id;
+        QString copyPath; // of one that has gone
         QString audioPath;
         QString storedNotes;
         QString subject;

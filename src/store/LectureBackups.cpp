@@ -88,13 +88,13 @@ void LectureBackups::settle(Sqlite &database, const QString &copyPath)
         removeWithJournal(pathOf(names.at(at)));
 }
 
-void LectureBackups::change(const QString &copyPath, const QString &sql,
+bool LectureBackups::change(const QString &copyPath, const QString &sql,
                             const QVariantList &arguments) const
 {
     if (!QFileInfo::exists(copyPath))
-        return;
+        return false;
     Sqlite copy(copyPath);
-    copy.executeNonQueryArguments(sql, arguments);
+    return copy.executeNonQueryArguments(sql, arguments);
 }
 
 // A write that fails again and again, since the file is locked or damaged, must not push older

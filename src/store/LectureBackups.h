@@ -44,8 +44,9 @@ public:
     // so do the oldest.
     void settle(Sqlite &database, const QString &copyPath);
 
-    // A change that found its lecture gone is made there, so that it comes back with it.
-    void change(const QString &copyPath, const QString &sql, const QVariantList &arguments) const;
+    // A change that found its lecture gone is made there, so that it comes back with it. False when
+    // it could not be made.
+    bool change(const QString &copyPath, const QString &sql, const QVariantList &arguments) const;
 
     // Newest first. What cannot be read is not listed.
     QList<Copy> copies(Sqlite &database) const;

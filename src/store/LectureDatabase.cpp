@@ -5,8 +5,11 @@
 #include "store/LectureInfoItem.h"
 #include "store/Soundness.h"
 #include "store/Statements.h"
+#include "store/Tables.h"
 
 #include <QFileInfo>
+
+#include <utility>
 
 namespace tarvelo::store {
 
@@ -110,16 +113,15 @@ bool LectureDatabase::updateToDoDatawithSqlStatementWithArguments(const QString 
     return writeOrReset(sql, arguments, statements::CreateAfterUpdate);
 }
 
-void LectureDatabase::setLecturesGone(std::function<void(const QString &)> lecturesGone)
+void LectureDatabase::setLecturesGone(std::function<void(const GoneLectures &)> lecturesGone)
 {
     m_lecturesGone = std::move(lecturesGone);
 }
 
-void LectureDatabase::changeGone(const LectureInfoItem &lecture, const QString &subject,
+bool LectureDatabase::changeGone(const QString &copyPath, qint64 id, const QString &subject,
                                  const QString &notes) const
 {
-    m_backups.change(lecture.copyPath(), statements::Update,
-                     {subject, notes, lecture.getRecordUniqueID()});
+    return m_backups.change(copyPath, statements::Update, {subject, notes, QString::number(id)});
 }
 
 bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
@@ -143,6 +145,12 @@ bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
     const bool isGone = m_connection->executeNonQuery(statements::DeleteByPathBegin + path +
                                                       statements::DeleteByPathEnd);
     m_backups.settle(*m_connection, *copy);
+    if (isGone && rows->size() > 1 && m_lecturesGone) {
+        QSet<qint64> ids;
+        for (const auto &row : *rows)
+            ids.insert(row.first().toLongLong());
+        m_lecturesGone({*copy, ids});
+    }
     return isGone;
 }
 
@@ -152,6 +160,7 @@ bool LectureDatabase::writeOrReset(const QString &sql, const QVariantList &argum
     Sqlite *const database = openDb();
     if (!database)
         return false;
+    tellOfEmptyTable(*database);
     const bool isWritten = database->executeNonQueryArguments(sql, arguments) ||
                            reset(*database, sql, arguments, creationText);
     m_backups.holdRoom(*database);
@@ -168,26 +177,37 @@ bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariant
     // Without a copy nothing goes. What was held for it is free then, and may be all that was
     // wanting.
     const auto copy = m_backups.keep(database, statements::AllIds);
+    bool haveGone = false;
     if (copy) {
         database.executeNonQuery(statements::Drop);
         database.executeNonQuery(creationText);
         database.executeNonQuery(statements::DeleteAll);
         m_backups.settle(database, *copy);
-        tellOfEmptyTable(database, *copy);
+        m_copyUntold = *copy;
+        haveGone = tellOfEmptyTable(database);
     }
-    const bool isWritten = database.executeNonQueryArguments(sql, arguments);
-    if (isWritten && copy && creationText == statements::CreateAfterUpdate)
-        m_backups.change(*copy, sql, arguments);
+    bool isWritten = database.executeNonQueryArguments(sql, arguments);
+    if (isWritten && haveGone && creationText == statements::CreateAfterUpdate)
+        isWritten = m_backups.change(*copy, sql, arguments);
     makeIndexes();
     return isWritten;
 }
 
-void LectureDatabase::tellOfEmptyTable(Sqlite &database, const QString &copyPath)
+// As long as it is not known whether they are there, it is asked again. True when it told so.
+bool LectureDatabase::tellOfEmptyTable(Sqlite &database)
 {
+    if (m_copyUntold.isEmpty())
+        return false;
+    const auto hasLectures = hasTable(database, "main", QStringLiteral("audioData"));
     const auto ids = database.executeQuery(statements::AllIds);
-    const bool isEmpty = ids && ids->isEmpty() && database.errorCode() == 0;
-    if (isEmpty && !copyPath.isEmpty() && m_lecturesGone)
-        m_lecturesGone(copyPath);
+    const bool areThereSome = ids && !ids->isEmpty();
+    const bool areThereNone = hasLectures == false || (ids && database.errorCode() == 0);
+    if (!areThereSome && !areThereNone)
+        return false;
+    const QString copyPath = std::exchange(m_copyUntold, QString());
+    if (!areThereSome && m_lecturesGone)
+        m_lecturesGone({copyPath});
+    return !areThereSome;
 }
 
 // They only make the two queries fast. A file without the table, or one that cannot be written,

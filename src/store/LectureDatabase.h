@@ -2,6 +2,7 @@
 
 #include "platform/Process.h"
 #include "store/DamagedFiles.h"
+#include "store/GoneLectures.h"
 #include "store/LectureBackups.h"
 #include "store/Sqlite.h"
 
@@ -9,8 +10,6 @@
 #include <memory>
 
 namespace tarvelo::store {
-
-class LectureInfoItem;
 
 // The one database file of lectures and the connection that all share, open from its first use to
 // the end of the run. Every change of a lecture passes here. Nothing is ever reported.
@@ -50,11 +49,11 @@ public:
                                                    const QVariantList &arguments);
     bool updateToDoDatawithSqlStatementWithArguments(const QString &sql,
                                                      const QVariantList &arguments);
-    // Hears of every time the table was emptied, with the path of the copy that all lectures are
-    // in which had a row until then. Before the statement is run once more.
-    void setLecturesGone(std::function<void(const QString &)> lecturesGone);
+    // Hears of every time that lectures went in bulk, before any other gets one of their IDs.
+    void setLecturesGone(std::function<void(const GoneLectures &)> lecturesGone);
     // For a lecture that has gone: its row in the copy gets the texts, and comes back with them.
-    void changeGone(const LectureInfoItem &lecture, const QString &subject,
+    // False when it could not be changed there.
+    bool changeGone(const QString &copyPath, qint64 id, const QString &subject,
                     const QString &notes) const;
     // Goes by the audio path: every lecture with the same path goes, so all without audio at once.
     // Never opens the database. The path is pasted as it stands, so that with an apostrophe in it
@@ -67,7 +66,7 @@ private:
                       const QString &creationText);
     bool reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
                const QString &creationText);
-    void tellOfEmptyTable(Sqlite &database, const QString &copyPath);
+    bool tellOfEmptyTable(Sqlite &database);
     bool openFile(const QString &file);
     bool replaceWithSound();
     void makeIndexes();
@@ -77,7 +76,8 @@ private:
     LectureBackups m_backups;
     DamagedFiles m_damagedFiles;
     std::unique_ptr<Sqlite> m_connection;
-    std::function<void(const QString &)> m_lecturesGone;
+    std::function<void(const GoneLectures &)> m_lecturesGone;
+    QString m_copyUntold;      // in which lectures may be that have gone since
     bool m_syncsNames = false; // of the connection as it was last opened
 };
 

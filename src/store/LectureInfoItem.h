@@ -59,6 +59,12 @@ public:
     void setLectureAudioPath(const QString &path) { m_strLectureAudioPath = path; }
     void setRecordUniqueID(qint64 id) { m_intRecordUniqueID = id; }
     void setGoneTo(const QString &copyPath) { m_copyPath = copyPath; }
+    // It has one, also if another one went.
+    void setRow(qint64 id)
+    {
+        setRecordUniqueID(id);
+        m_copyPath.clear();
+    }
     void setPeriodStart(const QDateTime &start) { m_periodStart = start; }
     void setPeriodEnd(const QDateTime &end) { m_periodEnd = end; }
 

@@ -108,7 +108,7 @@ void FragmentedFile::syncNowAndThen()
     if (const auto isOnDisk = m_sync.outcome())
         syncEnded(*isOnDisk);
     const auto now = std::chrono::steady_clock::now();
-    if (m_sync.isUnderWay() || now - m_synced < SyncInterval)
+    if (m_unsynced.empty() || m_sync.isUnderWay() || now - m_synced < SyncInterval)
         return;
     m_synced = now;
     m_syncing = m_unsynced.size();

@@ -43,6 +43,8 @@ public:
 
     void add(const AVPacket &packet);
     void retry();
+    // What was written by now is forced to the disk, by another thread, when it is time for that.
+    void syncNowAndThen();
     // Writes what is left and forces it to the disk; false when not all of the sound got into the
     // file.
     bool finish();
@@ -61,7 +63,6 @@ private:
     bool isFragmentDue() const;
     bool cut();
     void putWaiting();
-    void syncNowAndThen();
     void sync();
     void syncEnded(bool isOnDisk);
     void forgetOldestUnsynced();

@@ -41,8 +41,11 @@ OutputFile::~OutputFile()
 bool OutputFile::append(std::span<const std::uint8_t> bytes)
 {
     const std::int64_t before = m_size;
+    m_isOutOfRoom = false;
+    errno = 0;
     if (writeAt(before, bytes))
         return true;
+    m_isOutOfRoom = errno == ENOSPC || errno == EDQUOT;
     // Should even this fail, the next attempt writes over the same place.
     static_cast<void>(::ftruncate(m_descriptor, before));
     m_size = before;
@@ -51,15 +54,12 @@ bool OutputFile::append(std::span<const std::uint8_t> bytes)
 
 bool OutputFile::writeAt(std::int64_t offset, std::span<const std::uint8_t> bytes)
 {
-    m_isOutOfRoom = false;
     while (!bytes.empty()) {
         const ssize_t written = ::pwrite(m_descriptor, bytes.data(), bytes.size(), offset);
         if (written < 0 && errno == EINTR)
             continue;
-        if (written <= 0) {
-            m_isOutOfRoom = written < 0 && (errno == ENOSPC || errno == EDQUOT);
+        if (written <= 0)
             return false;
-        }
         offset += written;
         m_size = std::max(m_size, offset);
         bytes = bytes.subspan(static_cast<std::size_t>(written));

@@ -25,7 +25,7 @@ public:
     // At the end of the file: whole, or not at all.
     bool append(std::span<const std::uint8_t> bytes);
     bool writeAt(std::int64_t offset, std::span<const std::uint8_t> bytes);
-    // The last write failed for want of room, and would not have with more.
+    // What was to be appended last found no room, and would have with more.
     bool isOutOfRoom() const { return m_isOutOfRoom; }
     // Forces the content to the disk, and the name.
     bool sync();

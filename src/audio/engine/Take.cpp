@@ -88,6 +88,7 @@ void Take::writeUntilEnd()
 
 void Take::writeWhatIsThere()
 {
+    m_writer->keepSynced();
     while (const std::size_t count = m_ring.read(m_block)) {
         if (!m_writer->write(std::span(m_block).first(count)))
             m_secondsRefused =

@@ -97,6 +97,21 @@ private Q_SLOTS:
         QVERIFY(take->isSynced());
     }
 
+    // As in a pause.
+    void whatWasWrittenComesToTheDiskAlsoWhenNothingFollows()
+    {
+        const QTemporaryDir folder;
+        const auto encoder = AacEncoder::create({});
+        const auto take = FragmentedFile::create(
+            OutputFile::create(
+                QFile::encodeName(folder.filePath(QStringLiteral("take.m4a"))).toStdString()),
+            encoder->codec());
+        addSilence(*encoder, *take, 100);
+        QVERIFY(!take->isSynced());
+
+        QTRY_VERIFY((take->syncNowAndThen(), take->isSynced()));
+    }
+
 private:
     static void addSilence(AacEncoder &encoder, FragmentedFile &take, int frames)
     {
