@@ -14,6 +14,7 @@ from outside import names, sound
 from outside.desktop import Desktop
 from outside.waiting import Failed
 
+from . import student
 from .played import Played
 from .result import Result
 from .sitting import Sitting
@@ -85,7 +86,7 @@ def _kill_recorder(tools, played, number, how, moment):
     try:
         if said or recorder.returncode != -how:
             raise Failed(f"the recorder ended with {recorder.returncode} and said {said!r}")
-        take = sound.samples(path)
+        take = student.decoded(path)  # a kill in the middle of a write tears the last fragment
         # The witness may lag a little on a busy machine, and then the recorder's own word is the harder one.
         kept = played.span(take, heard)[1]
         lost = Lost(max(heard - kept, recorded - len(take) / sound.RATE), waited.since(kept))
@@ -109,7 +110,7 @@ def _kill_program(tools, sitting, played, number, how, moment):
     take = next(os.path.join(sitting.home, "temp", name) for name in os.listdir(os.path.join(sitting.home, "temp"))
                 if name.startswith("tempAudioFile"))
     try:
-        kept = played.span(sound.samples(take), heard)[1]
+        kept = played.span(student.decoded(take), heard)[1]
         lost = Lost(heard - kept, waited.since(kept))
         _tell_of_more(tools, lost, f"kill {number} of the program ({how.name})")
         return lost, _typing_lost(os.path.join(sitting.home, "temp", "lecture.journal"), typed, ended)

@@ -12,10 +12,11 @@
 
 namespace tarvelo::engine {
 
-// A take on the disk while it grows: only whole fragments of a quarter of a second stand in the
-// file, so that it plays whatever happens to the program, the machine or the disk. A fragment for
-// which there is no room waits in memory and is tried again with the next one, and at the end with
-// the room that was held for it. Nobody waits for the disk to have it for certain but the end.
+// A take on the disk while it grows: whole fragments of a quarter of a second stand in the file,
+// and at most the last is torn, so that it plays whatever happens to the program, the machine or
+// the disk. A fragment for which there is no room waits in memory and is tried again with the next
+// one, and at the end with the room that was held for it. Nobody waits for the disk to have it for
+// certain but the end.
 class FragmentedFile final
 {
 public:
