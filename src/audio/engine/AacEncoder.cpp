@@ -1,6 +1,7 @@
 #include "audio/engine/AacEncoder.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace tarvelo::engine {
 
@@ -118,8 +119,8 @@ bool AacEncoder::beginAnew(const PacketOutput &output)
             return false;
         frame->nb_samples = static_cast<int>(samples.size()) / m_settings.channels;
         for (int channel = 0; channel < m_settings.channels; ++channel)
-            std::copy_n(samples.data() + channel * frame->nb_samples, frame->nb_samples,
-                        reinterpret_cast<float *>(frame->data[channel]));
+            std::copy_n(samples.data() + std::ptrdiff_t{channel} * frame->nb_samples,
+                        frame->nb_samples, reinterpret_cast<float *>(frame->data[channel]));
         if (!send(frame.get(), output))
             return false;
     }
