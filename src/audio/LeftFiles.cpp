@@ -40,6 +40,13 @@ QString baseOf(const QString &name)
     return QFileInfo(name).completeBaseName();
 }
 
+// Twice, for what fails once: without it the recording, which is moved by then, would be offered as
+// one of a lecture that nobody knows.
+bool moveJournal(const QString &from, const QString &to)
+{
+    return SteadyFile(from).renameTo(to) || SteadyFile(from).renameTo(to);
+}
+
 QStringList beginning(const QString &begin, QStringList names)
 {
     names.removeIf([&begin](const QString &name) { return !name.startsWith(begin); });
@@ -113,7 +120,7 @@ bool LeftFiles::moveLeftovers(const QString &from) const
         const bool isJournalMoved =
             !left.contains(journal) ||
             (isTakeMoved && !free.isEmpty() &&
-             SteadyFile(from + u'/' + journal).renameTo(pathOf(free + JournalEnding)));
+             moveJournal(from + u'/' + journal, pathOf(free + JournalEnding)));
         isAllMoved = isAllMoved && isTakeMoved && isJournalMoved;
     }
     return isAllMoved;
@@ -155,7 +162,7 @@ bool LeftFiles::moveLecture(const QString &from) const
     const bool isWorthless =
         !hasTake && (found.state == JournalFile::State::Worthless || isBlank(journal, name));
     if (!isWorthless)
-        return SteadyFile(path).renameTo(pathOf(name + JournalEnding));
+        return moveJournal(path, pathOf(name + JournalEnding));
     SteadyFile(path).remove();
     return true;
 }
