@@ -161,14 +161,27 @@ bool LectureDatabase::writeOrReset(const QString &sql, const QVariantList &argum
     if (!database)
         return false;
     tellOfEmptyTable(*database);
+    const QString there = idsThere(*database);
     const bool isWritten = database->executeNonQueryArguments(sql, arguments) ||
-                           reset(*database, sql, arguments, creationText);
+                           reset(*database, sql, arguments, creationText, there);
     m_backups.holdRoom(*database);
     return isWritten;
 }
 
+// The query for the lectures that are there now. A statement may have failed although its row is
+// there, since only its last step did; that row comes with the second try, and is not to be brought
+// back too.
+QString LectureDatabase::idsThere(Sqlite &database)
+{
+    const auto rows =
+        database.executeQuery(QStringLiteral("SELECT ifnull(max(ID), 0) FROM audioData"));
+    return rows && !rows->isEmpty() ? statements::AllIds + QStringLiteral(" WHERE ID <= ") +
+                                          QString::number(rows->first().first().toLongLong())
+                                    : QString(statements::AllIds);
+}
+
 bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
-                            const QString &creationText)
+                            const QString &creationText, const QString &there)
 {
     // A damaged file is not written to before it lies aside; without room for that the lecture is
     // not stored, and nothing is lost.
@@ -176,7 +189,7 @@ bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariant
         return false;
     // Without a copy nothing goes. What was held for it is free then, and may be all that was
     // wanting.
-    const auto copy = m_backups.keep(database, statements::AllIds);
+    const auto copy = m_backups.keep(database, there);
     bool haveGone = false;
     if (copy) {
         database.executeNonQuery(statements::Drop);

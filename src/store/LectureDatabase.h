@@ -65,7 +65,8 @@ private:
     bool writeOrReset(const QString &sql, const QVariantList &arguments,
                       const QString &creationText);
     bool reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
-               const QString &creationText);
+               const QString &creationText, const QString &there);
+    static QString idsThere(Sqlite &database);
     bool tellOfEmptyTable(Sqlite &database);
     bool openFile(const QString &file);
     bool replaceWithSound();
