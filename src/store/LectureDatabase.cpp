@@ -161,23 +161,23 @@ bool LectureDatabase::writeOrReset(const QString &sql, const QVariantList &argum
     if (!database)
         return false;
     tellOfEmptyTable(*database);
-    const QString there = idsThere(*database);
-    const bool isWritten = database->executeNonQueryArguments(sql, arguments) ||
-                           reset(*database, sql, arguments, creationText, there);
+    const qint64 before = database->lastinsertedRowID();
+    const bool isWritten =
+        database->executeNonQueryArguments(sql, arguments) ||
+        reset(*database, sql, arguments, creationText, idsWithoutNew(*database, before));
     m_backups.holdRoom(*database);
     return isWritten;
 }
 
-// The query for the lectures that are there now. A statement may have failed although its row is
+// The query for the lectures that were there. A statement may have failed although its row is
 // there, since only its last step did; that row comes with the second try, and is not to be brought
 // back too.
-QString LectureDatabase::idsThere(Sqlite &database)
+QString LectureDatabase::idsWithoutNew(const Sqlite &database, qint64 lastBefore)
 {
-    const auto rows =
-        database.executeQuery(QStringLiteral("SELECT ifnull(max(ID), 0) FROM audioData"));
-    return rows && !rows->isEmpty() ? statements::AllIds + QStringLiteral(" WHERE ID <= ") +
-                                          QString::number(rows->first().first().toLongLong())
-                                    : QString(statements::AllIds);
+    const qint64 last = database.lastinsertedRowID();
+    return last == lastBefore
+               ? QString(statements::AllIds)
+               : statements::AllIds + QStringLiteral(" WHERE ID <> ") + QString::number(last);
 }
 
 bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariantList &arguments,

@@ -66,7 +66,7 @@ private:
                       const QString &creationText);
     bool reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
                const QString &creationText, const QString &there);
-    static QString idsThere(Sqlite &database);
+    static QString idsWithoutNew(const Sqlite &database, qint64 lastBefore);
     bool tellOfEmptyTable(Sqlite &database);
     bool openFile(const QString &file);
     bool replaceWithSound();
