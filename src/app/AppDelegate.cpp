@@ -47,9 +47,10 @@ AppDelegate::AppDelegate(const AppServices &services)
     , m_window(services.windows.mainWindow())
     , m_calendarView(*services.windows.mainOutlets().calendarView)
     , m_preferences(services.defaults, m_window, services.loginItem)
-    , m_bringBack(
-          services.database, services.dates,
-          [this] { return m_mediaLinksArrayController.getAudioFolderPath(); }, m_window)
+    , m_bringBack(services.database, services.dates,
+                  {[this] { return m_mediaLinksArrayController.getAudioFolderPath(); },
+                   [this] { return m_mediaLinksArrayController.journal().recordingsOwed(); }},
+                  m_window)
     , m_leftLectures(services.mediaLinksArrayController.leftLectures(), services.dates,
                      services.mediaLinksArrayController.audioEngine(), m_window)
     , m_menus(
@@ -164,7 +165,8 @@ TerminateReply AppDelegate::applicationShouldTerminate(QObject *)
     if (!isRecordingNow())
         return TerminateReply::Now;
     // One sheet says it; asking again while it stands adds no other.
-    if (platform::hasAttachedSheet(m_window))
+    const QWidget *said = m_window.findChild<QWidget *>(QStringLiteral("alertSheet"));
+    if (said && said->isVisible())
         return TerminateReply::Cancel;
     m_services.alerts.beginSheet(
         {QStringLiteral("Recording is on process!"), QStringLiteral("Ok"),

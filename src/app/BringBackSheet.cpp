@@ -35,10 +35,10 @@ QLabel *wrapped(const QString &words)
 } // namespace
 
 BringBackSheet::BringBackSheet(store::LectureDatabase &database, const platform::Dates &dates,
-                               std::function<QString()> audioFolder, QWidget &mainWindow)
+                               audio::UnlistedRecordings::Sources recordings, QWidget &mainWindow)
     : m_database(database)
     , m_dates(dates)
-    , m_recordings(database, dates, std::move(audioFolder))
+    , m_recordings(database, dates, std::move(recordings))
     , m_sheet(new QDialog(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                            Qt::WindowCloseButtonHint))
 {
@@ -185,7 +185,7 @@ std::optional<int> BringBackSheet::bringBackRow(int row)
 {
     if (row >= m_copies.size())
         return m_recordings.bringBack();
-    store::Sqlite *const database = m_database.openDb();
+    store::Sqlite *const database = m_database.openToWrite();
     const auto back = database
                           ? m_database.backups().bringBack(m_copies.at(row).filePath, *database)
                           : std::nullopt;

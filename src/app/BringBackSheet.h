@@ -30,7 +30,7 @@ class BringBackSheet final : public QObject
 public:
     // All must outlive this object, which parents its sheet to `mainWindow`.
     BringBackSheet(store::LectureDatabase &database, const platform::Dates &dates,
-                   std::function<QString()> audioFolder, QWidget &mainWindow);
+                   audio::UnlistedRecordings::Sources recordings, QWidget &mainWindow);
     ~BringBackSheet() override;
 
     QDialog *sheet() const { return m_sheet; }

@@ -99,6 +99,7 @@ void AudioFileLocations::createFolders()
     m_temporaryFolder = expandingTilde(own + QStringLiteral("/temp"));
     createFolderIfMissing(m_temporaryFolder);
     m_temporaryBasePath = m_temporaryFolder + u'/' + m_temporaryBasePath;
+    m_usualBasePath = m_temporaryBasePath;
     // Made but not written to: saved files go to the product's folder. The two are one when the
     // program runs under its own name, and both are wanted.
     createFolderIfMissing(expandingTilde(own + QStringLiteral("/Audio")));
@@ -106,7 +107,7 @@ void AudioFileLocations::createFolders()
 
 void AudioFileLocations::removeReserveLeft() const
 {
-    engine::Reserve::removeLeft(QFile::encodeName(m_temporaryBasePath).toStdString());
+    engine::Reserve::removeLeft(QFile::encodeName(m_usualBasePath).toStdString());
 }
 
 void AudioFileLocations::takesLieIn(const QString &folder)

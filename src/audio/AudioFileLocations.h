@@ -52,8 +52,8 @@ public:
     // Names the temporary file by the preference as it now is. A take that waits under the other
     // extension is no longer found then, and is saved as a lecture without audio; this is wanted.
     void setTempAudioSavePathWithFormat();
-    // Gives back the room that a process that is dead held for the end of its take. Only for who
-    // owns the folder of the take.
+    // Gives back the room that a process that is dead held for the end of its take in the usual
+    // folder. Only for who owns that.
     void removeReserveLeft() const;
     // Puts the temporary file into another folder, with the name that it has.
     void takesLieIn(const QString &folder);
@@ -68,6 +68,7 @@ private:
     const platform::Dates &m_dates;
     QString m_temporaryFolder;
     QString m_temporaryBasePath = QStringLiteral("tempAudioFile");
+    QString m_usualBasePath; // the first one
     QString m_tempAudioSavePath;
     // Of the last save.
     QString m_savedPath;

@@ -141,7 +141,7 @@ bool LeftFiles::moveLecture(const QString &from) const
     // A mark beside a journal that has no take yet is that of an older take.
     if (!names->contains(closedMarkName()) || !journal.take.isEmpty())
         for (const QString &name : *names)
-            if (name.startsWith(m_takeName + u'.') && !QFileInfo(from + u'/' + name).isDir())
+            if (isTake(name) && !QFileInfo(from + u'/' + name).isDir())
                 takes.append(from + u'/' + name);
     if (!journal.isDone)
         takes.removeIf(
@@ -165,6 +165,25 @@ bool LeftFiles::moveLecture(const QString &from) const
         return moveJournal(path, pathOf(name + JournalEnding));
     SteadyFile(path).remove();
     return true;
+}
+
+// The mark goes first: a take that comes without one is offered, one that stays behind without it
+// is offered the next time, and a mark alone says nothing.
+void LeftFiles::moveClosedFrom(const QString &from) const
+{
+    const auto there = namesIn(from);
+    const auto here = namesIn(m_folder);
+    const auto isOfTheNextLecture = [this](const QString &name) {
+        return isTake(name) || name == journalName() || name == closedMarkName();
+    };
+    if (!there || !there->contains(closedMarkName()) || there->contains(journalName()) || !here ||
+        std::ranges::any_of(*here, isOfTheNextLecture))
+        return;
+    if (!platform::renameDurably(from + u'/' + closedMarkName(), pathOf(closedMarkName())))
+        return;
+    for (const QString &name : *there)
+        if (isTake(name))
+            platform::renameDurably(from + u'/' + name, pathOf(name));
 }
 
 bool LeftFiles::moveTakes(const QStringList &takes, const QString &ofJournal,

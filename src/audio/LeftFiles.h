@@ -38,10 +38,14 @@ public:
     // any more, unless they were left on purpose. False when something of them stands there still;
     // to be tried again then.
     bool moveFrom(const QString &from) const;
+    // Moves a take that was left on purpose from another folder, where no lecture would replace it,
+    // to where the next one will. Not while something stands here; another time then.
+    void moveClosedFrom(const QString &from) const;
 
 private:
     bool moveLeftovers(const QString &from) const;
     bool moveLecture(const QString &from) const;
+    bool isTake(const QString &name) const { return name.startsWith(m_takeName + u'.'); }
     bool moveTakes(const QStringList &takes, const QString &ofJournal, const QString &name) const;
     bool isBlank(const store::LectureJournal &journal, const QString &name) const;
     // For a journal without its recording, what an earlier try moved already is no hindrance. Empty

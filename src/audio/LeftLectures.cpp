@@ -37,16 +37,17 @@ LeftLectures::LeftLectures(const AudioFileLocations &locations, const platform::
 {
 }
 
-bool LeftLectures::setAside()
-{
-    return setAside(m_locations.temporaryFolder());
-}
-
 bool LeftLectures::setAside(const QString &folder)
 {
     if (!m_files)
         m_files.emplace(folder, QFileInfo(m_locations.temporaryBasePath()).fileName(), m_dates);
     return m_files->moveFrom(folder);
+}
+
+void LeftLectures::adoptClosed(const QString &folder)
+{
+    if (m_files)
+        m_files->moveClosedFrom(folder);
 }
 
 // Without those whose journal cannot be read now: nobody knows what is to be done with them.
@@ -129,8 +130,11 @@ bool LeftLectures::moveTake(Left &left)
     // With its folder it may be missing; what is not known is not written over.
     m_locations.getAudioFolderPath();
     const auto isTaken = target.isEmpty() ? std::optional(true) : platform::isThere(target);
-    return isTaken && (!*isTaken || choosePlace(left)) &&
-           platform::moveDurably(left.takePath, target);
+    if (!isTaken)
+        return false;
+    // Who was interrupted between a copy on another disk and the end of the move left both.
+    const bool isFree = !*isTaken || platform::isCopyOf(target, left.takePath);
+    return (isFree || choosePlace(left)) && platform::moveDurably(left.takePath, target);
 }
 
 qint64 LeftLectures::lastRow() const
@@ -174,9 +178,9 @@ std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) con
 
 // Without the reset that a failed write of the program is followed by: nobody asked for this one
 // just now.
-std::optional<qint64> LeftLectures::store(const Left &left)
+std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
 {
-    store::Sqlite *const database = m_database.openDb();
+    store::Sqlite *const database = m_database.openToWrite();
     if (!database)
         return std::nullopt;
     const auto insert = [&] {
@@ -195,26 +199,32 @@ std::optional<qint64> LeftLectures::store(const Left &left)
     if (!left.journal.id.isEmpty())
         m_rows.insert(left.journal.id, *row);
     platform::SteadyFile(left.journalPath).remove();
-    return row;
+    return Stored{left.journal.id, *row, left.journal.target};
 }
 
-void LeftLectures::storeOwed(const std::function<void(const QString &, qint64)> &stored,
+QString LeftLectures::owedWith(const QString &recording) const
+{
+    const QList<Left> lectures = all();
+    const auto owed = std::ranges::find_if(lectures, [&recording](const Left &left) {
+        return left.journal.isDone && left.journal.target == recording;
+    });
+    return recording.isEmpty() || owed == lectures.end() ? QString() : owed->journal.id;
+}
+
+void LeftLectures::storeOwed(const std::function<void(const Stored &)> &stored,
                              const QStringList &notYet)
 {
     for (Left &left : all()) {
         if (!left.journal.isDone || notYet.contains(left.journal.id))
             continue;
-        const QString &target = left.journal.target;
-        if (left.takePath.isEmpty() && !target.isEmpty() && !QFileInfo::exists(target)) {
-            // A recording that was moved and is gone was deleted with its lecture; one that cannot
-            // be looked for now is looked for later.
-            if (platform::isThere(target) == false)
-                platform::SteadyFile(left.journalPath).remove();
+        // A recording that was moved and cannot be looked for now is looked for later. Where it is
+        // gone, subject and notes are kept: a lecture that is deleted takes its journal along.
+        const bool wasMoved = left.takePath.isEmpty() && !left.journal.target.isEmpty();
+        if (wasMoved && !platform::isThere(left.journal.target).has_value())
             continue;
-        }
-        const auto row = moveTake(left) ? store(left) : std::nullopt;
-        if (row && stored)
-            stored(left.journal.id, *row);
+        const auto lecture = moveTake(left) ? store(left) : std::nullopt;
+        if (lecture && stored)
+            stored(*lecture);
     }
 }
 
@@ -242,23 +252,29 @@ void LeftLectures::discard(const QString &id)
             discard(left);
 }
 
-LeftLectures::Left LeftLectures::unwritten(const QString &folder, const LectureJournal &journal)
+std::optional<LeftLectures::Left> LeftLectures::unwritten(const QString &folder,
+                                                          const LectureJournal &journal)
 {
-    return {.journalPath = folder + u'/' + LeftFiles::journalName(),
-            .takePath = QFileInfo::exists(journal.take) ? journal.take : QString(),
-            .journal = journal};
+    const std::optional<bool> hasTake =
+        journal.take.isEmpty() ? std::optional(false) : platform::isThere(journal.take);
+    if (!hasTake)
+        return std::nullopt;
+    return Left{.journalPath = folder + u'/' + LeftFiles::journalName(),
+                .takePath = *hasTake ? journal.take : QString(),
+                .journal = journal};
 }
 
-std::optional<qint64> LeftLectures::storeUnwritten(const QString &folder,
-                                                   const LectureJournal &journal)
+std::optional<LeftLectures::Stored> LeftLectures::storeUnwritten(const QString &folder,
+                                                                 const LectureJournal &journal)
 {
-    Left left = unwritten(folder, journal);
-    return moveTake(left) ? store(left) : std::nullopt;
+    auto left = unwritten(folder, journal);
+    return left && moveTake(*left) ? store(*left) : std::nullopt;
 }
 
 void LeftLectures::discardUnwritten(const QString &folder, const LectureJournal &journal)
 {
-    discard(unwritten(folder, journal));
+    if (const auto left = unwritten(folder, journal))
+        discard(*left);
 }
 
 void LeftLectures::discard(const Left &left)

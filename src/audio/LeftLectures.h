@@ -44,8 +44,10 @@ public:
     // open any more, unless it was left on purpose. False when something of it stands there still,
     // and nothing may be written there. What was left is kept in the folder that was the first.
     bool setAside(const QString &folder);
-    // Where takes lie now.
-    bool setAside();
+
+    // A take that was left on purpose goes from there to that first folder, which is where the next
+    // lecture replaces it, unless something stands there.
+    void adoptClosed(const QString &folder);
 
     // Oldest first: those that nobody has decided on.
     QList<Left> undecided() const;
@@ -61,13 +63,21 @@ public:
     // down is false, one for which there is no such journal null.
     std::optional<bool> change(const QString &id, const QString &subject, const QString &notes);
     void discard(const QString &id);
-    // Goes on with what is to be kept, but for the journals with these IDs. `stored` hears of each,
-    // with its journal's ID and its row's.
-    void storeOwed(const std::function<void(const QString &, qint64)> &stored = {},
+    // Of the journal that promises this recording to a lecture; empty when there is none.
+    QString owedWith(const QString &recording) const;
+
+    struct Stored
+    {
+        QString id; // the journal's
+        qint64 row;
+        QString recording; // where it lies now; empty without one
+    };
+    // Goes on with what is to be kept, but for the journals with these IDs. `stored` hears of each.
+    void storeOwed(const std::function<void(const Stored &)> &stored = {},
                    const QStringList &notYet = {});
     // For one that is done and stands in the folder of the takes, whose journal cannot be written
-    // there. Its row, null when that is not stored.
-    std::optional<qint64> storeUnwritten(const QString &folder,
+    // there. Null when its row is not stored.
+    std::optional<Stored> storeUnwritten(const QString &folder,
                                          const store::LectureJournal &journal);
     void discardUnwritten(const QString &folder, const store::LectureJournal &journal);
     // Of the lectures stored until now, for the journal of one that is done.
@@ -75,11 +85,13 @@ public:
 
 private:
     QList<Left> all() const;
-    static Left unwritten(const QString &folder, const store::LectureJournal &journal);
+    // Null when it cannot be known now whether there is a recording.
+    static std::optional<Left> unwritten(const QString &folder,
+                                         const store::LectureJournal &journal);
     bool decide(Left &left);
     bool choosePlace(Left &left);
     bool moveTake(Left &left);
-    std::optional<qint64> store(const Left &left);
+    std::optional<Stored> store(const Left &left);
     std::optional<qint64> storedRow(const store::LectureJournal &journal) const;
 
     const AudioFileLocations &m_locations;

@@ -1,7 +1,6 @@
 #include "audio/TakePlaces.h"
 
 #include "audio/AudioFileLocations.h"
-#include "audio/LeftLectures.h"
 
 #include <algorithm>
 
@@ -63,8 +62,10 @@ void TakePlaces::use(std::unique_ptr<TakeFolder> folder)
 void TakePlaces::adoptLeft()
 {
     for (const QString &path : TakeFolder::below(m_usual))
-        if (const auto folder = TakeFolder::own(path))
+        if (const auto folder = TakeFolder::own(path)) {
             m_left.setAside(path);
+            m_left.adoptClosed(path);
+        }
 }
 
 void TakePlaces::addOwed(const store::LectureJournal &journal)
@@ -135,18 +136,17 @@ bool TakePlaces::clear(Place &place)
     return !place.isOccupied;
 }
 
-void TakePlaces::storeUnwritten(const std::function<void(const QString &, qint64)> &stored)
+void TakePlaces::storeUnwritten(const std::function<void(const LeftLectures::Stored &)> &stored)
 {
     for (Place &place : m_places) {
         if (!place.owed)
             continue;
-        const auto row = m_left.storeUnwritten(place.path, *place.owed);
-        if (!row)
+        const auto lecture = m_left.storeUnwritten(place.path, *place.owed);
+        if (!lecture)
             continue;
-        const QString id = place.owed->id;
         place.owed.reset();
         place.isOccupied = place.folder && !m_left.setAside(place.path);
-        stored(id, *row);
+        stored(*lecture);
     }
 }
 

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "audio/LeftLectures.h"
 #include "audio/TakeFolder.h"
 #include "store/JournalWriter.h"
 #include "store/LectureJournal.h"
 
-#include <functional>
 #include <vector>
 
 namespace tarvelo::audio {
 
 class AudioFileLocations;
-class LeftLectures;
 
 // Where the take of the next lecture lies with its journal: in the usual folder, unless another
 // process has that, or something stands there that cannot be moved out of the way just now. Then it
@@ -49,9 +48,8 @@ public:
     bool hasOccupied() const;
     // Moves out of the way what stands in places that are not used now, and can be moved by now.
     void clear();
-    // Stores the lectures that could not even be written down; `stored` hears of each, with its
-    // journal's ID and its row's.
-    void storeUnwritten(const std::function<void(const QString &, qint64)> &stored);
+    // Stores the lectures that could not even be written down; `stored` hears of each.
+    void storeUnwritten(const std::function<void(const LeftLectures::Stored &)> &stored);
 
 private:
     struct Place

@@ -21,6 +21,8 @@ namespace tarvelo::audio {
 
 namespace {
 
+const QStringList Recordings{QStringLiteral("*.m4a"), QStringLiteral("*.aac")};
+
 // The same for all ways to write a path to the same file.
 QString plain(const QString &path)
 {
@@ -39,11 +41,10 @@ QStringList namesOf(const QStringList &paths)
 } // namespace
 
 UnlistedRecordings::UnlistedRecordings(store::LectureDatabase &database,
-                                       const platform::Dates &dates,
-                                       std::function<QString()> audioFolder)
+                                       const platform::Dates &dates, Sources sources)
     : m_database(database)
     , m_dates(dates)
-    , m_audioFolder(std::move(audioFolder))
+    , m_sources(std::move(sources))
 {
 }
 
@@ -65,7 +66,7 @@ std::optional<int> UnlistedRecordings::bringBack()
 {
     const QStringList still = unlisted();
     m_found.removeIf([&still](const FoundRecording &found) { return !still.contains(found.path); });
-    store::Sqlite *const database = m_database.openDb();
+    store::Sqlite *const database = m_database.openToWrite();
     if (!database)
         return std::nullopt;
     QList<QVariantList> rows;
@@ -84,10 +85,9 @@ std::optional<int> UnlistedRecordings::bringBack()
 // In the order of their names, each file once, with the paths that a lecture would have.
 QStringList UnlistedRecordings::unlisted() const
 {
-    const QString folder = m_audioFolder();
+    const QString folder = m_sources.audioFolder();
     QStringList paths;
-    for (const QFileInfo &file : QDir(folder).entryInfoList(
-             {QStringLiteral("*.m4a"), QStringLiteral("*.aac")}, QDir::Files, QDir::Name))
+    for (const QFileInfo &file : QDir(folder).entryInfoList(Recordings, QDir::Files, QDir::Name))
         if (file.size() > 0)
             paths.append(folder + u'/' + file.fileName());
     const auto listedPaths = listed(namesOf(paths));
@@ -113,18 +113,17 @@ std::optional<QStringList> UnlistedRecordings::listed(const QStringList &names) 
 }
 
 // To lectures whose rows are still to be stored, in this run or at the next start: what lies beside
-// a take says so, under whatever name. Null when one cannot be read now.
+// a take says so, under whatever name but a recording's. Null when one cannot be read now.
 std::optional<QStringList> UnlistedRecordings::promised() const
 {
-    constexpr qint64 LargestJournal = 16 << 20; // bytes
     QDirIterator files(QFileInfo(m_database.backups().folder()).path() + QStringLiteral("/temp"),
                        QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    QStringList paths;
+    QStringList paths = m_sources.promised();
     while (files.hasNext()) {
-        const QFileInfo file(files.next());
-        if (file.size() >= LargestJournal)
+        const QString file = files.next();
+        if (QDir::match(Recordings, files.fileName()))
             continue;
-        const store::JournalFile found = store::readJournal(file.filePath());
+        const store::JournalFile found = store::readJournal(file);
         if (found.state == store::JournalFile::State::Unreadable)
             return std::nullopt;
         if (!found.journal.target.isEmpty())

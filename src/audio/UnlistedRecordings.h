@@ -22,9 +22,17 @@ class UnlistedRecordings final : public QObject
     Q_OBJECT
 
 public:
-    // `audioFolder` gives the folder with a slash at its end. All of it outlives this object.
+    struct Sources
+    {
+        std::function<QString()> audioFolder; // with a slash at its end
+        // The paths of those that this process has promised to lectures whose rows are still to be
+        // stored, written down or not.
+        std::function<QStringList()> promised;
+    };
+
+    // All of it outlives this object.
     UnlistedRecordings(store::LectureDatabase &database, const platform::Dates &dates,
-                       std::function<QString()> audioFolder);
+                       Sources sources);
     ~UnlistedRecordings() override;
 
     // Of the last search that ended.
@@ -49,7 +57,7 @@ private:
 
     store::LectureDatabase &m_database;
     const platform::Dates &m_dates;
-    std::function<QString()> m_audioFolder;
+    Sources m_sources;
     QList<FoundRecording> m_found;
     std::unique_ptr<RecordingSearch> m_search;
 };

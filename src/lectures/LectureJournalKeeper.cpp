@@ -209,6 +209,14 @@ bool LectureJournalKeeper::owes(const store::LectureInfoItem &lecture) const
     return !journalOf(lecture).isEmpty();
 }
 
+QStringList LectureJournalKeeper::recordingsOwed() const
+{
+    QStringList paths;
+    for (const Owed &owed : m_owed)
+        paths.append(owed.path);
+    return paths;
+}
+
 void LectureJournalKeeper::lectureChanged(const store::LectureInfoItem &lecture,
                                           const QString &subject, const QString &notes)
 {
@@ -236,7 +244,9 @@ void LectureJournalKeeper::writeChanges()
 
 void LectureJournalKeeper::lectureDeleted(const store::LectureInfoItem &lecture)
 {
-    const QString id = journalOf(lecture);
+    // Also of one that is stored, whose journal could not be removed then.
+    const QString owed = journalOf(lecture);
+    const QString id = owed.isEmpty() ? m_with.left.owedWith(lecture.getLectureAudioPath()) : owed;
     if (id.isEmpty())
         return;
     m_owed.remove(id);
@@ -265,10 +275,12 @@ bool LectureJournalKeeper::storeWhatCanBe()
     discardDeleted();
     writeChanges();
     bool isAnyStored = false;
-    const auto stored = [this, &isAnyStored](const QString &id, qint64 row) {
+    const auto stored = [this, &isAnyStored](const audio::LeftLectures::Stored &owed) {
         isAnyStored = true;
-        if (const Lecture lecture = m_owed.take(id).lecture.lock())
-            lecture->setRow(row);
+        if (const Lecture lecture = m_owed.take(owed.id).lecture.lock()) {
+            lecture->setRow(owed.row);
+            lecture->setLectureAudioPath(owed.recording);
+        }
     };
     // Those whose changes are not on the disk yet come later.
     m_with.left.storeOwed(stored, m_changed.keys());

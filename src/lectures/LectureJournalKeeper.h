@@ -69,6 +69,8 @@ public:
     void lectureStored(bool isStored, const Lecture &lecture);
     // Whether something of it is still to be stored.
     bool owes(const store::LectureInfoItem &lecture) const;
+    // Of all of them, also where no journal could be written.
+    QStringList recordingsOwed() const;
     // Of a lecture without a row: its row is to have these texts.
     void lectureChanged(const store::LectureInfoItem &lecture, const QString &subject,
                         const QString &notes);

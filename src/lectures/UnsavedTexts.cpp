@@ -83,7 +83,7 @@ bool UnsavedTexts::save(const Texts &texts)
 {
     if (!texts.copyPath.isEmpty())
         return m_database.changeGone(texts.copyPath, texts.id, texts.subject, texts.notes);
-    store::Sqlite *const database = m_database.openDb();
+    store::Sqlite *const database = m_database.openToWrite();
     return database && database->executeNonQuery(Update, texts.subject, texts.notes, texts.id,
                                                  texts.audioPath, texts.storedNotes);
 }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QFile>
 
+#include <cerrno>
 #include <fcntl.h>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -28,6 +31,40 @@ public:
 
     bool isOpen() const { return m_number >= 0; }
     int number() const { return m_number; } // -1 when there is none
+
+    // From `at` on. False when not all of it was.
+    bool write(QByteArrayView bytes, qint64 at) const
+    {
+        while (!bytes.isEmpty()) {
+            const ssize_t written =
+                ::pwrite(m_number, bytes.data(), static_cast<size_t>(bytes.size()), at);
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written <= 0)
+                return false;
+            bytes = bytes.sliced(written);
+            at += written;
+        }
+        return true;
+    }
+
+    // From `at` on, as much of the piece as there is. Null when that cannot be known.
+    std::optional<QByteArrayView> read(QByteArray &piece, qint64 at) const
+    {
+        qsizetype known = 0;
+        while (known < piece.size()) {
+            const ssize_t size = ::pread(m_number, piece.data() + known,
+                                         static_cast<size_t>(piece.size() - known), at + known);
+            if (size < 0 && errno == EINTR)
+                continue;
+            if (size < 0)
+                return std::nullopt;
+            if (size == 0)
+                break;
+            known += size;
+        }
+        return QByteArrayView(piece).first(known);
+    }
 
 private:
     int m_number;

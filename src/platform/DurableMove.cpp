@@ -5,8 +5,6 @@
 
 #include <QFileInfo>
 
-#include <cerrno>
-
 namespace tarvelo::platform {
 
 namespace {
@@ -18,20 +16,6 @@ void unlinkIfThere(const QString &path)
     ::unlink(QFile::encodeName(path).constData());
 }
 
-bool writeAll(int descriptor, const char *bytes, ssize_t size)
-{
-    while (size > 0) {
-        const ssize_t written = ::write(descriptor, bytes, static_cast<size_t>(size));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes += written;
-        size -= written;
-    }
-    return true;
-}
-
 bool copyTo(const QString &to, const QString &from)
 {
     const Descriptor source(from, O_RDONLY);
@@ -39,15 +23,12 @@ bool copyTo(const QString &to, const QString &from)
     if (!source.isOpen() || !copy.isOpen())
         return false;
     QByteArray piece(Piece, Qt::Uninitialized);
-    for (;;) {
-        const ssize_t size =
-            ::read(source.number(), piece.data(), static_cast<size_t>(piece.size()));
-        if (size < 0 && errno == EINTR)
-            continue;
-        if (size <= 0)
-            return size == 0;
-        if (!writeAll(copy.number(), piece.constData(), size))
+    for (qint64 at = 0;; at += piece.size()) {
+        const auto read = source.read(piece, at);
+        if (!read || !copy.write(*read, at))
             return false;
+        if (read->size() < piece.size())
+            return true;
     }
 }
 
@@ -66,8 +47,29 @@ bool moveDurably(const QString &from, const QString &to)
         unlinkIfThere(sibling);
         return false;
     }
+    // A disk that could not be asked may not know the new name yet.
+    if (!syncFolderOf(to))
+        return false;
     removeDurably(from);
     return true;
+}
+
+bool isCopyOf(const QString &path, const QString &other)
+{
+    const Descriptor one(path, O_RDONLY);
+    const Descriptor two(other, O_RDONLY);
+    if (!one.isOpen() || !two.isOpen())
+        return false;
+    QByteArray piece(Piece, Qt::Uninitialized);
+    QByteArray otherPiece(Piece, Qt::Uninitialized);
+    for (qint64 at = 0;; at += Piece) {
+        const auto read = one.read(piece, at);
+        const auto otherRead = two.read(otherPiece, at);
+        if (!read || !otherRead || *read != *otherRead)
+            return false;
+        if (read->size() < Piece)
+            return true;
+    }
 }
 
 } // namespace tarvelo::platform

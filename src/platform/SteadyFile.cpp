@@ -22,20 +22,6 @@ qint64 roomFor(qint64 size)
     return (2 * size / RoomStep + 1) * RoomStep;
 }
 
-bool writeAll(int descriptor, const QByteArray &bytes)
-{
-    for (qsizetype at = 0; at < bytes.size();) {
-        const ssize_t written = ::pwrite(descriptor, bytes.constData() + at,
-                                         static_cast<size_t>(bytes.size() - at), at);
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        at += written;
-    }
-    return true;
-}
-
 bool swapNames(const QString &one, const QString &other)
 {
     return ::renameat2(AT_FDCWD, QFile::encodeName(one).constData(), AT_FDCWD,
@@ -71,7 +57,7 @@ bool SteadyFile::writeSpare(const QByteArray &content, qint64 room) const
     const Descriptor file(spare(), O_WRONLY | O_CREAT);
     QByteArray padded = content.leftJustified(static_cast<qsizetype>(room) - 1, ' ');
     padded.append('\n');
-    return file.isOpen() && writeAll(file.number(), padded) &&
+    return file.isOpen() && file.write(padded, 0) &&
            ::ftruncate(file.number(), padded.size()) == 0 && ::fdatasync(file.number()) == 0;
 }
 

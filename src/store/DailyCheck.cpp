@@ -22,7 +22,8 @@ void DailyCheck::checkIfDue()
     m_next.schedule(Again);
     const Sqlite *const connection = m_database.connection();
     QFile day(dayPath());
-    const bool isDone = day.open(QIODevice::ReadOnly) && day.readAll() == today().toLatin1();
+    const bool isDone = m_checkedDay == today() ||
+                        (day.open(QIODevice::ReadOnly) && day.readAll() == today().toLatin1());
     if (isDone || m_check || !connection || QFileInfo(connection->filePath()).size() == 0)
         return;
     m_check = std::make_unique<IntegrityCheck>(connection->filePath());
@@ -38,6 +39,7 @@ void DailyCheck::end(Soundness soundness)
         m_database.mendIfDamaged();
     if (soundness == Soundness::Unknown)
         return;
+    m_checkedDay = today();
     platform::createFolderIfMissing(QFileInfo(dayPath()).path());
     platform::createFileIfMissing(dayPath());
     QFile day(dayPath());

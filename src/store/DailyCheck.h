@@ -35,6 +35,7 @@ private:
     platform::Clock &m_clock;
     platform::DelayedCall m_next;
     std::unique_ptr<IntegrityCheck> m_check;
+    QString m_checkedDay; // also where it could not be written down
 };
 
 } // namespace tarvelo::store

@@ -76,12 +76,25 @@ bool LectureDatabase::mendIfDamaged()
     return true;
 }
 
+Sqlite *LectureDatabase::openToWrite()
+{
+    Sqlite *const database = openDb();
+    return database && mayWrite() ? database : nullptr;
+}
+
+bool LectureDatabase::mayWrite()
+{
+    m_isExposed = m_isExposed && !m_damagedFiles.putAside(m_connection->filePath());
+    return !m_isExposed;
+}
+
 // The connection stays the same object, which others know, and is open afterwards if it can be.
 bool LectureDatabase::replaceWithSound()
 {
     const QString file = m_connection->filePath();
     m_connection->close();
     const bool isSound = m_damagedFiles.replaceWithSound(file);
+    m_isExposed = !isSound;
     m_syncsNames = false;
     m_connection->open(file);
     syncNames();
@@ -132,7 +145,7 @@ bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
     // Without a row, an empty path would find lectures that it has nothing to do with.
     if (!lecture.hasRow() && (!m_connection || path.isEmpty()))
         return true;
-    if (!m_connection)
+    if (!m_connection || !mayWrite())
         return false;
     syncNames();
     const QString going = statements::IdsByPathBegin + path + statements::IdsByPathEnd;
@@ -157,7 +170,7 @@ bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
 bool LectureDatabase::writeOrReset(const QString &sql, const QVariantList &arguments,
                                    const QString &creationText)
 {
-    Sqlite *const database = openDb();
+    Sqlite *const database = openToWrite();
     if (!database)
         return false;
     tellOfEmptyTable(*database);

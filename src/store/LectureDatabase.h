@@ -26,6 +26,9 @@ public:
     // the next call tries again. A file that is no database any more is put aside first, and a
     // sound one takes its place. Owned by this object.
     Sqlite *openDb();
+    // The same for who is about to write: null as well while the file is damaged and could not be
+    // put aside.
+    Sqlite *openToWrite();
     // The shared connection as it is: null before openDb() succeeded.
     Sqlite *connection() const { return m_connection.get(); }
 
@@ -70,6 +73,7 @@ private:
     bool tellOfEmptyTable(Sqlite &database);
     bool openFile(const QString &file);
     bool replaceWithSound();
+    bool mayWrite();
     void makeIndexes();
     void syncNames();
 
@@ -80,6 +84,7 @@ private:
     std::function<void(const GoneLectures &)> m_lecturesGone;
     QString m_copyUntold;      // in which lectures may be that have gone since
     bool m_syncsNames = false; // of the connection as it was last opened
+    bool m_isExposed = false;  // damaged, and not put aside yet
 };
 
 } // namespace tarvelo::store

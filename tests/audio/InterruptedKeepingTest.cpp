@@ -5,7 +5,11 @@
 #include "audio/TakeFolder.h"
 #include "support/TestCase.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,6 +17,13 @@ namespace {
 
 // 0: nobody dies.
 int s_stepsToLive = 0;
+
+bool s_isAudioAnotherDisk = false;
+
+bool isInAudio(const char *path)
+{
+    return std::strstr(path, "/Audio/") != nullptr;
+}
 
 void takeStep()
 {
@@ -34,7 +45,17 @@ void takeStep()
         return value;                                                                              \
     }
 
-STEP(int, rename, (const char *from, const char *to) noexcept, (from, to))
+// Where that is so, no file is renamed into the folder of the recordings.
+extern "C" int rename(const char *from, const char *to) noexcept
+{
+    if (s_isAudioAnotherDisk && isInAudio(from) != isInAudio(to)) {
+        errno = EXDEV;
+        return -1;
+    }
+    const int value = ::renameat(AT_FDCWD, from, AT_FDCWD, to);
+    takeStep();
+    return value;
+}
 STEP(int, renameat2,
      (int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept,
      (fromFolder, from, toFolder, to, flags))
@@ -61,14 +82,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("hasJournal");
         QTest::addColumn<bool>("isOfSecond");
-        QTest::newRow("with a journal") << true << false;
-        QTest::newRow("a recording alone") << false << false;
-        QTest::newRow("of a second process") << true << true;
+        QTest::addColumn<bool>("onTwoDisks");
+        QTest::newRow("with a journal") << true << false << false;
+        QTest::newRow("a recording alone") << false << false << false;
+        QTest::newRow("of a second process") << true << true << false;
+        QTest::newRow("with recordings on another disk") << true << false << true;
     }
     void whoeverDiesAfterAnyStepLosesAndDoublesNothing()
     {
         QFETCH(bool, hasJournal);
         QFETCH(bool, isOfSecond);
+        QFETCH(bool, onTwoDisks);
+        s_isAudioAnotherDisk = onTwoDisks;
         LeftStage::takeBytes();
         int steps = 0;
         for (bool isThrough = false; !isThrough;) {
@@ -115,7 +140,7 @@ private:
     static void goOn(LeftStage &stage) { keepWhatIsThere(stage); }
     static void keepWhatIsThere(LeftStage &stage)
     {
-        stage.left.setAside();
+        stage.setAside();
         for (const QString &path : TakeFolder::below(stage.locations.temporaryFolder()))
             if (const auto folder = TakeFolder::own(path))
                 stage.left.setAside(path);

@@ -123,15 +123,62 @@ private Q_SLOTS:
 
     void whatWasLeftOnPurposeInAnotherFolderStaysThere()
     {
-        const QString other = folder() + u"/take-abcdef"_s;
-        QVERIFY(QDir().mkdir(other));
-        LeftStage::write(other + u"/tempAudioFile.m4a"_s, LeftStage::takeBytes());
-        LeftStage::write(other + u"/lecture.closed"_s, "");
+        const QString other = otherFolderWithClosedTake();
 
         QVERIFY(files().moveFrom(other));
 
         QVERIFY(files().all()->isEmpty());
         QVERIFY(QFile::exists(other + u"/tempAudioFile.m4a"_s));
+    }
+
+    // The next lecture replaces it there, as one that was left on purpose in this very folder.
+    void whatWasLeftOnPurposeElsewhereIsBroughtWhereTheNextLectureIs()
+    {
+        const QString other = otherFolderWithClosedTake();
+
+        files().moveClosedFrom(other);
+
+        QVERIFY(QFile::exists(m_stage->file("tempAudioFile.m4a")));
+        QVERIFY(QFile::exists(m_stage->file("lecture.closed")));
+        QVERIFY(QDir(other).isEmpty());
+        QVERIFY(files().moveFrom(folder()));
+        QVERIFY(files().all()->isEmpty());
+    }
+
+    void whereSomethingStandsItIsBroughtAnotherTime_data()
+    {
+        QTest::addColumn<QString>("inTheWay");
+        for (const char *name : {"tempAudioFile.aac", "lecture.journal", "lecture.closed"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void whereSomethingStandsItIsBroughtAnotherTime()
+    {
+        QFETCH(QString, inTheWay);
+        const QString other = otherFolderWithClosedTake();
+        LeftStage::write(folder() + u'/' + inTheWay, "something");
+
+        files().moveClosedFrom(other);
+
+        QCOMPARE(m_stage->names(), QStringList{inTheWay});
+        QCOMPARE(QDir(other).entryList(QDir::Files).size(), 2);
+    }
+
+    void aCallThatFailsWhileItIsBroughtCostsNoTake_data()
+    {
+        QTest::addColumn<QByteArray>("which");
+        QTest::newRow("the mark") << QByteArray("lecture.closed");
+        QTest::newRow("the take") << QByteArray("tempAudioFile");
+    }
+    void aCallThatFailsWhileItIsBroughtCostsNoTake()
+    {
+        QFETCH(QByteArray, which);
+        const QString other = otherFolderWithClosedTake();
+
+        refuse("rename", which.constData());
+        files().moveClosedFrom(other);
+
+        QCOMPARE(read(other + u"/tempAudioFile.m4a"_s), LeftStage::takeBytes());
+        QVERIFY(!QFile::exists(m_stage->file("tempAudioFile.m4a")));
     }
 
     void ofAFolderThatCannotBeReadNothingIsKnown()
@@ -148,6 +195,19 @@ private:
     }
 
     QString folder() const { return m_stage->locations.temporaryFolder(); }
+    QString otherFolderWithClosedTake() const
+    {
+        const QString other = folder() + u"/take-abcdef"_s;
+        QDir().mkdir(other);
+        LeftStage::write(other + u"/tempAudioFile.m4a"_s, LeftStage::takeBytes());
+        LeftStage::write(other + u"/lecture.closed"_s, "");
+        return other;
+    }
+    static QByteArray read(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
     LeftFiles files() const { return {folder(), u"tempAudioFile"_s, m_stage->dates}; }
     void expectOneLecture() const
     {

@@ -21,7 +21,7 @@ class LeftLecturesTest final : public tarvelo::tests::TestCase
 private Q_SLOTS:
     void nothingLeftIsNothingToOffer()
     {
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QVERIFY(m_stage->left.undecided().isEmpty());
         QCOMPARE(m_stage->left.owed(), 0);
@@ -42,7 +42,7 @@ private Q_SLOTS:
         m_stage->leaveTake();
         m_stage->leaveJournal();
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         const auto lectures = m_stage->left.undecided();
         QCOMPARE(lectures.size(), 1);
@@ -62,7 +62,7 @@ private Q_SLOTS:
                                  QFileDevice::FileModificationTime));
         take.close();
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         const auto lectures = m_stage->left.undecided();
         QCOMPARE(lectures.size(), 1);
@@ -76,7 +76,7 @@ private Q_SLOTS:
     {
         m_stage->leaveJournal();
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         const auto lectures = m_stage->left.undecided();
         QCOMPARE(lectures.size(), 1);
@@ -90,7 +90,7 @@ private Q_SLOTS:
     {
         m_stage->leaveJournal({.id = u"20240304T080000000"_s});
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QVERIFY(m_stage->left.undecided().isEmpty());
         QCOMPARE(m_stage->names(), QStringList());
@@ -100,7 +100,7 @@ private Q_SLOTS:
     {
         m_stage->write(m_stage->takePath(), m_stage->takeBytes().left(28));
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QVERIFY(m_stage->left.undecided().isEmpty());
     }
@@ -110,7 +110,7 @@ private Q_SLOTS:
         m_stage->leaveTake();
         m_stage->write(m_stage->file("lecture.closed"), "");
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QVERIFY(m_stage->left.undecided().isEmpty());
         QVERIFY(QFile::exists(m_stage->takePath()));
@@ -124,7 +124,7 @@ private Q_SLOTS:
         journal.take.clear();
         m_stage->leaveJournal(journal);
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QVERIFY(m_stage->left.undecided().value(0).takePath.isEmpty());
         QVERIFY(QFile::exists(m_stage->takePath()));
@@ -135,7 +135,7 @@ private Q_SLOTS:
         m_stage->leaveTake();
         m_stage->write(m_stage->file("lecture.journal"), QByteArray(4096, '\0'));
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         const auto lectures = m_stage->left.undecided();
         QCOMPARE(lectures.size(), 1);
@@ -150,7 +150,7 @@ private Q_SLOTS:
             journal.id = QLatin1StringView(id);
             m_stage->leaveTake();
             m_stage->leaveJournal(journal);
-            m_stage->left.setAside();
+            m_stage->setAside();
         }
 
         const auto lectures = m_stage->left.undecided();
@@ -165,7 +165,7 @@ private Q_SLOTS:
         for (int i = 0; i < 2; ++i) {
             m_stage->leaveTake();
             m_stage->leaveJournal();
-            m_stage->left.setAside();
+            m_stage->setAside();
         }
 
         const auto lectures = m_stage->left.undecided();
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QFile::copy(m_stage->takePath(), m_stage->file("tempAudioFile.aac"));
         m_stage->leaveJournal();
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QCOMPARE(m_stage->left.undecided().size(), 2);
     }
@@ -189,7 +189,7 @@ private Q_SLOTS:
     {
         m_stage->leaveTake();
         m_stage->leaveJournal();
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)) == LeftLectures::Kept::Stored);
 
@@ -208,7 +208,7 @@ private Q_SLOTS:
         const QString taken = m_stage->locations.getAudioSavePath();
         m_stage->write(taken, "another lecture");
         m_stage->leaveTake();
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QVERIFY(m_stage->left.keep(m_stage->left.undecided().at(0)) == LeftLectures::Kept::Stored);
 
@@ -220,7 +220,7 @@ private Q_SLOTS:
     {
         m_stage->leaveTake();
         m_stage->leaveJournal();
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         m_stage->left.discard(m_stage->left.undecided().at(0));
 
@@ -233,10 +233,10 @@ private Q_SLOTS:
     {
         m_stage->leaveTake();
         m_stage->leaveJournal();
-        m_stage->left.setAside();
+        m_stage->setAside();
         QCOMPARE(m_stage->left.undecided().size(), 1);
 
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         QCOMPARE(m_stage->left.undecided().size(), 1);
     }
@@ -247,7 +247,7 @@ private Q_SLOTS:
         journal.isDone = true;
         m_stage->leaveTake();
         m_stage->leaveJournal(journal);
-        m_stage->left.setAside();
+        m_stage->setAside();
         QVERIFY(m_stage->left.undecided().isEmpty());
         QCOMPARE(m_stage->left.owed(), 1);
 
@@ -274,7 +274,7 @@ private Q_SLOTS:
         m_stage->database.insertIntoDbwithSqlStatementWithArguments(
             tarvelo::store::statements::Insert, journal.row());
         m_stage->leaveJournal(journal);
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         m_stage->left.storeOwed();
 
@@ -282,18 +282,33 @@ private Q_SLOTS:
         QCOMPARE(m_stage->left.owed(), 0);
     }
 
-    void whoseRecordingWasDeletedSinceIsNotBroughtBack()
+    void whoseRecordingIsGoneKeepsItsNotes()
     {
         LectureJournal journal = LeftStage::journal();
         journal.isDone = true;
         journal.target = m_stage->locations.getAudioSavePath();
         m_stage->leaveJournal(journal);
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         m_stage->left.storeOwed();
 
         QCOMPARE(m_stage->left.owed(), 0);
-        QVERIFY(m_stage->rows().isEmpty());
+        QCOMPARE(m_stage->rows().size(), 1);
+        QCOMPARE(m_stage->rows().first()["notes"_L1], u"Huygens"_s);
+        QCOMPARE(m_stage->rows().first()["audioFileFullPath"_L1], journal.target);
+    }
+
+    void theJournalThatPromisesARecordingIsKnownByIt()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->locations.getAudioSavePath();
+        m_stage->leaveJournal(journal);
+        m_stage->setAside();
+
+        QCOMPARE(m_stage->left.owedWith(journal.target), journal.id);
+        QCOMPARE(m_stage->left.owedWith(journal.target + u'x'), QString());
+        QCOMPARE(m_stage->left.owedWith(QString()), QString());
     }
 
     void twoOfTheSameNotesAndDayAreTwo()
@@ -304,14 +319,14 @@ private Q_SLOTS:
             tarvelo::store::statements::Insert, journal.row());
         journal.lastRow = m_stage->left.lastRow();
         m_stage->leaveJournal(journal);
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         m_stage->left.storeOwed();
         QCOMPARE(m_stage->rows().size(), 2);
 
         // As when it died before the journal went.
         m_stage->leaveJournal(journal);
-        m_stage->left.setAside();
+        m_stage->setAside();
         m_stage->left.storeOwed();
         QCOMPARE(m_stage->rows().size(), 2);
     }
@@ -322,7 +337,7 @@ private Q_SLOTS:
         journal.isDone = true;
         journal.target = m_stage->locations.getAudioSavePath();
         m_stage->leaveJournal(journal);
-        m_stage->left.setAside();
+        m_stage->setAside();
         const QString audio = m_stage->locations.getAudioFolderPath();
         QVERIFY(QDir().rename(audio.chopped(1), audio.chopped(1) + u".away"_s));
 
@@ -340,7 +355,7 @@ private Q_SLOTS:
     {
         m_stage->leaveTake();
         m_stage->leaveJournal();
-        m_stage->left.setAside();
+        m_stage->setAside();
 
         refuse("read", ".journal");
         QVERIFY(m_stage->left.undecided().isEmpty());
@@ -359,11 +374,12 @@ private Q_SLOTS:
         journal.target = m_stage->locations.getAudioSavePath();
         m_stage->leaveTake();
 
-        const auto row =
+        const auto stored =
             m_stage->left.storeUnwritten(m_stage->locations.temporaryFolder(), journal);
 
-        QVERIFY(row);
-        QCOMPARE(m_stage->rows().value(0)["ID"_L1].toLongLong(), *row);
+        QVERIFY(stored);
+        QCOMPARE(m_stage->rows().value(0)["ID"_L1].toLongLong(), stored->row);
+        QCOMPARE(stored->recording, journal.target);
         m_stage->expectOneKeptLecture();
     }
 
@@ -373,7 +389,7 @@ private Q_SLOTS:
         m_stage->database.insertIntoDbwithSqlStatementWithArguments(
             tarvelo::store::statements::Insert, LeftStage::journal().row());
         m_stage->leaveTake();
-        m_stage->left.setAside();
+        m_stage->setAside();
         {
             tarvelo::store::Sqlite other(m_stage->places.databaseFile());
             QVERIFY(other.beginTransaction());
@@ -386,7 +402,7 @@ private Q_SLOTS:
         QCOMPARE(m_stage->rows().size(), 1);
         QCOMPARE(m_stage->left.owed(), 1);
         qint64 stored = 0;
-        m_stage->left.storeOwed([&](const QString &, qint64 row) { stored = row; });
+        m_stage->left.storeOwed([&](const LeftLectures::Stored &lecture) { stored = lecture.row; });
         QCOMPARE(m_stage->rows().size(), 2);
         QCOMPARE(m_stage->rows().at(1)["ID"_L1].toLongLong(), stored);
     }

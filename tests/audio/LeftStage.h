@@ -68,6 +68,7 @@ public:
         write(file("lecture.journal"), store::toBytes(written) + QByteArray(100, ' '));
     }
 
+    bool setAside() { return left.setAside(locations.temporaryFolder()); }
     store::Rows rows()
     {
         return database.openDb()

@@ -63,7 +63,7 @@ private:
     }
     static void keepWhatIsThere(LeftStage &stage)
     {
-        if (!stage.left.setAside())
+        if (!stage.setAside())
             return;
         stage.left.storeOwed();
         for (const auto &left : stage.left.undecided())

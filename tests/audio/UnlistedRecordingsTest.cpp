@@ -178,6 +178,31 @@ private Q_SLOTS:
         QCOMPARE(found(), 0);
     }
 
+    void whatThisProcessHasPromisedToALectureIsNotOffered()
+    {
+        put("Audio - 1.m4a", m_sound);
+        put("Audio - 2.m4a", m_sound);
+        m_promised = {folder() + u"//Audio - 1.m4a"_s};
+
+        QCOMPARE(found(), 1);
+
+        m_promised += folder() + u"//Audio - 2.m4a"_s;
+        QCOMPARE(m_recordings->bringBack(), 0);
+    }
+
+    void aTakeIsNotReadForAJournal()
+    {
+        put("Audio - 1.m4a", m_sound);
+        LectureJournal journal;
+        journal.target = folder() + u"//Audio - 1.m4a"_s;
+        QDir().mkpath(m_places->folder() + u"/temp"_s);
+        QFile file(m_places->folder() + u"/temp/tempAudioFile.m4a"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(toBytes(journal)) > 0);
+        file.close();
+
+        QCOMPARE(found(), 1);
+    }
+
     void whatGotALectureOrWentAfterTheSearchIsLeftOut()
     {
         put("Audio - 1.m4a", m_sound);
@@ -244,7 +269,9 @@ private:
         m_dates = std::make_unique<tarvelo::platform::Dates>(
             m_clock, tarvelo::platform::Region{"en_US", u"UTC"_s});
         m_recordings = std::make_unique<UnlistedRecordings>(
-            *m_database, *m_dates, [this] { return QString(folder() + u'/'); });
+            *m_database, *m_dates,
+            UnlistedRecordings::Sources{[this] { return QString(folder() + u'/'); },
+                                        [this] { return m_promised; }});
         QDir().mkpath(folder());
     }
     void finish() override
@@ -253,6 +280,7 @@ private:
         m_dates.reset();
         m_database.reset();
         m_places.reset();
+        m_promised.clear();
     }
 
     QString root() const { return m_places->places().applicationSupport; }
@@ -285,6 +313,7 @@ private:
     std::unique_ptr<TemporaryPlaces> m_places;
     std::unique_ptr<LectureDatabase> m_database;
     std::unique_ptr<tarvelo::platform::Dates> m_dates;
+    QStringList m_promised;
     std::unique_ptr<UnlistedRecordings> m_recordings;
 };
 

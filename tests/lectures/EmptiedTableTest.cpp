@@ -1,4 +1,3 @@
-#include "lectures/CustomTableCellView.h"
 #include "support/LectureProgram.h"
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
@@ -18,49 +17,52 @@ private Q_SLOTS:
     void aChangeOfALectureThatHasGoneTouchesNoOther()
     {
         loseTheEarlierOneToANewcomer();
-        QCOMPARE(stored(), QStringList{u"Newcomer: "_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Newcomer: "_s});
 
-        change(0, u"wave optics"_s, u"Huygens"_s);
+        m_program->change(0, u"wave optics"_s, u"Huygens"_s);
 
-        QCOMPARE(stored(), QStringList{u"Newcomer: "_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Newcomer: "_s});
         QCOMPARE(m_program->subjectsShown(), QStringList({u"Wave Optics"_s, u"Newcomer"_s}));
     }
 
     void theChangeComesBackWithTheLecture()
     {
         loseTheEarlierOneToANewcomer();
-        change(0, u"wave optics"_s, u"Huygens"_s);
+        m_program->change(0, u"wave optics"_s, u"Huygens"_s);
 
         bringBack();
 
-        QCOMPARE(stored(), QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
+        QCOMPARE(m_program->storedTexts(),
+                 QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
     }
 
     void theNewcomerIsChangedAsEver()
     {
         loseTheEarlierOneToANewcomer();
 
-        change(1, u"acoustics"_s, u"Pipes"_s);
-        QCOMPARE(stored(), QStringList{u"acoustics: Pipes"_s});
+        m_program->change(1, u"acoustics"_s, u"Pipes"_s);
+        QCOMPARE(m_program->storedTexts(), QStringList{u"acoustics: Pipes"_s});
 
         bringBack();
-        QCOMPARE(stored(), QStringList({u"acoustics: Pipes"_s, u"Optics: Lenses"_s}));
+        QCOMPARE(m_program->storedTexts(),
+                 QStringList({u"acoustics: Pipes"_s, u"Optics: Lenses"_s}));
     }
 
     void aWindowThatWasOpenBeforeSavesIntoTheCopyToo()
     {
         aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
         controller().prepareViewForDate(m_program->today());
-        edit(0);
+        m_program->edit(0);
         failNext("INSERT");
         saveNewcomer();
         controller().prepareViewForDate(m_program->today());
 
-        finishEdit(u"wave optics"_s, u"Huygens"_s);
+        m_program->finishEdit(u"wave optics"_s, u"Huygens"_s);
 
-        QCOMPARE(stored(), QStringList{u"Newcomer: "_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Newcomer: "_s});
         bringBack();
-        QCOMPARE(stored(), QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
+        QCOMPARE(m_program->storedTexts(),
+                 QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
     }
 
     void theChangeThatEmptiedTheTableAndTheNextOneComeBack()
@@ -69,13 +71,13 @@ private Q_SLOTS:
         controller().prepareViewForDate(m_program->today());
         failNext("UPDATE");
 
-        change(0, u"wave optics"_s, u"Huygens"_s);
-        QVERIFY(stored().isEmpty());
-        change(0, u"wave optics"_s, u"Huygens and Fresnel"_s);
+        m_program->change(0, u"wave optics"_s, u"Huygens"_s);
+        QVERIFY(m_program->storedTexts().isEmpty());
+        m_program->change(0, u"wave optics"_s, u"Huygens and Fresnel"_s);
 
-        QVERIFY(stored().isEmpty());
+        QVERIFY(m_program->storedTexts().isEmpty());
         bringBack();
-        QCOMPARE(stored(), QStringList{u"wave optics: Huygens and Fresnel"_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"wave optics: Huygens and Fresnel"_s});
     }
 
     void whatWaitedToBeSavedIsSavedInTheCopy()
@@ -85,7 +87,7 @@ private Q_SLOTS:
         {
             tarvelo::store::Sqlite other(m_program->places.databaseFile());
             QVERIFY(other.beginTransaction());
-            change(0, u"wave optics"_s, u"Huygens"_s);
+            m_program->change(0, u"wave optics"_s, u"Huygens"_s);
             QVERIFY(other.rollback());
         }
 
@@ -93,22 +95,24 @@ private Q_SLOTS:
         saveNewcomer();
         m_program->clock.advance(20s);
 
-        QCOMPARE(stored(), QStringList{u"Newcomer: "_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Newcomer: "_s});
         bringBack();
-        QCOMPARE(stored(), QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
+        QCOMPARE(m_program->storedTexts(),
+                 QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
     }
 
     void aWindowThatIsOpenWhileItsLectureComesBackSavesIntoTheTable()
     {
         loseTheEarlierOneToANewcomer();
-        edit(0);
+        m_program->edit(0);
 
         bringBack();
         controller().lecturesCameBack();
         controller().prepareViewForDate(m_program->today());
-        finishEdit(u"wave optics"_s, u"Huygens"_s);
+        m_program->finishEdit(u"wave optics"_s, u"Huygens"_s);
 
-        QCOMPARE(stored(), QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
+        QCOMPARE(m_program->storedTexts(),
+                 QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}));
         QVERIFY(m_program->subjectsShown().contains(u"Wave Optics"_s));
     }
 
@@ -125,17 +129,17 @@ private Q_SLOTS:
         controller().prepareViewForDate(m_program->today());
         QCOMPARE(m_program->subjectsShown(), QStringList({u"Logic"_s, u"Optics"_s}));
         controller().onDelete(0);
-        QVERIFY(stored().isEmpty());
+        QVERIFY(m_program->storedTexts().isEmpty());
         saveNewcomer();
         QCOMPARE(m_program->storedRows().first()["ID"_L1].toInt(), 1);
 
-        change(0, u"wave optics"_s, u"Huygens"_s);
+        m_program->change(0, u"wave optics"_s, u"Huygens"_s);
 
-        QCOMPARE(stored(), QStringList{u"Newcomer: "_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Newcomer: "_s});
         auto &database = *m_program->database.openDb();
         const QString copy = m_program->database.backups().copies(database).first().filePath;
         QCOMPARE(m_program->database.backups().bringBack(copy, database), 2);
-        QCOMPARE(stored(),
+        QCOMPARE(m_program->storedTexts(),
                  QStringList({u"Newcomer: "_s, u"Logic: notes"_s, u"wave optics: Huygens"_s}));
     }
 
@@ -156,7 +160,7 @@ private Q_SLOTS:
             auto &database = *m_program->database.openDb();
             for (const auto &copy : m_program->database.backups().copies(database))
                 QVERIFY(m_program->database.backups().bringBack(copy.filePath, database));
-            QStringList lectures = stored();
+            QStringList lectures = m_program->storedTexts();
             lectures.sort();
             QVERIFY2(lectures == QStringList({u"Newcomer: "_s, u"Optics: Lenses"_s}),
                      qPrintable(u"call %1: "_s.arg(call) + lectures.join(u", "_s)));
@@ -175,9 +179,9 @@ private Q_SLOTS:
             QVERIFY(other.rollback());
         }
 
-        change(0, u"wave optics"_s, u"Huygens"_s);
+        m_program->change(0, u"wave optics"_s, u"Huygens"_s);
 
-        QCOMPARE(stored(), QStringList{u"wave optics: Huygens"_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"wave optics: Huygens"_s});
     }
 
 private:
@@ -215,34 +219,8 @@ private:
         QVERIFY(!copies.isEmpty());
         QCOMPARE(m_program->database.backups().bringBack(copies.first().filePath, database), 1);
     }
-    void edit(int row)
-    {
-        controller().onEditLecture(
-            m_program->windows.mainOutlets()
-                .tblRecordSubjectList->viewAtColumnRowMakeIfNecessary(0, row, true)
-                ->btnEdit());
-    }
-    void finishEdit(const QString &subject, const QString &notes)
-    {
-        const auto &window = m_program->windows.editLectureOutlets();
-        window.txtSubjectForEdit->setText(subject);
-        window.txtViewNotesForEdit->setPlainText(notes);
-        window.btnDoneEdit->click();
-    }
-    void change(int row, const QString &subject, const QString &notes)
-    {
-        edit(row);
-        finishEdit(subject, notes);
-    }
 
     tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
-    QStringList stored()
-    {
-        QStringList lectures;
-        for (const auto &row : m_program->storedRows())
-            lectures.append(row["subject"_L1].toString() + u": "_s + row["notes"_L1].toString());
-        return lectures;
-    }
 
     std::unique_ptr<LectureProgram> m_program;
 };

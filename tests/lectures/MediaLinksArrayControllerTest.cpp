@@ -426,10 +426,13 @@ private Q_SLOTS:
         m_program->showDay(m_program->today());
         QWidget *browse = table().viewAtColumnRowMakeIfNecessary(0, 0, false)->btnBrowse();
         controller().prepareViewForDate(theDay("2024-03-06"));
+        const int views = table().viewCount();
 
         controller().openAudioFolderPath(browse);
 
         QVERIFY(m_program->workspace.shown.isEmpty());
+        QCOMPARE(table().viewCount(), views);
+        QCOMPARE(table().selectedRow(), -1);
     }
 
     // -- Store

@@ -1,4 +1,3 @@
-#include "lectures/CustomTableCellView.h"
 #include "lectures/NewLecture.h"
 #include "store/FullDisk.h"
 #include "support/LectureProgram.h"
@@ -38,25 +37,26 @@ private Q_SLOTS:
         aLecture().named("earlier").withNotes(u"Lenses"_s).insertInto(m_program->database);
         finishWhileLocked("Optics", records);
 
-        change(0, u"wave optics"_s, u"Huygens"_s);
+        m_program->change(0, u"wave optics"_s, u"Huygens"_s);
         QCOMPARE(m_program->subjectsShown(), QStringList{u"Wave Optics"_s});
-        QCOMPARE(stored(), QStringList{u"earlier: Lenses"_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"earlier: Lenses"_s});
         m_program->clock.advance(20s);
 
-        QCOMPARE(stored(), QStringList({u"earlier: Lenses"_s, u"wave optics: Huygens"_s}));
+        QCOMPARE(m_program->storedTexts(),
+                 QStringList({u"earlier: Lenses"_s, u"wave optics: Huygens"_s}));
         QCOMPARE(lecture(0)->strNotes(), u"Huygens"_s);
     }
 
     void whatIsChangedAfterItWasStoredIsStoredToo()
     {
         finishWhileLocked("Optics", true);
-        edit(0);
+        m_program->edit(0);
         m_program->clock.advance(20s);
-        QCOMPARE(stored(), QStringList{u"Optics: "_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Optics: "_s});
 
-        finishEdit(u"Acoustics"_s, u"Pipes"_s);
+        m_program->finishEdit(u"Acoustics"_s, u"Pipes"_s);
 
-        QCOMPARE(stored(), QStringList{u"Acoustics: Pipes"_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Acoustics: Pipes"_s});
         QCOMPARE(m_program->subjectsShown(), QStringList{u"Acoustics"_s});
     }
 
@@ -64,7 +64,7 @@ private Q_SLOTS:
     {
         finishWhileLocked("Optics", false);
 
-        change(0, u"Acoustics"_s, u"Pipes"_s);
+        m_program->change(0, u"Acoustics"_s, u"Pipes"_s);
 
         m_program->controller.journal().flush();
         QStringList subjects;
@@ -78,10 +78,10 @@ private Q_SLOTS:
         finishWhileLocked("Optics", false);
         finishWhileLocked("Logic", false);
 
-        change(0, u"Acoustics"_s, u"Pipes"_s);
+        m_program->change(0, u"Acoustics"_s, u"Pipes"_s);
         m_program->clock.advance(20s);
 
-        QCOMPARE(stored(), QStringList({u"Acoustics: Pipes"_s, u"Logic: "_s}));
+        QCOMPARE(m_program->storedTexts(), QStringList({u"Acoustics: Pipes"_s, u"Logic: "_s}));
         QCOMPARE(m_program->subjectsShown(), QStringList({u"Acoustics"_s, u"Logic"_s}));
     }
 
@@ -99,7 +99,7 @@ private Q_SLOTS:
         m_program->clock.advance(20s);
 
         QVERIFY(m_program->subjectsShown().isEmpty());
-        QCOMPARE(stored(), QStringList{u"earlier: Lenses and mirrors"_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"earlier: Lenses and mirrors"_s});
         QCOMPARE(controller().leftLectures().owed(), 0);
         QCOMPARE(filesIn(folder()), QStringList{u".owner"_s});
         QVERIFY(filesIn(audio()).isEmpty());
@@ -112,15 +112,59 @@ private Q_SLOTS:
         QFile inTheWay(audio());
         QVERIFY(inTheWay.open(QIODevice::WriteOnly));
         m_program->finishNewLecture();
-        QCOMPARE(stored().size(), 1);
+        QCOMPARE(m_program->storedTexts().size(), 1);
 
         controller().prepareViewForDate(m_program->today());
         controller().onDelete(0);
         QVERIFY(inTheWay.remove());
         m_program->clock.advance(20s);
 
-        QVERIFY(stored().isEmpty());
+        QVERIFY(m_program->storedTexts().isEmpty());
         QCOMPARE(filesIn(folder()), QStringList{u".owner"_s});
+    }
+
+    // Its row is stored, and its journal could not be removed then.
+    void oneThatIsDeletedTakesAnOldJournalAlong()
+    {
+        m_program->recordNewLecture(3);
+        m_program->finishNewLecture();
+        tarvelo::store::LectureJournal journal{.id = u"20240305T080000000"_s, .isDone = true};
+        journal.target = lecture(0)->strLectureAudioPath();
+        write(folder() + u"/leftover-20240305T080000000.journal"_s,
+              tarvelo::store::toBytes(journal));
+
+        controller().onDelete(0);
+
+        QCOMPARE(controller().leftLectures().owed(), 0);
+        QCOMPARE(filesIn(folder()), QStringList{u".owner"_s});
+    }
+
+    void oneThatGetsAnotherPlaceIsFoundThere()
+    {
+        QVERIFY(QDir(audio()).removeRecursively());
+        QFile inTheWay(audio());
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        finishWhileLocked("Optics", true);
+        const QString wished = lecture(0)->strLectureAudioPath();
+        QVERIFY(inTheWay.remove() && QDir().mkpath(audio()));
+        write(wished, "another take");
+
+        m_program->clock.advance(20s);
+
+        const QString path = lecture(0)->strLectureAudioPath();
+        QVERIFY(path != wished && QFile::exists(path));
+        QCOMPARE(m_program->storedRows().value(0)["audioFileFullPath"_L1].toString(), path);
+        QCOMPARE(read(wished), QByteArray("another take"));
+    }
+
+    void whatIsOwedIsKnown()
+    {
+        QVERIFY(controller().journal().recordingsOwed().isEmpty());
+
+        finishWhileLocked("Optics", true);
+
+        QCOMPARE(controller().journal().recordingsOwed(),
+                 QStringList{lecture(0)->strLectureAudioPath()});
     }
 
     void whileAnotherIsDeletedTheOpenOneStaysOpen()
@@ -128,25 +172,25 @@ private Q_SLOTS:
         aLecture().named("earlier").insertInto(m_program->database);
         controller().prepareViewForDate(m_program->today());
         finishWhileLocked("Optics", false);
-        edit(1);
+        m_program->edit(1);
 
         controller().onDelete(0);
-        finishEdit(u"Acoustics"_s, u"Pipes"_s);
+        m_program->finishEdit(u"Acoustics"_s, u"Pipes"_s);
         m_program->clock.advance(20s);
 
-        QCOMPARE(stored(), QStringList{u"Acoustics: Pipes"_s});
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Acoustics: Pipes"_s});
     }
 
     void whatIsWrittenIntoOneThatWasDeletedIsGoneWithIt()
     {
         finishWhileLocked("Optics", false);
-        edit(0);
+        m_program->edit(0);
 
         controller().onDelete(0);
-        finishEdit(u"Acoustics"_s, u"Pipes"_s);
+        m_program->finishEdit(u"Acoustics"_s, u"Pipes"_s);
         m_program->clock.advance(20s);
 
-        QVERIFY(stored().isEmpty());
+        QVERIFY(m_program->storedTexts().isEmpty());
     }
 
     // Both were saved within one second, and the audio folder is on a disk of its own.
@@ -206,36 +250,10 @@ private:
         m_program->finishNewLecture();
         QVERIFY(other.rollback());
     }
-    void edit(int row)
-    {
-        controller().onEditLecture(
-            m_program->windows.mainOutlets()
-                .tblRecordSubjectList->viewAtColumnRowMakeIfNecessary(0, row, true)
-                ->btnEdit());
-    }
-    void finishEdit(const QString &subject, const QString &notes)
-    {
-        const auto &window = m_program->windows.editLectureOutlets();
-        window.txtSubjectForEdit->setText(subject);
-        window.txtViewNotesForEdit->setPlainText(notes);
-        window.btnDoneEdit->click();
-    }
-    void change(int row, const QString &subject, const QString &notes)
-    {
-        edit(row);
-        finishEdit(subject, notes);
-    }
 
     tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
     Lecture lecture(std::size_t row) { return controller().arrangedObjects().at(row); }
     qint64 storedID(int row) { return m_program->storedRows().value(row)["ID"_L1].toLongLong(); }
-    QStringList stored()
-    {
-        QStringList lectures;
-        for (const auto &row : m_program->storedRows())
-            lectures.append(row["subject"_L1].toString() + u": "_s + row["notes"_L1].toString());
-        return lectures;
-    }
 
     QString folder() const { return m_program->places.folder() + u"/temp"_s; }
     QString audio() const { return m_program->places.folder() + u"/Audio"_s; }

@@ -78,6 +78,21 @@ private Q_SLOTS:
         QCOMPARE(filesThere(), QStringList(u"saved"_s));
     }
 
+    void aCopyIsKnownByItsBytes()
+    {
+        const QByteArray sound = QByteArray("sound").repeated(700'000);
+        write(m_from, sound);
+        for (const auto &[content, isCopy] :
+             {std::pair(sound, true), std::pair(sound.chopped(1), false),
+              std::pair(sound + 's', false), std::pair(sound.chopped(1) + 'x', false),
+              std::pair(QByteArray(), false)}) {
+            write(m_to, content);
+            QCOMPARE(isCopyOf(m_to, m_from), isCopy);
+            QCOMPARE(isCopyOf(m_from, m_to), isCopy);
+        }
+        QVERIFY(!isCopyOf(m_from, m_dir.filePath(u"take/none"_s)));
+    }
+
     void whatCannotBeMovedStaysWhereItIs()
     {
         write(m_from, "sound");

@@ -44,6 +44,19 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(remembered(), QByteArray("2024-03-06"), 60000);
     }
 
+    void whereTheDayCannotBeWrittenDownItIsDoneOnceADayToo()
+    {
+        start(databaseOf(3));
+        QVERIFY(QDir().mkpath(m_places->folder() + u"/Backups/.checked"_s));
+        check();
+
+        m_clock.advance(DailyCheck::Again);
+        QVERIFY(!m_check->isChecking());
+
+        m_clock.advance(24h);
+        QVERIFY(m_check->isChecking());
+    }
+
     void aDamagedFileIsMendedAndLiesAside()
     {
         QByteArray content = databaseOf(30);

@@ -1,7 +1,11 @@
 #include "store/LectureDatabase.h"
 
 #include "store/DamagedDatabases.h"
+#include "store/FullDisk.h"
+#include "store/LectureInfoItem.h"
+#include "store/LectureJournal.h"
 #include "store/Soundness.h"
+#include "store/Statements.h"
 #include "support/FakeClock.h"
 #include "support/TestCase.h"
 
@@ -172,6 +176,36 @@ private Q_SLOTS:
         QVERIFY(m_database->connection());
     }
 
+    // What cannot be put aside is not written to, until it can be.
+    void aDamagedFileThatCannotBePutAsideIsNotWrittenTo()
+    {
+        QByteArray content = m_sound;
+        content.replace(content.size() / 2 / DatabasePage * DatabasePage, DatabasePage,
+                        QByteArray(DatabasePage, '\xa5'));
+        start(content);
+        const QString copies = m_places->folder() + u"/Backups"_s;
+        QDir().mkpath(copies);
+        {
+            const SmallDisk disk(copies, 16);
+            QVERIFY(m_database->openDb());
+            const QByteArray before = m_places->readDatabaseFile();
+            QVERIFY(!m_database->mendIfDamaged());
+
+            QVERIFY(!m_database->openToWrite());
+            QVERIFY(!insertLater());
+            LectureInfoItem first({}, {}, {}, {}, true);
+            first.setRecordUniqueID(1);
+            first.setLectureAudioPath(u"/nowhere.m4a"_s);
+            QVERIFY(!m_database->deleteVoiceData(first));
+            QCOMPARE(m_places->readDatabaseFile(), before);
+        }
+
+        QVERIFY(insertLater());
+        QVERIFY(m_database->damagedFiles().newest());
+        QVERIFY(m_database->mendIfDamaged());
+        QVERIFY(subjectsIn(connection()).contains(u"later"_s));
+    }
+
 private:
     void prepare() override
     {
@@ -184,6 +218,11 @@ private:
         m_places.reset();
     }
 
+    bool insertLater()
+    {
+        return m_database->insertIntoDbwithSqlStatementWithArguments(
+            statements::Insert, newLectureRow(u"later"_s, {}, u"2024-03-05"_s, {}, {}));
+    }
     void start(const QByteArray &content) const { m_places->writeDatabaseFile(content); }
     Sqlite &connection() const { return *m_database->openDb(); }
     QByteArray aside() const

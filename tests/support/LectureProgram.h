@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calendar/CKCalendarView.h"
+#include "lectures/CustomTableCellView.h"
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
@@ -90,6 +91,27 @@ public:
         clock.advance(std::chrono::milliseconds(200));
     }
 
+    // In the window of its own.
+    void edit(int row)
+    {
+        controller.onEditLecture(
+            windows.mainOutlets()
+                .tblRecordSubjectList->viewAtColumnRowMakeIfNecessary(0, row, true)
+                ->btnEdit());
+    }
+    void finishEdit(const QString &subject, const QString &notes)
+    {
+        const auto &window = windows.editLectureOutlets();
+        window.txtSubjectForEdit->setText(subject);
+        window.txtViewNotesForEdit->setPlainText(notes);
+        window.btnDoneEdit->click();
+    }
+    void change(int row, const QString &subject, const QString &notes)
+    {
+        edit(row);
+        finishEdit(subject, notes);
+    }
+
     QStringList subjectsShown() const
     {
         QStringList subjects;
@@ -103,6 +125,15 @@ public:
         store::Sqlite *connection = database.openDb();
         return connection->executeQuery(QStringLiteral("select * from audioData ORDER BY ID"))
             .value_or(store::Rows());
+    }
+    // "Subject: notes" of each.
+    QStringList storedTexts()
+    {
+        QStringList lectures;
+        for (const auto &row : storedRows())
+            lectures.append(row[QStringLiteral("subject")].toString() + QStringLiteral(": ") +
+                            row[QStringLiteral("notes")].toString());
+        return lectures;
     }
     QWidget &emptyDayPanel() const
     {

@@ -7,6 +7,7 @@ extern "C" {
 #include <libswresample/swresample.h>
 }
 
+#include <cstdint>
 #include <memory>
 
 namespace tarvelo::engine {
@@ -24,6 +25,9 @@ using CodecPointer = std::unique_ptr<AVCodecContext, FfmpegDeleter>;
 using FramePointer = std::unique_ptr<AVFrame, FfmpegDeleter>;
 using PacketPointer = std::unique_ptr<AVPacket, FfmpegDeleter>;
 using ResamplerPointer = std::unique_ptr<SwrContext, FfmpegDeleter>;
+
+// In all of AAC's low complexity profile.
+inline constexpr std::int64_t SamplesInPacket = 1024;
 
 // FFmpeg talks on stderr unless told otherwise; nobody reads that here.
 inline void keepFfmpegQuiet()

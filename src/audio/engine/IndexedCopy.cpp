@@ -17,7 +17,6 @@ namespace {
 
 using Kind = SoundFileInput::Kind;
 
-constexpr std::int64_t SamplesInPacket = 1024; // in all of AAC's low complexity profile
 // What two ways of measuring may differ by.
 constexpr double SecondsInPacket = 0.05;
 

@@ -95,9 +95,4 @@ std::optional<MovieOutline> outlineOf(ByteSource &movie)
     return outline;
 }
 
-std::optional<MovieOutline> outlineOf(const QByteArray &movie)
-{
-    return outlineOf(*ByteSource::ofBytes(movie));
-}
-
 } // namespace tarvelo::engine

@@ -24,6 +24,5 @@ bool beginsLikeMovie(QByteArrayView head);
 // Nothing for a file with fragments and a track that has no number: FFmpeg would count to a
 // thousand million for each row of them.
 std::optional<MovieOutline> outlineOf(ByteSource &movie);
-std::optional<MovieOutline> outlineOf(const QByteArray &movie);
 
 } // namespace tarvelo::engine

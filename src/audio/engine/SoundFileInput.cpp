@@ -12,8 +12,6 @@ namespace {
 
 constexpr int BufferSize = 256 * 1024;
 
-constexpr std::int64_t SamplesInPacket = 1024; // in all of AAC's low complexity profile
-
 // What a lecture may have come in, and no more: every reader that is not there can be fooled by no
 // file. Play lists and the like, which lead to other files, are not among them.
 constexpr const char *Formats = "mov,aac,mp3,wav,flac,ogg,aiff,caf";

@@ -73,12 +73,9 @@ private Q_SLOTS:
     // What waits in memory is lost when the program is killed.
     void aDiskThatTakesItsTimeKeepsNothingFromTheFile()
     {
-        const QTemporaryDir folder;
         const auto encoder = AacEncoder::create({});
-        const auto take = FragmentedFile::create(
-            OutputFile::create(
-                QFile::encodeName(folder.filePath(QStringLiteral("take.m4a"))).toStdString()),
-            encoder->codec());
+        const QTemporaryDir folder;
+        const auto take = takeIn(folder, *encoder);
         g_isDiskBusy = true;
         while (!g_isSyncWaiting)
             addSilence(*encoder, *take, 10);
@@ -100,12 +97,9 @@ private Q_SLOTS:
     // As in a pause.
     void whatWasWrittenComesToTheDiskAlsoWhenNothingFollows()
     {
-        const QTemporaryDir folder;
         const auto encoder = AacEncoder::create({});
-        const auto take = FragmentedFile::create(
-            OutputFile::create(
-                QFile::encodeName(folder.filePath(QStringLiteral("take.m4a"))).toStdString()),
-            encoder->codec());
+        const QTemporaryDir folder;
+        const auto take = takeIn(folder, *encoder);
         addSilence(*encoder, *take, 100);
         QVERIFY(!take->isSynced());
 
@@ -113,6 +107,13 @@ private Q_SLOTS:
     }
 
 private:
+    static std::unique_ptr<FragmentedFile> takeIn(const QTemporaryDir &folder, AacEncoder &encoder)
+    {
+        return FragmentedFile::create(
+            OutputFile::create(
+                QFile::encodeName(folder.filePath(QStringLiteral("take.m4a"))).toStdString()),
+            encoder.codec());
+    }
     static void addSilence(AacEncoder &encoder, FragmentedFile &take, int frames)
     {
         for (int frame = 0; frame < frames; ++frame) {

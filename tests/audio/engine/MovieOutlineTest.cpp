@@ -7,6 +7,15 @@
 using namespace tarvelo::engine;
 using namespace tarvelo::tests;
 
+namespace {
+
+std::optional<MovieOutline> outlineOf(const QByteArray &movie)
+{
+    return tarvelo::engine::outlineOf(*ByteSource::ofBytes(movie));
+}
+
+} // namespace
+
 class MovieOutlineTest final : public TestCase
 {
     Q_OBJECT

@@ -22,7 +22,8 @@ class ServerDoor final
 {
 public:
     ServerDoor(const QString &path, const QString &server)
-        : m_server(server)
+        : m_path(path)
+        , m_server(server)
         , m_listener(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
     {
         const sockaddr_un place = placeOf(path);
@@ -43,6 +44,7 @@ public:
     }
 
     bool isOpen() const { return m_isOpen; }
+    const QString &path() const { return m_path; }
     // Sends everybody away; who comes back gets in.
     void sendAway() { ++m_generation; }
     // Who asks for a stream to record with gets no answer any more.
@@ -118,6 +120,7 @@ private:
         return true;
     }
 
+    QString m_path;
     const QString m_server;
     const int m_listener;
     bool m_isOpen = false;

@@ -179,11 +179,13 @@ private Q_SLOTS:
 
         ahead.jump(5);
         QCOMPARE(ahead.secondsAt(44100), 5.0);
+        // Until it is obeyed: a busy machine may take longer than it takes to hear what is ready.
+        QTRY_VERIFY_WITH_TIMEOUT(ahead.secondsAt(2 * 44100) > 5, Patience);
         hearer.hearAll();
 
         const auto jump = std::ranges::find_if(hearer.seconds, [](double it) { return it > 5; });
         const auto at = jump - hearer.seconds.begin();
-        QVERIFY2(at < 2 * 44100, qPrintable(QString::number(at)));
+        QVERIFY2(at < 44100 * 6 / 5, qPrintable(QString::number(at)));
         const auto after = std::span(hearer.sound).subspan(static_cast<std::size_t>(at) + 500);
         QVERIFY(std::abs(std::ssize(after) + 500 - 3 * 44100) <= 2);
         QVERIFY(correlation(after, std::span(sound).last(after.size())) > 0.9999);
