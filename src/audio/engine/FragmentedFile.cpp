@@ -1,5 +1,6 @@
 #include "audio/engine/FragmentedFile.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -108,9 +109,14 @@ void FragmentedFile::syncNowAndThen()
     if (const auto isOnDisk = m_sync.outcome())
         syncEnded(*isOnDisk);
     const auto now = std::chrono::steady_clock::now();
-    if (m_unsynced.empty() || m_sync.isUnderWay() || now - m_synced < SyncInterval)
+    const bool hasNothing = m_unsynced.empty() && !m_diskFails;
+    if (hasNothing || m_sync.isUnderWay() || now - m_synced < SyncInterval)
         return;
     m_synced = now;
+    if (m_diskFails)
+        putWaiting();
+    if (m_unsynced.empty() || !writeLostAgain())
+        return;
     m_syncing = m_unsynced.size();
     m_sync.begin();
 }
@@ -120,19 +126,27 @@ void FragmentedFile::sync()
     if (const auto isOnDisk = m_sync.wait())
         syncEnded(*isOnDisk);
     m_syncing = m_unsynced.size();
-    syncEnded(m_file->sync());
+    syncEnded(writeLostAgain() && m_file->sync());
 }
 
 // A disk tells only once that it lost something, and takes it for written afterwards: all that it
-// may be is written again, for the next time.
+// may be is written again, and nothing counts as synced before that.
 void FragmentedFile::syncEnded(bool isOnDisk)
 {
     while (isOnDisk && m_syncing > 0)
         forgetOldestUnsynced();
     m_syncing = 0;
-    if (!isOnDisk)
-        for (const Fragment &fragment : m_unsynced)
-            m_file->writeAt(fragment.offset, fragment.bytes);
+    m_mayBeLost = !isOnDisk;
+    writeLostAgain();
+}
+
+// False as long as the disk does not take it.
+bool FragmentedFile::writeLostAgain()
+{
+    m_mayBeLost = m_mayBeLost && !std::ranges::all_of(m_unsynced, [this](const Fragment &fragment) {
+                      return m_file->writeAt(fragment.offset, fragment.bytes);
+                  });
+    return !m_mayBeLost;
 }
 
 void FragmentedFile::forgetOldestUnsynced()

@@ -44,7 +44,8 @@ public:
 
     void add(const AVPacket &packet);
     void retry();
-    // What was written by now is forced to the disk, by another thread, when it is time for that.
+    // When it is time for that: tries once more what waits for room, also in a pause, and has what
+    // was written by now forced to the disk, by another thread.
     void syncNowAndThen();
     // Writes what is left and forces it to the disk; false when not all of the sound got into the
     // file.
@@ -66,6 +67,7 @@ private:
     void putWaiting();
     void sync();
     void syncEnded(bool isOnDisk);
+    bool writeLostAgain();
     void forgetOldestUnsynced();
 
     std::unique_ptr<OutputFile> m_file;
@@ -81,6 +83,7 @@ private:
     std::deque<Fragment> m_unsynced;
     std::size_t m_bytesUnsynced = 0;
     std::size_t m_syncing = 0; // of the unsynced, those that the sync which is under way is for
+    bool m_mayBeLost = false;  // all that is unsynced
     bool m_diskFails = false;
     std::chrono::steady_clock::time_point m_synced = std::chrono::steady_clock::now();
 };

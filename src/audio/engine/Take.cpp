@@ -89,13 +89,19 @@ void Take::writeUntilEnd()
 void Take::writeWhatIsThere()
 {
     m_writer->keepSynced();
+    noteWhatIsSafe();
     while (const std::size_t count = m_ring.read(m_block)) {
         if (!m_writer->write(std::span(m_block).first(count)))
             m_secondsRefused =
                 m_secondsRefused + static_cast<double>(count) / (m_input.rate * m_input.channels);
-        m_secondsInFile = m_writer->secondsInFile();
-        m_secondsSafe = m_writer->secondsSafe();
+        noteWhatIsSafe();
     }
+}
+
+void Take::noteWhatIsSafe()
+{
+    m_secondsInFile = m_writer->secondsInFile();
+    m_secondsSafe = m_writer->secondsSafe();
 }
 
 bool Take::finish()
@@ -112,8 +118,7 @@ bool Take::finish()
     if (m_thread.joinable())
         m_thread.join();
     m_isComplete = m_writer->finish();
-    m_secondsInFile = m_writer->secondsInFile();
-    m_secondsSafe = m_writer->secondsSafe();
+    noteWhatIsSafe();
     return m_isComplete;
 }
 

@@ -48,6 +48,7 @@ private:
     void intoRing(std::span<const float> samples);
     void writeUntilEnd();
     void writeWhatIsThere();
+    void noteWhatIsSafe();
 
     PcmFormat m_input;
     SampleRing m_ring;

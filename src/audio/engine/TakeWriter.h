@@ -27,8 +27,8 @@ public:
 
     // False when the samples were not taken.
     bool write(std::span<const float> interleaved);
-    // Also while there is no sound, what is in the file comes to the disk; to be called now and
-    // then.
+    // Also while there is no sound, what is in the file comes to the disk, and what waits for room
+    // gets into the file; to be called now and then.
     void keepSynced() { m_file->syncNowAndThen(); }
     // Completes the file and turns it into a plain indexed one. False when sound is missing from
     // it; what is there plays all the same. A second call does nothing.

@@ -19,6 +19,9 @@ namespace {
 
 // As a disk does that failed to write: it says so once, and has forgotten what it was.
 std::atomic<int> g_syncsFailing = 0;
+// After such a failure, so many writes fail too.
+std::atomic<int> g_writesFailing = 0;
+std::atomic<bool> g_hasSyncFailed = false;
 
 // As a disk that takes its time: until `g_isDiskBusy` is over.
 std::atomic<bool> g_isDiskBusy = false;
@@ -43,7 +46,17 @@ extern "C" __attribute__((used)) int fdatasync(int file)
     if (g_syncsFailing <= 0)
         return static_cast<int>(::syscall(SYS_fdatasync, file));
     --g_syncsFailing;
+    g_hasSyncFailed = true;
     forgetContent(file);
+    errno = EIO;
+    return -1;
+}
+
+extern "C" __attribute__((used)) ssize_t pwrite(int file, const void *bytes, size_t count, off_t at)
+{
+    if (!g_hasSyncFailed || g_writesFailing <= 0)
+        return ::syscall(SYS_pwrite64, file, bytes, count, at);
+    --g_writesFailing;
     errno = EIO;
     return -1;
 }
@@ -61,6 +74,19 @@ private Q_SLOTS:
         QCOMPARE(takeOf(1), expected);
 
         QVERIFY(m_isSynced);
+    }
+
+    void whatIsWrittenAgainAndFailsOnceMoreIsNotTakenForSynced()
+    {
+        const QByteArray expected = takeOf(0);
+        g_writesFailing = 1;
+
+        QCOMPARE(takeOf(1), expected);
+        QVERIFY(m_isSynced);
+
+        g_writesFailing = 1000;
+        takeOf(1);
+        QVERIFY(!m_isSynced);
     }
 
     void aDiskThatWritesNothingIsSaidToHaveFailed()
@@ -136,6 +162,8 @@ private:
         g_syncsFailing = syncsFailing;
         take->finish();
         g_syncsFailing = 0;
+        g_writesFailing = 0;
+        g_hasSyncFailed = false;
         m_isSynced = take->isSynced();
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
