@@ -19,9 +19,9 @@ namespace {
 
 // As a disk does that failed to write: it says so once, and has forgotten what it was.
 std::atomic<int> g_syncsFailing = 0;
-// After such a failure, so many writes fail too.
+// So many writes fail, from that failure on.
 std::atomic<int> g_writesFailing = 0;
-std::atomic<bool> g_hasSyncFailed = false;
+std::atomic<bool> g_doWritesFail = false;
 
 // As a disk that takes its time: until `g_isDiskBusy` is over.
 std::atomic<bool> g_isDiskBusy = false;
@@ -46,7 +46,7 @@ extern "C" __attribute__((used)) int fdatasync(int file)
     if (g_syncsFailing <= 0)
         return static_cast<int>(::syscall(SYS_fdatasync, file));
     --g_syncsFailing;
-    g_hasSyncFailed = true;
+    g_doWritesFail = true;
     forgetContent(file);
     errno = EIO;
     return -1;
@@ -54,7 +54,7 @@ extern "C" __attribute__((used)) int fdatasync(int file)
 
 extern "C" __attribute__((used)) ssize_t pwrite(int file, const void *bytes, size_t count, off_t at)
 {
-    if (!g_hasSyncFailed || g_writesFailing <= 0)
+    if (!g_doWritesFail || g_writesFailing <= 0)
         return ::syscall(SYS_pwrite64, file, bytes, count, at);
     --g_writesFailing;
     errno = EIO;
@@ -120,6 +120,25 @@ private Q_SLOTS:
         QVERIFY(take->isSynced());
     }
 
+    // As in a pause: what waits in memory is lost when the program is killed.
+    void roomThatComesIsUsedAlsoWhenNothingFollows()
+    {
+        const auto encoder = AacEncoder::create({});
+        const QTemporaryDir folder;
+        const auto take = takeIn(folder, *encoder);
+        g_writesFailing = 1000;
+        g_doWritesFail = true;
+        addSilence(*encoder, *take, 100);
+        QVERIFY(take->isDiskFailing());
+        QCOMPARE(take->secondsInFile(), 0.0);
+
+        g_doWritesFail = false;
+
+        QTRY_VERIFY((take->syncNowAndThen(), !take->isDiskFailing()));
+        QVERIFY(take->secondsInFile() > 100 * 1024 / 44100.0 - 2 * FragmentedFile::FragmentSeconds);
+        g_writesFailing = 0;
+    }
+
     // As in a pause.
     void whatWasWrittenComesToTheDiskAlsoWhenNothingFollows()
     {
@@ -163,7 +182,7 @@ private:
         take->finish();
         g_syncsFailing = 0;
         g_writesFailing = 0;
-        g_hasSyncFailed = false;
+        g_doWritesFail = false;
         m_isSynced = take->isSynced();
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }

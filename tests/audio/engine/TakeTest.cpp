@@ -89,22 +89,6 @@ private Q_SLOTS:
         QVERIFY(std::abs(DecodedAudio::read(name())->seconds() - take->seconds()) < 0.05);
     }
 
-    // What waits in memory is lost when the program is killed.
-    void roomThatComesBackInAPauseIsUsedInIt()
-    {
-        const auto take = Take::start(path(), Mono, {});
-        {
-            const SmallDisk disk(30000);
-            take->put(tune(44100, 6));
-            take->breakOff();
-            QTRY_VERIFY_WITH_TIMEOUT(take->seconds() < 6, 60000);
-        }
-
-        QTRY_VERIFY_WITH_TIMEOUT(take->secondsInFile() > 5.7, 60000);
-        QCOMPARE(take->seconds(), 6.0);
-        QVERIFY(take->finish());
-    }
-
     void whereNothingCanBeWrittenThereIsNoTake()
     {
         QVERIFY(!Take::start(path() + "/missing", Mono, {}));
