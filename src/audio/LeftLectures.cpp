@@ -9,6 +9,7 @@
 #include "platform/SteadyFile.h"
 #include "platform/SureReading.h"
 #include "store/LectureDatabase.h"
+#include "store/LectureInfoItem.h"
 #include "store/Statements.h"
 #include "store/Tables.h"
 
@@ -17,6 +18,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace tarvelo::audio {
 
@@ -194,29 +196,47 @@ std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
     };
     if (row == 0 && (insert() || (makeTable() && insert())))
         row = database->lastinsertedRowID();
+    // An insert may have failed although its row is there, since only its last step did.
+    else if (row == 0)
+        row = storedRow(left.journal);
     if (row.value_or(0) == 0)
         return std::nullopt;
-    if (!left.journal.id.isEmpty())
-        m_rows.insert(left.journal.id, *row);
+    rowIsStored(left.journal.id, *row);
     platform::SteadyFile(left.journalPath).remove();
     return Stored{left.journal.id, *row, left.journal.target};
 }
 
-QString LeftLectures::owedWith(const QString &recording) const
+void LeftLectures::rowIsStored(const QString &id, qint64 row)
 {
-    const QList<Left> lectures = all();
+    // An ID may be given again.
+    m_rows.removeIf(
+        [row](const std::pair<const QString &, qint64 &> &stored) { return stored.second == row; });
+    if (!id.isEmpty())
+        m_rows.insert(id, row);
+}
+
+QString LeftLectures::journalOf(const store::LectureInfoItem &lecture) const
+{
+    const QString &recording = lecture.getLectureAudioPath();
+    const QList<Left> lectures = recording.isEmpty() ? QList<Left>() : all();
     const auto owed = std::ranges::find_if(lectures, [&recording](const Left &left) {
         return left.journal.isDone && left.journal.target == recording;
     });
-    return recording.isEmpty() || owed == lectures.end() ? QString() : owed->journal.id;
+    if (owed != lectures.end())
+        return owed->journal.id;
+    return lecture.hasRow() ? m_rows.key(lecture.getRecordUniqueID()) : QString();
 }
 
 void LeftLectures::storeOwed(const std::function<void(const Stored &)> &stored,
-                             const QStringList &notYet)
+                             const QHash<QString, Texts> &newer)
 {
     for (Left &left : all()) {
-        if (!left.journal.isDone || notYet.contains(left.journal.id))
+        if (!left.journal.isDone)
             continue;
+        if (const auto texts = newer.find(left.journal.id); texts != newer.end()) {
+            left.journal.subject = texts->subject;
+            left.journal.notes = texts->notes;
+        }
         // A recording that was moved and cannot be looked for now is looked for later. Where it is
         // gone, subject and notes are kept: a lecture that is deleted takes its journal along.
         const bool wasMoved = left.takePath.isEmpty() && !left.journal.target.isEmpty();
@@ -265,10 +285,15 @@ std::optional<LeftLectures::Left> LeftLectures::unwritten(const QString &folder,
 }
 
 std::optional<LeftLectures::Stored> LeftLectures::storeUnwritten(const QString &folder,
-                                                                 const LectureJournal &journal)
+                                                                 LectureJournal &journal)
 {
     auto left = unwritten(folder, journal);
-    return left && moveTake(*left) ? store(*left) : std::nullopt;
+    if (!left)
+        return std::nullopt;
+    const bool isMoved = moveTake(*left);
+    journal.target = left->journal.target;
+    journal.duration = left->journal.duration;
+    return isMoved ? store(*left) : std::nullopt;
 }
 
 void LeftLectures::discardUnwritten(const QString &folder, const LectureJournal &journal)

@@ -12,7 +12,8 @@ class Dates;
 }
 namespace tarvelo::store {
 class LectureDatabase;
-}
+class LectureInfoItem;
+} // namespace tarvelo::store
 
 namespace tarvelo::audio {
 
@@ -63,8 +64,11 @@ public:
     // down is false, one for which there is no such journal null.
     std::optional<bool> change(const QString &id, const QString &subject, const QString &notes);
     void discard(const QString &id);
-    // Of the journal that promises this recording to a lecture; empty when there is none.
-    QString owedWith(const QString &recording) const;
+    // Of the journal of a stored lecture, as far as it is known: of what this process stored, and
+    // of a recording that is promised to a lecture. Empty when there is none.
+    QString journalOf(const store::LectureInfoItem &lecture) const;
+    // The row of this journal's lecture is stored: it is no other journal's.
+    void rowIsStored(const QString &id, qint64 row);
 
     struct Stored
     {
@@ -72,13 +76,18 @@ public:
         qint64 row;
         QString recording; // where it lies now; empty without one
     };
-    // Goes on with what is to be kept, but for the journals with these IDs. `stored` hears of each.
+    struct Texts
+    {
+        QString subject;
+        QString notes;
+    };
+    // Goes on with what is to be kept. `stored` hears of each; `newer`, by the journals' IDs, are
+    // texts that could not be written into their journals.
     void storeOwed(const std::function<void(const Stored &)> &stored = {},
-                   const QStringList &notYet = {});
+                   const QHash<QString, Texts> &newer = {});
     // For one that is done and stands in the folder of the takes, whose journal cannot be written
-    // there. Null when its row is not stored.
-    std::optional<Stored> storeUnwritten(const QString &folder,
-                                         const store::LectureJournal &journal);
+    // there, and which hears where its recording is to lie now. Null when its row is not stored.
+    std::optional<Stored> storeUnwritten(const QString &folder, store::LectureJournal &journal);
     void discardUnwritten(const QString &folder, const store::LectureJournal &journal);
     // Of the lectures stored until now, for the journal of one that is done.
     qint64 lastRow() const;

@@ -1,7 +1,6 @@
 #include "lectures/LectureJournalKeeper.h"
 
 #include "audio/AudioFileLocations.h"
-#include "audio/LeftLectures.h"
 #include "lectures/DayList.h"
 #include "platform/Dates.h"
 #include "widgets/WholeText.h"
@@ -179,6 +178,8 @@ void LectureJournalKeeper::lectureMoves(const QString &target, const QString &du
 void LectureJournalKeeper::lectureStored(bool isStored, const Lecture &lecture)
 {
     const QString &target = m_journal.target;
+    if (lecture->hasRow())
+        m_with.left.rowIsStored(m_journal.id, lecture->getRecordUniqueID());
     if (isStored && (target.isEmpty() || QFileInfo::exists(target))) {
         endWithoutJournal();
         // What was not seen when it was to be moved is not written over.
@@ -232,7 +233,8 @@ void LectureJournalKeeper::writeChanges()
     if (m_changed.isEmpty())
         return;
     m_places.clear();
-    m_changed.removeIf([this](const std::pair<const QString &, Texts &> &changed) {
+    using Changed = std::pair<const QString &, audio::LeftLectures::Texts &>;
+    m_changed.removeIf([this](const Changed &changed) {
         const auto &[subject, notes] = changed.second;
         const auto isWritten = m_places.changeOwed(changed.first, subject, notes)
                                    ? std::optional(true)
@@ -246,7 +248,7 @@ void LectureJournalKeeper::lectureDeleted(const store::LectureInfoItem &lecture)
 {
     // Also of one that is stored, whose journal could not be removed then.
     const QString owed = journalOf(lecture);
-    const QString id = owed.isEmpty() ? m_with.left.owedWith(lecture.getLectureAudioPath()) : owed;
+    const QString id = owed.isEmpty() ? m_with.left.journalOf(lecture) : owed;
     if (id.isEmpty())
         return;
     m_owed.remove(id);
@@ -277,13 +279,13 @@ bool LectureJournalKeeper::storeWhatCanBe()
     bool isAnyStored = false;
     const auto stored = [this, &isAnyStored](const audio::LeftLectures::Stored &owed) {
         isAnyStored = true;
+        m_changed.remove(owed.id);
         if (const Lecture lecture = m_owed.take(owed.id).lecture.lock()) {
             lecture->setRow(owed.row);
             lecture->setLectureAudioPath(owed.recording);
         }
     };
-    // Those whose changes are not on the disk yet come later.
-    m_with.left.storeOwed(stored, m_changed.keys());
+    m_with.left.storeOwed(stored, m_changed);
     m_places.storeUnwritten(stored);
     return isAnyStored;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/LeftFiles.h"
+#include "audio/LeftLectures.h"
 #include "audio/RecordingControl.h"
 #include "audio/TakePlaces.h"
 #include "lectures/LectureList.h"
@@ -12,10 +13,6 @@
 #include <QObject>
 
 #include <functional>
-
-namespace tarvelo::audio {
-class LeftLectures;
-}
 
 namespace tarvelo::lectures {
 
@@ -116,13 +113,9 @@ private:
         qint64 row = store::LectureInfoItem::NoRow;
         QString path = {};
     };
-    struct Texts
-    {
-        QString subject;
-        QString notes;
-    };
-    QHash<QString, Owed> m_owed;     // by the journal's ID
-    QHash<QString, Texts> m_changed; // those that the journal does not have yet
+    QHash<QString, Owed> m_owed; // by the journal's ID
+    // Those that the journal does not have yet.
+    QHash<QString, audio::LeftLectures::Texts> m_changed;
     QStringList m_deleted;           // whose journal goes as soon as it can
     store::LectureJournal m_journal; // what cannot be read from the window
     QDateTime m_written;

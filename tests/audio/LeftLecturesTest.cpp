@@ -2,12 +2,14 @@
 
 #include "audio/AudioFileLocations.h"
 #include "audio/LeftStage.h"
+#include "store/LectureInfoItem.h"
 #include "support/DecodedAudio.h"
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
 using namespace Qt::StringLiterals;
 using tarvelo::audio::LeftLectures;
+using tarvelo::store::LectureInfoItem;
 using tarvelo::store::LectureJournal;
 using tarvelo::tests::DecodedAudio;
 using tarvelo::tests::LeftStage;
@@ -306,9 +308,67 @@ private Q_SLOTS:
         m_stage->leaveJournal(journal);
         m_stage->setAside();
 
-        QCOMPARE(m_stage->left.owedWith(journal.target), journal.id);
-        QCOMPARE(m_stage->left.owedWith(journal.target + u'x'), QString());
-        QCOMPARE(m_stage->left.owedWith(QString()), QString());
+        LectureInfoItem lecture({}, {}, {}, {}, true);
+        lecture.setRecordUniqueID(7);
+        QCOMPARE(m_stage->left.journalOf(lecture), QString());
+        lecture.setLectureAudioPath(journal.target);
+        QCOMPARE(m_stage->left.journalOf(lecture), journal.id);
+        lecture.setLectureAudioPath(journal.target + u'x');
+        QCOMPARE(m_stage->left.journalOf(lecture), QString());
+    }
+
+    void theJournalOfARowIsKnownUntilItsIdIsGivenAgain()
+    {
+        LectureInfoItem lecture({}, {}, {}, {}, true);
+        lecture.setRecordUniqueID(7);
+
+        m_stage->left.rowIsStored(u"one"_s, 7);
+        QCOMPARE(m_stage->left.journalOf(lecture), u"one"_s);
+        m_stage->left.rowIsStored(u"other"_s, 7);
+        QCOMPARE(m_stage->left.journalOf(lecture), u"other"_s);
+    }
+
+    void textsThatCouldNotBeWrittenDownAreStored()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        m_stage->leaveJournal(journal);
+        m_stage->setAside();
+
+        m_stage->left.storeOwed({}, {{journal.id, {u"acoustics"_s, u"Pipes"_s}}});
+
+        QCOMPARE(m_stage->rows().size(), 1);
+        QCOMPARE(m_stage->rows().first()["subject"_L1], u"acoustics"_s);
+        QCOMPARE(m_stage->rows().first()["notes"_L1], u"Pipes"_s);
+        QCOMPARE(m_stage->left.owed(), 0);
+    }
+
+    // An insert of which the last step failed only.
+    void aRowThatIsThereAlthoughItsInsertFailedIsItsOwn()
+    {
+        bool wasRefused = true;
+        int call = 1;
+        for (; wasRefused; ++call) {
+            finish();
+            prepare();
+            LectureJournal journal = LeftStage::journal();
+            journal.isDone = true;
+            m_stage->leaveJournal(journal);
+            m_stage->setAside();
+            QVERIFY(m_stage->database.openDb());
+            tarvelo::tests::refuseCall(call, "TarveloInfo");
+            int stored = 0;
+            const auto count = [&stored](const LeftLectures::Stored &) { ++stored; };
+            m_stage->left.storeOwed(count);
+            wasRefused = tarvelo::tests::callsUntilRefusal() == 0;
+            tarvelo::tests::refuseNothing();
+
+            QVERIFY2(m_stage->rows().size() == stored, qPrintable(QString::number(call)));
+            m_stage->left.storeOwed(count);
+            QCOMPARE(m_stage->rows().size(), 1);
+            QCOMPARE(stored, 1);
+        }
+        QVERIFY(call > 10);
     }
 
     void twoOfTheSameNotesAndDayAreTwo()

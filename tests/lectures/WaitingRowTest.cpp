@@ -1,6 +1,7 @@
 #include "lectures/NewLecture.h"
 #include "store/FullDisk.h"
 #include "support/LectureProgram.h"
+#include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
 #include <QDir>
@@ -139,6 +140,36 @@ private Q_SLOTS:
         QCOMPARE(filesIn(folder()), QStringList{u".owner"_s});
     }
 
+    // Its journal stayed, since it could not be removed then.
+    void oneWithoutARecordingThatIsDeletedTakesAnOldJournalAlong()
+    {
+        finishWhileLocked("Optics", false);
+        tarvelo::tests::refuse("unlink", "leftover-", 1000);
+        m_program->clock.advance(20s);
+        tarvelo::tests::refuseNothing();
+        QCOMPARE(m_program->storedTexts(), QStringList{u"Optics: "_s});
+        QCOMPARE(controller().leftLectures().owed(), 1);
+
+        controller().onDelete(0);
+
+        QCOMPARE(controller().leftLectures().owed(), 0);
+        QVERIFY(m_program->storedTexts().isEmpty());
+    }
+
+    void anEqualOneThatWasStoredMeanwhileIsAnother()
+    {
+        finishWhileHeldForWriting("Optics");
+        controller().onAddItem(nullptr);
+        m_program->windows.newLectureOutlets().txtSubjectForNewNote->setText(u"Optics"_s);
+        m_program->finishNewLecture();
+        QCOMPARE(m_program->storedRows().size(), 1);
+
+        m_program->clock.advance(20s);
+
+        QCOMPARE(m_program->storedTexts(), QStringList({u"Optics: "_s, u"Optics: "_s}));
+        QVERIFY(lecture(0)->getRecordUniqueID() != lecture(1)->getRecordUniqueID());
+    }
+
     void oneThatGetsAnotherPlaceIsFoundThere()
     {
         QVERIFY(QDir(audio()).removeRecursively());
@@ -251,6 +282,17 @@ private:
         QVERIFY(other.rollback());
     }
 
+    // While another program reads: what is there can be asked.
+    void finishWhileHeldForWriting(const char *subject)
+    {
+        controller().onAddItem(nullptr);
+        m_program->windows.newLectureOutlets().txtSubjectForNewNote->setText(
+            QString::fromLatin1(subject));
+        tarvelo::store::Sqlite other(m_program->places.databaseFile());
+        QVERIFY(other.executeNonQuery(u"BEGIN IMMEDIATE"_s));
+        m_program->finishNewLecture();
+        QVERIFY(other.rollback());
+    }
     tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
     Lecture lecture(std::size_t row) { return controller().arrangedObjects().at(row); }
     qint64 storedID(int row) { return m_program->storedRows().value(row)["ID"_L1].toLongLong(); }
