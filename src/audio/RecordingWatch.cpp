@@ -58,7 +58,7 @@ void RecordingWatch::end()
     m_minutes.reset();
     m_isNothingHeard = false;
     m_isHeardAgain = false;
-    show(Warning::None);
+    show(RoomLeft::Enough, false);
 }
 
 void RecordingWatch::tick()
@@ -68,7 +68,7 @@ void RecordingWatch::tick()
         measureRoom();
     }
     listen();
-    show(warning());
+    show(roomLeft(), m_isNothingHeard);
 }
 
 void RecordingWatch::measureRoom()
@@ -104,50 +104,53 @@ void RecordingWatch::listen()
 
 // A minute more than its limit is what takes a line back, so that it does not come and go while
 // other programs write a little and delete a little.
-bool RecordingWatch::isRoomBelow(qint64 minutes, Warning now) const
+bool RecordingWatch::isRoomBelow(qint64 minutes, bool isShown) const
 {
-    return m_minutes && *m_minutes < (m_shown == now ? minutes + 1 : minutes);
+    return m_minutes && *m_minutes < (isShown ? minutes + 1 : minutes);
 }
 
-RecordingWatch::Warning RecordingWatch::warning() const
+RecordingWatch::RoomLeft RecordingWatch::roomLeft() const
 {
-    if (isRoomBelow(LastMinutes, Warning::HardlyAnyRoom))
-        return Warning::HardlyAnyRoom;
-    if (m_isNothingHeard)
-        return Warning::NothingHeard;
-    return isRoomBelow(FewMinutes, Warning::LittleRoom) ? Warning::LittleRoom : Warning::None;
+    if (isRoomBelow(LastMinutes, m_shownRoom == RoomLeft::HardlyAny))
+        return RoomLeft::HardlyAny;
+    return isRoomBelow(FewMinutes, m_shownRoom == RoomLeft::Little) ? RoomLeft::Little
+                                                                    : RoomLeft::Enough;
 }
 
-QString RecordingWatch::textOf(Warning warning) const
+QString RecordingWatch::textOf(RoomLeft room) const
 {
-    const QString minutes = QLocale().toString(m_minutes.value_or(0));
-    switch (warning) {
-    case Warning::LittleRoom:
-        return platform::text("RECORDING_LITTLE_ROOM").arg(minutes);
-    case Warning::HardlyAnyRoom:
-        return platform::text("RECORDING_HARDLY_ANY_ROOM").arg(minutes);
-    case Warning::NothingHeard:
-        return platform::text("RECORDING_NOTHING_HEARD");
-    case Warning::None:
-        break;
-    }
-    return {};
+    if (room == RoomLeft::Enough)
+        return {};
+    const char *key =
+        room == RoomLeft::Little ? "RECORDING_LITTLE_ROOM" : "RECORDING_HARDLY_ANY_ROOM";
+    return platform::text(key).arg(QLocale().toString(m_minutes.value_or(0)));
 }
 
 // Minutes that go by are said aloud only when they are the last ones: a lecture goes on meanwhile.
-void RecordingWatch::show(Warning warning)
+void RecordingWatch::show(RoomLeft room, bool isNothingHeard)
 {
-    QLabel &line = *m_outlets.lblRecordingWarning;
-    const QString words = textOf(warning);
-    const bool isNews =
-        words != line.text() && (warning != m_shown || warning == Warning::HardlyAnyRoom);
-    m_shown = warning;
-    line.setText(words);
-    line.setHidden(words.isEmpty());
-    if (isNews && !words.isEmpty())
-        announce(words);
-    else if (m_isHeardAgain && words.isEmpty())
-        announce(platform::text("ANNOUNCE_SOUND_HEARD_AGAIN"));
+    const QString ofRoom = textOf(room);
+    QStringList lines;
+    QStringList news;
+    if (room != RoomLeft::Enough) {
+        lines.append(ofRoom);
+        if (room != m_shownRoom || (room == RoomLeft::HardlyAny && ofRoom != m_shownRoomText))
+            news.append(ofRoom);
+    }
+    if (isNothingHeard) {
+        lines.append(platform::text("RECORDING_NOTHING_HEARD"));
+        if (!m_isSilenceShown)
+            news.append(lines.last());
+    } else if (m_isHeardAgain) {
+        news.append(platform::text("ANNOUNCE_SOUND_HEARD_AGAIN"));
+    }
+    m_shownRoom = room;
+    m_shownRoomText = ofRoom;
+    m_isSilenceShown = isNothingHeard;
+    m_outlets.lblRecordingWarning->setText(lines.join(u'\n'));
+    m_outlets.lblRecordingWarning->setHidden(lines.isEmpty());
+    if (!news.isEmpty())
+        announce(news.join(u' '));
 }
 
 void RecordingWatch::announce(const QString &words) const

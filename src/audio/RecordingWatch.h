@@ -12,12 +12,9 @@ namespace tarvelo::audio {
 
 class RecordingControl;
 
-// While the new-lecture window is on the screen one line of it says what would cost the lecture: a
-// disk with little room left, or a microphone that gives nothing to hear. It never interrupts, and
-// changes nothing of the recording.
-//
-// A disk that is nearly full comes before silence, for that ends the recording soon; silence comes
-// before a disk on which there is room for a while.
+// While the new-lecture window is on the screen a line of it says what would cost the lecture: a
+// disk with little room left, or a microphone that gives nothing to hear. Where both is so, each
+// has its line. It never interrupts, and changes nothing of the recording.
 class RecordingWatch final : public QObject
 {
 public:
@@ -35,17 +32,17 @@ public:
     bool eventFilter(QObject *window, QEvent *event) override;
 
 private:
-    enum class Warning { None, LittleRoom, NothingHeard, HardlyAnyRoom };
+    enum class RoomLeft { Enough, Little, HardlyAny };
 
     void begin();
     void end();
     void tick();
     void measureRoom();
     void listen();
-    bool isRoomBelow(qint64 minutes, Warning now) const;
-    Warning warning() const;
-    QString textOf(Warning warning) const;
-    void show(Warning warning);
+    bool isRoomBelow(qint64 minutes, bool isShown) const;
+    RoomLeft roomLeft() const;
+    QString textOf(RoomLeft room) const;
+    void show(RoomLeft room, bool isNothingHeard);
     void announce(const QString &words) const;
 
     platform::Clock &m_clock;
@@ -54,7 +51,9 @@ private:
     std::function<QString()> m_take;
     Room m_room;
     std::unique_ptr<platform::Clock::Pending> m_ticks;
-    Warning m_shown = Warning::None;
+    RoomLeft m_shownRoom = RoomLeft::Enough;
+    QString m_shownRoomText;
+    bool m_isSilenceShown = false;
 
     int m_ticksUntilRoom = 0;
     std::optional<qint64> m_minutes; // for which there is room

@@ -197,6 +197,8 @@ void Tour::warnings()
     look("new-lecture-little-room", *line.window());
     line.setText(platform::text("RECORDING_HARDLY_ANY_ROOM").arg(minutes));
     look("new-lecture-hardly-any-room", *line.window());
+    line.setText(line.text() + u'\n' + platform::text("RECORDING_NOTHING_HEARD"));
+    look("new-lecture-hardly-any-room-nothing-heard", *line.window());
     m_program.engine.soundHeard = {12, 12};
     m_program.clock.advance(1s);
 }
