@@ -27,7 +27,7 @@ SmallDisk::SmallDisk(QString folder, int kibibytes)
 {
     m_mounted =
         unshare(CLONE_NEWNS) == 0 &&
-        mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+        mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0 &&
         mount("tmpfs", QFile::encodeName(m_folder).constData(), "tmpfs", 0,
               QByteArray("mode=0755,size=" + QByteArray::number(kibibytes) + "k").constData()) == 0;
 }
