@@ -159,6 +159,8 @@ void LectureJournalKeeper::lectureDone()
     m_journal.isDone = true;
     m_journal.lastRow = m_with.left.lastRow();
     writeNow();
+    // The window goes next, and nobody looks after the lecture any more.
+    flush();
 }
 
 void LectureJournalKeeper::lectureMoves(const QString &target, const QString &duration)

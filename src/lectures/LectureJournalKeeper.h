@@ -57,7 +57,7 @@ public:
     bool ownsUsualPlace() const { return m_places.ownsUsual(); }
 
     void lectureOpened();
-    // Its row is to be stored in a moment.
+    // Its row is to be stored in a moment. Waits until the disk knows.
     void lectureDone();
     // The recording, if there is one, is about to be moved to `target`. Waits until the disk knows.
     void lectureMoves(const QString &target, const QString &duration);
