@@ -58,17 +58,33 @@ class Played:
 
     def span(self, take, until):
         """From when to when the take was heard, before a moment of now(); fails when it holds anything else than that."""
+        parts, _ = self.parts(take, max(0, until - len(take) / RATE - 3), until)
+        return parts[0]
+
+    def parts(self, take, since, until, pauses=0):
+        """The same of a take with so many pauses in it at most: a list of such spans, and how many seconds at its end, behind
+        the last pause, are too few to be known again."""
         if len(take) < 4 * BLOCK:
             raise Failed(f"the take holds {len(take) / RATE:.2f} s")
-        earliest = max(0, until - len(take) / RATE - 3)
-        heard = self.heard(earliest, until + 1)
+        since = max(0, since)
+        heard = self.heard(since, until + 1)
+        spans, first, start = [], 0, BLOCK
         # The first block is left out, and the last: the encoder fades them.
         begin = _find(heard, take[BLOCK : 3 * BLOCK]) - BLOCK
-        for start in range(BLOCK, len(take) - 2 * BLOCK, BLOCK):
+        while start < len(take) - 2 * BLOCK:
             agreement = _agreement(heard[begin + start : begin + start + BLOCK], take[start : start + BLOCK])
-            if not agreement >= ALIKE:
+            if agreement >= ALIKE:
+                start += BLOCK
+            elif len(spans) == pauses:
                 raise Failed(f"at {start / RATE:.2f} s the take is not what was heard: {agreement:.3f}")
-        return earliest + begin / RATE, earliest + (begin + len(take)) / RATE
+            else:  # the pause is somewhere in this block, and faded
+                spans.append((since + (begin + first) / RATE, since + (begin + start) / RATE))
+                first = start = start + 2 * BLOCK
+                if len(take) - start < 4 * BLOCK:
+                    return spans, (len(take) - start) / RATE
+                later = begin + start - 2 * BLOCK
+                begin = later + _find(heard[later:], take[start : start + 2 * BLOCK]) - start
+        return [*spans, (since + (begin + first) / RATE, since + (begin + len(take)) / RATE)], 0.0
 
     def _speak(self, pipe):
         data = memoryview(self._sound.tobytes())

@@ -20,6 +20,9 @@ Lecture = collections.namedtuple("Lecture", "subject notes day path duration")
 COLUMNS = "subject, notes, recordingDate, audioFileFullPath, recordDuration"
 
 
+NOTHING = numpy.zeros(0)  # of sound
+
+
 class Student:
     """Works in one folder."""
 

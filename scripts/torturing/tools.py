@@ -51,3 +51,8 @@ class Tools:
             with open(target, "w", encoding="utf-8") as file:
                 file.write(what)
         return target
+
+    @staticmethod
+    def forget(kept):
+        """What was kept and tells of no failure after all."""
+        shutil.rmtree(kept)

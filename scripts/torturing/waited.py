@@ -39,7 +39,11 @@ class Waited:
         """`moment` is any clock's."""
         now = time.monotonic()
         threads = {}
-        for thread in os.listdir(self._folder):
+        try:
+            there = os.listdir(self._folder)
+        except OSError:  # it has ended
+            return
+        for thread in there:
             with contextlib.suppress(OSError):  # it has ended
                 threads[thread] = self._of(thread, now)
         self._looks.append((moment, threads))
