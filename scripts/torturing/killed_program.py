@@ -4,14 +4,13 @@ import json
 import os
 import re
 import shutil
-import subprocess
 import time
 
 from outside import names, sound
-from outside.hands import Atspi
 from outside.waiting import Failed
 
 from . import killed, student
+from .sitting import goes_from_screen, into_notes, xdotool
 
 LONGEST = 9  # seconds of typing and recording
 DONE_LASTS = 0.6  # seconds, a little longer than it takes to carry it out
@@ -67,7 +66,7 @@ class Trial:
             self._hands.point_at(WINDOW, names.START_RECORDING)
             killer = self._killer(how, moment)
             pieces.append([killer.began, None])
-            _xdotool("click", "1")
+            xdotool("click", "1")
             self._type_until_death(killer, typing, pieces, number % 2 == 0, number % 3 == 0)
         except Failed:
             if not killer or not killer.is_done and self._sitting.program.is_running():
@@ -89,13 +88,13 @@ class Trial:
         stopped = self._played.now()
         if stops:
             self._sitting.stop()
-        self._into_notes()
+        into_notes(self._hands)
         self._hands.type(" what was said last")
         typing = Typing(self._sitting)
         self._hands.point_at(WINDOW, names.DONE)
         until = stopped if stops else self._played.now()
         killer = self._killer(how, self._tools.random.uniform(0, DONE_LASTS_SLOWLY if slow else DONE_LASTS))
-        _xdotool("click", "1")
+        xdotool("click", "1")
         is_taken = self._window_gone(killer)
         return self._judged(f"kill {number} of the program {killer.after:.2f} s after Done ({how.name}{', slow disk' if slow else ''})", how,
                             lambda: self._after_done(subject, typing, killer, (began, until), stops, is_taken))
@@ -112,34 +111,28 @@ class Trial:
     def _killer(self, how, moment):
         return killed.Killer(self._played, self._sitting.program.pid, self._sitting.program.send, how, moment)
 
-    def _into_notes(self):
-        self._hands.click(WINDOW, names.NOTES, Atspi.StateType.EDITABLE)
-        _xdotool("key", "ctrl+End")
-
     def _type_until_death(self, killer, typing, pieces, sets_tags, pauses):
-        self._into_notes()
+        into_notes(self._hands)
         count = 0
         while not killer.is_done:
             count += 1
             if pauses and count in (5, 8):
-                _xdotool("key", "ctrl+r")
+                xdotool("key", "ctrl+r")
                 self._hands.control(WINDOW, names.RESUME if count == 5 else names.PAUSE)
                 if count == 5:
                     pieces[-1][1] = self._played.now()
                 else:
                     pieces.append([self._played.now(), None])
             elif sets_tags and count % 4 == 0:
-                _xdotool("key", "ctrl+t")
+                xdotool("key", "ctrl+t")
             else:
                 self._hands.type(f" word{count}")
             typing.look()
 
     @staticmethod
     def _window_gone(killer):
-        """By the screen's word: the program does not answer while it waits for a disk. Whether it did not end before that."""
-        while _xdotool("search", "--onlyvisible", "--name", f"^{WINDOW}$"):
-            pass
-        gone = time.monotonic()
+        """And not with the program."""
+        gone = goes_from_screen(WINDOW)
         killer.join()
         return gone < killer.ended
 
@@ -182,8 +175,3 @@ def _journal(path):
         return {}
     with open(path, "rb") as file:
         return json.loads(file.read().rstrip())
-
-
-def _xdotool(*command):
-    """What it found; a search that finds nothing says so by its status."""
-    return subprocess.run(["xdotool", *command], check=False, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE).stdout

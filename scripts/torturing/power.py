@@ -1,32 +1,38 @@
 """The power is cut: the disk forgets what was not forced to it.
 
-The real program records, saves, deletes, is killed, started again and keeps what was left, while a layer before the C library writes down what it
+The real program records, saves, changes, resets its table and brings it back, deletes, is killed, started again and keeps what was left, while a layer before the C library writes down what it
 does to its files. Afterwards the folder is made again as each of many moments may have left it, and on some of them the student starts anew."""
 
 import collections
 import os
 import shutil
 import signal
+import subprocess
+import sys
 import time
 
-from outside import sound
+from outside import names, sound
 from outside.desktop import Desktop
 from outside.waiting import Failed
 
 from . import disk, student
 from .played import Played
 from .result import Result
-from .sitting import Sitting
+from .sitting import Sitting, into_notes
 from .started import Starts, seconds_of
+from .typed import Typed, texts_of_journals
+from .works import FAILING_INSERT
 
 EVENT = "power cut"
-PROMISE = "the last 3 s"
+PROMISE = "the last 3 s of sound; no notes older than 5 s; nothing once a window of a lecture that was Done is gone"
 MOST_LOST = 3.0
 # Of the states of the disk.
 STARTED = 1.0
 STARTED_IN_SHORT = 0.25
+# In a process of its own, before which the layer stands too.
+EXECUTE = "import sqlite3, sys; database = sqlite3.connect(sys.argv[1]); database.execute(sys.argv[2]); database.close()"
 
-Lecture = collections.namedtuple("Lecture", "subject sound begin end saved deleted")
+Lecture = collections.namedtuple("Lecture", "subject sound begin end saved deleted subjects typed")
 
 
 def run(tools, short):
@@ -48,7 +54,8 @@ def run(tools, short):
     if cuts.broken:
         tools.keep("broken.txt", "\n".join(cuts.broken) + "\n")
         tools.keep("log", story.log)
-    return Result(not cuts.broken, f"{len(moments)} cuts, {cuts.states} states of the disk: at most {cuts.most:.2f} s lost, every file readable; "
+    return Result(not cuts.broken, f"{len(moments)} cuts, {cuts.states} states of the disk: at most {cuts.most:.2f} s lost and no notes older than {cuts.oldest:.1f} s, "
+                  f"every file readable; "
                   f"{starts.count} starts on them, {starts.offered} lectures offered and kept")
 
 
@@ -61,45 +68,86 @@ class Story:
         self._sitting = Sitting(tools, desktop, played)
         self.home = self._sitting.home
         self.log = os.path.join(tools.folder, "log")
+        self._layer = {"LD_PRELOAD": tools.built("tests/torture/DiskLog.so"), "TORTURE_FOLDER": self.home, "TORTURE_LOG": self.log}
         self.lectures = []
+        self.reset = (0, 0)  # while their rows may be in a copy alone
 
     def tell(self, short):
-        layer = {"LD_PRELOAD": self._tools.built("tests/torture/DiskLog.so"), "TORTURE_FOLDER": self.home, "TORTURE_LOG": self.log}
         try:
-            self._play(layer, 5 if short else 9)
+            self._play(5 if short else 9)
         finally:
             self._sitting.program.stop()
         self._sitting.program.expect_silence()
 
-    def _play(self, layer, seconds):
+    def _play(self, seconds):
         sitting = self._sitting
         self.first = time.monotonic()
-        sitting.start(**layer)
+        sitting.start(**self._layer)
         for subject, stops in (("Optics", True), ("Algebra", False)):
-            sitting.begin(subject, "Lenses bend light.")
-            sitting.listen(seconds)
+            typed = self._begin(subject)
+            self._type(subject, typed, seconds)
             if stops:
                 sitting.stop()
-            sitting.save(subject)
-            self._add(subject, time.monotonic(), self._played.now(), saved=time.monotonic())
+            notes = sitting.hands.text(names.NEW_LECTURE_WINDOW, names.NOTES)
+            gone = sitting.save(subject)
+            typed.saw(gone, subject, notes, 0)  # nobody looks after it any more
+            self._add(subject, time.monotonic(), self._played.now(), time.monotonic(), typed)
+        self._rename(self.lectures[1], "Geometry")
+        self._reset()
         deleting = time.monotonic()
         sitting.delete("Optics")
         self.lectures[0] = self.lectures[0]._replace(deleted=deleting)
-        sitting.begin("Kepler")
-        sitting.listen(seconds)
+        typed = self._begin("Kepler")
+        self._type("Kepler", typed, seconds)
         killed, heard = time.monotonic(), self._played.now()
         sitting.program.send(signal.SIGKILL)
         sitting.program.expect_end(-signal.SIGKILL)
-        sitting.start(**layer)
+        typed.is_killed(killed)
+        sitting.start(**self._layer)
         sitting.keep_left("Kepler")
-        self._add("Kepler", killed, heard, saved=time.monotonic())
+        self._add("Kepler", killed, heard, time.monotonic(), typed)
         self.last = time.monotonic()
 
-    def _add(self, subject, ended, heard, saved):
+    def _begin(self, subject):
+        self._sitting.begin(subject)
+        typed = Typed()
+        typed.saw(time.monotonic(), subject, "")
+        return typed
+
+    def _type(self, subject, typed, seconds):
+        """While it is recorded, for so long."""
+        into_notes(self._sitting.hands)
+        until, count = self._played.now() + seconds, 0
+        while self._played.now() < until:
+            count += 1
+            self._sitting.hands.type(f"Lens {count} bends light. ")
+            typed.saw(time.monotonic(), subject, self._sitting.hands.text(names.NEW_LECTURE_WINDOW, names.NOTES))
+
+    def _rename(self, lecture, new):
+        self._sitting.rename(lecture.subject, new)
+        notes = next(row.notes for row in student.lectures_of(self.home) if row.subject == new)
+        lecture.typed.saw(time.monotonic(), new, notes, MOST_LOST)
+        lecture.subjects.add(new)
+
+    def _reset(self):
+        """By a save that fails, behind which the program puts a new table in the place of the old one; and all comes back."""
+        begin, count = time.monotonic(), len(self.lectures)
+        subprocess.run([sys.executable, "-c", EXECUTE, os.path.join(self.home, "TarveloInfo.db"), FAILING_INSERT], check=True, stdin=subprocess.DEVNULL,
+                       env=os.environ | self._layer)
+        hands = self._sitting.hands
+        hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)
+        hands.write(names.NEW_LECTURE_WINDOW, names.SUBJECT, "Newcomer")
+        self._sitting.save("Newcomer")
+        if len(student.lectures_of(self.home)) != 1:
+            raise Failed("the table was not reset")
+        self._sitting.bring_back(lambda: len(student.lectures_of(self.home)) == count + 1)
+        self.reset = (begin, time.monotonic() + MOST_LOST)
+
+    def _add(self, subject, ended, heard, saved, typed):
         """It was recorded until the moment `ended`, of which the witness had heard so many seconds by then."""
         samples = sound.samples(student.rows_of(self.home)[subject])
         begin, end = (ended - heard + moment for moment in self._played.span(samples, heard))
-        self.lectures.append(Lecture(subject, samples, begin, end, saved, None))
+        self.lectures.append(Lecture(subject, samples, begin, end, saved, None, {subject}, typed))
 
 
 class Cuts:
@@ -119,6 +167,7 @@ class Cuts:
         self.starts = starts
         self.states = 0
         self.most = 0.0
+        self.oldest = 0.0
         self.broken = []
 
     def at(self, moment):
@@ -150,13 +199,18 @@ class Cuts:
                     raise Failed(f"the layer did not see where {name} came from")
 
     def _judge(self, moment):
-        rows = student.rows_of(self._folder)
+        rows = student.lectures_of(self._folder)
+        if self._story.reset[0] < moment < self._story.reset[1]:
+            rows += student.copied_lectures_of(self._folder)
+        texts = [*rows, *texts_of_journals(self._folder)]
         sounds = {path: self._sound_of(path) for path in student.sounds_of(self._folder)}
         for lecture in self._lectures_at(moment):
             self._expect_sound(lecture, moment, list(sounds.values()))
-            if moment > lecture.saved + MOST_LOST and lecture.subject not in rows:
+            self.oldest = max(self.oldest, lecture.typed.lost(moment, texts))
+            its = [row for row in rows if row.subject in lecture.subjects]
+            if moment > lecture.saved + MOST_LOST and not its:
                 raise Failed(f"the row of {lecture.subject!r} is gone, {moment - lecture.saved:.2f} s after it was stored")
-            if lecture.subject in rows and os.path.normpath(rows[lecture.subject]) not in sounds:
+            if any(os.path.normpath(row.path) not in sounds for row in its):
                 raise Failed(f"the file of {lecture.subject!r} is gone")
 
     def _lectures_at(self, moment):

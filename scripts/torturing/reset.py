@@ -5,7 +5,6 @@ import datetime
 import os
 import shutil
 import sqlite3
-import subprocess
 
 from outside import names
 from outside.desktop import Desktop
@@ -14,13 +13,10 @@ from outside.waiting import Failed, wait_for
 
 from . import stored
 from .result import Result
+from .sitting import BRING_BACK, SHEET, open_bring_back_sheet
 
 EVENT = "the table reset, a delete that takes several rows"
 PROMISE = "nothing: the copy in `Backups/` brings every row back"
-SHEET = "Bring Lectures Back"
-BRING_BACK = "Bring Back"
-# From the first command of the menu to the one of the sheet.
-TO_THE_SHEET = ("Down", "Down", "Down", "Down", "Return")
 COLUMNS = ("subject", "course", "notes", "recordingDate", "lectureStartTime", "lectureEndTime", "audioFileFullPath", "recordDuration")
 TABLE = f"CREATE TABLE audioData (ID INTEGER PRIMARY KEY, {', '.join(f'{column} TEXT' for column in COLUMNS)})"
 INSERT = f"INSERT INTO audioData ({', '.join(COLUMNS)}) VALUES (?,?,?,?,?,?,?,?)"
@@ -125,9 +121,6 @@ class _Trial:
         return [tuple(row[column] for column in COLUMNS) for row in stored.lectures(self._desktop.data)]
 
     def _bring_back(self):
-        self.hands.press(names.MAIN_WINDOW, "F10")
-        self.hands.control(names.MAIN_WINDOW, "New Lecture")
-        subprocess.run(["xdotool", "key", *TO_THE_SHEET], check=True, stdin=subprocess.DEVNULL)
-        self.hands.window(SHEET)
+        open_bring_back_sheet(self.hands)
         self.hands.click(SHEET, BRING_BACK)
         wait_for("the lectures", lambda: stored.count(self._desktop.data) >= len(self._before))

@@ -2,11 +2,42 @@
 
 import contextlib
 import os
+import subprocess
 import time
 
 from outside import names
+from outside.hands import Atspi
 from outside.program import Program
 from outside.waiting import wait_for
+
+SHEET = "Bring Lectures Back"
+BRING_BACK = "Bring Back"
+# From the first command of the menu to the one of the sheet.
+TO_THE_SHEET = ("Down", "Down", "Down", "Down", "Return")
+
+
+def xdotool(*command):
+    """What it found; a search that finds nothing says so by its status."""
+    return subprocess.run(["xdotool", *command], check=False, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE).stdout
+
+
+def goes_from_screen(title):
+    """By the screen's own word: a program that waits for a disk does not answer. Gives when it was gone."""
+    while xdotool("search", "--onlyvisible", "--name", f"^{title}$"):
+        pass
+    return time.monotonic()
+
+
+def into_notes(hands, window=names.NEW_LECTURE_WINDOW):
+    hands.click(window, names.NOTES, Atspi.StateType.EDITABLE)
+    xdotool("key", "ctrl+End")
+
+
+def open_bring_back_sheet(hands):
+    hands.press(names.MAIN_WINDOW, "F10")
+    hands.control(names.MAIN_WINDOW, "New Lecture")
+    xdotool("key", *TO_THE_SHEET)
+    hands.window(SHEET)
 
 
 @contextlib.contextmanager
@@ -60,9 +91,25 @@ class Sitting:
         self.hands.control(names.NEW_LECTURE_WINDOW, names.PLAY)
 
     def save(self, subject):
+        """Gives when the window was gone."""
         self.hands.click(names.NEW_LECTURE_WINDOW, names.DONE)
-        self.hands.window_goes(names.NEW_LECTURE_WINDOW)
+        gone = goes_from_screen(names.NEW_LECTURE_WINDOW)
         self.hands.row(names.MAIN_WINDOW, names.LECTURES, subject)
+        return gone
+
+    def rename(self, subject, new):
+        """Another subject for a stored lecture."""
+        self.hands.point_at_row(names.MAIN_WINDOW, names.LECTURES, subject)
+        self.hands.click(names.MAIN_WINDOW, names.EDIT)
+        self.hands.write(names.EDIT_WINDOW, names.SUBJECT, new)
+        self.hands.click(names.EDIT_WINDOW, names.DONE)
+        self.hands.row(names.MAIN_WINDOW, names.LECTURES, new)
+
+    def bring_back(self, are_back):
+        open_bring_back_sheet(self.hands)
+        self.hands.click(SHEET, BRING_BACK)
+        wait_for("the lectures", are_back)
+        self.hands.press(SHEET, "Escape")
 
     def keep_left(self, subject):
         """What a killed program left is asked about after the next start."""
