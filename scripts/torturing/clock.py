@@ -3,7 +3,9 @@
 import datetime
 import glob
 import os
+import shutil
 import signal
+import subprocess
 import time
 import zoneinfo
 
@@ -15,6 +17,7 @@ from outside.waiting import Failed, wait_for
 from . import stored
 from .devices import Microphone
 from .result import Result
+from .sitting import surroundings
 from .spoken import Spoken
 
 EVENT = "suspend and resume, clock set back or on, time zone changed, midnight, clock change"
@@ -22,6 +25,8 @@ PROMISE = "nothing"
 ZONE = zoneinfo.ZoneInfo("Europe/Berlin")
 MOST_LATE = 0.05  # seconds; what is compared goes in steps of half of this
 STANDSTILL = 3  # seconds
+# What is mounted then is for the one program.
+PRIVATE = ("unshare", "--mount", "--propagation", "private")
 
 
 def _moment(*parts, fold=0):
@@ -42,23 +47,56 @@ JUMPS = {
     "set on ten years": (NOON + 2 * DAY, 3653 * DAY),
     "beginning of summer time": (_moment(2027, 3, 28, 1, 58), 119 - 8),
 }
-OF_SHORT = ("set back an hour", "midnight", "asleep")
+# The same, with the zone from the event on and the one during the pause behind it.
+ZONES = {"time zone changed": (_moment(2027, 3, 30, 23), "Pacific/Auckland", "America/Los_Angeles")}
+OF_SHORT = ("set back an hour", "midnight", "time zone changed", "asleep")
 
 
 def run(tools, short):
-    events = [event for event in (*JUMPS, "program stands still", "asleep") if not short or event in OF_SHORT]
+    home = Zone(os.path.join(tools.folder, "etc")) if Zone.is_permitted() else None
+    events = [event for event in (*JUMPS, *(ZONES if home else ()), "program stands still", "asleep") if not short or event in OF_SHORT]
     with Desktop(tools.folder) as desktop, Microphone() as microphone:
-        trial = _Trial(tools, desktop, microphone)
+        trial = _Trial(tools, desktop, microphone, home)
         late = trial.run(events)
-    return Result(late <= MOST_LATE, f"{len(events)} lectures and a new time zone: all that was spoken is in them, under the day that was shown")
+    without = "" if home else "; it was not permitted to change the time zone of a running program"
+    return Result(late <= MOST_LATE,
+                  f"{len(events)} lectures: all that was spoken is in them, under the day that was shown; "
+                  f"a start in another time zone changes no row{without}")
+
+
+class Zone:
+    """The time zone of a computer of its own, as far as a program sees it that is started by `program`."""
+
+    @staticmethod
+    def is_permitted():
+        return subprocess.run([*PRIVATE, "mount", "--bind", "/tmp", "/etc"], check=False, stdin=subprocess.DEVNULL, capture_output=True).returncode == 0
+
+    def __init__(self, folder):
+        self._folder = folder
+        shutil.copytree("/etc", folder, symlinks=True)
+
+    def program(self, path):
+        """The same process becomes the program."""
+        starter = self._folder + "-start"
+        with open(starter, "w", encoding="utf-8") as file:
+            file.write(f"#!/bin/sh\nexec {' '.join(PRIVATE)} sh -c 'mount --bind {self._folder} /etc && exec {path}'\n")
+        os.chmod(starter, 0o700)
+        return starter
+
+    def change(self, zone):
+        """As desktops do: another link takes the place of the one that is there."""
+        half = os.path.join(self._folder, "localtime.new")
+        os.symlink(os.path.join("/usr/share/zoneinfo", zone), half)
+        os.rename(half, os.path.join(self._folder, "localtime"))
 
 
 class _Trial:
-    def __init__(self, tools, desktop, microphone):
+    def __init__(self, tools, desktop, microphone, home):
         self._tools = tools
         self._desktop = desktop
         self._microphone = microphone
-        self._program = Program(tools.program, desktop)
+        self._home = home
+        self._program = Program(home.program(tools.program) if home else tools.program, desktop)
         self._hands = self._program.hands
         self._spoken = Spoken(tools, microphone)
         self._offset = os.path.join(tools.folder, "offset")
@@ -90,13 +128,14 @@ class _Trial:
             raise Failed("there is no libfaketime")
         self._show(_moment(2026, 10, 25, 1) if which == "first" else LAST)
         false = {"LD_PRELOAD": library[0], "FAKETIME_TIMESTAMP_FILE": self._offset, "FAKETIME_NO_CACHE": "1",
-                 "FAKETIME_DONT_FAKE_MONOTONIC": "1", "NO_FAKE_STAT": "1", "TZ": zone}
-        os.environ.update(false)
-        try:
+                 "FAKETIME_DONT_FAKE_MONOTONIC": "1", "NO_FAKE_STAT": "1"}
+        if self._home:
+            self._home.change(zone)
+            os.environ.pop("TZ", None)
+        else:
+            false["TZ"] = zone
+        with surroundings(**false):
             self._program.start(which)
-        finally:
-            for name in false:
-                del os.environ[name]
 
     def _show(self, moment):
         half = self._offset + ".new"
@@ -107,6 +146,7 @@ class _Trial:
     def _lecture(self, event):
         """Gives how much of what was spoken is missing, in seconds."""
         begin, jump = JUMPS.get(event, (LAST, 0))
+        begin, *zones = ZONES.get(event, (begin,))
         window = names.NEW_LECTURE_WINDOW
         self._spoken.begin()
         self._show(begin)
@@ -119,6 +159,8 @@ class _Trial:
         self._spoken.speak()
         if jump:
             self._show(begin + 8 + jump)
+        elif zones:
+            self._change_zone(zones[0])
         else:
             self._stand_still(event, begin)
         self._spoken.speak()
@@ -126,18 +168,29 @@ class _Trial:
         self._hands.control(window, names.RESUME)
         if jump:
             self._show(begin - HOUR)
+        elif zones:
+            self._change_zone(zones[1])
         self._hands.click(window, names.RESUME)
         self._hands.control(window, names.PAUSE)
         if jump:
             self._show(begin + 8 + jump)
+        elif zones:
+            self._change_zone(zones[0])
         self._spoken.speak()
         self._hands.click(window, names.STOP)
         self._hands.control(window, names.PLAY)
         self._hands.click(window, names.DONE)
         self._hands.window_goes(window)
         path = wait_for("the lecture", lambda: stored.sound_of(self._desktop.data, event))
+        if zones:
+            self._change_zone("Europe/Berlin")
         self._expect_row(event, datetime.datetime.fromtimestamp(begin, ZONE).date().isoformat(), path)
         return self._spoken.missing(path, event)
+
+    def _change_zone(self, zone):
+        self._home.change(zone)
+        if not os.readlink(f"/proc/{self._program.pid}/root/etc/localtime").endswith(zone):
+            raise Failed("the program does not see the time zone that was changed")
 
     def _stand_still(self, event, begin):
         """The program alone, which the server's patience makes up for; or the whole computer, whose clock goes on meanwhile."""

@@ -45,12 +45,18 @@ class Microphone(sound.SoundServer):
             wait_for("the microphone to keep time again", lambda: _lasts(lambda: listener.stdout.read(4 * sound.RATE // 2)) > 0.4)
             listener.terminate()
 
-    def pull_out(self):
-        self._control("unload-module", "module-remap-source")
+    def pull_out(self, name="microphone"):
+        modules = subprocess.run(["pactl", "list", "short", "modules"], check=True, stdin=subprocess.DEVNULL, capture_output=True, text=True).stdout
+        number = next(line.split()[0] for line in modules.splitlines() if line.endswith((f"source_name={name}", f"source_name={name}\t")))
+        self._control("unload-module", number)
 
     def plug_in(self, name="microphone"):
-        self._control("load-module", "module-remap-source", "master=mic.monitor", f"source_name={name}")
+        self.put_beside(name)
         self.choose(name)
+
+    def put_beside(self, name):
+        """Nobody listens to it as long as the one that is chosen is there."""
+        self._control("load-module", "module-remap-source", "master=mic.monitor", f"source_name={name}")
 
     def choose(self, name):
         self._control("set-default-source", name)
@@ -61,7 +67,7 @@ class Microphone(sound.SoundServer):
 
 
 def run(tools, short):
-    rounds = [["killed", "pulled out"], ["hanging", "changed"]] if short else _whole(tools.random)
+    rounds = [["killed", "pulled out"], ["one of two", "hanging", "changed"]] if short else _whole(tools.random)
     with Desktop(tools.folder) as desktop, Microphone() as microphone:
         trial = _Trial(tools, desktop, microphone)
         late = [trial.take(number, outages, short) for number, outages in enumerate(rounds)]
@@ -71,7 +77,7 @@ def run(tools, short):
 
 
 def _whole(random):
-    kinds = ["killed", "killed for long", "pulled out", "hanging", "hanging for long", "changed", "paused", "resumed", "stopped"]
+    kinds = ["killed", "killed for long", "pulled out", "one of two", "hanging", "hanging for long", "changed", "paused", "resumed", "stopped"]
     return [random.sample(kinds[:-1], len(kinds) - 1) + ["stopped"] for _ in range(4)]
 
 
@@ -136,6 +142,13 @@ class _Trial:
             microphone.plug_in("other")
             self._spoken.speak()
             microphone.choose("microphone")
+            microphone.pull_out("other")
+        elif outage == "one of two":
+            microphone.put_beside("other")
+            microphone.pull_out()
+            self._spoken.speak()  # the other one alone hears it
+            microphone.plug_in()
+            microphone.pull_out("other")
         elif outage == "paused":  # in the outage, and it ends after it
             microphone.kill()
             self._hands.click(window, names.PAUSE)

@@ -17,15 +17,20 @@ TO_THE_SHEET = ("Down", "Down", "Down", "Down", "Return")
 
 
 def xdotool(*command):
-    """What it found; a search that finds nothing says so by its status."""
-    return subprocess.run(["xdotool", *command], check=False, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE).stdout
+    subprocess.run(["xdotool", *command], check=True, stdin=subprocess.DEVNULL)
 
 
 def goes_from_screen(title):
     """By the screen's own word: a program that waits for a disk does not answer. Gives when it was gone."""
-    while xdotool("search", "--onlyvisible", "--name", f"^{title}$"):
+    while _shows(title):
         pass
     return time.monotonic()
+
+
+def _shows(title):
+    """A search stumbles over any other window that goes meanwhile, and says so; then nobody knows."""
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], check=False, stdin=subprocess.DEVNULL, capture_output=True)
+    return found.returncode == 0 or bool(found.stderr)
 
 
 def into_notes(hands, window=names.NEW_LECTURE_WINDOW):
