@@ -243,6 +243,11 @@ ssize_t sendfile64(int to, int from, off64_t *offset, size_t size) noexcept
         [&](ssize_t done) { noteContent(to, path, ::lseek64(to, 0, SEEK_CUR) - done, done); });
 }
 
+ssize_t sendfile(int to, int from, off_t *offset, size_t size) noexcept
+{
+    return sendfile64(to, from, offset, size);
+}
+
 int rename(const char *from, const char *to) noexcept
 {
     static auto *const next = real<int(const char *, const char *)>("rename");

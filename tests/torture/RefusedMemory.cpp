@@ -1,0 +1,101 @@
+// The part of OneFault that refuses memory.
+
+#include "torture/Faults.h"
+#include "torture/Layer.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <link.h>
+#include <string_view>
+
+extern "C" {
+void *__libc_malloc(size_t size);
+void *__libc_calloc(size_t count, size_t size);
+void *__libc_realloc(void *memory, size_t size);
+void *__libc_memalign(size_t alignment, size_t size);
+}
+
+namespace tarvelo::torture {
+
+namespace {
+
+// Where the code of our libraries lies. All of them are there before anything runs.
+struct Range
+{
+    std::uintptr_t begin = 0;
+    std::uintptr_t end = 0;
+};
+std::array<Range, 32> g_ours;
+std::size_t g_oursCount = 0;
+
+bool isOfOurLibraries(std::string_view path)
+{
+    std::string_view name = path.substr(path.rfind('/') + 1);
+    name = name.substr(0, name.find(".so"));
+    const std::string_view libraries = setting("TORTURE_LIBRARIES");
+    return !name.empty() && libraries.find(name) != std::string_view::npos;
+}
+
+int noteRanges(dl_phdr_info *library, std::size_t, void *)
+{
+    for (int at = 0; isOfOurLibraries(library->dlpi_name) && at < library->dlpi_phnum; ++at) {
+        const auto &part = library->dlpi_phdr[at];
+        const std::uintptr_t begin = library->dlpi_addr + part.p_vaddr;
+        if (part.p_type == PT_LOAD && (part.p_flags & PF_X) != 0 && g_oursCount < g_ours.size())
+            g_ours.at(g_oursCount++) = {begin, begin + part.p_memsz};
+    }
+    return 0;
+}
+
+// Is asked very often, and must not ask for memory itself.
+bool isOurs(const void *caller)
+{
+    const auto place = reinterpret_cast<std::uintptr_t>(caller);
+    return std::any_of(g_ours.begin(), g_ours.begin() + g_oursCount, [place](const Range &range) {
+        return place >= range.begin && place < range.end;
+    });
+}
+
+bool isOutOfMemory(const void *caller)
+{
+    if (!isCounted("memory") || !isOurs(caller) || !strikes("memory"))
+        return false;
+    errno = ENOMEM;
+    return true;
+}
+
+// Nobody counts before that.
+const int g_ranges = ::dl_iterate_phdr(noteRanges, nullptr);
+
+} // namespace
+
+extern "C" {
+
+void *malloc(size_t size) noexcept
+{
+    return isOutOfMemory(__builtin_return_address(0)) ? nullptr : __libc_malloc(size);
+}
+
+void *calloc(size_t count, size_t size) noexcept
+{
+    return isOutOfMemory(__builtin_return_address(0)) ? nullptr : __libc_calloc(count, size);
+}
+
+void *realloc(void *memory, size_t size) noexcept
+{
+    return isOutOfMemory(__builtin_return_address(0)) ? nullptr : __libc_realloc(memory, size);
+}
+
+int posix_memalign(void **memory, size_t alignment, size_t size) noexcept
+{
+    if (isOutOfMemory(__builtin_return_address(0)))
+        return ENOMEM;
+    *memory = __libc_memalign(alignment, size);
+    return *memory ? 0 : ENOMEM;
+}
+
+} // extern "C"
+
+} // namespace tarvelo::torture
