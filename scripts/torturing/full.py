@@ -3,6 +3,7 @@
 import concurrent.futures
 import contextlib
 import ctypes
+import itertools
 import os
 import queue
 import subprocess
@@ -20,26 +21,27 @@ STEP = 64
 SHORT_STEPS = (0, 64, 192, 448)
 BYTES_A_SECOND = 10000  # of a take, a little less than it needs
 AT_A_TIME = 2
-UNSAFE = 0.3  # seconds at the end of a take that may not have come to the disk
+UNSAFE = 0.05  # seconds that may be missing at the end of a take: the encoder's last two frames
+FILLER = 2048  # KiB of something else that lies on the disk and is removed
 CLONE_NEWNS = 0x20000
 MS_REC_PRIVATE = 0x4000 | 0x40000
 
 
 def run(tools, short):
     own_mounts()
-    sizes = SHORT_STEPS if short else range(0, LARGEST + 1, STEP)
+    disks = list(itertools.product(SHORT_STEPS if short else range(0, LARGEST + 1, STEP), (False, True)))
     folders = queue.Queue()
     for number in range(AT_A_TIME):
         folders.put(os.path.join(tools.folder, f"disk{number}"))
     with concurrent.futures.ThreadPoolExecutor(AT_A_TIME) as pool:
-        tries = list(pool.map(lambda size: on_a_disk(tools, folders, size), sizes))
+        tries = list(pool.map(lambda disk: on_a_disk(tools, folders, *disk), disks))
     losses = [loss for loss, _, _ in tries if loss]
     for line in losses:
         tools.tell(line)
     most = max(lost for _, lost, _ in tries)
     stored = sum(1 for _, _, is_stored in tries if is_stored)
-    return Result(not losses, f"{len(tries)} disks of 0 to {max(sizes)} KiB: at most {max(most, 0):.2f} s of what the window showed lost, "
-                              f"{stored} rows stored, as soon as there was room")
+    return Result(not losses, f"{len(tries)} disks of 0 to {max(disks)[0]} KiB, half of them filled up by something else: at most {max(most, 0):.2f} s of what the window showed lost, "
+                              f"{stored} rows stored, as soon as the disk was larger or the rest was gone")
 
 
 def own_mounts():
@@ -64,28 +66,35 @@ def mount(*options):
     subprocess.run(["mount", *options], check=True)
 
 
-def on_a_disk(tools, folders, size):
+def on_a_disk(tools, folders, size, is_crowded):
     """What was lost in words or nothing, how many seconds of sound, and whether the row was stored in the end."""
     folder = folders.get()
     try:
-        with small_disk(folder, size):
-            return (None, *fill(tools, folder, size))
+        with small_disk(folder, size + FILLER * is_crowded):
+            return (None, *fill(tools, folder, size, is_crowded))
     except Failed as failure:
-        return f"{size} KiB: {failure}", 0, False
+        return f"{size} KiB{' beside something else' if is_crowded else ''}: {failure}", 0, False
     finally:
         folders.put(folder)
 
 
-def fill(tools, folder, size):
-    """Records longer than there is room, saves, and makes room."""
+def fill(tools, folder, size, is_crowded):
+    """Records longer than there is room, saves, and makes room: the disk becomes larger, or something else on it goes."""
     who = student.Student(tools, folder)
+    filler = os.path.join(folder, "filler")
+    if is_crowded:
+        with open(filler, "wb") as file:
+            os.posix_fallocate(file.fileno(), 0, FILLER * 1024)
     seconds = size * 1024 // BYTES_A_SECOND + 20
     process = who.start("record:Kepler:%d" % seconds, "wait")
     line = process.stdout.readline()
     recorded = float(line.split()[1]) if line else 0.0
     process.stdout.readline()  # it is saved, as far as it can be, and waits
     full = longest(who.home)
-    mount("-o", "remount,size=64m", folder)
+    if is_crowded:
+        os.remove(filler)
+    else:
+        mount("-o", "remount,size=64m", folder)
     who.end(process, "\n")
     who.do("wait")
     lost = recorded - min(full, longest(who.home))
