@@ -21,8 +21,6 @@ public:
 
     const QString &normalImage() const { return m_strNormalImage; }
     const QString &hoverImage() const { return m_strHoverImage; }
-    // A click on a window that is not active presses the button at once.
-    bool acceptsFirstMouse() const { return true; }
     int trackingRectCount() const { return m_tracking.count(); }
 
     void setNormalImage(const QString &name) { m_strNormalImage = name; }

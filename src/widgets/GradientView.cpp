@@ -19,6 +19,7 @@ void GradientLayer::paint(QPainter &painter, const QRectF &bounds) const
 GradientView::GradientView(QWidget *parent)
     : QWidget(parent)
 {
+    resize(0, 0);
 }
 
 std::optional<QColor> GradientView::getCGColorFromNSColor(const QColor &color)

@@ -31,6 +31,7 @@ class GradientView final : public QWidget
 public:
     using LayerClass = GradientLayer;
 
+    // Empty until it is given a frame.
     explicit GradientView(QWidget *parent = nullptr);
 
     const GradientLayer &gradientLayer() const { return m_layer; }

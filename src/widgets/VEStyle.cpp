@@ -30,6 +30,7 @@ void VEStyle::setBg(const QColor &color)
 void VEStyle::awakeFromNib()
 {
     m_effectView = new QWidget(this);
+    m_sizeOfEffect = size();
     m_effectView->setObjectName(QStringLiteral("effectView"));
     platform::setFrame(*m_effectView, platform::frameOf(*this));
     m_effectView->setPalette(appearance(m_isDark));
@@ -42,9 +43,11 @@ void VEStyle::awakeFromNib()
 
 void VEStyle::resizeEvent(QResizeEvent *event)
 {
-    if (!m_effectView || !event->oldSize().isValid())
+    if (!m_effectView)
         return;
-    m_effectView->resize(m_effectView->size() + event->size() - event->oldSize());
+    // Not by the event's old size: what happened before the view showed is told at once, without.
+    m_effectView->resize(m_effectView->size() + event->size() - m_sizeOfEffect);
+    m_sizeOfEffect = event->size();
 }
 
 void VEStyle::paintEvent(QPaintEvent *)

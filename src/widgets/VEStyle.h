@@ -36,6 +36,8 @@ private:
     QColor m_bg;
     bool m_isDark = false;
     QWidget *m_effectView = nullptr;
+    // This view's, as the panel knows it.
+    QSize m_sizeOfEffect;
 };
 
 } // namespace tarvelo::widgets

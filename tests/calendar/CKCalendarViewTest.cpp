@@ -2,7 +2,9 @@
 
 #include "calendar/CalendarFixture.h"
 #include "platform/Fonts.h"
+#include "widgets/Drawn.h"
 #include "widgets/GradientView.h"
+#include "widgets/ImageView.h"
 #include "widgets/LayerView.h"
 
 #include <QLabel>
@@ -10,6 +12,7 @@
 
 using tarvelo::calendar::CKCalendarView;
 using tarvelo::calendar::DateButton;
+using tarvelo::platform::fontNamed;
 using tarvelo::platform::frameOf;
 using tarvelo::tests::CalendarFixture;
 using namespace std::chrono_literals;
@@ -507,13 +510,81 @@ private Q_SLOTS:
         QCOMPARE(m_view->dayOfWeekTextColor(), QColor(Qt::green));
     }
 
-    void theDefaultStyleHasThreeSizes()
+    void theDefaultStyleHasOneFaceInThreeSizes()
     {
+        const QString face = QStringLiteral("Helvetica Neue Medium");
+
+        QCOMPARE(m_view->titleFont(), fontNamed(face, 18));
+        QCOMPARE(*m_view->dayOfWeekFont(), fontNamed(face, 15));
+        QCOMPARE(m_view->dateFont(), fontNamed(face, 14));
         QCOMPARE(m_view->titleFont().pixelSize(), 18);
         QCOMPARE(m_view->dayOfWeekFont()->pixelSize(), 15);
         QCOMPARE(m_view->dateFont().pixelSize(), 14);
+    }
+
+    void theDefaultStyleHasLabelsInTheColourOfLabels()
+    {
+        const QColor label(12, 34, 56);
+        QPalette desktop = m_window->palette();
+        desktop.setColor(QPalette::WindowText, label);
+        m_window->setPalette(desktop);
+        m_view->setTitleColor(Qt::red);
+        m_view->setDayOfWeekTextColor(Qt::red);
+
+        m_view->setDefaultStyle();
+
+        QCOMPARE(m_view->titleColor(), label);
+        for (const QByteArray &name :
+             {QByteArray("dayOfWeekLabel0"), QByteArray("dayOfWeekLabel6")})
+            QCOMPARE(m_view->findChild<QLabel *>(QLatin1String(name))
+                         ->palette()
+                         .color(QPalette::WindowText),
+                     label);
+    }
+
+    void theDefaultStyleHasGreyBehindTheSelectedAndTheCurrentDay()
+    {
+        const QColor disabled(65, 43, 21);
+        QPalette desktop = m_window->palette();
+        desktop.setColor(QPalette::Disabled, QPalette::WindowText, disabled);
+        m_window->setPalette(desktop);
+
+        m_view->setDefaultStyle();
+
+        QCOMPARE(m_view->selectedDateTextColor(), disabled);
+        QCOMPARE(m_view->selectedDateBackgroundColor(), QColor(170, 170, 170));
         QCOMPARE(m_view->currentDateTextColor(), QColor(Qt::white));
-        QCOMPARE(m_view->currentDateBackgroundColor(), m_view->selectedDateBackgroundColor());
+        QCOMPARE(m_view->currentDateBackgroundColor(), QColor(170, 170, 170));
+    }
+
+    void theArrowsFillTheirButtons()
+    {
+        for (const char *name : {"prevButton", "nextButton"}) {
+            auto *arrow = button(name);
+            arrow->resize(60, 20); // of another shape than the image
+
+            const QImage image = tarvelo::tests::drawn(*arrow);
+
+            int left = image.width();
+            int right = 0;
+            for (int x = 0; x < image.width(); ++x)
+                for (int y = 0; y < image.height(); ++y)
+                    if (image.pixelColor(x, y) != QColor(Qt::white)) {
+                        left = std::min(left, x);
+                        right = std::max(right, x);
+                    }
+            QVERIFY2(right - left > 30,
+                     qPrintable(QStringLiteral("%1 to %2").arg(left).arg(right)));
+        }
+    }
+
+    void theWeekdaysBackgroundHasItsImage()
+    {
+        const auto *background =
+            m_view->findChild<tarvelo::widgets::ImageView *>(QStringLiteral("imgWeekDaysBG"));
+
+        QCOMPARE(background->image().name(), QStringLiteral("weekHeader"));
+        QVERIFY(!background->image().isNull());
     }
 
     void coloursOfDaysAreFixed()

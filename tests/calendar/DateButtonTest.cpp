@@ -275,6 +275,26 @@ private Q_SLOTS:
         QVERIFY(ink(image, Red, below(9)).isEmpty());
     }
 
+    void theDayIsAskedForInFixedDigitsOfTheSameCalendar_data()
+    {
+        QTest::addColumn<QByteArray>("locale");
+        for (const char *locale :
+             {"ar_EG", "fa_IR", "th_TH", "th_TH@calendar=buddhist", "hi_IN@numbers=deva"})
+            QTest::newRow(locale) << QByteArray(locale);
+    }
+    void theDayIsAskedForInFixedDigitsOfTheSameCalendar()
+    {
+        QFETCH(QByteArray, locale);
+        keepLectureOn("2024-03-06");
+        makeCell(locale.constData());
+
+        m_cell->setDate(day(6));
+        QVERIFY(!ink(drawn(), Red, above(9)).isEmpty());
+
+        m_cell->setDate(day(7));
+        QVERIFY(ink(drawn(), Red, above(9)).isEmpty());
+    }
+
     void whoDoesNotSeeTheBadgeHearsOfIt()
     {
         keepLectureOn("2024-03-06");

@@ -1,5 +1,6 @@
 #include "platform/Frames.h"
 
+#include "support/ScreenWithPanels.h"
 #include "support/TestCase.h"
 
 #include <QScreen>
@@ -57,8 +58,15 @@ private Q_SLOTS:
         QCOMPARE(window.geometry(), QRect(10, screen.height() - 60, 30, 40));
         QCOMPARE(frameOnScreen(window), QRectF(10, 20, 30, 40));
         QCOMPARE(placeOnScreen(QPointF(5, screen.height() - 1.5)), QPointF(5, 1.5));
-        QCOMPARE(visibleFrame(*QGuiApplication::primaryScreen()).size(),
-                 QSizeF(QGuiApplication::primaryScreen()->availableGeometry().size()));
+    }
+
+    void theVisibleFrameIsWhatPanelsLeaveOfTheScreen()
+    {
+        const QScreen &screen = *QGuiApplication::primaryScreen();
+        const QSize whole = screen.geometry().size();
+
+        QCOMPARE(visibleFrame(screen),
+                 QRectF(7, 43, whole.width() - 7 - 11, whole.height() - 31 - 43));
     }
 };
 

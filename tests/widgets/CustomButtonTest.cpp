@@ -4,10 +4,27 @@
 #include "widgets/Drawn.h"
 
 #include <QEnterEvent>
+#include <QWindow>
 
 using tarvelo::platform::imageNamed;
 using tarvelo::tests::drawn;
 using tarvelo::widgets::CustomButton;
+
+namespace {
+
+class Drawings final : public QObject
+{
+public:
+    int count = 0;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
 
 class CustomButtonTest final : public tarvelo::tests::TestCase
 {
@@ -67,7 +84,44 @@ private Q_SLOTS:
         QCOMPARE(button.trackingRectCount(), 1);
     }
 
-    void theFirstClickOnAnInactiveWindowCounts() { QVERIFY(CustomButton().acceptsFirstMouse()); }
+    void theFirstClickOnAnInactiveWindowCounts()
+    {
+        QWidget window;
+        CustomButton button(&window);
+        window.show();
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(!window.isActiveWindow());
+        int pressed = 0;
+        button.setAction({"press", [&pressed](QWidget *) { ++pressed; }});
+
+        // To the window, as the desktop sends it, not to the button.
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button.geometry().center());
+
+        QCOMPARE(pressed, 1);
+    }
+
+    void itIsDrawnAtOnceAsTheMouseComesAndGoes()
+    {
+        CustomButton button;
+        button.setMouseReady();
+        button.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&button));
+        // The mouse of the tests may lie there already.
+        QEvent leaving(QEvent::Leave);
+        QCoreApplication::sendEvent(&button, &leaving);
+        Drawings drawings;
+        button.installEventFilter(&drawings);
+
+        QEnterEvent entering({1, 1}, {1, 1}, {1, 1});
+        QCoreApplication::sendEvent(&button, &entering);
+        QCOMPARE(drawings.count, 1);
+
+        QCoreApplication::sendEvent(&button, &leaving);
+        QCOMPARE(drawings.count, 2);
+    }
 
     void itsImageCanBeStretchedOrKeepItsShape()
     {

@@ -11,6 +11,14 @@ class GradientViewTest final : public tarvelo::tests::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void withoutAFrameItIsEmpty()
+    {
+        const GradientView view;
+
+        QCOMPARE(view.geometry(), QRect(0, 0, 0, 0));
+        QVERIFY(view.gradientLayer().colors().isEmpty());
+    }
+
     void anEmptyListGivesTheLayerNoColours()
     {
         GradientView view;

@@ -73,6 +73,30 @@ private Q_SLOTS:
         QTRY_COMPARE(view.effectView()->size(), QSize(120, 55));
     }
 
+    void theEffectGrowsWithAViewThatIsLaidOutBeforeItShows()
+    {
+        VEStyle view;
+        view.resize(100, 50);
+        view.awakeFromNib();
+
+        view.resize(130, 80);
+        view.resize(120, 55);
+        view.show();
+
+        QCOMPARE(view.effectView()->size(), QSize(120, 55));
+    }
+
+    void theEffectIsAsLargeAsAViewThatGrewBeforeItsAwakening()
+    {
+        VEStyle view;
+        view.resize(120, 55);
+        view.awakeFromNib();
+
+        view.show();
+
+        QCOMPARE(view.effectView()->size(), QSize(120, 55));
+    }
+
     void theEffectLiesBehindWhatTheViewHolds()
     {
         VEStyle view;
