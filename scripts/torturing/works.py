@@ -43,6 +43,7 @@ WORKS = (
     Work("discarding what was left", before=(RECORDED, (f"leave:{NEWTON}:1",), ("later", f"leave:{KEPLER}:2")),
          tasks=(f"discard:{NEWTON}", "later"), gone=_of(NEWTON), new=_of(KEPLER)),
     Work("storing what was done and not stored", before=(RECORDED, (f"done:{KEPLER}:1",)), tasks=("later",), new=_of(KEPLER)),
+    Work("saving what is refused", tasks=("later", "begin", f"refused:{KEPLER}:1"), new=_of(KEPLER)),
     Work("storing what was refused", before=(RECORDED, ("later", f"refused:{KEPLER}:1")), tasks=("later",), new=_of(KEPLER)),
     Work("starting"),
     Work("starting the whole program", tasks=None),

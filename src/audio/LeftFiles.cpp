@@ -132,8 +132,13 @@ bool LeftFiles::moveLecture(const QString &from) const
 {
     const auto names = namesIn(from);
     const QString path = from + u'/' + journalName();
-    const JournalFile found = store::readJournal(path);
+    const auto [found, isAhead] = store::readLatest(path);
     if (!names || found.state == JournalFile::State::Unreadable)
+        return false;
+    if (isAhead && !SteadyFile(path).replace(store::toBytes(found.journal)))
+        return false;
+    const bool hasLatest = names->contains(QFileInfo(store::latestOf(path)).fileName());
+    if (hasLatest && !(store::removeLatest(path) && platform::syncFolderOf(path)))
         return false;
     const bool hasJournal = found.state != JournalFile::State::Missing;
     const LectureJournal &journal = found.journal;

@@ -90,6 +90,7 @@ bool TakePlaces::changeOwed(const QString &id, const QString &subject, const QSt
         return false;
     place->owed->subject = subject;
     place->owed->notes = notes;
+    ++place->owed->version;
     if (place->writer)
         place->writer->write(store::toBytes(*place->owed));
     return true;

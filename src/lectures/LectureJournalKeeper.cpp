@@ -116,6 +116,7 @@ void LectureJournalKeeper::writeNow()
     auto *writer = m_places.writer();
     if (!m_isOpen || !writer)
         return;
+    ++m_journal.version;
     writer->write(store::toBytes(journal()));
     m_written = m_with.dates.now();
     // Its length changes as long as it runs.

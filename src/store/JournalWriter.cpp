@@ -3,6 +3,7 @@
 #include "platform/DurableFiles.h"
 #include "platform/PrivateFiles.h"
 #include "platform/SignalMask.h"
+#include "store/LectureJournal.h"
 
 #include <system_error>
 #include <utility>
@@ -28,17 +29,24 @@ JournalWriter::~JournalWriter()
 
 void JournalWriter::write(const QByteArray &content)
 {
+    writeLatest(m_path, content);
     ask({true, [this, content] { m_isWritten = m_file.replace(content); }});
 }
 
 void JournalWriter::remove()
 {
-    ask({false, [this] { m_file.remove(); }});
+    removeLatest(m_path);
+    ask({false, [this] {
+             platform::syncFolderOf(m_path);
+             m_file.remove();
+         }});
 }
 
 void JournalWriter::renameTo(const QString &path)
 {
+    removeLatest(m_path);
     ask({false, [this, path] {
+             platform::syncFolderOf(m_path);
              platform::createFileIfMissing(m_path);
              m_file.renameTo(path);
          }});

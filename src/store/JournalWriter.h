@@ -12,8 +12,8 @@
 namespace tarvelo::store {
 
 // Keeps the journal of the open lecture on the disk. A thread of its own does it, one thing after
-// the other, so that a slow disk keeps nobody waiting but who asks to; everything here is for the
-// main thread alone.
+// the other, so that a slow disk keeps nobody waiting but who asks to; until it has, the content
+// stands beside it (latestOf()). Everything here is for the main thread alone.
 class JournalWriter final
 {
 public:

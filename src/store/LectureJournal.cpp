@@ -1,7 +1,10 @@
 #include "store/LectureJournal.h"
 
+#include "platform/Descriptor.h"
 #include "platform/SureReading.h"
 
+#include <QCryptographicHash>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -21,6 +24,34 @@ static_assert(StateNames.size() == static_cast<size_t>(State::Stopped) + 1);
 
 // Far more than anybody types; what is larger was not written here.
 constexpr qint64 MostBytes = 256 << 20;
+
+const QString Check = QStringLiteral("check");
+
+QByteArray jsonOf(const QJsonObject &object)
+{
+    return QJsonDocument(object).toJson();
+}
+
+QString checkOf(const QJsonObject &object)
+{
+    return QString::fromLatin1(
+        QCryptographicHash::hash(jsonOf(object), QCryptographicHash::Sha1).toHex());
+}
+
+// What was cut off, or holds pages of two contents, is not.
+bool isWhole(const QByteArray &bytes)
+{
+    QJsonObject object = QJsonDocument::fromJson(bytes).object();
+    const QString check = object.take(Check).toString();
+    return !check.isEmpty() && check == checkOf(object);
+}
+
+// Of two lectures, the one that is open was written later.
+bool isAhead(const LectureJournal &latest, const JournalFile &file)
+{
+    return file.state != JournalFile::State::Read || file.journal.id != latest.id ||
+           latest.version > file.journal.version;
+}
 
 State stateNamed(const QString &name)
 {
@@ -53,10 +84,12 @@ QByteArray toBytes(const LectureJournal &journal)
         {QStringLiteral("take"), journal.take},
         {QStringLiteral("done"), journal.isDone},
         {QStringLiteral("target"), journal.target},
-        {QStringLiteral("duration"), journal.duration}};
+        {QStringLiteral("duration"), journal.duration},
+        {QStringLiteral("version"), journal.version}};
     if (journal.lastRow)
         object.insert(QStringLiteral("lastRow"), *journal.lastRow);
-    return QJsonDocument(object).toJson();
+    object.insert(Check, checkOf(object));
+    return jsonOf(object);
 }
 
 std::optional<LectureJournal> journalFrom(const QByteArray &bytes)
@@ -81,7 +114,8 @@ std::optional<LectureJournal> journalFrom(const QByteArray &bytes)
                           .target = text("target"),
                           .duration = text("duration"),
                           .lastRow = lastRow.isDouble() ? std::optional(lastRow.toInteger())
-                                                        : std::nullopt};
+                                                        : std::nullopt,
+                          .version = object.value(QLatin1String("version")).toInteger()};
 }
 
 JournalFile readJournal(const QString &path)
@@ -95,6 +129,42 @@ JournalFile readJournal(const QString &path)
     const auto journal = journalFrom(file.bytes);
     return journal ? JournalFile{JournalFile::State::Read, *journal}
                    : JournalFile{JournalFile::State::Worthless};
+}
+
+QString latestOf(const QString &journalPath)
+{
+    const QFileInfo journal(journalPath);
+    return journal.path() + u'/' + journal.completeBaseName() + QStringLiteral(".latest");
+}
+
+bool writeLatest(const QString &journalPath, const QByteArray &bytes)
+{
+    const QString path = latestOf(journalPath);
+    const platform::Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
+    const bool isWritten = file.isOpen() && file.write(bytes, 0);
+    if (!isWritten)
+        removeLatest(journalPath);
+    return isWritten;
+}
+
+bool removeLatest(const QString &journalPath)
+{
+    const QString path = latestOf(journalPath);
+    // Twice, for what fails once.
+    return QFile::remove(path) || QFile::remove(path) || platform::isThere(path) == false;
+}
+
+LatestJournal readLatest(const QString &journalPath)
+{
+    using File = platform::WholeFile::State;
+    const JournalFile file = readJournal(journalPath);
+    const platform::WholeFile found = platform::readWhole(latestOf(journalPath), MostBytes);
+    if (found.state == File::Unreadable)
+        return {{JournalFile::State::Unreadable}, false};
+    const auto latest = isWhole(found.bytes) ? journalFrom(found.bytes) : std::nullopt;
+    if (file.state == JournalFile::State::Unreadable || !latest || !isAhead(*latest, file))
+        return {file, false};
+    return {{JournalFile::State::Read, *latest}, true};
 }
 
 QString subjectToStore(const QString &typed)

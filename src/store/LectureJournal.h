@@ -29,6 +29,7 @@ struct LectureJournal
     QString duration = {}; // as the row has it
     // The last row that there was when it was done: one that is equal and came later is its own.
     std::optional<qint64> lastRow = {};
+    qint64 version = 0; // counts what was written of this lecture
 
     // Nothing was typed or recorded.
     bool isBlank() const;
@@ -51,6 +52,23 @@ struct JournalFile
     LectureJournal journal = {}; // when it was read
 };
 JournalFile readJournal(const QString &path);
+
+// Beside the journal of the open lecture: what was to be written last, at once and without waiting
+// for a disk. It is ahead of the journal when the program is killed while a slow disk takes its
+// time. After a power cut it may hold anything, and only what is whole counts.
+QString latestOf(const QString &journalPath);
+// False when it could not be; nothing stands there then.
+bool writeLatest(const QString &journalPath, const QByteArray &bytes);
+// False when it is still there. The disk may have it until the names of the folder are synced, and
+// nothing else may go from there before that: it would be all that is known.
+bool removeLatest(const QString &journalPath);
+// The journal, or what is ahead of it.
+struct LatestJournal
+{
+    JournalFile file;
+    bool isAhead;
+};
+LatestJournal readLatest(const QString &journalPath);
 
 // What a lecture is called whose subject was typed as this.
 QString subjectToStore(const QString &typed);

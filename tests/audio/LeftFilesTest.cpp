@@ -84,6 +84,43 @@ private Q_SLOTS:
         QVERIFY(files().all()->at(0).journal.state == JournalFile::State::Read);
     }
 
+    // A slow disk had not taken it when the program was killed.
+    void whatIsAheadOfTheJournalCounts()
+    {
+        leaveLatest();
+
+        QVERIFY(files().moveFrom(folder()));
+
+        const auto all = files().all().value();
+        QCOMPARE(all.size(), 1);
+        QCOMPARE(all[0].journal.journal.notes, u"Fresnel"_s);
+        QVERIFY(!all[0].takePath.isEmpty());
+        QCOMPARE(m_stage->names().size(), 2);
+    }
+
+    void whicheverCallFailsOnceWhatIsAheadOfTheJournalIsThereOnce()
+    {
+        bool wasRefused = true;
+        int call = 1;
+        for (; wasRefused; ++call) {
+            finish();
+            prepare();
+            leaveLatest();
+
+            tarvelo::tests::refuseCall(call, "/temp");
+            static_cast<void>(files().moveFrom(folder()));
+            wasRefused = tarvelo::tests::callsUntilRefusal() == 0;
+            tarvelo::tests::refuseNothing();
+
+            QVERIFY(files().moveFrom(folder()));
+            const auto all = files().all().value();
+            QVERIFY2(all.size() == 1, qPrintable(QString::number(call)));
+            QCOMPARE(all[0].journal.journal.notes, u"Fresnel"_s);
+            QVERIFY(!all[0].takePath.isEmpty());
+        }
+        QVERIFY(call > 10);
+    }
+
     void aTakeUnderTheNameIsNotWrittenOver()
     {
         LeftStage::write(m_stage->file("leftover-20240304T080000000.m4a"), "another");
@@ -195,6 +232,16 @@ private:
     }
 
     QString folder() const { return m_stage->locations.temporaryFolder(); }
+    void leaveLatest() const
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        LectureJournal journal = LeftStage::journal();
+        journal.notes = u"Fresnel"_s;
+        journal.version = 1;
+        QVERIFY(tarvelo::store::writeLatest(m_stage->file("lecture.journal"),
+                                            tarvelo::store::toBytes(journal)));
+    }
     QString otherFolderWithClosedTake() const
     {
         const QString other = folder() + u"/take-abcdef"_s;

@@ -1,13 +1,29 @@
 #include "store/JournalWriter.h"
 
+#include "store/LectureJournal.h"
 #include "support/TestCase.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <atomic>
+#include <sys/syscall.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
-using tarvelo::store::JournalWriter;
+using namespace tarvelo::store;
+
+namespace {
+std::atomic<bool> isDiskBusy = false;
+}
+
+// As a disk does that takes its time.
+extern "C" __attribute__((used)) int fdatasync(int file)
+{
+    isDiskBusy.wait(true);
+    return static_cast<int>(::syscall(SYS_fdatasync, file));
+}
 
 class JournalWriterTest final : public tarvelo::tests::TestCase
 {
@@ -57,6 +73,33 @@ private Q_SLOTS:
         QCOMPARE(read(path()), QByteArray("open"));
 
         writer.removeOther(other());
+        writer.remove();
+        writer.flush();
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+    }
+
+    // A program may be killed while the disk takes its time.
+    void whileTheDiskTakesItsTimeTheLastContentStandsBesideIt()
+    {
+        LectureJournal journal{.id = u"1"_s, .notes = u"Lenses"_s, .version = 1};
+        JournalWriter writer(path());
+        writer.write(toBytes(journal));
+        QVERIFY(writer.flush());
+        isDiskBusy = true;
+
+        for (const QString &notes : {u"Huygens"_s, u"Fresnel"_s}) {
+            journal.notes = notes;
+            ++journal.version;
+            writer.write(toBytes(journal));
+            QCOMPARE(readLatest(path()).file.journal.notes, notes);
+        }
+        QCOMPARE(readJournal(path()).journal.notes, u"Lenses"_s);
+
+        isDiskBusy = false;
+        isDiskBusy.notify_all();
+        QVERIFY(writer.flush());
+        QVERIFY(!readLatest(path()).isAhead);
+        QCOMPARE(readJournal(path()).journal.notes, u"Fresnel"_s);
         writer.remove();
         writer.flush();
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList());

@@ -83,6 +83,57 @@ private Q_SLOTS:
         QVERIFY(readJournal(folder.path()).state == Found::Unreadable);
     }
 
+    void whatWasToBeWrittenLastIsAheadOfTheJournal()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"lecture.journal"_s);
+        LectureJournal journal = full();
+        journal.version = 7;
+        QVERIFY(!tarvelo::store::readLatest(path).isAhead);
+
+        QVERIFY(tarvelo::store::writeLatest(path, toBytes(journal)));
+        QVERIFY(tarvelo::store::readLatest(path).isAhead); // there is no journal yet
+        write(path, toBytes(journal));
+        QVERIFY(!tarvelo::store::readLatest(path).isAhead);
+
+        journal.version = 8;
+        journal.notes = u"later"_s;
+        QVERIFY(tarvelo::store::writeLatest(path, toBytes(journal)));
+        QVERIFY(tarvelo::store::readLatest(path).isAhead);
+        QCOMPARE(tarvelo::store::readLatest(path).file.journal.notes, u"later"_s);
+
+        QVERIFY(tarvelo::store::removeLatest(path));
+        QVERIFY(!tarvelo::store::readLatest(path).isAhead);
+        QCOMPARE(tarvelo::store::readLatest(path).file.journal.version, 7);
+    }
+
+    // As a power cut leaves it.
+    void whatIsNotWholeIsNotAhead()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"lecture.journal"_s);
+        LectureJournal journal = full();
+        journal.version = 7;
+        write(path, toBytes(journal));
+        journal.notes = u"Huygens "_s.repeated(600);
+        journal.version = 8;
+        const QByteArray before = toBytes(journal);
+        journal.notes = u"Fresnel "_s.repeated(600);
+        journal.version = 9;
+        const QByteArray bytes = toBytes(journal);
+        QCOMPARE(before.size(), bytes.size());
+
+        for (qsizetype end = 0; end <= bytes.size(); end += end + 64 < bytes.size() ? 64 : 1) {
+            write(tarvelo::store::latestOf(path), bytes.first(end));
+            // The last is a line's end.
+            QCOMPARE(tarvelo::store::readLatest(path).isAhead, end >= bytes.size() - 1);
+        }
+        write(tarvelo::store::latestOf(path), bytes.first(2048) + before.sliced(2048));
+        QVERIFY(!tarvelo::store::readLatest(path).isAhead);
+        write(tarvelo::store::latestOf(path), before.first(2048) + bytes.sliced(2048));
+        QVERIFY(!tarvelo::store::readLatest(path).isAhead);
+    }
+
     void theLastRowIsReadBackWhenItIsKnown()
     {
         LectureJournal journal = full();

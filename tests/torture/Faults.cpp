@@ -28,21 +28,23 @@ Fault wantedFault()
     return fault;
 }
 
+void writeCounts()
+{
+    g_counts = false;
+    if (fault().kind[0] != '\0')
+        return;
+    const int file = static_cast<int>(
+        ::syscall(SYS_open, setting("TORTURE_COUNT"), O_WRONLY | O_CREAT | O_TRUNC, 0600));
+    for (std::size_t kind = 0; kind < Kinds.size(); ++kind)
+        ::dprintf(file, "%s %ld\n", Kinds.at(kind), g_calls.at(kind).load());
+    ::syscall(SYS_close, file);
+}
+
 class Count final
 {
 public:
     Count() { g_counts = *setting("TORTURE_BEGIN") != '\0'; }
-    ~Count()
-    {
-        g_counts = false;
-        if (fault().kind[0] != '\0')
-            return;
-        const int file = static_cast<int>(
-            ::syscall(SYS_open, setting("TORTURE_COUNT"), O_WRONLY | O_CREAT | O_TRUNC, 0600));
-        for (std::size_t kind = 0; kind < Kinds.size(); ++kind)
-            ::dprintf(file, "%s %ld\n", Kinds.at(kind), g_calls.at(kind).load());
-        ::syscall(SYS_close, file);
-    }
+    ~Count() { writeCounts(); }
 };
 
 const Count g_count;
@@ -80,6 +82,12 @@ extern "C" {
 void torture_begin()
 {
     g_counts = true;
+}
+
+// Of a program that ends without ceremony.
+void torture_end()
+{
+    writeCounts();
 }
 
 } // extern "C"

@@ -9,13 +9,17 @@
 //     notes:SUBJECT               the same without a recording
 //     cancel:SUBJECT:SECONDS      one that is cancelled
 //     leave:SUBJECT:SECONDS       the process ends at once, while it records
-//     done:SUBJECT:SECONDS        and here when Done was pressed, before anything is moved or
-//     stored edit:SUBJECT:NEW-SUBJECT delete:SUBJECT offered                     tells what is
-//     offered of lectures that were left, and what is owed keep                        all that is
-//     offered discard                     the first that is offered back brings lectures back from
-//     every copy that has some later                       an hour of the windows' clock wait for a
-//     line of input, and then for ten minutes of that clock begin                       from where
-//     on a layer counts that may stand before the C library
+//     done:SUBJECT:SECONDS        and here when Done was pressed, before anything is moved
+//     refused:SUBJECT:SECONDS     and here when its row was refused by a database that is locked
+//     edit:SUBJECT:NEW-SUBJECT
+//     delete:SUBJECT
+//     offered                     tells what is offered of lectures that were left, and is owed
+//     keep                        all that is offered
+//     discard:SUBJECT             of what is offered
+//     back                        brings lectures back from every copy that has some
+//     later                       an hour of the windows' clock
+//     wait                        for a line of input, and then for ten minutes of that clock
+//     begin                       from where on a layer counts that may stand before the C library
 //
 // What was recorded is told in seconds.
 
@@ -246,14 +250,15 @@ private:
                                                      m_windows};
 };
 
-void beginToCount()
+void tellLayer(const char *what)
 {
-    if (auto *begin = reinterpret_cast<void (*)()>(::dlsym(RTLD_DEFAULT, "torture_begin")))
-        begin();
+    if (auto *hear = reinterpret_cast<void (*)()>(::dlsym(RTLD_DEFAULT, what)))
+        hear();
 }
 
 [[noreturn]] void endAtOnce()
 {
+    tellLayer("torture_end");
     std::_Exit(0);
 }
 
@@ -292,7 +297,7 @@ void perform(Student &student, const QString &task)
         {QStringLiteral("back"), [&] { student.bringBack(); }},
         {QStringLiteral("later"), [&] { student.later(); }},
         {QStringLiteral("wait"), [&] { student.wait(); }},
-        {QStringLiteral("begin"), [] { beginToCount(); }},
+        {QStringLiteral("begin"), [] { tellLayer("torture_begin"); }},
     };
     tasks.at(words.first())();
 }
