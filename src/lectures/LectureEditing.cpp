@@ -43,9 +43,11 @@ void show(const store::LectureInfoItem &lecture, QLineEdit &subject, QTextEdit &
 
 bool isSame(const Lecture &one, const Lecture &other)
 {
-    if (!one || !other || !one->hasRow() || !other->hasRow())
-        return one && one == other;
-    return one->getRecordUniqueID() == other->getRecordUniqueID();
+    if (!one || !other)
+        return false;
+    return one == other || (one->getRecordUniqueID() != store::LectureInfoItem::NoRow &&
+                            one->getRecordUniqueID() == other->getRecordUniqueID() &&
+                            one->copyPath() == other->copyPath());
 }
 
 } // namespace

@@ -13,6 +13,21 @@
 
 namespace tarvelo::store {
 
+namespace {
+
+// The one that was chosen is to be deleted; the others only go with it.
+QSet<qint64> idsIn(const Rows &rows, const LectureInfoItem &chosen)
+{
+    QSet<qint64> ids;
+    for (const Row &row : rows)
+        ids.insert(row.first().toLongLong());
+    if (chosen.hasRow())
+        ids.remove(chosen.getRecordUniqueID());
+    return ids;
+}
+
+} // namespace
+
 LectureDatabase::LectureDatabase(const platform::Places &places, const platform::Clock &clock)
     : m_folder(platform::expandingTilde(places.applicationSupport) + u'/' + places.processName)
     , m_backups(m_folder + QStringLiteral("/Backups"), clock)
@@ -155,16 +170,20 @@ bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
     const auto copy = rows->size() > 1 ? m_backups.keep(*m_connection, going) : QString();
     if (!copy)
         return false;
+    // It may have failed although they are gone, since only its last step did.
     const bool isGone = m_connection->executeNonQuery(statements::DeleteByPathBegin + path +
-                                                      statements::DeleteByPathEnd);
+                                                      statements::DeleteByPathEnd) ||
+                        findsNone(going);
     m_backups.settle(*m_connection, *copy);
-    if (isGone && rows->size() > 1 && m_lecturesGone) {
-        QSet<qint64> ids;
-        for (const auto &row : *rows)
-            ids.insert(row.first().toLongLong());
-        m_lecturesGone({*copy, ids});
-    }
+    if (isGone && rows->size() > 1 && m_lecturesGone)
+        m_lecturesGone({*copy, idsIn(*rows, lecture)});
     return isGone;
+}
+
+bool LectureDatabase::findsNone(const QString &query)
+{
+    const auto rows = m_connection->executeQuery(query);
+    return rows && rows->isEmpty() && m_connection->errorCode() == 0;
 }
 
 bool LectureDatabase::writeOrReset(const QString &sql, const QVariantList &arguments,

@@ -71,6 +71,8 @@ private:
                const QString &creationText, const QString &there);
     static QString idsWithoutNew(const Sqlite &database, qint64 lastBefore);
     bool tellOfEmptyTable(Sqlite &database);
+    // False also when that is not known.
+    bool findsNone(const QString &query);
     bool openFile(const QString &file);
     bool replaceWithSound();
     bool mayWrite();

@@ -2,6 +2,8 @@
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::lectures::Lecture;
@@ -120,15 +122,7 @@ private Q_SLOTS:
     // list.
     void oneThatWasDeletedWithAnotherIsNotTakenForTheNextOne()
     {
-        for (const char *name : {"Optics", "Logic"})
-            aLecture()
-                .named(name)
-                .withoutAudio()
-                .withNotes(u"notes"_s)
-                .insertInto(m_program->database);
-        controller().prepareViewForDate(m_program->today());
-        QCOMPARE(m_program->subjectsShown(), QStringList({u"Logic"_s, u"Optics"_s}));
-        controller().onDelete(0);
+        loseTwoByADelete([] {});
         QVERIFY(m_program->storedTexts().isEmpty());
         saveNewcomer();
         QCOMPARE(m_program->storedRows().first()["ID"_L1].toInt(), 1);
@@ -143,13 +137,68 @@ private Q_SLOTS:
                  QStringList({u"Newcomer: "_s, u"Logic: notes"_s, u"wave optics: Huygens"_s}));
     }
 
+    // The window holds one entry of it, the list another since it was built anew.
+    void theListShowsWhatAWindowThatWasOpenBeforeSavesIntoTheCopy()
+    {
+        aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
+        controller().prepareViewForDate(m_program->today());
+        m_program->edit(0);
+        controller().prepareViewForDate(m_program->today());
+        failNext("UPDATE");
+
+        m_program->finishEdit(u"wave optics"_s, u"Huygens"_s);
+
+        QVERIFY(m_program->storedTexts().isEmpty());
+        QCOMPARE(m_program->subjectsShown(), QStringList{u"Wave Optics"_s});
+        QCOMPARE(controller().arrangedObjects().front()->strNotes(), u"Huygens"_s);
+    }
+
+    void aWindowThatShowsTheOneThatWasDeletedSavesNoMore()
+    {
+        loseTwoByADelete([this] { m_program->edit(0); });
+
+        m_program->finishEdit(u"modal logic"_s, u"Kripke"_s);
+
+        bringEverythingBack();
+        QCOMPARE(m_program->storedTexts(), QStringList({u"Optics: notes"_s, u"Logic: notes"_s}));
+    }
+
+    // They may be gone though the delete failed, since only its last step did.
+    void whicheverCallFailsOnceInADeleteTheOthersAreNotTakenForTheNextOne()
+    {
+        bool wasRefused = true;
+        int call = 0;
+        while (wasRefused) {
+            finish();
+            prepare();
+            ++call;
+            loseTwoByADelete([&] { tarvelo::tests::refuseCall(call, "/Tarvelo"); });
+            wasRefused = tarvelo::tests::callsUntilRefusal() == 0;
+            tarvelo::tests::refuseNothing();
+            saveNewcomer();
+
+            m_program->change(static_cast<int>(m_program->subjectsShown().indexOf(u"Optics"_s)),
+                              u"wave optics"_s, u"Huygens"_s);
+
+            bringEverythingBack();
+            QStringList lectures = m_program->storedTexts();
+            lectures.sort();
+            QVERIFY2(lectures == QStringList({u"Logic: notes"_s, u"Newcomer: "_s,
+                                              u"wave optics: Huygens"_s}),
+                     qPrintable(u"call %1: "_s.arg(call) + lectures.join(u", "_s)));
+        }
+        QVERIFY(call > 20);
+    }
+
     // A row may be there though its insert failed, since only the last step did.
     void whicheverCallFailsOnceBothLecturesAreThereOnce()
     {
         bool wasRefused = true;
-        for (int call = 1; wasRefused; ++call) {
+        int call = 0;
+        while (wasRefused) {
             finish();
             prepare();
+            ++call;
             aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
             tarvelo::tests::refuseCall(call, "/Tarvelo");
             saveNewcomer();
@@ -157,14 +206,13 @@ private Q_SLOTS:
             tarvelo::tests::refuseNothing();
             m_program->clock.advance(30s);
 
-            auto &database = *m_program->database.openDb();
-            for (const auto &copy : m_program->database.backups().copies(database))
-                QVERIFY(m_program->database.backups().bringBack(copy.filePath, database));
+            bringEverythingBack();
             QStringList lectures = m_program->storedTexts();
             lectures.sort();
             QVERIFY2(lectures == QStringList({u"Newcomer: "_s, u"Optics: Lenses"_s}),
                      qPrintable(u"call %1: "_s.arg(call) + lectures.join(u", "_s)));
         }
+        QVERIFY(call > 20);
     }
 
     // The table is not emptied, and so nothing has gone.
@@ -199,6 +247,20 @@ private:
         failNext("INSERT");
         saveNewcomer();
     }
+    // Of "Logic", which takes "Optics" with it.
+    void loseTwoByADelete(const std::function<void()> &before)
+    {
+        for (const char *name : {"Optics", "Logic"})
+            aLecture()
+                .named(name)
+                .withoutAudio()
+                .withNotes(u"notes"_s)
+                .insertInto(m_program->database);
+        controller().prepareViewForDate(m_program->today());
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"Logic"_s, u"Optics"_s}));
+        before();
+        controller().onDelete(0);
+    }
     // What it runs into goes with the table, and is in no copy.
     void failNext(const char *statement)
     {
@@ -218,6 +280,13 @@ private:
         const auto copies = m_program->database.backups().copies(database);
         QVERIFY(!copies.isEmpty());
         QCOMPARE(m_program->database.backups().bringBack(copies.first().filePath, database), 1);
+    }
+
+    void bringEverythingBack()
+    {
+        auto &database = *m_program->database.openDb();
+        for (const auto &copy : m_program->database.backups().copies(database))
+            QVERIFY(m_program->database.backups().bringBack(copy.filePath, database));
     }
 
     tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
