@@ -79,10 +79,11 @@ AppDelegate::AppDelegate(const AppServices &services)
             [this](bool shows) { m_dockIcon.setShowsDockIcon(shows); });
     connect(&m_preferences, &Preferences::formatChosen, this,
             [this] { m_mediaLinksArrayController.setTempAudioSavePathWithFormat(); });
-    connect(&m_bringBack, &BringBackSheet::lecturesCameBack, this, [this] {
-        m_mediaLinksArrayController.lecturesCameBack();
-        showLecturesAnew();
-    });
+    connect(&m_bringBack, &BringBackSheet::lecturesCameBack, this,
+            [this](const store::LecturesBack &back) {
+                m_mediaLinksArrayController.lecturesCameBack(back);
+                showLecturesAnew();
+            });
     connect(&m_leftLectures, &LeftLectureSheet::lectureKept, this, [this] {
         showLecturesAnew();
         m_mediaLinksArrayController.journal().storeOwedLater();

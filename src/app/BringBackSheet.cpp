@@ -174,17 +174,19 @@ void BringBackSheet::bringBack()
     const auto back = bringBackRow(row);
     list();
     m_list->setCurrentItem(m_list->topLevelItem(std::min(row, m_list->topLevelItemCount() - 1)));
-    m_outcome->setText(back ? text("BRING_BACK_DONE").arg(QLocale().toString(*back))
+    m_outcome->setText(back ? text("BRING_BACK_DONE").arg(QLocale().toString(back->count))
                             : text("BRING_BACK_FAILED"));
     if (back)
-        Q_EMIT lecturesCameBack();
+        Q_EMIT lecturesCameBack(*back);
 }
 
 // Behind the copies stand the recordings.
-std::optional<int> BringBackSheet::bringBackRow(int row)
+std::optional<store::LecturesBack> BringBackSheet::bringBackRow(int row)
 {
-    if (row >= m_copies.size())
-        return m_recordings.bringBack();
+    if (row >= m_copies.size()) {
+        const auto count = m_recordings.bringBack();
+        return count ? std::optional(store::LecturesBack{.count = *count}) : std::nullopt;
+    }
     store::Sqlite *const database = m_database.openToWrite();
     const auto back = database
                           ? m_database.backups().bringBack(m_copies.at(row).filePath, *database)

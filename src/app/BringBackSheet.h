@@ -38,7 +38,7 @@ public:
     void show();
 
 Q_SIGNALS:
-    void lecturesCameBack();
+    void lecturesCameBack(const tarvelo::store::LecturesBack &back);
 
 private:
     void build();
@@ -48,7 +48,7 @@ private:
     void sayWhatWasDamaged();
     void offer();
     void bringBack();
-    std::optional<int> bringBackRow(int row);
+    std::optional<store::LecturesBack> bringBackRow(int row);
 
     store::LectureDatabase &m_database;
     const platform::Dates &m_dates;

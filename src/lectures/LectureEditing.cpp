@@ -256,19 +256,19 @@ void LectureEditing::lecturesHaveGone(const store::GoneLectures &gone)
     m_unsavedTexts.lecturesHaveGone(gone);
 }
 
-void LectureEditing::lecturesCameBack()
+void LectureEditing::lecturesCameBack(const store::LecturesBack &back)
 {
-    for (const Lecture &lecture : {m_itemEditingNow, m_itemOfWindow, m_itemOfView}) {
+    LectureList lectures = m_with.dayList.arrangedObjects();
+    lectures.insert(lectures.end(), {m_itemEditingNow, m_itemOfWindow, m_itemOfView});
+    for (const Lecture &lecture : lectures) {
         if (!lecture || !lecture->hasGone())
             continue;
-        const auto rows = m_with.database.connection()->executeQuery(
-            QStringLiteral("SELECT ID FROM audioData WHERE audioFileFullPath = ? AND "
-                           "ifnull(notes, '') = ?"),
-            lecture->getLectureAudioPath(), lecture->strNotes() + QStringLiteral(""));
-        if (!rows || rows->isEmpty())
-            continue;
-        lecture->setRow(rows->first().first().toLongLong());
+        if (const auto id =
+                m_with.database.idNow(back, lecture->copyPath(), lecture->getRecordUniqueID(),
+                                      lecture->getLectureAudioPath()))
+            lecture->setRow(*id);
     }
+    m_unsavedTexts.lecturesCameBack(back);
 }
 
 bool LectureEditing::isStored(const store::LectureInfoItem &lecture) const

@@ -83,7 +83,7 @@ public:
     // What is saved from now on into one of them that was open goes to the copy in which it is.
     void lecturesHaveGone(const store::GoneLectures &gone);
     // And goes to its row again.
-    void lecturesCameBack();
+    void lecturesCameBack(const store::LecturesBack &back);
 
     void clearChanges();
     void textDidBeginEditing(QWidget *view) override;

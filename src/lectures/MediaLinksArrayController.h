@@ -194,7 +194,7 @@ public:
     // What new lectures of processes that died left behind.
     audio::LeftLectures &leftLectures() { return m_left; }
     // From a copy, into the table.
-    void lecturesCameBack() { m_editing.lecturesCameBack(); }
+    void lecturesCameBack(const store::LecturesBack &back) { m_editing.lecturesCameBack(back); }
     engine::AudioEngine &audioEngine() const { return m_services.engine; }
     void onCancelAddNewLecture(QWidget *sender) { m_newLecture.onCancelAddNewLecture(sender); }
     void onCloseLectureWindow(QWidget *sender) { m_newLecture.onCloseLectureWindow(sender); }

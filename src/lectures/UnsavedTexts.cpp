@@ -62,6 +62,18 @@ void UnsavedTexts::lecturesHaveGone(const store::GoneLectures &gone)
             texts.copyPath = gone.copyPath;
 }
 
+void UnsavedTexts::lecturesCameBack(const store::LecturesBack &back)
+{
+    for (Texts &texts : m_texts) {
+        if (texts.copyPath.isEmpty())
+            continue;
+        if (const auto id = m_database.idNow(back, texts.copyPath, texts.id, texts.audioPath)) {
+            texts.id = *id;
+            texts.copyPath.clear();
+        }
+    }
+}
+
 void UnsavedTexts::putInto(store::LectureInfoItem &lecture) const
 {
     for (const Texts &texts : m_texts) {

@@ -9,6 +9,7 @@ namespace tarvelo::store {
 class LectureDatabase;
 class LectureInfoItem;
 struct GoneLectures;
+struct LecturesBack;
 } // namespace tarvelo::store
 
 namespace tarvelo::lectures {
@@ -33,6 +34,8 @@ public:
     void forget(const store::LectureInfoItem &lecture);
     // What waits for them is to be saved in the copy in which they are.
     void lecturesHaveGone(const store::GoneLectures &gone);
+    // And in their rows again.
+    void lecturesCameBack(const store::LecturesBack &back);
     // A lecture that was read from the store gets those that wait for it.
     void putInto(store::LectureInfoItem &lecture) const;
 

@@ -77,17 +77,46 @@ QList<QVariantList> AttachedCopy::lecturesWith(const QStringList &fileNames) con
     return lectures;
 }
 
-// The free IDs first, so that none of them is given away.
-bool AttachedCopy::putBackMissing()
+// The free IDs first, so that none of them is given away. As texts, since those of other programs
+// may be larger than what a row hands out.
+std::optional<QHash<qint64, qint64>> AttachedCopy::putBackMissing()
 {
-    const QString isTaken = QStringLiteral("lost.ID IN (SELECT ID FROM main.audioData)");
-    const QString sql =
-        QStringLiteral("INSERT INTO main.audioData (ID, %1) SELECT CASE WHEN %2 THEN NULL ELSE "
-                       "lost.ID END, %1%3 ORDER BY %2, lost.ID")
-            .arg(LectureColumns, isTaken, fromMissing());
-    return m_database.executeNonQueryArguments(sql, {isMarked()}) &&
-           (!isMarked() ||
-            m_database.executeNonQuery(QStringLiteral("DELETE FROM copy.goingLectures")));
+    const QString list =
+        QStringLiteral("SELECT CAST(lost.rowid AS TEXT) AS number, CAST(lost.ID AS TEXT) AS ID, "
+                       "ifnull(lost.ID IN (SELECT ID FROM main.audioData), 0) AS isTaken") +
+        fromMissing() + QStringLiteral(" ORDER BY isTaken, lost.ID");
+    const QString insert =
+        QStringLiteral("INSERT INTO main.audioData (ID, %1) SELECT CASE WHEN ?1 THEN NULL ELSE ID "
+                       "END, %1 FROM copy.audioData WHERE rowid = ?2")
+            .arg(LectureColumns);
+    const auto missing = m_database.executeQueryArguments(list, {isMarked()});
+    if (!missing || m_database.errorCode() != 0)
+        return std::nullopt;
+    QHash<qint64, qint64> idsNow;
+    for (const Row &lost : *missing) {
+        if (!m_database.executeNonQueryArguments(insert, {lost.value(QStringLiteral("isTaken")),
+                                                          lost.value(QStringLiteral("number"))}))
+            return std::nullopt;
+        idsNow.insert(lost.value(QStringLiteral("ID")).toLongLong(),
+                      m_database.lastinsertedRowID());
+    }
+    return forgetMarks(idsNow) ? std::optional(idsNow) : std::nullopt;
+}
+
+// What is marked without a recording and not missing is there under its own ID.
+bool AttachedCopy::forgetMarks(QHash<qint64, qint64> &idsNow)
+{
+    if (!isMarked())
+        return true;
+    const auto there = m_database.executeQuery(
+        QStringLiteral("SELECT ID FROM copy.audioData WHERE ID IN (SELECT ID FROM "
+                       "copy.goingLectures) AND ifnull(audioFileFullPath, '') = ''"));
+    for (const Row &row : there.value_or(Rows())) {
+        const qint64 id = row.first().toLongLong();
+        if (!idsNow.contains(id))
+            idsNow.insert(id, id);
+    }
+    return there && m_database.executeNonQuery(QStringLiteral("DELETE FROM copy.goingLectures"));
 }
 
 QString AttachedCopy::fromMissing() const

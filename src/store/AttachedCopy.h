@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QHash>
 #include <QStringList>
 #include <QVariantList>
+
+#include <optional>
 
 namespace tarvelo::store {
 
@@ -25,14 +28,15 @@ public:
     // Those with recordings of such names, as the insert statement takes them.
     QList<QVariantList> lecturesWith(const QStringList &fileNames) const;
     // All or none, in the caller's transaction: under their own IDs where those are free, the
-    // others behind all there are.
-    bool putBackMissing();
+    // others behind all there are. Gives the new IDs by those in the copy, null when it failed.
+    std::optional<QHash<qint64, qint64>> putBackMissing();
 
 private:
     // The copy says which lectures were about to go when it was made. One that does not is of a
     // file that could not be asked.
     bool isMarked() const;
     QString fromMissing() const;
+    bool forgetMarks(QHash<qint64, qint64> &idsNow);
 
     Sqlite &m_database;
     const bool m_isAttached;

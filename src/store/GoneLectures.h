@@ -2,6 +2,7 @@
 
 #include "store/LectureInfoItem.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <optional>
@@ -21,6 +22,14 @@ struct GoneLectures
         if (lecture.hasRow() && has(lecture.getRecordUniqueID()))
             lecture.setGoneTo(copyPath);
     }
+};
+
+// And those that are in the table again.
+struct LecturesBack
+{
+    QString copyPath = {};             // empty when they came from their recordings
+    QHash<qint64, qint64> idsNow = {}; // by those in the copy
+    int count = 0;                     // of the rows that came
 };
 
 } // namespace tarvelo::store

@@ -6,6 +6,7 @@
 #include "store/AttachedCopy.h"
 #include "store/FileBytes.h"
 #include "store/Sqlite.h"
+#include "store/Statements.h"
 #include "store/Tables.h"
 
 #include <QDir>
@@ -21,6 +22,7 @@ namespace {
 
 // Names sort by the time.
 const QString NameFormat = QStringLiteral("'TarveloInfo' yyyy-MM-dd HH.mm.ss.zzz'.db'");
+const QString GoingLectures = QStringLiteral("goingLectures");
 const QString NameFilter = QStringLiteral("TarveloInfo *.db");
 
 // Beside the size of the database: for a journal and for what the file system itself needs.
@@ -94,7 +96,12 @@ bool LectureBackups::change(const QString &copyPath, const QString &sql,
     if (!QFileInfo::exists(copyPath))
         return false;
     Sqlite copy(copyPath);
-    return copy.executeNonQueryArguments(sql, arguments);
+    const auto isMarked = hasTable(copy, "main", GoingLectures);
+    if (!isMarked || !copy.executeNonQuery(statements::SyncNamesToo))
+        return false;
+    const QString ofGone =
+        *isMarked ? sql + QStringLiteral(" AND ID IN (SELECT ID FROM goingLectures)") : sql;
+    return copy.executeNonQueryArguments(ofGone, arguments) && copy.changes() > 0;
 }
 
 // A write that fails again and again, since the file is locked or damaged, must not push older
@@ -129,21 +136,25 @@ QList<LectureBackups::Copy> LectureBackups::copies(Sqlite &database) const
     return copies;
 }
 
-// Both files change or none does: SQLite sees to that for all that is attached.
-std::optional<int> LectureBackups::bringBack(const QString &copyPath, Sqlite &database) const
+// Both files change or none does: SQLite sees to that for all that is attached. They may have
+// changed though that failed, since only its last step did.
+std::optional<LecturesBack> LectureBackups::bringBack(const QString &copyPath,
+                                                      Sqlite &database) const
 {
     AttachedCopy copy(database, copyPath);
     if (!copy.isReadable())
         return std::nullopt;
     const int missing = copy.missing();
     if (missing == 0)
-        return 0;
-    const bool isBack = database.beginTransaction() && makeLecturesIfMissing(database) &&
-                        copy.putBackMissing() && database.commit();
-    if (isBack)
-        return missing;
-    database.rollback();
-    return std::nullopt;
+        return LecturesBack{copyPath};
+    const bool hasBegun = database.beginTransaction() && makeLecturesIfMissing(database);
+    const auto idsNow = hasBegun ? copy.putBackMissing() : std::nullopt;
+    const bool isBack = idsNow && database.commit();
+    if (!isBack)
+        database.rollback();
+    return isBack || (idsNow && copy.missing() == 0)
+               ? std::optional(LecturesBack{copyPath, *idsNow, missing})
+               : std::nullopt;
 }
 
 void LectureBackups::fillIn(QList<QVariantList> &rows, Sqlite &database) const

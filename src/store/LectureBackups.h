@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/GoneLectures.h"
+
 #include <QDateTime>
 #include <QList>
 #include <QStringList>
@@ -45,15 +47,15 @@ public:
     void settle(Sqlite &database, const QString &copyPath);
 
     // A change that found its lecture gone is made there, so that it comes back with it. False when
-    // it could not be made.
+    // it could not be made, and also when the lecture has come back from there.
     bool change(const QString &copyPath, const QString &sql, const QVariantList &arguments) const;
 
     // Newest first. What cannot be read is not listed.
     QList<Copy> copies(Sqlite &database) const;
     // Puts back what is missing, under its own ID where that is still free. Null when that failed,
-    // and then nothing has changed; else how many came back. A lecture that came back once is not
-    // missing any more, also when it was changed or deleted since.
-    std::optional<int> bringBack(const QString &copyPath, Sqlite &database) const;
+    // and then nothing has changed. A lecture that came back once is not missing any more, also
+    // when it was changed or deleted since.
+    std::optional<LecturesBack> bringBack(const QString &copyPath, Sqlite &database) const;
 
     // Rows for new lectures, as the insert statement takes them, get all that the newest copy with
     // their recording knows.

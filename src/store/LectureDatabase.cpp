@@ -152,6 +152,19 @@ bool LectureDatabase::changeGone(const QString &copyPath, qint64 id, const QStri
     return m_backups.change(copyPath, statements::Update, {subject, notes, QString::number(id)});
 }
 
+std::optional<qint64> LectureDatabase::idNow(const LecturesBack &back, const QString &copyPath,
+                                             qint64 id, const QString &audioPath) const
+{
+    if (copyPath == back.copyPath && back.idsNow.contains(id))
+        return back.idsNow.value(id);
+    if (audioPath.isEmpty() || !m_connection)
+        return std::nullopt;
+    const auto rows = m_connection->executeQuery(
+        QStringLiteral("SELECT ID FROM audioData WHERE audioFileFullPath = ?"), audioPath);
+    return rows && rows->size() == 1 ? std::optional(rows->first().first().toLongLong())
+                                     : std::nullopt;
+}
+
 bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
 {
     const QString &path = lecture.getLectureAudioPath();

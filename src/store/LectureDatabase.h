@@ -55,9 +55,13 @@ public:
     // Hears of every time that lectures went in bulk, before any other gets one of their IDs.
     void setLecturesGone(std::function<void(const GoneLectures &)> lecturesGone);
     // For a lecture that has gone: its row in the copy gets the texts, and comes back with them.
-    // False when it could not be changed there.
+    // False when it could not be changed there, or is there no more.
     bool changeGone(const QString &copyPath, qint64 id, const QString &subject,
                     const QString &notes) const;
+    // The ID of a lecture that had gone to a copy: by that copy, and otherwise by its recording,
+    // which may have come back from another. Null when it has not come back.
+    std::optional<qint64> idNow(const LecturesBack &back, const QString &copyPath, qint64 id,
+                                const QString &audioPath) const;
     // Goes by the audio path: every lecture with the same path goes, so all without audio at once.
     // Never opens the database. The path is pasted as it stands, so that with an apostrophe in it
     // no row goes, which is wanted. False when the lecture is to stay whole: its row could not be

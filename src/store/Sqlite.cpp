@@ -73,6 +73,17 @@ qint64 Sqlite::lastinsertedRowID() const
     return m_db ? sqlite3_last_insert_rowid(m_db) : 0;
 }
 
+int Sqlite::changes() const
+{
+    return m_db ? sqlite3_changes(m_db) : 0;
+}
+
+void Sqlite::setLastInsertedRowID(qint64 id)
+{
+    if (m_db)
+        sqlite3_set_last_insert_rowid(m_db, id);
+}
+
 // The path comes by value, since it may be this object's own, which close() empties.
 bool Sqlite::open(QString filePath)
 {

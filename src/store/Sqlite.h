@@ -52,8 +52,12 @@ public:
     QString errorMessage() const;
     // 0 while closed.
     qint64 lastinsertedRowID() const;
+    // Rows that the last insert, update or delete changed.
+    int changes() const;
 
     void setBusyRetryTimeout(qint64 timeout) { m_busyRetryTimeout = timeout; }
+    // Also for who wants to know whether a statement that failed has inserted one all the same.
+    void setLastInsertedRowID(qint64 id);
 
     // Closes what was open first; makes the file when it is missing.
     bool open(QString filePath);

@@ -109,7 +109,6 @@ private Q_SLOTS:
         m_program->edit(0);
 
         bringBack();
-        controller().lecturesCameBack();
         controller().prepareViewForDate(m_program->today());
         m_program->finishEdit(u"wave optics"_s, u"Huygens"_s);
 
@@ -132,7 +131,7 @@ private Q_SLOTS:
         QCOMPARE(m_program->storedTexts(), QStringList{u"Newcomer: "_s});
         auto &database = *m_program->database.openDb();
         const QString copy = m_program->database.backups().copies(database).first().filePath;
-        QCOMPARE(m_program->database.backups().bringBack(copy, database), 2);
+        QCOMPARE(m_program->database.backups().bringBack(copy, database)->count, 2);
         QCOMPARE(m_program->storedTexts(),
                  QStringList({u"Newcomer: "_s, u"Logic: notes"_s, u"wave optics: Huygens"_s}));
     }
@@ -279,7 +278,11 @@ private:
         auto &database = *m_program->database.openDb();
         const auto copies = m_program->database.backups().copies(database);
         QVERIFY(!copies.isEmpty());
-        QCOMPARE(m_program->database.backups().bringBack(copies.first().filePath, database), 1);
+        const auto back =
+            m_program->database.backups().bringBack(copies.first().filePath, database);
+        QVERIFY(back);
+        QCOMPARE(back->count, 1);
+        controller().lecturesCameBack(*back);
     }
 
     void bringEverythingBack()

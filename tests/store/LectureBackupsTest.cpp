@@ -443,7 +443,11 @@ private:
     QList<LectureBackups::Copy> copies() const { return backups().copies(connection()); }
     QString copyPath() const { return copies().value(0).filePath; }
     // From the newest copy.
-    int bringBack() const { return backups().bringBack(copyPath(), connection()).value_or(-1); }
+    int bringBack() const
+    {
+        const auto back = backups().bringBack(copyPath(), connection());
+        return back ? back->count : -1;
+    }
 
     qint64 add(const LectureBuilder &lecture) const { return lecture.insertInto(*m_database); }
     // A statement that fails for whatever reason.

@@ -236,7 +236,8 @@ private Q_SLOTS:
             Sqlite &database = *m_database->openDb();
             const auto copies = m_database->backups().copies(database);
             if (!subjects(*m_database).contains(u"kept"_s))
-                QCOMPARE(m_database->backups().bringBack(copies.value(0).filePath, database), 20);
+                QCOMPARE(m_database->backups().bringBack(copies.value(0).filePath, database)->count,
+                         20);
             QCOMPARE(subjects(*m_database).count(u"kept"_s), 20);
             m_database.reset();
         }

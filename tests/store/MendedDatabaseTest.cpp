@@ -86,7 +86,8 @@ private Q_SLOTS:
         QCOMPARE(aside(), content);
         const auto copies = m_database->backups().copies(connection());
         QCOMPARE(copies.size(), 1);
-        QVERIFY(*m_database->backups().bringBack(copies.first().filePath, connection()) >= 20);
+        QVERIFY(m_database->backups().bringBack(copies.first().filePath, connection())->count >=
+                20);
     }
 
     void aJournalThatADeathLeftIsFollowedAndNothingStaysAside()
