@@ -168,9 +168,14 @@ bool LectureEditing::isSaved(const store::LectureInfoItem &lecture, const QStrin
     const qint64 id = lecture.getRecordUniqueID();
     if (lecture.hasGone())
         return m_with.database.changeGone(lecture.copyPath(), id, subject, notes);
-    return !lecture.hasRow() ||
-           m_with.database.updateToDoDatawithSqlStatementWithArguments(
-               store::statements::Update, {subject, notes, QString::number(id)});
+    if (!lecture.hasRow() || m_with.database.updateToDoDatawithSqlStatementWithArguments(
+                                 store::statements::Update, {subject, notes, QString::number(id)}))
+        return true;
+    // It may have turned out only now.
+    if (lecture.hasGone())
+        return m_with.database.changeGone(lecture.copyPath(), id, subject, notes);
+    // Without a recording nothing would tell it from the next one with its ID.
+    return lecture.getLectureAudioPath().isEmpty() && !isStored(lecture);
 }
 
 void LectureEditing::onDoneEdit(QWidget *sender)

@@ -84,20 +84,26 @@ void UnsavedTexts::putInto(store::LectureInfoItem &lecture) const
     }
 }
 
+// The database is opened first, since that tells what has gone.
 void UnsavedTexts::saveAll()
 {
-    m_texts.removeIf([this](const Texts &texts) { return save(texts); });
+    if (m_texts.isEmpty())
+        return;
+    store::Sqlite *const database = m_database.openToWrite();
+    m_texts.removeIf([&](const Texts &texts) { return save(texts, database); });
     if (!m_texts.isEmpty())
         m_saveAll.schedule(RetryInterval);
 }
 
-bool UnsavedTexts::save(const Texts &texts)
+// One with a recording may come back; without one nothing would tell it from the next with its ID.
+bool UnsavedTexts::save(const Texts &texts, store::Sqlite *database) const
 {
     if (!texts.copyPath.isEmpty())
         return m_database.changeGone(texts.copyPath, texts.id, texts.subject, texts.notes);
-    store::Sqlite *const database = m_database.openToWrite();
-    return database && database->executeNonQuery(Update, texts.subject, texts.notes, texts.id,
-                                                 texts.audioPath, texts.storedNotes);
+    return database &&
+           database->executeNonQuery(Update, texts.subject, texts.notes, texts.id, texts.audioPath,
+                                     texts.storedNotes) &&
+           (database->changes() > 0 || texts.audioPath.isEmpty());
 }
 
 } // namespace tarvelo::lectures

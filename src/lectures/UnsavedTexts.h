@@ -8,6 +8,7 @@
 namespace tarvelo::store {
 class LectureDatabase;
 class LectureInfoItem;
+class Sqlite;
 struct GoneLectures;
 struct LecturesBack;
 } // namespace tarvelo::store
@@ -52,7 +53,7 @@ private:
 
     static bool areOf(const Texts &texts, const store::LectureInfoItem &lecture);
     void saveAll();
-    bool save(const Texts &texts);
+    bool save(const Texts &texts, store::Sqlite *database) const;
 
     store::LectureDatabase &m_database;
     QList<Texts> m_texts;

@@ -15,14 +15,14 @@ namespace tarvelo::store {
 
 namespace {
 
-// The one that was chosen is to be deleted; the others only go with it.
-QSet<qint64> idsIn(const Rows &rows, const LectureInfoItem &chosen)
+// One that was chosen is to be deleted; the others only go with it.
+QSet<qint64> idsIn(const Rows &rows, const LectureInfoItem *chosen)
 {
     QSet<qint64> ids;
     for (const Row &row : rows)
         ids.insert(row.first().toLongLong());
-    if (chosen.hasRow())
-        ids.remove(chosen.getRecordUniqueID());
+    if (chosen && chosen->hasRow())
+        ids.remove(chosen->getRecordUniqueID());
     return ids;
 }
 
@@ -94,7 +94,11 @@ bool LectureDatabase::mendIfDamaged()
 Sqlite *LectureDatabase::openToWrite()
 {
     Sqlite *const database = openDb();
-    return database && mayWrite() ? database : nullptr;
+    if (!database || !mayWrite())
+        return nullptr;
+    if (!tellWhatHasGone() && mendIfDamaged())
+        tellWhatHasGone();
+    return m_untold.isEmpty() ? database : nullptr;
 }
 
 bool LectureDatabase::mayWrite()
@@ -132,13 +136,13 @@ std::optional<Rows> LectureDatabase::lecturesOfMonth(const QString &month)
 bool LectureDatabase::insertIntoDbwithSqlStatementWithArguments(const QString &sql,
                                                                 const QVariantList &arguments)
 {
-    return writeOrReset(sql, arguments, statements::CreateAfterInsert);
+    return writeOrReset({sql, arguments, true});
 }
 
 bool LectureDatabase::updateToDoDatawithSqlStatementWithArguments(const QString &sql,
                                                                   const QVariantList &arguments)
 {
-    return writeOrReset(sql, arguments, statements::CreateAfterUpdate);
+    return writeOrReset({sql, arguments, false});
 }
 
 void LectureDatabase::setLecturesGone(std::function<void(const GoneLectures &)> lecturesGone)
@@ -184,88 +188,127 @@ bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
     if (!copy)
         return false;
     // It may have failed although they are gone, since only its last step did.
-    const bool isGone = m_connection->executeNonQuery(statements::DeleteByPathBegin + path +
-                                                      statements::DeleteByPathEnd) ||
-                        findsNone(going);
+    const auto areGone = m_connection->executeNonQuery(statements::DeleteByPathBegin + path +
+                                                       statements::DeleteByPathEnd)
+                             ? std::optional(true)
+                             : findsNone(going);
     m_backups.settle(*m_connection, *copy);
-    if (isGone && rows->size() > 1 && m_lecturesGone)
-        m_lecturesGone({*copy, idsIn(*rows, lecture)});
-    return isGone;
+    if (rows->size() > 1)
+        tellOnceKnown({*copy, idsIn(*rows, areGone ? &lecture : nullptr)}, going, areGone);
+    return areGone == true;
 }
 
-bool LectureDatabase::findsNone(const QString &query)
-{
-    const auto rows = m_connection->executeQuery(query);
-    return rows && rows->isEmpty() && m_connection->errorCode() == 0;
-}
-
-bool LectureDatabase::writeOrReset(const QString &sql, const QVariantList &arguments,
-                                   const QString &creationText)
+bool LectureDatabase::writeOrReset(const Write &write)
 {
     Sqlite *const database = openToWrite();
     if (!database)
         return false;
-    tellOfEmptyTable(*database);
-    const qint64 before = database->lastinsertedRowID();
-    const bool isWritten =
-        database->executeNonQueryArguments(sql, arguments) ||
-        reset(*database, sql, arguments, creationText, idsWithoutNew(*database, before));
+    database->setLastInsertedRowID(0);
+    const bool isWritten = runs(*database, write)
+                               ? write.isInsert || database->changes() > 0
+                               : reset(*database, write, database->lastinsertedRowID());
     m_backups.holdRoom(*database);
     return isWritten;
 }
 
-// The query for the lectures that were there. A statement may have failed although its row is
-// there, since only its last step did; that row comes with the second try, and is not to be brought
-// back too.
-QString LectureDatabase::idsWithoutNew(const Sqlite &database, qint64 lastBefore)
+bool LectureDatabase::runs(Sqlite &database, const Write &write)
 {
-    const qint64 last = database.lastinsertedRowID();
-    return last == lastBefore
-               ? QString(statements::AllIds)
-               : statements::AllIds + QStringLiteral(" WHERE ID <> ") + QString::number(last);
+    return database.executeNonQueryArguments(write.sql, write.arguments);
 }
 
-bool LectureDatabase::reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
-                            const QString &creationText, const QString &there)
+// A statement may have failed although its row is there, since only its last step did. That row
+// comes with the second try, and is not to be brought back too.
+bool LectureDatabase::hasInserted(Sqlite &database, qint64 last, const Write &write)
+{
+    static const QString sql =
+        QStringLiteral("SELECT count(*) FROM audioData WHERE ID = ? AND ") +
+        QString(LectureColumns).replace(QStringLiteral(","), QStringLiteral(" IS ? AND")) +
+        QStringLiteral(" IS ?");
+    return last != 0 && write.isInsert &&
+           numberFrom(database, sql, QVariantList{last} + write.arguments) == 1;
+}
+
+bool LectureDatabase::reset(Sqlite &database, const Write &write, qint64 last)
 {
     // A damaged file is not written to before it lies aside; without room for that the lecture is
     // not stored, and nothing is lost.
     if (soundnessOfEveryPage(database) == Soundness::Damaged && !replaceWithSound())
         return false;
+    const bool isIn = hasInserted(database, last, write);
     // Without a copy nothing goes. What was held for it is free then, and may be all that was
     // wanting.
-    const auto copy = m_backups.keep(database, there);
-    bool haveGone = false;
-    if (copy) {
-        database.executeNonQuery(statements::Drop);
-        database.executeNonQuery(creationText);
-        database.executeNonQuery(statements::DeleteAll);
-        m_backups.settle(database, *copy);
-        m_copyUntold = *copy;
-        haveGone = tellOfEmptyTable(database);
+    const auto copy =
+        m_backups.keep(database, isIn ? statements::AllIds + QStringLiteral(" WHERE ID <> ") +
+                                            QString::number(last)
+                                      : QString(statements::AllIds));
+    if (!copy && isIn) {
+        database.setLastInsertedRowID(last);
+        return true;
     }
-    bool isWritten = database.executeNonQueryArguments(sql, arguments);
-    if (isWritten && haveGone && creationText == statements::CreateAfterUpdate)
-        isWritten = m_backups.change(*copy, sql, arguments);
+    const bool haveGone = copy && empties(database, write, *copy);
+    // What it is not known of that it has gone must not lose its ID to another.
+    bool isWritten = m_untold.isEmpty() && runs(database, write);
+    if (isWritten && !write.isInsert)
+        isWritten =
+            haveGone ? m_backups.change(*copy, write.sql, write.arguments) : database.changes() > 0;
     makeIndexes();
     return isWritten;
 }
 
-// As long as it is not known whether they are there, it is asked again. True when it told so.
-bool LectureDatabase::tellOfEmptyTable(Sqlite &database)
+// True when lectures have gone.
+bool LectureDatabase::empties(Sqlite &database, const Write &write, const QString &copyPath)
 {
-    if (m_copyUntold.isEmpty())
+    database.executeNonQuery(statements::Drop);
+    database.executeNonQuery(write.isInsert ? statements::CreateAfterInsert
+                                            : statements::CreateAfterUpdate);
+    const auto areGone = database.executeNonQuery(statements::DeleteAll)
+                             ? std::optional(true)
+                             : findsNone(statements::AllIds);
+    m_backups.settle(database, copyPath);
+    if (copyPath.isEmpty())
         return false;
-    const auto hasLectures = hasTable(database, "main", QStringLiteral("audioData"));
-    const auto ids = database.executeQuery(statements::AllIds);
-    const bool areThereSome = ids && !ids->isEmpty();
-    const bool areThereNone = hasLectures == false || (ids && database.errorCode() == 0);
-    if (!areThereSome && !areThereNone)
+    tellOnceKnown({copyPath}, statements::AllIds, areGone);
+    return areGone == true;
+}
+
+void LectureDatabase::tellOnceKnown(const GoneLectures &lectures, const QString &query,
+                                    std::optional<bool> areGone)
+{
+    if (!areGone)
+        m_untold.append({lectures, query});
+    else if (*areGone && m_lecturesGone)
+        m_lecturesGone(lectures);
+}
+
+// As long as it is not known whether they are there, it is asked again.
+bool LectureDatabase::tellWhatHasGone()
+{
+    QList<GoneLectures> gone;
+    m_untold.removeIf([&](const Untold &untold) {
+        const auto haveGone = findsNone(untold.query);
+        if (haveGone == true)
+            gone.append(untold.lectures);
+        return haveGone.has_value();
+    });
+    for (const GoneLectures &lectures : gone)
+        if (m_lecturesGone)
+            m_lecturesGone(lectures);
+    return m_untold.isEmpty();
+}
+
+// A table that the query does not suit has none that went unnoticed. The schema is asked first, so
+// that nothing else keeps the query from being prepared.
+std::optional<bool> LectureDatabase::findsNone(const QString &query)
+{
+    const auto hasLectures = hasTable(*m_connection, "main", QStringLiteral("audioData"));
+    if (hasLectures == false)
+        return true;
+    const auto rows = m_connection->executeQuery(query);
+    if (!rows)
+        return hasLectures ? std::optional(false) : std::nullopt;
+    if (!rows->isEmpty())
         return false;
-    const QString copyPath = std::exchange(m_copyUntold, QString());
-    if (!areThereSome && m_lecturesGone)
-        m_lecturesGone({copyPath});
-    return !areThereSome;
+    return m_connection->errorCode() == 0 ? std::optional(true) : std::nullopt;
 }
 
 // They only make the two queries fast. A file without the table, or one that cannot be written,

@@ -27,7 +27,8 @@ public:
     // sound one takes its place. Owned by this object.
     Sqlite *openDb();
     // The same for who is about to write: null as well while the file is damaged and could not be
-    // put aside.
+    // put aside, and while it is not known whether lectures have gone, since a new one would get
+    // their IDs.
     Sqlite *openToWrite();
     // The shared connection as it is: null before openDb() succeeded.
     Sqlite *connection() const { return m_connection.get(); }
@@ -47,7 +48,8 @@ public:
     // When the statement fails, for whatever reason, the table is dropped with all its lectures,
     // made anew, and the statement run once more. This is how the table comes into being, and the
     // loss in all other cases is wanted as it is; the audio files stay. Lectures of which no copy
-    // can be made are not dropped. True when it was run at last.
+    // can be made are not dropped. True when it was run at last, and an update has changed
+    // something.
     bool insertIntoDbwithSqlStatementWithArguments(const QString &sql,
                                                    const QVariantList &arguments);
     bool updateToDoDatawithSqlStatementWithArguments(const QString &sql,
@@ -69,14 +71,30 @@ public:
     bool deleteVoiceData(const LectureInfoItem &lecture);
 
 private:
-    bool writeOrReset(const QString &sql, const QVariantList &arguments,
-                      const QString &creationText);
-    bool reset(Sqlite &database, const QString &sql, const QVariantList &arguments,
-               const QString &creationText, const QString &there);
-    static QString idsWithoutNew(const Sqlite &database, qint64 lastBefore);
-    bool tellOfEmptyTable(Sqlite &database);
-    // False also when that is not known.
-    bool findsNone(const QString &query);
+    struct Write
+    {
+        QString sql;
+        QVariantList arguments;
+        bool isInsert;
+    };
+    // Of which it is not known whether they have gone: then the query finds none.
+    struct Untold
+    {
+        GoneLectures lectures;
+        QString query;
+    };
+
+    bool writeOrReset(const Write &write);
+    bool reset(Sqlite &database, const Write &write, qint64 last);
+    bool empties(Sqlite &database, const Write &write, const QString &copyPath);
+    static bool runs(Sqlite &database, const Write &write);
+    static bool hasInserted(Sqlite &database, qint64 last, const Write &write);
+    void tellOnceKnown(const GoneLectures &lectures, const QString &query,
+                       std::optional<bool> areGone);
+    // False as long as there are some of which it is not known.
+    bool tellWhatHasGone();
+    // Null when that cannot be known now.
+    std::optional<bool> findsNone(const QString &query);
     bool openFile(const QString &file);
     bool replaceWithSound();
     bool mayWrite();
@@ -88,7 +106,7 @@ private:
     DamagedFiles m_damagedFiles;
     std::unique_ptr<Sqlite> m_connection;
     std::function<void(const GoneLectures &)> m_lecturesGone;
-    QString m_copyUntold;      // in which lectures may be that have gone since
+    QList<Untold> m_untold;
     bool m_syncsNames = false; // of the connection as it was last opened
     bool m_isExposed = false;  // damaged, and not put aside yet
 };
