@@ -430,8 +430,16 @@ private Q_SLOTS:
     void whatIsWantedToDoNothingDoesNothing()
     {
         play();
+        m_engine->playerDuration = 12;
+        QVERIFY(playback().openEditPlayer(m_stage->takePath()));
+        playback().onPlayPauseLectureEdit(&window().bPlay);
+        m_engine->playedSeconds = 5;
+        window().sliderEditProgress.setValue(7000);
         m_engine->takeAsked();
-        window().txtElapsedTime.setText(u"as it was"_s);
+        for (QLabel *label : {&window().txtElapsedTime, &window().txtRemainingTime,
+                              &window().tElapsedTime, &window().tRemainingTime,
+                              &window().lblElapsedTimeTemp, &window().lblRemainingTimeTemp})
+            label->setText(u"as it was"_s);
 
         playback().updatePlayAudioLevels(nullptr);
         playback().updatePlayAudioLevels2(nullptr);
@@ -444,7 +452,14 @@ private Q_SLOTS:
         playback().audioDidEndPlayingEdit(nullptr);
 
         QCOMPARE(m_engine->asked, QStringList());
-        QCOMPARE(window().txtElapsedTime.text(), u"as it was"_s);
+        QVERIFY(m_engine->player->isPlaying() && playback().isEditPlayerPlaying());
+        QCOMPARE(m_engine->playedSeconds, 5.0);
+        QCOMPARE(window().sliderEditProgress.value(), 7000);
+        QVERIFY(window().bPause.isEnabled() && !window().bPlay.isEnabled());
+        for (const QLabel *label : {&window().txtElapsedTime, &window().txtRemainingTime,
+                                    &window().tElapsedTime, &window().tRemainingTime,
+                                    &window().lblElapsedTimeTemp, &window().lblRemainingTimeTemp})
+            QCOMPARE(label->text(), u"as it was"_s);
     }
 
 private:

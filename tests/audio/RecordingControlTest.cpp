@@ -259,6 +259,7 @@ private Q_SLOTS:
     {
         m_stage->start();
         m_engine->recordedSeconds = 65.9;
+        m_engine->secondsAfterStop = 0;
         m_engine->takeAsked();
 
         m_stage->pressStop();

@@ -111,7 +111,7 @@ private Q_SLOTS:
     }
 
     // The file system takes two slashes for one, a library that compares paths does not.
-    void theDoubledSlashOfAStoredPathIsOneInTheCopysPath()
+    void aStoredPathWithADoubledSlashIsExported()
     {
         const QString stored = writeRecording(u"Audio - 1.m4a"_s, "sound");
         QVERIFY(stored.contains(u"//Audio - "));

@@ -151,11 +151,16 @@ private Q_SLOTS:
     void stoppingTheEditPlayerDoesNothing()
     {
         play();
+        QVERIFY(m_stage->playback.openEditPlayer(m_stage->takePath()));
+        m_stage->playback.onPlayPauseLectureEdit(&m_stage->window.bPlay);
         m_engine->takeAsked();
 
         m_stage->playback.stopSoundPlayEdit();
 
         QCOMPARE(m_engine->asked, QStringList());
+        QVERIFY(m_engine->player->isPlaying());
+        QVERIFY(m_stage->playback.isEditPlayerPlaying());
+        QVERIFY(m_stage->window.bPause.isEnabled() && !m_stage->window.bPlay.isEnabled());
     }
 
     void aDiscardedPlayerIsStoppedFirst()

@@ -70,7 +70,29 @@ private Q_SLOTS:
         QVERIFY(!m_stage->handler.data(m_stage->handler.index(0, 0)).isValid());
     }
 
-    void theListStaysEmpty()
+    void theListHasWhatIsToDoOnItsDayNewestFirst()
+    {
+        tarvelo::store::Sqlite &database = *m_stage->database.openDb();
+        QVERIFY(database.executeNonQuery(
+            u"create table tblTODOlist (ID integer primary key, ToDoDate text, what text)"_s));
+        for (const char *row : {"(1, '2024-03-05', 'read')", "(2, '2024-03-04', 'sleep')",
+                                "(3, '2024-03-05 23:59:59', 'write')", "(4, '2023-03-05', 'sing')"})
+            QVERIFY(database.executeNonQuery(u"insert into TblToDoList values "_s +
+                                             QLatin1String(row)));
+        m_stage->handler.setDateToDisplay(m_stage->clock.now());
+        const QSignalSpy reloads(&m_stage->handler, &QAbstractItemModel::modelReset);
+
+        m_stage->handler.prepareList();
+        m_stage->handler.prepareList();
+
+        QStringList found;
+        for (const auto &row : m_stage->handler.nsmArrLectureRecords())
+            found.append(row[u"what"_s].toString());
+        QCOMPARE(found, QStringList({u"write"_s, u"read"_s}));
+        QCOMPARE(reloads.count(), 2);
+    }
+
+    void withoutThatTableTheListStaysEmpty()
     {
         tarvelo::tests::aLecture().insertInto(m_stage->database);
         m_stage->handler.setDateToDisplay(m_stage->clock.now());

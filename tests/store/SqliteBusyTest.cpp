@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(pauses, onePause());
     }
 
-    void readingInALockedFileEndsAfterOnePauseWithTheRowsSoFar()
+    void readingInALockedFileEndsAfterOnePauseWithoutRows()
     {
         QVERIFY(m_other->executeNonQuery(u"insert into t values (1)"_s));
         QVERIFY(m_other->beginTransaction());
@@ -63,6 +63,22 @@ private Q_SLOTS:
 
         QVERIFY(rows);
         QVERIFY(rows->isEmpty());
+        QCOMPARE(pauses, onePause());
+    }
+
+    // A reader elsewhere lets others write until they commit, which happens after the last row.
+    void aLockAfterTheFirstRowsEndsThemAfterOnePause()
+    {
+        QVERIFY(m_other->executeNonQuery(u"insert into t values (1)"_s));
+        Statement reading;
+        QVERIFY(m_other->prepareSqlInStatament(u"select * from t"_s, reading));
+        QVERIFY(m_other->hasData(reading));
+
+        const auto rows = m_database->executeQuery(u"insert into t values (2), (3) returning x"_s);
+
+        QVERIFY(rows);
+        QCOMPARE(rows->size(), 2);
+        QCOMPARE(rows->at(0)[u"x"_s].toInt(), 2);
         QCOMPARE(pauses, onePause());
     }
 

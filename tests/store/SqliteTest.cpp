@@ -4,7 +4,9 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QTemporaryDir>
+
 #include <QUuid>
+#include <sqlite3.h>
 
 #include <limits>
 #include <memory>
@@ -46,10 +48,21 @@ private Q_SLOTS:
         QVERIFY(!database.open(m_dir->path()));
 
         QVERIFY(database.filePath().isNull());
-        QVERIFY(database.errorCode() != 0);
         QVERIFY(!database.executeNonQuery(u"create table t (x)"_s));
         QVERIFY(!database.executeQuery(u"select 1"_s));
         QCOMPARE(database.lastinsertedRowID(), 0);
+    }
+
+    void theErrorOfAFailedOpenIsKnownUntilItIsClosed()
+    {
+        Sqlite database(path());
+
+        QVERIFY(!database.open(m_dir->path()));
+        QCOMPARE(database.errorCode(), SQLITE_CANTOPEN);
+        QCOMPARE(database.errorMessage(), u"unable to open database file"_s);
+
+        database.close();
+        QCOMPARE(database.errorCode(), SQLITE_NOMEM); // what SQLite says without a handle
     }
 
     void afterAFailedOpenAnotherFileCanBeOpened()

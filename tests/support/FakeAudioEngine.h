@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <initializer_list>
+#include <optional>
 #include <utility>
 
 namespace tarvelo::tests {
@@ -22,6 +23,8 @@ public:
     bool makesRecorders = true;
     bool prepares = true;
     double recordedSeconds = 0;
+    // Where a test cares: what the recorder says once it was stopped, as a real one does.
+    std::optional<double> secondsAfterStop;
     engine::SoundHeard soundHeard;
     QString recorderPath;
     bool fileWasThere = false; // at recorderPath, when the last recorder was made
@@ -85,7 +88,11 @@ public:
     }
     bool record() override { return note("record"); }
     void pause() override { note("pause"); }
-    void stop() override { note("stop"); }
+    void stop() override
+    {
+        note("stop");
+        m_engine.recordedSeconds = m_engine.secondsAfterStop.value_or(m_engine.recordedSeconds);
+    }
     double currentTime() const override { return m_engine.recordedSeconds; }
     engine::SoundHeard soundHeard() const override { return m_engine.soundHeard; }
     void setMeteringEnabled(bool enabled) override
