@@ -156,6 +156,23 @@ private Q_SLOTS:
     }
 
     // Without a database the row is not stored, and the journal shows how it stood then.
+    // Nobody looks after the lecture any more once it has gone.
+    void whenTheWindowGoesTheJournalSaysThatItIsDone()
+    {
+        m_program->recordNewLecture(3);
+        QTest::keyClicks(&notes(), u"Lenses"_s);
+        QWidget &window = *m_program->windows.newLectureOutlets().newNoteWindow;
+        m_watched = &window;
+        window.installEventFilter(this);
+
+        m_program->windows.newLectureOutlets().BtnDoneOrClose->click();
+
+        QVERIFY(window.isHidden());
+        QVERIFY(m_whenHidden.state == JournalFile::State::Read);
+        QVERIFY(m_whenHidden.journal.isDone);
+        QCOMPARE(m_whenHidden.journal.notes, u"Lenses"_s);
+    }
+
     void beforeTheTakeIsMovedTheJournalSaysWhere()
     {
         m_program = std::make_unique<LectureProgram>();
@@ -361,8 +378,16 @@ private:
     {
         return QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == m_watched && event->type() == QEvent::Hide)
+            m_whenHidden = readJournal(file("lecture.journal"));
+        return false;
+    }
 
     std::unique_ptr<LectureProgram> m_program;
+    const QWidget *m_watched = nullptr;
+    JournalFile m_whenHidden{JournalFile::State::Missing};
 };
 
 QTEST_MAIN(LectureJournalKeeperTest)

@@ -48,7 +48,7 @@ Sign signOf(const QLabel &label)
     if (label.textFormat() == Qt::RichText)
         return {&label, QTextDocumentFragment::fromHtml(label.text()).toPlainText(), place,
                 label.sizeHint()};
-    const int flags = label.wordWrap() ? Qt::TextWordWrap : Qt::TextSingleLine;
+    const int flags = label.wordWrap() ? Qt::TextWordWrap : 0; // which ends lines where they end
     return {&label, label.text(), place, sizeOf(label.text(), label, place.width(), flags)};
 }
 
