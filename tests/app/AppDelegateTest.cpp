@@ -17,6 +17,22 @@ using namespace std::chrono_literals;
 using tests::Application;
 using tests::noonOf;
 
+namespace {
+
+// Something else that the user has in front.
+class OtherWindow final : public QWidget
+{
+public:
+    bool comesToTheFront()
+    {
+        show();
+        activateWindow();
+        return QTest::qWaitForWindowActive(this);
+    }
+};
+
+} // namespace
+
 class AppDelegateTest final : public tests::TestCase
 {
     Q_OBJECT
@@ -41,9 +57,12 @@ private Q_SLOTS:
     void theSetUpShowsTheListWidthAndTodaysHeader()
     {
         Application program;
+        program.window().setFrameWidth(452, false);
+        program.window().show();
 
         program.delegate.awakeFromNib();
 
+        QVERIFY(!program.window().isSliding());
         QCOMPARE(program.window().frameWidth(), 833);
         QCOMPARE(program.window().width(), 833);
         QCOMPARE(program.header(), QStringLiteral("5th March 2024"));
@@ -110,6 +129,20 @@ private Q_SLOTS:
         QVERIFY(program.window().isVisible());
     }
 
+    // A window that comes is in front on most screens; one that was there already tells.
+    void theLaunchBringsTheWindowToTheFront()
+    {
+        Application program;
+        program.launch();
+        program.window().show();
+        OtherWindow other;
+        QVERIFY(other.comesToTheFront());
+
+        program.clock.advance(400ms);
+
+        QTRY_VERIFY(program.window().isActiveWindow());
+    }
+
     void aWindowThatIsNotWantedComesOnlyAtALaterActivation()
     {
         Application program;
@@ -141,31 +174,42 @@ private Q_SLOTS:
         Application program;
         program.flags.firstActivationSeen = true;
         program.window().showMinimized();
+        OtherWindow other;
+        QVERIFY(other.comesToTheFront());
 
         program.delegate.applicationWillBecomeActive(nullptr);
 
         QVERIFY(!program.window().isMinimized());
+        QTRY_VERIFY(program.window().isActiveWindow());
     }
 
     void openingAgainBringsAHiddenWindowToTheFront()
     {
         Application program;
+        OtherWindow other;
+        QVERIFY(other.comesToTheFront());
 
         QVERIFY(!program.delegate.applicationShouldHandleReopenHasVisibleWindows(nullptr, false));
 
         QVERIFY(program.window().isVisible());
+        QTRY_VERIFY(program.window().isActiveWindow());
     }
 
     void openingAgainLeavesAWindowThatShowsAlone()
     {
         Application program;
         program.window().show();
-        QSignalSpy changes(program.window().windowHandle(), &QWindow::visibilityChanged);
+        OtherWindow other;
+        QVERIFY(other.comesToTheFront());
 
         QVERIFY(!program.delegate.applicationShouldHandleReopenHasVisibleWindows(nullptr, true));
-
-        QCOMPARE(changes.size(), 0);
+        QCoreApplication::processEvents();
         QVERIFY(program.window().isVisible());
+        QVERIFY(other.isActiveWindow());
+
+        // Whoever asks for it gets it.
+        program.delegate.onOpenWindow(nullptr);
+        QTRY_VERIFY(program.window().isActiveWindow());
     }
 
     void aSecondStartReopensTheFirst()
@@ -293,6 +337,7 @@ private Q_SLOTS:
         Application program;
         program.launch();
         program.window().setFrameWidth(452, false);
+        program.window().show();
         const QDateTime day = noonOf(2024, 3, 22);
 
         program.delegate.calendarDidSelectDate(nullptr, day);
@@ -302,6 +347,8 @@ private Q_SLOTS:
         QCOMPARE(program.header(), QStringLiteral("22nd March 2024"));
         QCOMPARE(program.controller.dateOfButtonClicked(), day);
         QCOMPARE(program.window().frameWidth(), 833);
+        QVERIFY(program.window().isSliding());
+        QTRY_COMPARE(program.window().width(), 833);
     }
 
     void theFirstDayIsChosenByTheCalendarAndOpensTheDatabase()
@@ -454,9 +501,13 @@ private Q_SLOTS:
     {
         Application program;
         program.delegate.awakeFromNib();
+        program.window().show();
 
         program.delegate.onSlideWindow(nullptr);
+
         QCOMPARE(program.window().frameWidth(), 433);
+        QVERIFY(program.window().isSliding());
+        QTRY_COMPARE(program.window().width(), 433);
     }
 
     void theWindowSlidesToItsWidthAndKeepsItsPlace()
@@ -468,6 +519,7 @@ private Q_SLOTS:
 
         program.delegate.foldupList();
 
+        QVERIFY(program.window().isSliding());
         QTRY_COMPARE(program.window().width(), 452);
         QCOMPARE(program.window().pos(), QPoint(40, 30));
     }
@@ -479,8 +531,12 @@ private Q_SLOTS:
         Application program;
 
         program.delegate.openAtFront(nullptr);
-
         QVERIFY(program.window().isVisible());
+
+        OtherWindow other;
+        QVERIFY(other.comesToTheFront());
+        program.delegate.openAtFront(nullptr);
+        QTRY_VERIFY(program.window().isActiveWindow());
     }
 
     void theStatusBarCheckboxMakesAndRemovesTheItem()

@@ -335,11 +335,32 @@ private Q_SLOTS:
         const QTemporaryDir config;
         Run run(config);
 
-        QCOMPARE(run.control<QLabel>("lblOpenAtLogin")->text(), QStringLiteral("Open at login"));
-        QCOMPARE(run.control<QLabel>("lblOpenAppAutomatically")->text(),
-                 QStringLiteral("Start and appearance"));
-        for (const char *label : {"lblShowWindowAtLogin", "lblOpenInDock", "lblOpenInStatusbar"})
-            QVERIFY2(!run.control<QLabel>(label)->text().isEmpty(), label);
+        const auto textOf = [&run](const char *label) {
+            return run.control<QLabel>(label)->text();
+        };
+        QCOMPARE(textOf("lblOpenAppAutomatically"), QStringLiteral("Start and appearance"));
+        QCOMPARE(textOf("lblOpenAtLogin"), QStringLiteral("Open at login"));
+        QCOMPARE(textOf("lblShowWindowAtLogin"), QStringLiteral("Show the window at start"));
+        QCOMPARE(textOf("lblOpenInDock"), QStringLiteral("Show in the task bar"));
+        QCOMPARE(textOf("lblOpenInStatusbar"), QStringLiteral("Show in the status bar"));
+        QCOMPARE(textOf("lblWindowOnTop"), QStringLiteral("Keep the window on top"));
+        QCOMPARE(textOf("lblFileFormat"), QStringLiteral("Format of new recordings"));
+        QCOMPARE(run.row(0)->text(), QStringLiteral("AAC (.aac)"));
+        QCOMPARE(run.row(1)->text(), QStringLiteral("MPEG-4 audio (.m4a)"));
+        QCOMPARE(run.preferences.preferrenceWindow()->windowTitle(), QStringLiteral("Preferences"));
+    }
+
+    void everyCheckboxIsNamedByTheLabelBesideIt()
+    {
+        const QTemporaryDir config;
+        Run run(config);
+
+        const auto nameOf = [&run](const char *box) { return run.box(box)->accessibleName(); };
+        QCOMPARE(nameOf("btnOpenAtLogin"), QStringLiteral("Open at login"));
+        QCOMPARE(nameOf("btnShowMainWindowOnStart"), QStringLiteral("Show the window at start"));
+        QCOMPARE(nameOf("dockIconCheckbox"), QStringLiteral("Show in the task bar"));
+        QCOMPARE(nameOf("BtnStatusBar"), QStringLiteral("Show in the status bar"));
+        QCOMPARE(nameOf("windowOnTop"), QStringLiteral("Keep the window on top"));
     }
 
     void everyControlHasANameAndIsReachedByKeyboard()

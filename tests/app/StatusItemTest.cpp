@@ -3,6 +3,7 @@
 #include "support/TestCase.h"
 
 #include <QMenu>
+#include <QPainter>
 #include <QSignalSpy>
 
 using tarvelo::app::StatusItem;
@@ -25,6 +26,8 @@ private Q_SLOTS:
         QCOMPARE(item.item()->contextMenu(), &menu);
         QCOMPARE(item.item()->toolTip(), QStringLiteral("Tarvelo"));
         QCOMPARE(item.item()->icon().availableSizes().first(), QSize(20, 20));
+        QCOMPARE(shownBy(item), painted(imageNamed(QStringLiteral("icon.icns"))));
+        QVERIFY(shownBy(item).pixelColor(10, 10).alpha() > 0);
         QVERIFY(item.item()->isVisible());
     }
 
@@ -57,8 +60,22 @@ private Q_SLOTS:
         item.create(imageNamed(QStringLiteral("nothingHasThisName")));
 
         QVERIFY(item.exists());
-        const QImage shown = item.item()->icon().pixmap(20, 20).toImage();
-        QCOMPARE(shown.pixelColor(10, 10).alpha(), 0);
+        QCOMPARE(shownBy(item).pixelColor(10, 10).alpha(), 0);
+    }
+
+private:
+    static QImage shownBy(const StatusItem &item)
+    {
+        return item.item()->icon().pixmap(20, 20).toImage().convertToFormat(QImage::Format_ARGB32);
+    }
+    static QImage painted(const tarvelo::platform::Image &image)
+    {
+        QPixmap pixmap(20, 20);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        image.paint(painter, QRectF(0, 0, 20, 20));
+        painter.end();
+        return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
     }
 };
 

@@ -82,6 +82,9 @@ private Q_SLOTS:
     {
         QFETCH(QDateTime, day);
         outlets().btnAddItem->hide();
+        m_program->emptyDayPanel().hide();
+        outlets().btnDeleteItem->show();
+        outlets().btnDeleteItem->setEnabled(true);
 
         m_list->prepareViewForDate(day);
 
@@ -93,6 +96,9 @@ private Q_SLOTS:
 
     void anEmptyPastDayOffersNothing()
     {
+        outlets().btnAddItem->show();
+        m_program->emptyDayPanel().show();
+
         m_list->prepareViewForDate(theDay("2024-03-04"));
 
         QVERIFY(outlets().btnAddItem->isHidden());
@@ -111,6 +117,10 @@ private Q_SLOTS:
         QFETCH(QString, day);
         QFETCH(bool, isClosed);
         aLecture().on(day.toLatin1().constData()).insertInto(m_program->database);
+        m_program->emptyDayPanel().show();
+        outlets().btnAddItem->setHidden(!isClosed);
+        outlets().btnDeleteItem->show();
+        outlets().btnDeleteItem->setEnabled(false);
 
         m_list->prepareViewForDate(theDay(day.toLatin1().constData()));
 
@@ -120,9 +130,10 @@ private Q_SLOTS:
         QVERIFY(outlets().btnDeleteItem->isHidden());
     }
 
-    void theVeryInstantIsOpen()
+    void theVeryInstantAndTheNextAreOpenWhateverTheirDay()
     {
-        const QDateTime now = m_program->clock.now();
+        const QDateTime now = theDay("2024-03-06").addMSecs(-1);
+        m_program->clock.set(now);
 
         QVERIFY(m_list->isDayOpen(now));
         QVERIFY(m_list->isDayOpen(now.addMSecs(1)));
@@ -165,6 +176,9 @@ private Q_SLOTS:
         aLecture().named("april").on("2024-04-05").insertInto(m_program->database);
         aLecture().named("long ago").on("1999-03-31").insertInto(m_program->database);
         aLecture().named("later").on("2030-03-01").insertInto(m_program->database);
+        m_program->emptyDayPanel().show();
+        outlets().btnDeleteItem->show();
+        outlets().btnDeleteItem->setEnabled(false);
 
         m_list->showAllList(m_program->today());
 
@@ -172,12 +186,16 @@ private Q_SLOTS:
         QCOMPARE(outlets().lblDateDisplay->text(), u"All List"_s);
         QCOMPARE(outlets().lblDateDisplay->accessibleName(), u"All List"_s);
         QVERIFY(outlets().btnDeleteItem->isEnabled());
+        QVERIFY(outlets().btnDeleteItem->isHidden());
         QVERIFY(m_program->emptyDayPanel().isHidden());
     }
 
     void anEmptyAllListShowsThePanelAfterAPastDayToo()
     {
         m_list->prepareViewForDate(theDay("2024-03-04"));
+        QVERIFY(m_program->emptyDayPanel().isHidden());
+        outlets().btnDeleteItem->show();
+        outlets().btnDeleteItem->setEnabled(true);
 
         m_list->showAllList(theDay("2024-03-04"));
 

@@ -520,17 +520,21 @@ private Q_SLOTS:
         aLecture().withoutAudio().insertInto(m_program->database);
         m_program->showDay(m_program->today());
         window().setFrameWidth(1234, false);
+        const auto &popovers = m_program->windows.popoverOutlets();
+        QVERIFY(!popovers.popoverAudioConfirmClose->isVisible());
+        for (QLabel *time : {player().tElapsedTime, player().tRemainingTime})
+            time->setText(u"left over"_s);
+        for (QWidget *control : controlsOfPlayer())
+            control->setEnabled(true);
 
         controller().openPlayEditWindow(row(0)->btnPlay());
 
-        const auto &popovers = m_program->windows.popoverOutlets();
         QVERIFY(popovers.popoverAudioConfirmClose->isVisible());
         QVERIFY(popovers.lblPopoverNoAudio->isVisible());
         QCOMPARE(player().tElapsedTime->text(), u"0:00:00"_s);
         QCOMPARE(player().tRemainingTime->text(), u"0:00:00"_s);
-        QVERIFY(!player().bPlay->isEnabled());
-        QVERIFY(!player().bPause->isEnabled());
-        QVERIFY(!player().sliderEditProgress->isEnabled());
+        for (const QWidget *control : controlsOfPlayer())
+            QVERIFY(!control->isEnabled());
         QCOMPARE(window().frameWidth(), 833);
     }
 
@@ -859,6 +863,10 @@ private:
     const tarvelo::audio::EditPlayerOutlets &player() const
     {
         return m_program->windows.editPlayerOutlets();
+    }
+    QList<QWidget *> controlsOfPlayer() const
+    {
+        return {player().bPlay, player().bPause, player().sliderEditProgress};
     }
     QWidget &editWindow() const
     {

@@ -108,12 +108,30 @@ private Q_SLOTS:
     void startingSetsTheArrangementAndTheVersion()
     {
         controller().viewEditView(nullptr);
+        QVERIFY(controller().bIsInEditView() && controller().bIsInSingleEditView());
+        QCOMPARE(controller().version(), 0);
 
         controller().awakeFromNib();
 
         QVERIFY(!controller().bIsInEditView());
         QVERIFY(!controller().bIsInSingleEditView());
-        QVERIFY(controller().version() != 0);
+        QCOMPARE(controller().version(), 0x1080);
+    }
+
+    void startingForgetsEarlierPauses()
+    {
+        m_program->start();
+        controller().onAddItem(nullptr);
+        controller().startRecording(nullptr);
+        auto *pause = m_program->windows.recordingOutlets().btnPauseResumeRecording;
+        pause->click();
+        m_program->clock.advance(10s);
+        pause->click();
+        QCOMPARE(controller().recordingControl().durationPause(), 10);
+        m_program->isAwake = false;
+
+        controller().awakeFromNib();
+
         QCOMPARE(controller().recordingControl().durationPause(), 0);
     }
 
@@ -128,6 +146,11 @@ private Q_SLOTS:
 
     void startingWhitensTheSecondaryWindows()
     {
+        for (QWidget *window : secondaryWindows()) {
+            window->setPalette(QPalette(Qt::blue));
+            window->setAutoFillBackground(false);
+        }
+
         controller().awakeFromNib();
 
         for (const QWidget *window : secondaryWindows()) {
@@ -138,9 +161,14 @@ private Q_SLOTS:
 
     void thePlayWindowIsNotOpaqueAndCanBeNeitherMinimisedNorZoomed()
     {
+        QWidget &window = *m_program->windows.playAudioOutlets().playAudioWindow;
+        window.setAttribute(Qt::WA_TranslucentBackground, false);
+        tarvelo::platform::setWindowFlagInPlace(window, Qt::WindowMinMaxButtonsHint, true);
+        tarvelo::platform::setWindowFlagInPlace(window, Qt::CustomizeWindowHint, false);
+
         controller().awakeFromNib();
 
-        const QWidget &window = *m_program->windows.playAudioOutlets().playAudioWindow;
+        QVERIFY(window.windowFlags() & Qt::CustomizeWindowHint);
         QVERIFY(window.testAttribute(Qt::WA_TranslucentBackground));
         QVERIFY(!(window.windowFlags() & Qt::WindowMinMaxButtonsHint));
         QVERIFY(window.windowFlags() & Qt::WindowCloseButtonHint);
@@ -160,9 +188,15 @@ private Q_SLOTS:
 
     void startingWritesTheLabels()
     {
+        const auto &popovers = m_program->windows.popoverOutlets();
+        for (QLabel *label : {m_program->windows.newLectureOutlets().lblNotesForAdd,
+                              m_program->windows.lectureViewOutlets().lblNotesForView,
+                              popovers.lblRecordDeleteConfirmation, popovers.lblPopoverNoAudio,
+                              m_program->windows.recordingOutlets().lblRecordingDuration})
+            label->setText(u"left over"_s);
+
         controller().awakeFromNib();
 
-        const auto &popovers = m_program->windows.popoverOutlets();
         const QString notes = tarvelo::platform::text("LABEL_NOTES");
         QCOMPARE(m_program->windows.newLectureOutlets().lblNotesForAdd->text(), notes);
         QCOMPARE(m_program->windows.lectureViewOutlets().lblNotesForView->text(), notes);
@@ -550,7 +584,7 @@ private:
     {
         return *m_program->windows.mainOutlets().tblRecordSubjectList;
     }
-    QList<const QWidget *> secondaryWindows() const
+    QList<QWidget *> secondaryWindows() const
     {
         return {m_program->windows.newLectureOutlets().newNoteWindow,
                 m_program->windows.editLectureOutlets().windowEditLecture,

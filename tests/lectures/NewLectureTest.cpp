@@ -1,5 +1,6 @@
 #include "lectures/NewLecture.h"
 
+#include "support/AnimationClock.h"
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
 
@@ -9,6 +10,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::lectures::Lecture;
 using tarvelo::tests::aLecture;
+using tarvelo::tests::AnimationClock;
 using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 
@@ -21,6 +23,11 @@ private Q_SLOTS:
     {
         subject().setText(u"left over"_s);
         notes().setPlainText(u"left over"_s);
+        subject().hide();
+        subject().setReadOnly(true);
+        notes().setReadOnly(true);
+        recording().lblRecordingDuration->setText(u"left over"_s);
+        QVERIFY(!newNoteWindow().isVisible() && !controller().bIsOnRecordingView());
 
         controller().onAddItem(nullptr);
 
@@ -112,12 +119,15 @@ private Q_SLOTS:
         controller().startRecording(nullptr);
         pressClose();
         recording().audioLevelMeter->setFloatValue(0.5F);
+        recording().lblRecordingDuration->setText(u"left over"_s);
+        const QString take = controller().tempAudioSavePath();
+        QVERIFY(QFile::exists(take));
         QVERIFY(m_program->controller.recordingControl().recording());
 
         controller().onAddItem(nullptr);
 
         QVERIFY(!controller().recordingControl().recording());
-        QVERIFY(!QFile::exists(controller().tempAudioSavePath()));
+        QVERIFY(!QFile::exists(take));
         QCOMPARE(recording().audioLevelMeter->floatValue(), 0.0F);
         QCOMPARE(recording().lblRecordingDuration->text(), QString());
     }
@@ -551,10 +561,14 @@ private Q_SLOTS:
     {
         const auto &main = m_program->windows.mainOutlets();
         main.newNoteView->setGeometry(0, 0, 10, 10);
+        AnimationClock clock;
 
         controller().onDone(nullptr);
+        clock.pass(790ms);
+        QVERIFY(main.newNoteView->size() != main.scrollTableView->size());
 
-        QTRY_COMPARE(main.newNoteView->size(), main.scrollTableView->size());
+        clock.pass(10ms);
+        QCOMPARE(main.newNoteView->size(), main.scrollTableView->size());
         QCOMPARE(main.newNoteView->x(), 0);
         QCOMPARE(main.newNoteView->geometry().bottom() + 1, main.tableListView->height());
     }

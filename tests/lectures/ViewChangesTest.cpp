@@ -1,12 +1,15 @@
 #include "lectures/ViewChanges.h"
 
 #include "platform/Frames.h"
+#include "support/AnimationClock.h"
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
 
 using tarvelo::lectures::ViewChanges;
 using tarvelo::platform::frameOf;
+using tarvelo::tests::AnimationClock;
 using tarvelo::tests::LectureProgram;
+using namespace std::chrono_literals;
 
 class ViewChangesTest final : public tarvelo::tests::TestCase
 {
@@ -166,9 +169,30 @@ private Q_SLOTS:
 
         m_changes->onExpandView();
         QTRY_COMPARE(window().width(), 1234);
-
         QCOMPARE(window().pos(), origin);
         QCOMPARE(window().height(), height);
+
+        m_changes->goToCalendarView();
+        QTRY_COMPARE(window().width(), 833);
+        QCOMPARE(window().pos(), origin);
+        QCOMPARE(window().height(), height);
+
+        m_changes->viewEditView();
+        QTRY_COMPARE(window().width(), 400);
+        QCOMPARE(window().pos(), origin);
+        QCOMPARE(window().height(), height);
+    }
+
+    void theSingleViewSlidesInForHalfASecond()
+    {
+        AnimationClock clock;
+
+        m_changes->viewEditView();
+        clock.pass(490ms);
+        QVERIFY(main().editPlayView->x() > 0);
+
+        clock.pass(10ms);
+        QCOMPARE(main().editPlayView->x(), 0);
     }
 
     void resettingForgetsTheArrangement()

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QAnimationDriver>
+#include <QCoreApplication>
+
+#include <chrono>
+
+namespace tarvelo::tests {
+
+// As long as it lives, animations go on when they are told how much time has passed, and not
+// otherwise.
+class AnimationClock final : public QAnimationDriver
+{
+public:
+    AnimationClock() { install(); }
+    ~AnimationClock() override { uninstall(); }
+
+    qint64 elapsed() const override { return m_elapsed; }
+    void pass(std::chrono::milliseconds time)
+    {
+        // What was started since begins now. The toolkit posts itself an event after another for
+        // it.
+        for (int event = 0; event < 10; ++event)
+            QCoreApplication::processEvents();
+        m_elapsed += time.count();
+        advance();
+    }
+
+private:
+    qint64 m_elapsed = 0;
+};
+
+} // namespace tarvelo::tests
