@@ -2,6 +2,7 @@
 
 #include <QAnimationDriver>
 #include <QCoreApplication>
+#include <QVariantAnimation>
 
 #include <chrono>
 
@@ -12,8 +13,20 @@ namespace tarvelo::tests {
 class AnimationClock final : public QAnimationDriver
 {
 public:
-    AnimationClock() { install(); }
-    ~AnimationClock() override { uninstall(); }
+    AnimationClock()
+    {
+        install();
+        m_beat.setStartValue(0);
+        m_beat.setEndValue(1);
+        m_beat.setLoopCount(-1);
+        m_beat.start();
+        pass(std::chrono::milliseconds(0));
+    }
+    ~AnimationClock() override
+    {
+        m_beat.stop();
+        uninstall();
+    }
 
     qint64 elapsed() const override { return m_elapsed; }
     void pass(std::chrono::milliseconds time)
@@ -28,6 +41,9 @@ public:
 
 private:
     qint64 m_elapsed = 0;
+    // Keeps the toolkit's own count of time going, which would begin with what has passed since an
+    // earlier animation.
+    QVariantAnimation m_beat;
 };
 
 } // namespace tarvelo::tests
