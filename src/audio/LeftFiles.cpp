@@ -126,20 +126,38 @@ bool LeftFiles::moveLeftovers(const QString &from) const
     return isAllMoved;
 }
 
+// With what is ahead of it, durably; null when that cannot be had now. What stays unreadable is
+// kept under another name, lest the rest waits for it for ever.
+std::optional<JournalFile> LeftFiles::wholeJournal(const QString &path)
+{
+    using State = JournalFile::State;
+    const QString latest = store::latestOf(path);
+    auto found = store::readLatest(path);
+    if (found.file.state == State::Unreadable)
+        found = store::readLatest(path);
+    if (found.file.state == State::Unreadable) {
+        found = {store::readJournal(path), false};
+        if (found.file.state == State::Unreadable ||
+            !platform::renameDurably(latest, QFileInfo(path).path() + QStringLiteral("/unread")))
+            return std::nullopt;
+    }
+    if (found.isAhead && !SteadyFile(path).replace(store::toBytes(found.file.journal)))
+        return std::nullopt;
+    const bool isLatestGone = platform::isThere(latest) == false ||
+                              (store::removeLatest(path) && platform::syncFolderOf(path));
+    return isLatestGone ? std::optional(found.file) : std::nullopt;
+}
+
 // The recording goes first, under a name that the journal tells: whoever is interrupted between the
 // two puts them together again.
 bool LeftFiles::moveLecture(const QString &from) const
 {
     const auto names = namesIn(from);
     const QString path = from + u'/' + journalName();
-    const auto [found, isAhead] = store::readLatest(path);
-    if (!names || found.state == JournalFile::State::Unreadable)
+    const auto whole = names ? wholeJournal(path) : std::nullopt;
+    if (!whole)
         return false;
-    if (isAhead && !SteadyFile(path).replace(store::toBytes(found.journal)))
-        return false;
-    const bool hasLatest = names->contains(QFileInfo(store::latestOf(path)).fileName());
-    if (hasLatest && !(store::removeLatest(path) && platform::syncFolderOf(path)))
-        return false;
+    const JournalFile &found = *whole;
     const bool hasJournal = found.state != JournalFile::State::Missing;
     const LectureJournal &journal = found.journal;
     QStringList takes;
@@ -229,7 +247,7 @@ QString LeftFiles::freeName(const QString &wish, bool hasTake) const
 
 QString LeftFiles::momentName() const
 {
-    return NameBegin + m_dates.now().toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz"));
+    return NameBegin + LectureJournal::idOf(m_dates.now());
 }
 
 } // namespace tarvelo::audio

@@ -44,6 +44,7 @@ public:
 
 private:
     bool moveLeftovers(const QString &from) const;
+    static std::optional<store::JournalFile> wholeJournal(const QString &path);
     bool moveLecture(const QString &from) const;
     bool isTake(const QString &name) const { return name.startsWith(m_takeName + u'.'); }
     bool moveTakes(const QStringList &takes, const QString &ofJournal, const QString &name) const;

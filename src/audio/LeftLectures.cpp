@@ -28,6 +28,9 @@ using store::LectureJournal;
 namespace {
 
 const QString DayFormat = QStringLiteral("yyyy-MM-dd");
+const QString MoveRecording =
+    QStringLiteral("UPDATE audioData SET audioFileFullPath = ?, recordDuration = ? WHERE ID = ? "
+                   "AND audioFileFullPath <> ?");
 
 } // namespace
 
@@ -106,6 +109,8 @@ bool LeftLectures::decide(Left &left)
 {
     left.journal.isDone = true;
     left.journal.lastRow = lastRow();
+    if (left.journal.id.isEmpty())
+        left.journal.id = LectureJournal::idOf(m_dates.now());
     return choosePlace(left);
 }
 
@@ -170,7 +175,8 @@ std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) con
             : database->executeQuery(
                   QStringLiteral("SELECT ID FROM audioData WHERE audioFileFullPath = ?"),
                   journal.target);
-    if (!rows)
+    // A list that ends early is no word about it.
+    if (!rows || database->errorCode() != 0)
         return std::nullopt;
     for (const auto &row : *rows)
         if (!journal.target.isEmpty() || !m_rows.values().contains(row.first().toLongLong()))
@@ -189,8 +195,13 @@ std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
         return database->executeNonQueryArguments(store::statements::Insert, left.journal.row());
     };
     // A journal that could not be removed is no second lecture.
-    auto row =
-        m_rows.contains(left.journal.id) ? m_rows.value(left.journal.id) : storedRow(left.journal);
+    const bool isKnown = m_rows.contains(left.journal.id);
+    auto row = isKnown ? m_rows.value(left.journal.id) : storedRow(left.journal);
+    // Its recording may have got another place since.
+    if (isKnown && !left.journal.target.isEmpty() &&
+        !database->executeNonQuery(MoveRecording, left.journal.target, left.journal.duration, *row,
+                                   left.journal.target))
+        return std::nullopt;
     const auto makeTable = [&] {
         return database->executeNonQuery(store::statements::CreateAfterInsert);
     };

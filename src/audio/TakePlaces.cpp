@@ -101,11 +101,18 @@ void TakePlaces::discardOwed(const QString &id)
     Place *const place = placeOwing(id);
     if (!place)
         return;
-    if (place->writer)
-        place->writer->remove();
+    removeJournal(*place);
     m_left.discardUnwritten(place->path, *place->owed);
     place->owed.reset();
     place->isOccupied = place->folder != nullptr;
+}
+
+void TakePlaces::removeJournal(const Place &place)
+{
+    if (!place.writer)
+        return;
+    place.writer->remove();
+    place.writer->flush();
 }
 
 void TakePlaces::setOccupied()
@@ -128,6 +135,9 @@ void TakePlaces::clear()
 
 bool TakePlaces::clear(Place &place)
 {
+    // What the writer still does is nobody else's.
+    if (place.writer)
+        place.writer->flush();
     if (place.owed && place.writer && !place.writer->flush())
         place.writer->write(store::toBytes(*place.owed));
     if (place.owed && (!place.writer || !place.writer->flush()))
@@ -142,10 +152,13 @@ void TakePlaces::storeUnwritten(const std::function<void(const LeftLectures::Sto
     for (Place &place : m_places) {
         if (!place.owed)
             continue;
+        if (place.writer)
+            place.writer->flush();
         const auto lecture = m_left.storeUnwritten(place.path, *place.owed);
         if (!lecture)
             continue;
         place.owed.reset();
+        removeJournal(place);
         place.isOccupied = place.folder && !m_left.setAside(place.path);
         stored(*lecture);
     }

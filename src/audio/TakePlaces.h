@@ -62,6 +62,7 @@ private:
     };
 
     Place *placeOwing(const QString &id);
+    static void removeJournal(const Place &place);
     void find();
     void use(std::unique_ptr<TakeFolder> folder);
     bool clear(Place &place);

@@ -21,8 +21,6 @@ namespace tarvelo::audio {
 
 namespace {
 
-const QStringList Recordings{QStringLiteral("*.m4a"), QStringLiteral("*.aac")};
-
 // The same for all ways to write a path to the same file.
 QString plain(const QString &path)
 {
@@ -87,7 +85,8 @@ QStringList UnlistedRecordings::unlisted() const
 {
     const QString folder = m_sources.audioFolder();
     QStringList paths;
-    for (const QFileInfo &file : QDir(folder).entryInfoList(Recordings, QDir::Files, QDir::Name))
+    for (const QFileInfo &file : QDir(folder).entryInfoList(
+             {QStringLiteral("*.m4a"), QStringLiteral("*.aac")}, QDir::Files, QDir::Name))
         if (file.size() > 0)
             paths.append(folder + u'/' + file.fileName());
     const auto listedPaths = listed(namesOf(paths));
@@ -113,17 +112,16 @@ std::optional<QStringList> UnlistedRecordings::listed(const QStringList &names) 
 }
 
 // To lectures whose rows are still to be stored, in this run or at the next start: what lies beside
-// a take says so, under whatever name but a recording's. Null when one cannot be read now.
+// a take says so, also what a death left half written. Null when one cannot be read now.
 std::optional<QStringList> UnlistedRecordings::promised() const
 {
     QDirIterator files(QFileInfo(m_database.backups().folder()).path() + QStringLiteral("/temp"),
+                       {QStringLiteral("*.journal"), QStringLiteral("*.closed"),
+                        QStringLiteral("*.latest"), QStringLiteral("*.spare")},
                        QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     QStringList paths = m_sources.promised();
     while (files.hasNext()) {
-        const QString file = files.next();
-        if (QDir::match(Recordings, files.fileName()))
-            continue;
-        const store::JournalFile found = store::readJournal(file);
+        const store::JournalFile found = store::readJournal(files.next());
         if (found.state == store::JournalFile::State::Unreadable)
             return std::nullopt;
         if (!found.journal.target.isEmpty())

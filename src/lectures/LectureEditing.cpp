@@ -285,7 +285,8 @@ bool LectureEditing::isStored(const store::LectureInfoItem &lecture) const
                                        QStringLiteral("select ID from audioData where ID = ?"),
                                        {lecture.getRecordUniqueID()})
                                  : std::nullopt;
-    return !rows || !rows->isEmpty();
+    // A list that ends early is no word about it.
+    return !rows || !rows->isEmpty() || connection->errorCode() != 0;
 }
 
 void LectureEditing::clearChanges()

@@ -59,7 +59,7 @@ void LectureJournalKeeper::lectureOpened()
         storeOwedLater();
     m_isOpen = true;
     m_journal = {};
-    m_journal.id = m_with.dates.now().toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz"));
+    m_journal.id = store::LectureJournal::idOf(m_with.dates.now());
     writeNow();
     // Only now: a mark beside a journal says that the take is older than the lecture.
     removeClosedMark();

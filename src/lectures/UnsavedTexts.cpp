@@ -3,6 +3,9 @@
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 #include <algorithm>
 
 namespace tarvelo::lectures {
@@ -13,7 +16,7 @@ namespace {
 const QString Update =
     QStringLiteral("UPDATE audioData SET subject = ?, notes = ? WHERE ID = ? AND "
                    "ifnull(audioFileFullPath, '') = ? AND (audioFileFullPath <> '' OR "
-                   "ifnull(notes, '') = ?)");
+                   "ifnull(notes, '') IN (SELECT value FROM json_each(?)))");
 
 } // namespace
 
@@ -40,9 +43,15 @@ void UnsavedTexts::keep(const store::LectureInfoItem &lecture, const QString &su
     const auto known = std::find_if(m_texts.begin(), m_texts.end(),
                                     [&](const Texts &texts) { return areOf(texts, lecture); });
     if (known == m_texts.end()) {
-        m_texts.append({lecture.getRecordUniqueID(), lecture.copyPath(),
-                        lecture.getLectureAudioPath(), lecture.strNotes(), subject, notes});
+        m_texts.append({lecture.getRecordUniqueID(),
+                        lecture.copyPath(),
+                        lecture.getLectureAudioPath(),
+                        {lecture.strNotes()},
+                        subject,
+                        notes});
     } else {
+        // A write that failed may have left them there, since only its last step did.
+        known->storedNotes.append(known->notes);
         known->subject = subject;
         known->notes = notes;
     }
@@ -100,9 +109,11 @@ bool UnsavedTexts::save(const Texts &texts, store::Sqlite *database) const
 {
     if (!texts.copyPath.isEmpty())
         return m_database.changeGone(texts.copyPath, texts.id, texts.subject, texts.notes);
+    const QJsonDocument storedNotes(
+        QJsonArray::fromStringList(QStringList(texts.storedNotes) << texts.notes));
     return database &&
            database->executeNonQuery(Update, texts.subject, texts.notes, texts.id, texts.audioPath,
-                                     texts.storedNotes) &&
+                                     QString::fromUtf8(storedNotes.toJson())) &&
            (database->changes() > 0 || texts.audioPath.isEmpty());
 }
 

@@ -46,7 +46,7 @@ private:
         qint64 id;
         QString copyPath; // of one that has gone
         QString audioPath;
-        QString storedNotes;
+        QStringList storedNotes; // those that may be stored by now
         QString subject;
         QString notes;
     };

@@ -49,18 +49,16 @@ bool AttachedCopy::isMarked() const
     return hasTable(m_database, "copy", QStringLiteral("goingLectures")).value_or(false);
 }
 
-int AttachedCopy::lectures() const
+std::optional<int> AttachedCopy::lectures() const
 {
-    return numberFrom(m_database, QStringLiteral("SELECT count(*) FROM copy.audioData"))
-        .value_or(0);
+    return numberFrom(m_database, QStringLiteral("SELECT count(*) FROM copy.audioData"));
 }
 
-int AttachedCopy::missing() const
+std::optional<int> AttachedCopy::missing() const
 {
     if (!hasLectures(m_database, "main"))
         return lectures();
-    return numberFrom(m_database, QStringLiteral("SELECT count(*)") + fromMissing(), {isMarked()})
-        .value_or(lectures());
+    return numberFrom(m_database, QStringLiteral("SELECT count(*)") + fromMissing(), {isMarked()});
 }
 
 QList<QVariantList> AttachedCopy::lecturesWith(const QStringList &fileNames) const

@@ -22,9 +22,9 @@ public:
     ~AttachedCopy();
 
     bool isReadable() const;
-    int lectures() const;
+    std::optional<int> lectures() const;
     // All of them when they cannot be compared.
-    int missing() const;
+    std::optional<int> missing() const;
     // Those with recordings of such names, as the insert statement takes them.
     QList<QVariantList> lecturesWith(const QStringList &fileNames) const;
     // All or none, in the caller's transaction: under their own IDs where those are free, the

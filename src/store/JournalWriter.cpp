@@ -29,13 +29,16 @@ JournalWriter::~JournalWriter()
 
 void JournalWriter::write(const QByteArray &content)
 {
-    writeLatest(m_path, content);
+    // What stood there before is of this lecture, or of none that counts.
+    m_isLatestOurs = writeLatest(m_path, content) || m_isLatestOurs;
+    if (!m_isLatestOurs)
+        removeLatest(m_path);
     ask({true, [this, content] { m_isWritten = m_file.replace(content); }});
 }
 
 void JournalWriter::remove()
 {
-    removeLatest(m_path);
+    removeLatestOfThis();
     ask({false, [this] {
              platform::syncFolderOf(m_path);
              m_file.remove();
@@ -44,12 +47,18 @@ void JournalWriter::remove()
 
 void JournalWriter::renameTo(const QString &path)
 {
-    removeLatest(m_path);
+    removeLatestOfThis();
     ask({false, [this, path] {
              platform::syncFolderOf(m_path);
              platform::createFileIfMissing(m_path);
              m_file.renameTo(path);
          }});
+}
+
+void JournalWriter::removeLatestOfThis()
+{
+    m_isLatestOurs = false;
+    removeLatest(m_path);
 }
 
 void JournalWriter::removeOther(const QString &path)

@@ -42,11 +42,13 @@ private:
         std::function<void()> run;
     };
 
+    void removeLatestOfThis();
     void ask(Task task);
     void work();
 
     const QString m_path;
     platform::SteadyFile m_file; // the thread's
+    bool m_isLatestOurs = false; // what stands beside the journal
     bool m_isWritten = false;    // the thread's until it has nothing to do
     std::mutex m_mutex;
     std::condition_variable m_changed;

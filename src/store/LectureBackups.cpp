@@ -112,7 +112,7 @@ bool LectureBackups::isOfNoUse(Sqlite &database, const QString &copyPath) const
         const AttachedCopy copy(database, copyPath);
         if (copy.isReadable())
             // One that lectures cannot be counted in is not known to be of no use.
-            return copy.missing() == 0 && copy.lectures() > 0;
+            return copy.missing() == 0 && copy.lectures().value_or(0) > 0;
     }
     const QStringList names = namesOfCopies();
     if (names.size() < 2)
@@ -130,8 +130,9 @@ QList<LectureBackups::Copy> LectureBackups::copies(Sqlite &database) const
     for (const QString &name : namesOfCopies()) {
         const AttachedCopy copy(database, pathOf(name));
         if (copy.isReadable())
-            copies.prepend({pathOf(name), QDateTime::fromString(name, NameFormat), copy.lectures(),
-                            copy.missing()});
+            copies.prepend({pathOf(name), QDateTime::fromString(name, NameFormat),
+                            copy.lectures().value_or(0),
+                            copy.missing().value_or(copy.lectures().value_or(0))});
     }
     return copies;
 }
@@ -144,7 +145,7 @@ std::optional<LecturesBack> LectureBackups::bringBack(const QString &copyPath,
     AttachedCopy copy(database, copyPath);
     if (!copy.isReadable())
         return std::nullopt;
-    const int missing = copy.missing();
+    const auto missing = copy.missing();
     if (missing == 0)
         return LecturesBack{copyPath};
     const bool hasBegun = database.beginTransaction() && makeLecturesIfMissing(database);
@@ -153,7 +154,8 @@ std::optional<LecturesBack> LectureBackups::bringBack(const QString &copyPath,
     if (!isBack)
         database.rollback();
     return isBack || (idsNow && copy.missing() == 0)
-               ? std::optional(LecturesBack{copyPath, *idsNow, missing})
+               ? std::optional(
+                     LecturesBack{copyPath, *idsNow, missing.value_or(copy.lectures().value_or(0))})
                : std::nullopt;
 }
 

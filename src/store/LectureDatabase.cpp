@@ -165,8 +165,9 @@ std::optional<qint64> LectureDatabase::idNow(const LecturesBack &back, const QSt
         return std::nullopt;
     const auto rows = m_connection->executeQuery(
         QStringLiteral("SELECT ID FROM audioData WHERE audioFileFullPath = ?"), audioPath);
-    return rows && rows->size() == 1 ? std::optional(rows->first().first().toLongLong())
-                                     : std::nullopt;
+    const bool isKnown = rows && m_connection->errorCode() == 0;
+    return isKnown && rows->size() == 1 ? std::optional(rows->first().first().toLongLong())
+                                        : std::nullopt;
 }
 
 bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 
 namespace tarvelo::store {
 
@@ -60,6 +61,11 @@ State stateNamed(const QString &name)
 }
 
 } // namespace
+
+QString LectureJournal::idOf(const QDateTime &moment)
+{
+    return moment.toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz"));
+}
 
 bool LectureJournal::isBlank() const
 {
@@ -139,17 +145,22 @@ QString latestOf(const QString &journalPath)
 
 bool writeLatest(const QString &journalPath, const QByteArray &bytes)
 {
-    const QString path = latestOf(journalPath);
-    const platform::Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
-    const bool isWritten = file.isOpen() && file.write(bytes, 0);
-    if (!isWritten)
-        removeLatest(journalPath);
-    return isWritten;
+    const QFileInfo latest(latestOf(journalPath));
+    const QByteArray next = QFile::encodeName(latest.path() + u'/' + u'.' + latest.fileName());
+    {
+        const platform::Descriptor file(QFile::decodeName(next), O_WRONLY | O_CREAT | O_TRUNC);
+        if (!file.isOpen() || !file.write(bytes, 0)) {
+            ::unlink(next.constData());
+            return false;
+        }
+    }
+    return ::rename(next.constData(), QFile::encodeName(latest.filePath()).constData()) == 0;
 }
 
 bool removeLatest(const QString &journalPath)
 {
     const QString path = latestOf(journalPath);
+    QFile::remove(QFileInfo(path).path() + u'/' + u'.' + QFileInfo(path).fileName());
     // Twice, for what fails once.
     return QFile::remove(path) || QFile::remove(path) || platform::isThere(path) == false;
 }

@@ -31,6 +31,8 @@ struct LectureJournal
     std::optional<qint64> lastRow = {};
     qint64 version = 0; // counts what was written of this lecture
 
+    // Of a lecture that is opened at this moment.
+    static QString idOf(const QDateTime &moment);
     // Nothing was typed or recorded.
     bool isBlank() const;
     // For the statement that inserts a lecture.
@@ -57,7 +59,7 @@ JournalFile readJournal(const QString &path);
 // for a disk. It is ahead of the journal when the program is killed while a slow disk takes its
 // time. After a power cut it may hold anything, and only what is whole counts.
 QString latestOf(const QString &journalPath);
-// False when it could not be; nothing stands there then.
+// False when it could not be; what stood there still does then.
 bool writeLatest(const QString &journalPath, const QByteArray &bytes);
 // False when it is still there. The disk may have it until the names of the folder are synced, and
 // nothing else may go from there before that: it would be all that is known.

@@ -40,7 +40,7 @@ private Q_SLOTS:
                 << QByteArray(call) << QByteArray("/lecture.journal") << true;
         }
         QTest::newRow("the journal is read")
-            << QByteArray("read") << QByteArray("/lecture.journal") << false;
+            << QByteArray("read") << QByteArray("/lecture.journal") << true;
         QTest::newRow("the folder is read")
             << QByteArray("opendir") << QByteArray("/temp") << false;
     }
@@ -119,6 +119,20 @@ private Q_SLOTS:
             QVERIFY(!all[0].takePath.isEmpty());
         }
         QVERIFY(call > 10);
+    }
+
+    void whatIsAheadAndStaysUnreadableKeepsNothingElseBack()
+    {
+        leaveLatest();
+        tarvelo::tests::refuse("read", "lecture.latest", 1000);
+
+        QVERIFY(files().moveFrom(folder()));
+        tarvelo::tests::refuseNothing();
+
+        const auto all = files().all().value();
+        QCOMPARE(all.size(), 1);
+        QCOMPARE(all[0].journal.journal.notes, LeftStage::journal().notes);
+        QVERIFY(QFile::exists(folder() + u"/unread"_s));
     }
 
     void aTakeUnderTheNameIsNotWrittenOver()

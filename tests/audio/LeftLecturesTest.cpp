@@ -328,6 +328,28 @@ private Q_SLOTS:
         QCOMPARE(m_stage->left.journalOf(lecture), u"other"_s);
     }
 
+    // The lecture was stored while its recording could not be moved, and another got its place.
+    void theRowFollowsItsRecordingToAnotherPlace()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->locations.getAudioSavePath();
+        m_stage->database.insertIntoDbwithSqlStatementWithArguments(
+            tarvelo::store::statements::Insert, journal.row());
+        m_stage->leaveTake();
+        m_stage->leaveJournal(journal);
+        m_stage->setAside();
+        m_stage->left.rowIsStored(journal.id, 1);
+        LeftStage::write(journal.target, "another's");
+
+        m_stage->left.storeOwed();
+
+        QCOMPARE(m_stage->rows().size(), 1);
+        const QString path = m_stage->rows().first()["audioFileFullPath"_L1].toString();
+        QVERIFY(path != journal.target && QFile::exists(path));
+        QCOMPARE(m_stage->left.owed(), 0);
+    }
+
     void textsThatCouldNotBeWrittenDownAreStored()
     {
         LectureJournal journal = LeftStage::journal();

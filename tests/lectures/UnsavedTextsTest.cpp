@@ -48,6 +48,19 @@ private Q_SLOTS:
         QCOMPARE(everything(), QStringList{u"Waves: Pipes and strings"_s});
     }
 
+    // As when the write that failed first did so at its last step only.
+    void theLastTextsCountAlsoWhereTheEarlierOnesAreStored()
+    {
+        const auto lecture = stored("");
+        m_texts->keep(lecture, u"Waves"_s, u"Pipes"_s);
+        QVERIFY(m_database->openDb()->executeNonQuery(u"UPDATE audioData SET notes = 'Pipes'"_s));
+        m_texts->keep(lecture, u"Waves"_s, u"Pipes and strings"_s);
+
+        m_clock.advance(10s);
+
+        QCOMPARE(everything(), QStringList{u"Waves: Pipes and strings"_s});
+    }
+
     void whatWasSavedOtherwiseIsForgotten()
     {
         const auto lecture = stored("");

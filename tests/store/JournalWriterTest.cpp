@@ -105,6 +105,19 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList());
     }
 
+    // As on a full disk: what stands there is replaced, not emptied first.
+    void whereTheLastContentCannotBeWrittenTheOneBeforeStays()
+    {
+        LectureJournal journal{.id = u"1"_s, .notes = u"Lenses"_s, .version = 1};
+        QVERIFY(writeLatest(path(), toBytes(journal)));
+        QVERIFY(QDir(m_folder->path()).mkdir(u"."_s + QFileInfo(latestOf(path())).fileName()));
+
+        journal.notes = u"Huygens"_s;
+        QVERIFY(!writeLatest(path(), toBytes(journal)));
+
+        QCOMPARE(readLatest(path()).file.journal.notes, u"Lenses"_s);
+    }
+
     void aMarkIsMadeAlsoWhenThereWasNoJournal()
     {
         JournalWriter writer(path());
