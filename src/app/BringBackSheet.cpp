@@ -188,9 +188,8 @@ std::optional<store::LecturesBack> BringBackSheet::bringBackRow(int row)
         return count ? std::optional(store::LecturesBack{.count = *count}) : std::nullopt;
     }
     store::Sqlite *const database = m_database.openToWrite();
-    const auto back = database
-                          ? m_database.backups().bringBack(m_copies.at(row).filePath, *database)
-                          : std::nullopt;
+    auto back = database ? m_database.backups().bringBack(m_copies.at(row).filePath, *database)
+                         : std::nullopt;
     // Some of the recordings may have their lectures again.
     if (back)
         m_recordings.search();
