@@ -37,9 +37,8 @@ class Typing:
     def last(self):
         return self.seen[-1][1]
 
-    def lost(self, journal, ended):
-        """How old the oldest is that was typed by then and is not in the journal; fails when it is a time tag."""
-        kept = _journal(journal).get("notes", "")
+    def lost(self, kept, ended):
+        """How old the oldest is that was typed by then and was not kept; fails when it is a time tag."""
         missing = sorted(set(TIME_TAG.findall(self.last)) - set(TIME_TAG.findall(kept)))
         if missing:
             raise Failed(f"the time tags {missing} are lost")
@@ -58,7 +57,8 @@ class Trial:
 
     def at_any_instant(self, number, how, moment):
         """Gives what of the sound and how many seconds of typing are not on the disk. Every other one sets time tags, every third one pauses."""
-        self._prepare(f"Lecture {number}")
+        slow = killed.slow_disk(self._tools, number)
+        self._prepare(f"Lecture {number}", **slow)
         typing = Typing(self._sitting)
         pieces = []
         killer = None
@@ -73,8 +73,8 @@ class Trial:
                 raise
         killer.join()
         pieces[-1][1] = pieces[-1][1] or killer.heard
-        return self._judged(f"kill {number} of the program ({how.name} at {moment:.2f} s)", how, lambda: (
-            killed.lost_of(self._played, self._take(), killer, pieces), typing.lost(self._journal, killer.ended)))
+        return self._judged(f"kill {number} of the program ({how.name} at {moment:.2f} s{', slow disk' if slow else ''})", how, lambda: (
+            killed.lost_of(self._played, self._take(), killer, pieces), typing.lost(self._notes_kept(), killer.ended)))
 
     def during_done(self, number, how, stops):
         """The same; once Done was seen to be taken both have to be nothing."""
@@ -139,6 +139,12 @@ class Trial:
     def _take(self):
         found = [name for name in os.listdir(self._temp) if name.startswith("tempAudioFile")] if os.path.isdir(self._temp) else []
         return killed.take_of(os.path.join(self._temp, found[0])) if found else student.NOTHING
+
+    def _notes_kept(self):
+        """By the next start, which moves what was left aside."""
+        self._student.told("later", "offered")
+        left = sorted(name for name in os.listdir(self._temp) if name.startswith("leftover-") and name.endswith(".journal"))
+        return _journal(os.path.join(self._temp, left[-1])).get("notes", "") if left else ""
 
     def _judged(self, words, how, judge):
         try:
