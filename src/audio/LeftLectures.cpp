@@ -109,8 +109,9 @@ bool LeftLectures::decide(Left &left)
 {
     left.journal.isDone = true;
     left.journal.lastRow = lastRow();
-    if (left.journal.id.isEmpty())
-        left.journal.id = LectureJournal::idOf(m_dates.now());
+    // One that nobody else has, also where a journal is missing, or has the ID of another.
+    if (left.journal.id.isEmpty() || m_rows.contains(left.journal.id))
+        left.journal.id = QFileInfo(left.journalPath).completeBaseName();
     return choosePlace(left);
 }
 

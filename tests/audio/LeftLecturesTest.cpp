@@ -350,6 +350,42 @@ private Q_SLOTS:
         QCOMPARE(m_stage->left.owed(), 0);
     }
 
+    // The first one's journal is gone, and the clock says what the other one's ID says.
+    void whatIsKeptInOneMomentIsNotTakenForEachOther_data()
+    {
+        QTest::addColumn<bool>("hasJournal");
+        QTest::newRow("with an equal journal") << true;
+        QTest::newRow("without a journal") << false;
+    }
+    void whatIsKeptInOneMomentIsNotTakenForEachOther()
+    {
+        QFETCH(bool, hasJournal);
+        LectureJournal journal = LeftStage::journal();
+        journal.id = LectureJournal::idOf(m_stage->clock.now());
+        for (const char *name : {"leftover-20240303T080000000", "leftover-20240304T080000000"}) {
+            m_stage->leaveTake();
+            QVERIFY(
+                QFile::rename(m_stage->takePath(), m_stage->file(name) + u'.' +
+                                                       QFileInfo(m_stage->takePath()).suffix()));
+        }
+        if (hasJournal)
+            LeftStage::write(m_stage->file("leftover-20240303T080000000.journal"),
+                             tarvelo::store::toBytes(journal));
+        LeftStage::write(m_stage->file("leftover-20240304T080000000.journal"),
+                         tarvelo::store::toBytes(journal));
+        m_stage->setAside();
+
+        const auto lectures = m_stage->left.undecided();
+        QCOMPARE(lectures.size(), 2);
+        for (const auto &left : lectures)
+            QVERIFY(m_stage->left.keep(left) == LeftLectures::Kept::Stored);
+
+        QCOMPARE(m_stage->rows().size(), 2);
+        QVERIFY(m_stage->rows().at(0)["audioFileFullPath"_L1] !=
+                m_stage->rows().at(1)["audioFileFullPath"_L1]);
+        QCOMPARE(m_stage->rows().at(1)["notes"_L1], u"Huygens"_s);
+    }
+
     void textsThatCouldNotBeWrittenDownAreStored()
     {
         LectureJournal journal = LeftStage::journal();
