@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <chrono>
@@ -27,14 +28,21 @@ std::atomic<bool> g_doWritesFail = false;
 std::atomic<bool> g_isDiskBusy = false;
 std::atomic<bool> g_isSyncWaiting = false;
 
-void forgetContent(int file)
+// Only what comes behind is lost.
+std::atomic<off_t> g_sizeOnDisk = 0;
+
+off_t sizeOf(int file)
 {
     struct stat status = {};
-    if (::fstat(file, &status) == 0 && S_ISREG(status.st_mode)) {
-        const std::string path = "/proc/self/fd/" + std::to_string(file);
-        ::truncate(path.c_str(), 0);
-        ::truncate(path.c_str(), status.st_size);
-    }
+    return ::fstat(file, &status) == 0 && S_ISREG(status.st_mode) ? status.st_size : 0;
+}
+
+void forgetContent(int file)
+{
+    const off_t size = sizeOf(file);
+    const std::string path = "/proc/self/fd/" + std::to_string(file);
+    ::truncate(path.c_str(), std::min<off_t>(size, g_sizeOnDisk));
+    ::truncate(path.c_str(), size);
 }
 
 } // namespace
@@ -43,8 +51,12 @@ extern "C" __attribute__((used)) int fdatasync(int file)
 {
     g_isSyncWaiting = g_isDiskBusy.load();
     g_isDiskBusy.wait(true);
-    if (g_syncsFailing <= 0)
-        return static_cast<int>(::syscall(SYS_fdatasync, file));
+    if (g_syncsFailing <= 0) {
+        const off_t size = sizeOf(file);
+        const auto result = static_cast<int>(::syscall(SYS_fdatasync, file));
+        g_sizeOnDisk = result == 0 ? size : g_sizeOnDisk.load();
+        return result;
+    }
     --g_syncsFailing;
     g_doWritesFail = true;
     forgetContent(file);
@@ -174,6 +186,7 @@ private:
     {
         const QTemporaryDir folder;
         QFile file(folder.filePath(QStringLiteral("take.m4a")));
+        g_sizeOnDisk = 0;
         const auto encoder = AacEncoder::create({});
         const auto take = FragmentedFile::create(
             OutputFile::create(QFile::encodeName(file.fileName()).toStdString()), encoder->codec());
