@@ -207,6 +207,27 @@ private Q_SLOTS:
                  QByteArray("a take"));
     }
 
+    void whatIsChangedInOneWhoseJournalCannotBeWrittenIsStoredWithIt()
+    {
+        m_program->showDay(m_program->today());
+        m_program->recordNewLecture(3);
+        subject().setText(u"Optics"_s);
+        auto other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
+        QVERIFY(other->beginTransaction());
+        controller().journal().flush();
+        refuse("pwrite", ".journal.spare", 1000, ENOSPC);
+        m_program->finishNewLecture();
+
+        m_program->change(0, u"wave optics"_s, u"Huygens"_s);
+        QVERIFY(other->rollback());
+        other.reset();
+        m_program->clock.advance(10s);
+        refuseNothing();
+        m_program->clock.advance(10s);
+
+        QCOMPARE(m_program->storedTexts(), QStringList{u"wave optics: Huygens"_s});
+    }
+
     // It is not seen for a moment, and its lecture is stored without it.
     void aTakeThatWasOverlookedIsNotWrittenOver()
     {
