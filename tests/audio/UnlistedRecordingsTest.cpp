@@ -167,13 +167,7 @@ private Q_SLOTS:
     void aRecordingWhoseRowIsStillToBeStoredIsNotOffered()
     {
         put("Audio - 1.m4a", m_sound);
-        LectureJournal journal;
-        journal.isDone = true;
-        journal.target = folder() + u"//Audio - 1.m4a"_s;
-        QDir().mkpath(m_places->folder() + u"/temp"_s);
-        QFile file(m_places->folder() + u"/temp/lecture.journal"_s);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(toBytes(journal)) > 0);
-        file.close();
+        promiseIn(u"/temp/lecture.journal"_s);
 
         QCOMPARE(found(), 0);
     }
@@ -193,12 +187,7 @@ private Q_SLOTS:
     void aTakeIsNotReadForAJournal()
     {
         put("Audio - 1.m4a", m_sound);
-        LectureJournal journal;
-        journal.target = folder() + u"//Audio - 1.m4a"_s;
-        QDir().mkpath(m_places->folder() + u"/temp"_s);
-        QFile file(m_places->folder() + u"/temp/tempAudioFile.m4a"_s);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(toBytes(journal)) > 0);
-        file.close();
+        promiseIn(u"/temp/tempAudioFile.m4a"_s);
 
         QCOMPARE(found(), 1);
     }
@@ -285,6 +274,16 @@ private:
 
     QString root() const { return m_places->places().applicationSupport; }
     QString folder() const { return root() + u"/Tarvelo/Audio"_s; }
+    // A journal of that name promises the first recording to a lecture.
+    void promiseIn(const QString &name) const
+    {
+        LectureJournal journal;
+        journal.isDone = true;
+        journal.target = folder() + u"//Audio - 1.m4a"_s;
+        QDir().mkpath(m_places->folder() + u"/temp"_s);
+        QFile file(m_places->folder() + name);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(toBytes(journal)) > 0);
+    }
     void put(const char *name, const QByteArray &content,
              const QDate &day = QDate(2024, 3, 1)) const
     {

@@ -187,10 +187,8 @@ private Q_SLOTS:
         tarvelo::tests::aLecture().named("earlier").insertInto(m_program->database);
         m_program->recordNewLecture(3);
         subject().setText(u"Optics"_s);
-        auto other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
-        QVERIFY(other->beginTransaction());
-        controller().journal().flush();
-        refuse("pwrite", ".journal.spare", 1000, ENOSPC);
+        auto other = lockAndRefuseJournals();
+        QVERIFY(other);
 
         m_program->finishNewLecture();
         m_program->recordNewLecture(4);
@@ -212,10 +210,8 @@ private Q_SLOTS:
         m_program->showDay(m_program->today());
         m_program->recordNewLecture(3);
         subject().setText(u"Optics"_s);
-        auto other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
-        QVERIFY(other->beginTransaction());
-        controller().journal().flush();
-        refuse("pwrite", ".journal.spare", 1000, ENOSPC);
+        auto other = lockAndRefuseJournals();
+        QVERIFY(other);
         m_program->finishNewLecture();
 
         m_program->change(0, u"wave optics"_s, u"Huygens"_s);
@@ -338,6 +334,16 @@ private:
             if (contentOf(files.next()).contains(content))
                 return true;
         return false;
+    }
+    // Neither a row nor a journal can be written until it is gone, and refuseNothing() was called.
+    std::unique_ptr<tarvelo::store::Sqlite> lockAndRefuseJournals()
+    {
+        auto other = std::make_unique<tarvelo::store::Sqlite>(m_program->places.databaseFile());
+        if (!other->beginTransaction())
+            return nullptr;
+        controller().journal().flush();
+        refuse("pwrite", ".journal.spare", 1000, ENOSPC);
+        return other;
     }
     void leaveTakeAndJournal() const { leaveTakeAndJournal(folder()); }
     static void leaveTakeAndJournal(const QString &folder)
