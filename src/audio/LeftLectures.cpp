@@ -8,6 +8,7 @@
 #include "platform/DurableMove.h"
 #include "platform/SteadyFile.h"
 #include "platform/SureReading.h"
+#include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
@@ -110,7 +111,8 @@ bool LeftLectures::decide(Left &left)
     left.journal.isDone = true;
     left.journal.lastRow = lastRow();
     // One that nobody else has, also where a journal is missing, or has the ID of another.
-    if (left.journal.id.isEmpty() || m_rows.contains(left.journal.id))
+    if (left.journal.id.isEmpty() || m_rows.contains(left.journal.id) ||
+        m_gone.contains(left.journal.id))
         left.journal.id = QFileInfo(left.journalPath).completeBaseName();
     return choosePlace(left);
 }
@@ -189,9 +191,15 @@ std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) con
 // just now.
 std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
 {
+    // Opened first, since that tells what has gone.
     store::Sqlite *const database = m_database.openToWrite();
     if (!database)
         return std::nullopt;
+    // It is in a copy, and comes back from there.
+    if (m_gone.contains(left.journal.id) && left.takePath.isEmpty()) {
+        platform::SteadyFile(left.journalPath).remove();
+        return std::nullopt;
+    }
     const auto insert = [&] {
         return database->executeNonQueryArguments(store::statements::Insert, left.journal.row());
     };
@@ -225,6 +233,16 @@ void LeftLectures::rowIsStored(const QString &id, qint64 row)
         [row](const std::pair<const QString &, qint64 &> &stored) { return stored.second == row; });
     if (!id.isEmpty())
         m_rows.insert(id, row);
+}
+
+void LeftLectures::lecturesHaveGone(const store::GoneLectures &gone)
+{
+    m_rows.removeIf([&](const std::pair<const QString &, qint64 &> &stored) {
+        if (!gone.has(stored.second))
+            return false;
+        m_gone.insert(stored.first);
+        return true;
+    });
 }
 
 QString LeftLectures::journalOf(const store::LectureInfoItem &lecture) const

@@ -4,6 +4,7 @@
 #include "store/LectureJournal.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <functional>
 
@@ -13,6 +14,7 @@ class Dates;
 namespace tarvelo::store {
 class LectureDatabase;
 class LectureInfoItem;
+struct GoneLectures;
 } // namespace tarvelo::store
 
 namespace tarvelo::audio {
@@ -69,6 +71,9 @@ public:
     QString journalOf(const store::LectureInfoItem &lecture) const;
     // The row of this journal's lecture is stored: it is no other journal's.
     void rowIsStored(const QString &id, qint64 row);
+    // Their IDs are not theirs any more. Journals of theirs that are there all the same have
+    // nothing left to do, unless their recording was not moved yet.
+    void lecturesHaveGone(const store::GoneLectures &gone);
 
     struct Stored
     {
@@ -107,6 +112,7 @@ private:
     const platform::Dates &m_dates;
     store::LectureDatabase &m_database;
     QHash<QString, qint64> m_rows;    // stored by this process, by the journal's ID
+    QSet<QString> m_gone;             // that were stored by this process
     std::optional<LeftFiles> m_files; // null until a folder is ours
 };
 

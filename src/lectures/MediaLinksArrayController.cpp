@@ -293,6 +293,7 @@ void MediaLinksArrayController::lecturesHaveGone(const store::GoneLectures &gone
 {
     for (const Lecture &lecture : m_dayList.arrangedObjects())
         gone.mark(*lecture);
+    m_left.lecturesHaveGone(gone);
     m_editing.lecturesHaveGone(gone);
 }
 

@@ -10,6 +10,7 @@ using tarvelo::store::JournalFile;
 using tarvelo::store::LectureJournal;
 using tarvelo::tests::LeftStage;
 using tarvelo::tests::refuse;
+using tarvelo::tests::RefusedInTurn;
 
 class LeftFilesTest final : public tarvelo::tests::TestCase
 {
@@ -100,25 +101,23 @@ private Q_SLOTS:
 
     void whicheverCallFailsOnceWhatIsAheadOfTheJournalIsThereOnce()
     {
-        bool wasRefused = true;
-        int call = 1;
-        for (; wasRefused; ++call) {
+        RefusedInTurn calls("/temp");
+        while (calls.areLeft()) {
             finish();
             prepare();
             leaveLatest();
 
-            tarvelo::tests::refuseCall(call, "/temp");
+            calls.refuse();
             static_cast<void>(files().moveFrom(folder()));
-            wasRefused = tarvelo::tests::callsUntilRefusal() == 0;
-            tarvelo::tests::refuseNothing();
+            calls.allow();
 
             QVERIFY(files().moveFrom(folder()));
             const auto all = files().all().value();
-            QVERIFY2(all.size() == 1, qPrintable(QString::number(call)));
+            QVERIFY2(all.size() == 1, calls.which());
             QCOMPARE(all[0].journal.journal.notes, u"Fresnel"_s);
             QVERIFY(!all[0].takePath.isEmpty());
         }
-        QVERIFY(call > 10);
+        QVERIFY2(calls.count() > 10, calls.which());
     }
 
     void whatIsAheadAndStaysUnreadableKeepsNothingElseBack()

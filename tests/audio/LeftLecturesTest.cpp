@@ -2,8 +2,9 @@
 
 #include "audio/AudioFileLocations.h"
 #include "audio/LeftStage.h"
-#include "store/LectureInfoItem.h"
+#include "store/GoneLectures.h"
 #include "support/DecodedAudio.h"
+#include "support/LectureBuilder.h"
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
@@ -11,10 +12,12 @@ using namespace Qt::StringLiterals;
 using tarvelo::audio::LeftLectures;
 using tarvelo::store::LectureInfoItem;
 using tarvelo::store::LectureJournal;
+using tarvelo::tests::aLecture;
 using tarvelo::tests::DecodedAudio;
 using tarvelo::tests::LeftStage;
 using tarvelo::tests::MovieFacts;
 using tarvelo::tests::refuse;
+using tarvelo::tests::RefusedInTurn;
 
 class LeftLecturesTest final : public tarvelo::tests::TestCase
 {
@@ -328,6 +331,57 @@ private Q_SLOTS:
         QCOMPARE(m_stage->left.journalOf(lecture), u"other"_s);
     }
 
+    void theJournalOfARowThatWentIsNotThatOfTheNextOneWithItsId()
+    {
+        LectureInfoItem lecture({}, {}, {}, {}, true);
+        lecture.setRecordUniqueID(7);
+        m_stage->left.rowIsStored(u"one"_s, 7);
+        m_stage->left.rowIsStored(u"other"_s, 8);
+
+        m_stage->left.lecturesHaveGone({.copyPath = u"copy"_s, .ids = QSet<qint64>{7}});
+
+        QCOMPARE(m_stage->left.journalOf(lecture), QString());
+        lecture.setRecordUniqueID(8);
+        QCOMPARE(m_stage->left.journalOf(lecture), u"other"_s);
+    }
+
+    // It could not be removed when the row was stored, and then the row went to a copy.
+    void theJournalOfARowThatWentHasNothingLeftToDo()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->locations.getAudioSavePath();
+        m_stage->leaveJournal(journal);
+        m_stage->setAside();
+        m_stage->left.rowIsStored(journal.id, 1);
+        m_stage->left.lecturesHaveGone({.copyPath = u"copy"_s});
+        aLecture().named("Newcomer").withAudio(u"newcomer.m4a"_s).insertInto(m_stage->database);
+
+        int stored = 0;
+        m_stage->left.storeOwed([&stored](const LeftLectures::Stored &) { ++stored; });
+
+        QCOMPARE(stored, 0);
+        QCOMPARE(m_stage->names(), QStringList());
+        QCOMPARE(m_stage->rows().size(), 1);
+        QCOMPARE(m_stage->rows()[0]["audioFileFullPath"_L1], u"newcomer.m4a"_s);
+    }
+
+    void aRowThatWentBeforeItsRecordingWasMovedIsStoredAgain()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->locations.getAudioSavePath();
+        m_stage->leaveTake();
+        m_stage->leaveJournal(journal);
+        m_stage->setAside();
+        m_stage->left.rowIsStored(journal.id, 1);
+        m_stage->left.lecturesHaveGone({.copyPath = u"copy"_s});
+
+        m_stage->left.storeOwed();
+
+        m_stage->expectOneKeptLecture();
+    }
+
     // The lecture was stored while its recording could not be moved, and another got its place.
     void theRowFollowsItsRecordingToAnotherPlace()
     {
@@ -404,9 +458,8 @@ private Q_SLOTS:
     // An insert of which the last step failed only.
     void aRowThatIsThereAlthoughItsInsertFailedIsItsOwn()
     {
-        bool wasRefused = true;
-        int call = 1;
-        for (; wasRefused; ++call) {
+        RefusedInTurn calls("/Tarvelo");
+        while (calls.areLeft()) {
             finish();
             prepare();
             LectureJournal journal = LeftStage::journal();
@@ -414,19 +467,18 @@ private Q_SLOTS:
             m_stage->leaveJournal(journal);
             m_stage->setAside();
             QVERIFY(m_stage->database.openDb());
-            tarvelo::tests::refuseCall(call, "/Tarvelo");
+            calls.refuse();
             bool isStored = false;
             const auto hear = [&isStored](const LeftLectures::Stored &) { isStored = true; };
             m_stage->left.storeOwed(hear);
-            wasRefused = tarvelo::tests::callsUntilRefusal() == 0;
-            tarvelo::tests::refuseNothing();
+            calls.allow();
 
-            QVERIFY2(m_stage->rows().isEmpty() == !isStored, qPrintable(QString::number(call)));
+            QVERIFY2(m_stage->rows().isEmpty() == !isStored, calls.which());
             m_stage->left.storeOwed(hear);
             QCOMPARE(m_stage->rows().size(), 1);
             QVERIFY(isStored);
         }
-        QVERIFY(call > 10);
+        QVERIFY2(calls.count() > 10, calls.which());
     }
 
     void twoOfTheSameNotesAndDayAreTwo()

@@ -9,6 +9,7 @@ using namespace std::chrono_literals;
 using tarvelo::lectures::Lecture;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::LectureProgram;
+using tarvelo::tests::RefusedInTurn;
 
 // A failed write empties the table, while the list goes on showing the lectures that were in it.
 class EmptiedTableTest final : public tarvelo::tests::TestCase
@@ -165,15 +166,12 @@ private Q_SLOTS:
     // They may be gone though the delete failed, since only its last step did.
     void whicheverCallFailsOnceInADeleteTheOthersAreNotTakenForTheNextOne()
     {
-        bool wasRefused = true;
-        int call = 0;
-        while (wasRefused) {
+        RefusedInTurn calls("/Tarvelo");
+        while (calls.areLeft()) {
             finish();
             prepare();
-            ++call;
-            loseTwoByADelete([&] { tarvelo::tests::refuseCall(call, "/Tarvelo"); });
-            wasRefused = tarvelo::tests::callsUntilRefusal() == 0;
-            tarvelo::tests::refuseNothing();
+            loseTwoByADelete([&calls] { calls.refuse(); });
+            calls.allow();
             saveNewcomer();
 
             m_program->change(static_cast<int>(m_program->subjectsShown().indexOf(u"Optics"_s)),
@@ -184,34 +182,31 @@ private Q_SLOTS:
             lectures.sort();
             QVERIFY2(lectures == QStringList({u"Logic: notes"_s, u"Newcomer: "_s,
                                               u"wave optics: Huygens"_s}),
-                     qPrintable(u"call %1: "_s.arg(call) + lectures.join(u", "_s)));
+                     calls.which() + lectures.join(u", "_s).toUtf8());
         }
-        QVERIFY(call > 20);
+        QVERIFY2(calls.count() > 20, calls.which());
     }
 
     // A row may be there though its insert failed, since only the last step did.
     void whicheverCallFailsOnceBothLecturesAreThereOnce()
     {
-        bool wasRefused = true;
-        int call = 0;
-        while (wasRefused) {
+        RefusedInTurn calls("/Tarvelo");
+        while (calls.areLeft()) {
             finish();
             prepare();
-            ++call;
             aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
-            tarvelo::tests::refuseCall(call, "/Tarvelo");
+            calls.refuse();
             saveNewcomer();
-            wasRefused = tarvelo::tests::callsUntilRefusal() == 0;
-            tarvelo::tests::refuseNothing();
+            calls.allow();
             m_program->clock.advance(30s);
 
             bringEverythingBack();
             QStringList lectures = m_program->storedTexts();
             lectures.sort();
             QVERIFY2(lectures == QStringList({u"Newcomer: "_s, u"Optics: Lenses"_s}),
-                     qPrintable(u"call %1: "_s.arg(call) + lectures.join(u", "_s)));
+                     calls.which() + lectures.join(u", "_s).toUtf8());
         }
-        QVERIFY(call > 20);
+        QVERIFY2(calls.count() > 20, calls.which());
     }
 
     // The table is not emptied, and so nothing has gone.

@@ -7,6 +7,7 @@ using namespace std::chrono_literals;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::LectureBuilder;
 using tarvelo::tests::LectureProgram;
+using tarvelo::tests::RefusedInTurn;
 
 // Lectures that went come back while they are open, under their own ID or another, and what is
 // saved then goes to them and to no other.
@@ -96,26 +97,23 @@ private Q_SLOTS:
     // They may be back though that failed, since only its last step did.
     void whicheverCallFailsOnceTheOpenLectureIsSavedOnce()
     {
-        bool wasRefused = true;
-        int call = 0;
-        while (wasRefused) {
+        RefusedInTurn calls("/Tarvelo");
+        while (calls.areLeft()) {
             finish();
             prepare();
-            ++call;
             openAndLoseToANewcomer(aLecture().named("Optics").withNotes(u"Lenses"_s));
-            tarvelo::tests::refuseCall(call, "/Tarvelo");
+            calls.refuse();
             bringBack(newestCopy());
-            wasRefused = tarvelo::tests::callsUntilRefusal() == 0;
-            tarvelo::tests::refuseNothing();
+            calls.allow();
 
             m_program->finishEdit(u"wave optics"_s, u"Huygens"_s);
             m_program->clock.advance(20s);
             bringEverythingBack();
 
             QVERIFY2(sortedTexts() == QStringList({u"Newcomer: "_s, u"wave optics: Huygens"_s}),
-                     qPrintable(u"call %1: "_s.arg(call) + sortedTexts().join(u", "_s)));
+                     calls.which() + sortedTexts().join(u", "_s).toUtf8());
         }
-        QVERIFY(call > 20);
+        QVERIFY2(calls.count() > 20, calls.which());
     }
 
 private:

@@ -13,6 +13,7 @@ using namespace std::chrono_literals;
 using tarvelo::store::LectureJournal;
 using tarvelo::tests::LectureProgram;
 using tarvelo::tests::refuse;
+using tarvelo::tests::RefusedInTurn;
 using tarvelo::tests::refuseNothing;
 
 class OccupiedPlaceTest final : public tarvelo::tests::TestCase
@@ -54,60 +55,51 @@ private Q_SLOTS:
 
     void whicheverCallFailsOnceAtStartBothLecturesAreThere()
     {
-        bool isThrough = false;
-        int call = 0;
-        while (!isThrough) {
-            ++call;
+        RefusedInTurn calls("/Tarvelo/temp");
+        while (calls.areLeft()) {
             prepare();
             leaveTakeAndJournal();
-            tarvelo::tests::refuseCall(call, "/Tarvelo/temp");
+            calls.refuse();
             m_program->showDay(m_program->today());
-            isThrough = tarvelo::tests::callsUntilRefusal() > 0;
-            refuseNothing();
+            calls.allow();
 
             m_program->recordNewLecture(3);
             subject().setText(u"Acoustics"_s);
             m_program->finishNewLecture();
             m_program->clock.advance(10s);
 
-            const QString number = QString::number(call);
-            QVERIFY2(foundInHome(takeBytes()), qPrintable(number));
-            QVERIFY2(foundInHome("wave optics"), qPrintable(number));
+            QVERIFY2(foundInHome(takeBytes()), calls.which());
+            QVERIFY2(foundInHome("wave optics"), calls.which());
             const auto rows = m_program->storedRows();
-            QVERIFY2(rows.size() == 1, qPrintable(number));
+            QVERIFY2(rows.size() == 1, calls.which());
             QVERIFY2(contentOf(rows[0]["audioFileFullPath"_L1].toString()) == "a take",
-                     qPrintable(number));
+                     calls.which());
         }
-        QVERIFY2(call > 20, qPrintable(QString::number(call)));
+        QVERIFY2(calls.count() > 20, calls.which());
     }
 
     void whicheverCallFailsOnceWhileItIsKeptTheLectureIsThere()
     {
-        bool isThrough = false;
-        int call = 0;
-        while (!isThrough) {
-            ++call;
+        RefusedInTurn calls("/Tarvelo/");
+        while (calls.areLeft()) {
             prepare();
             m_program->showDay(m_program->today());
             m_program->recordNewLecture(3);
             write(controller().tempAudioSavePath(), takeBytes());
             subject().setText(u"Acoustics"_s);
             controller().journal().flush();
-            tarvelo::tests::refuseCall(call, "/Tarvelo/");
+            calls.refuse();
             m_program->finishNewLecture();
-            isThrough = tarvelo::tests::callsUntilRefusal() > 0;
-            refuseNothing();
+            calls.allow();
 
             m_program->recordNewLecture(4);
             m_program->clock.advance(10s);
 
-            const QString number = QString::number(call);
-            QVERIFY2(foundInHome(takeBytes()), qPrintable(number));
+            QVERIFY2(foundInHome(takeBytes()), calls.which());
             const auto rows = m_program->storedRows();
-            QVERIFY2(rows.size() == 1 && rows[0]["subject"_L1] == u"Acoustics"_s,
-                     qPrintable(number));
+            QVERIFY2(rows.size() == 1 && rows[0]["subject"_L1] == u"Acoustics"_s, calls.which());
         }
-        QVERIFY2(call > 60, qPrintable(QString::number(call)));
+        QVERIFY2(calls.count() > 60, calls.which());
     }
 
     void withoutARoomOfItsOwnEitherNothingIsWrittenOver()

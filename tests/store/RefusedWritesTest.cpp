@@ -35,8 +35,8 @@ private Q_SLOTS:
         QFETCH(bool, idIsGivenAgain);
         QFETCH(bool, isRefusedOtherwise);
         QFETCH(bool, canBeCopied);
-        int calls = 0;
-        do {
+        RefusedInTurn calls("/Tarvelo");
+        while (calls.areLeft()) {
             startAnew();
             aLecture().named("Optics").insertInto(*m_database);
             if (idIsGivenAgain)
@@ -46,22 +46,21 @@ private Q_SLOTS:
             if (!canBeCopied)
                 blockCopies();
 
-            refuseCall(++calls, "/Tarvelo");
+            calls.refuse();
             const bool isStored = m_database->insertIntoDbwithSqlStatementWithArguments(
                 statements::Insert, newcomer());
-            m_wasRefused = callsUntilRefusal() == 0;
-            refuseNothing();
+            calls.allow();
             m_database->openToWrite();
 
             const bool isThere = subjects().contains(u"Optics"_s);
-            QVERIFY2(m_told.size() == (isThere ? 0 : 1), qPrintable(QString::number(calls)));
+            QVERIFY2(m_told.size() == (isThere ? 0 : 1), calls.which());
             bringBack();
             QCOMPARE(subjects().count(u"Optics"_s), 1);
             const auto newcomers = subjects().count(u"Newcomer"_s);
             QVERIFY2(newcomers == 1 || (newcomers == 0 && !isStored),
-                     qPrintable(QString::number(calls) + u": "_s + subjects().join(u", "_s)));
-        } while (m_wasRefused);
-        QVERIFY(calls > 15);
+                     calls.which() + subjects().join(u", "_s).toUtf8());
+        }
+        QVERIFY2(calls.count() > 15, calls.which());
     }
 
     // As long as it is not known nothing is written, since it would get their IDs.
@@ -157,7 +156,6 @@ private:
         return subjects;
     }
 
-    bool m_wasRefused = false;
     QList<GoneLectures> m_told;
     FakeClock m_clock;
     std::unique_ptr<TemporaryPlaces> m_places;

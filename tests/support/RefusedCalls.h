@@ -109,6 +109,38 @@ inline bool isRefused(const char *call, int file)
     return ::readlink(name, path, sizeof path - 1) > 0 && isRefused(call, path);
 }
 
+// Refuses one call about such a path after another, a run for each, and ends with a run in which no
+// call was left to be refused: for (RefusedInTurn calls("/temp"); calls.areLeft();).
+class RefusedInTurn final
+{
+public:
+    explicit RefusedInTurn(const char *path)
+        : m_path(path)
+    {
+    }
+
+    bool areLeft()
+    {
+        if (m_areLeft)
+            ++m_number;
+        return m_areLeft;
+    }
+    void refuse() const { refuseCall(m_number, m_path); }
+    void allow()
+    {
+        m_areLeft = callsUntilRefusal() == 0;
+        refuseNothing();
+    }
+    int count() const { return m_number; }
+    // For the message of a failure.
+    QByteArray which() const { return "call " + QByteArray::number(m_number) + ' '; }
+
+private:
+    const char *m_path;
+    int m_number = 0;
+    bool m_areLeft = true;
+};
+
 } // namespace tarvelo::tests
 
 #define REFUSABLE(result, name, parameters, arguments, about, failed)                              \
