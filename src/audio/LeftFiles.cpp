@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace tarvelo::audio {
 
@@ -45,6 +46,25 @@ QString baseOf(const QString &name)
 bool moveJournal(const QString &from, const QString &to)
 {
     return SteadyFile(from).renameTo(to) || SteadyFile(from).renameTo(to);
+}
+
+bool isUnreadable(const QString &journal)
+{
+    return store::readJournal(journal).state == JournalFile::State::Unreadable;
+}
+
+// Under a name that nobody looks for. What cannot be read cannot be synced either, and so the name
+// alone is.
+bool putAside(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString wish = file.path() + u'/' + LeftFiles::unreadBegin() + file.fileName();
+    QString aside = wish;
+    for (int number = 2; QFileInfo::exists(aside); ++number)
+        aside = wish + u'-' + QString::number(number);
+    return ::rename(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData()) ==
+               0 &&
+           platform::syncFolderOf(aside);
 }
 
 QStringList beginning(const QString &begin, QStringList names)
@@ -92,7 +112,21 @@ std::optional<QList<LeftFiles::Lecture>> LeftFiles::all() const
 
 bool LeftFiles::moveFrom(const QString &from) const
 {
-    return (from == m_folder || moveLeftovers(from)) && moveLecture(from);
+    return giveUpUnreadable(from) && giveUpUnreadable(m_folder) &&
+           (from == m_folder || moveLeftovers(from)) && moveLecture(from);
+}
+
+// The recording beside one that was not read for a day does not wait for it any longer.
+bool LeftFiles::giveUpUnreadable(const QString &from) const
+{
+    const auto names = namesIn(from);
+    for (const QString &name : names.value_or(QStringList())) {
+        const QFileInfo file(from + u'/' + name);
+        if (isJournal(name) && file.lastModified().daysTo(m_dates.now()) > 1 &&
+            isUnreadable(file.filePath()) && isUnreadable(file.filePath()))
+            putAside(file.filePath());
+    }
+    return names.has_value();
 }
 
 // Of a process that did not come to offer them, or to store them.
@@ -126,8 +160,8 @@ bool LeftFiles::moveLeftovers(const QString &from) const
     return isAllMoved;
 }
 
-// With what is ahead of it, durably; null when that cannot be had now. What stays unreadable is
-// kept under another name, lest the rest waits for it for ever.
+// With what is ahead of it, durably; null when that cannot be had now. What is ahead and stays
+// unreadable is put aside, lest the rest waits for it for ever.
 std::optional<JournalFile> LeftFiles::wholeJournal(const QString &path)
 {
     using State = JournalFile::State;
@@ -137,8 +171,7 @@ std::optional<JournalFile> LeftFiles::wholeJournal(const QString &path)
         found = store::readLatest(path);
     if (found.file.state == State::Unreadable) {
         found = {store::readJournal(path), false};
-        if (found.file.state == State::Unreadable ||
-            !platform::renameDurably(latest, QFileInfo(path).path() + QStringLiteral("/unread")))
+        if (found.file.state == State::Unreadable || !putAside(latest))
             return std::nullopt;
     }
     if (found.isAhead && !SteadyFile(path).replace(store::toBytes(found.file.journal)))
@@ -212,11 +245,17 @@ void LeftFiles::moveClosedFrom(const QString &from) const
 bool LeftFiles::moveTakes(const QStringList &takes, const QString &ofJournal,
                           const QString &name) const
 {
-    return std::ranges::all_of(takes, [&](const QString &take) {
-        const QString base = take == ofJournal ? name : freeName(momentName(), true);
+    const auto move = [this](const QString &take, const QString &base) {
         return !base.isEmpty() &&
                platform::renameDurably(take, pathOf(base + u'.' + QFileInfo(take).suffix()));
-    });
+    };
+    // Last the journal's own, lest another try takes a stray for it.
+    return std::ranges::all_of(takes,
+                               [&](const QString &take) {
+                                   return take == ofJournal ||
+                                          move(take, freeName(momentName(), true));
+                               }) &&
+           (ofJournal.isEmpty() || move(ofJournal, name));
 }
 
 // Nobody misses it, and it has no recording that an earlier try moved already.

@@ -20,6 +20,8 @@ public:
     // purpose.
     static QString journalName() { return QStringLiteral("lecture.journal"); }
     static QString closedMarkName() { return QStringLiteral("lecture.closed"); }
+    // What stays unreadable is put aside under a name that begins so.
+    static QString unreadBegin() { return QStringLiteral("unread-"); }
 
     // What was left is kept in `folder`; a take is called `takeName` and an extension. `dates`
     // outlives this object.
@@ -36,13 +38,15 @@ public:
 
     // Moves here what stands in `from`, which may be the same folder, of lectures that are not open
     // any more, unless they were left on purpose. False when something of them stands there still;
-    // to be tried again then.
+    // to be tried again then. A journal that cannot be read keeps its recording back for a day.
     bool moveFrom(const QString &from) const;
     // Moves a take that was left on purpose from another folder, where no lecture would replace it,
     // to where the next one will. Not while something stands here; another time then.
     void moveClosedFrom(const QString &from) const;
 
 private:
+    // False when the folder cannot be read now.
+    bool giveUpUnreadable(const QString &from) const;
     bool moveLeftovers(const QString &from) const;
     static std::optional<store::JournalFile> wholeJournal(const QString &path);
     bool moveLecture(const QString &from) const;

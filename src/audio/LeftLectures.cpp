@@ -14,6 +14,7 @@
 #include "store/Statements.h"
 #include "store/Tables.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -98,9 +99,16 @@ int LeftLectures::owed() const
 LeftLectures::Kept LeftLectures::keep(const Left &left)
 {
     Left kept = left;
-    if (kept.journal.day.isEmpty())
-        kept.journal.day = m_dates.format(m_dates.now(), DayFormat);
-    if (!decide(kept))
+    // An earlier try may have decided it without knowing, and it is stored by now.
+    const auto files = m_files ? m_files->all() : std::nullopt;
+    if (!files)
+        return Kept::Undecided;
+    const auto file = std::ranges::find(*files, left.journalPath, &LeftFiles::Lecture::journalPath);
+    if (file == files->end())
+        return Kept::Stored;
+    if (file->journal.journal.isDone)
+        kept = {file->journalPath, file->takePath, file->journal.journal};
+    else if (!decide(kept))
         return Kept::Undecided;
     return moveTake(kept) && store(kept) ? Kept::Stored : Kept::Later;
 }
@@ -110,10 +118,12 @@ bool LeftLectures::decide(Left &left)
 {
     left.journal.isDone = true;
     left.journal.lastRow = lastRow();
-    // One that nobody else has, also where a journal is missing, or has the ID of another.
-    if (left.journal.id.isEmpty() || m_rows.contains(left.journal.id) ||
-        m_gone.contains(left.journal.id))
-        left.journal.id = QFileInfo(left.journalPath).completeBaseName();
+    if (left.journal.day.isEmpty())
+        left.journal.day = m_dates.format(m_dates.now(), DayFormat);
+    // One that nobody else has: no two files have one name, and a name may have been another's.
+    left.journal.id = QFileInfo(left.journalPath).completeBaseName();
+    while (m_rows.contains(left.journal.id) || m_gone.contains(left.journal.id))
+        left.journal.id += u'+';
     return choosePlace(left);
 }
 
@@ -138,11 +148,15 @@ bool LeftLectures::moveTake(Left &left)
     engine::finishLeftTake(left.takePath);
     const QString &target = left.journal.target;
     // With its folder it may be missing; what is not known is not written over.
-    m_locations.getAudioFolderPath();
-    const auto isTaken = target.isEmpty() ? std::optional(true) : platform::isThere(target);
+    const QString folder = m_locations.getAudioFolderPath();
+    const QDir itsFolder = QFileInfo(target).dir();
+    const bool isElsewhere = itsFolder != QDir(folder) && !itsFolder.exists();
+    const auto isTaken =
+        target.isEmpty() || isElsewhere ? std::optional(true) : platform::isThere(target);
     if (!isTaken)
         return false;
-    // Who was interrupted between a copy on another disk and the end of the move left both.
+    // Who was interrupted between a copy on another disk and the end of the move left both. A home
+    // may have got another name since.
     const bool isFree = !*isTaken || platform::isCopyOf(target, left.takePath);
     return (isFree || choosePlace(left)) && platform::moveDurably(left.takePath, target);
 }
@@ -182,7 +196,7 @@ std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) con
     if (!rows || database->errorCode() != 0)
         return std::nullopt;
     for (const auto &row : *rows)
-        if (!journal.target.isEmpty() || !m_rows.values().contains(row.first().toLongLong()))
+        if (!m_rows.values().contains(row.first().toLongLong()))
             return row.first().toLongLong();
     return 0;
 }
@@ -298,7 +312,7 @@ std::optional<bool> LeftLectures::change(const QString &id, const QString &subje
 void LeftLectures::discard(const QString &id)
 {
     for (const Left &left : all())
-        if (left.journal.id == id)
+        if (left.journal.isDone && left.journal.id == id)
             discard(left);
 }
 

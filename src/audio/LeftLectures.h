@@ -63,7 +63,8 @@ public:
     Kept keep(const Left &left);
     void discard(const Left &left);
     // By the journal's ID, as long as its row is not stored. A change that could not be written
-    // down is false, one for which there is no such journal null.
+    // down is false, one for which there is no such journal null. What nobody has decided on has no
+    // ID yet.
     std::optional<bool> change(const QString &id, const QString &subject, const QString &notes);
     void discard(const QString &id);
     // Of the journal of a stored lecture, as far as it is known: of what this process stored, and

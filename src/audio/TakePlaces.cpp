@@ -72,8 +72,12 @@ void TakePlaces::addOwed(const store::LectureJournal &journal)
 {
     if (m_places.empty())
         return;
-    m_places.back().owed = journal;
-    m_places.back().isOccupied = true;
+    Place &place = m_places.back();
+    place.owed = journal;
+    // Nothing was recorded where no folder could be made.
+    if (!place.folder)
+        place.owed->take.clear();
+    place.isOccupied = true;
 }
 
 TakePlaces::Place *TakePlaces::placeOwing(const QString &id)

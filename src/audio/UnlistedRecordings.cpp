@@ -1,8 +1,10 @@
 #include "audio/UnlistedRecordings.h"
 
 #include "audio/DurationText.h"
+#include "audio/LeftFiles.h"
 #include "audio/RecordingDay.h"
 #include "platform/Dates.h"
+#include "platform/SureReading.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureJournal.h"
 #include "store/RecordingRows.h"
@@ -10,7 +12,6 @@
 #include "store/Tables.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
 
@@ -20,6 +21,24 @@
 namespace tarvelo::audio {
 
 namespace {
+
+const QStringList JournalEndings{QStringLiteral("journal"), QStringLiteral("closed"),
+                                 QStringLiteral("latest"), QStringLiteral("spare")};
+
+bool isJournal(const QString &name)
+{
+    return JournalEndings.contains(QFileInfo(name).suffix()) &&
+           !name.startsWith(LeftFiles::unreadBegin());
+}
+
+// Empty when it promises none, null when that cannot be read now.
+std::optional<QString> promisedBy(const QString &journal)
+{
+    const store::JournalFile found = store::readJournal(journal);
+    return found.state == store::JournalFile::State::Unreadable
+               ? std::nullopt
+               : std::optional(found.journal.target);
+}
 
 // The same for all ways to write a path to the same file.
 QString plain(const QString &path)
@@ -115,17 +134,24 @@ std::optional<QStringList> UnlistedRecordings::listed(const QStringList &names) 
 // a take says so, also what a death left half written. Null when one cannot be read now.
 std::optional<QStringList> UnlistedRecordings::promised() const
 {
-    QDirIterator files(QFileInfo(m_database.backups().folder()).path() + QStringLiteral("/temp"),
-                       {QStringLiteral("*.journal"), QStringLiteral("*.closed"),
-                        QStringLiteral("*.latest"), QStringLiteral("*.spare")},
-                       QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    const QString takes = QFileInfo(m_database.backups().folder()).path() + QStringLiteral("/temp");
+    QStringList folders{takes};
     QStringList paths = m_sources.promised();
-    while (files.hasNext()) {
-        const store::JournalFile found = store::readJournal(files.next());
-        if (found.state == store::JournalFile::State::Unreadable)
+    while (!folders.isEmpty()) {
+        const QString folder = folders.takeLast();
+        const auto names = platform::namesIn(folder);
+        if (!names && QFileInfo::exists(folder))
             return std::nullopt;
-        if (!found.journal.target.isEmpty())
-            paths.append(found.journal.target);
+        for (const QString &name : names.value_or(QStringList())) {
+            const QFileInfo file(folder + u'/' + name);
+            if (file.isDir())
+                folders.append(file.filePath());
+            const auto target = isJournal(name) ? promisedBy(file.filePath()) : QString();
+            if (!target)
+                return std::nullopt;
+            if (!target->isEmpty())
+                paths.append(*target);
+        }
     }
     return paths;
 }

@@ -47,8 +47,8 @@ LectureJournalKeeper::~LectureJournalKeeper()
 void LectureJournalKeeper::start()
 {
     m_places.open();
-    m_isStartUp = m_with.left.owed() > 0;
-    if (m_isStartUp || m_places.hasOccupied())
+    m_isListWithout = m_with.left.owed() > 0;
+    if (m_isListWithout || m_places.hasOccupied())
         m_storeOwed.schedule(AfterStart);
 }
 
@@ -56,7 +56,7 @@ void LectureJournalKeeper::lectureOpened()
 {
     m_places.makeWay();
     if (m_places.hasOccupied())
-        storeOwedLater();
+        storeOwedSoon();
     m_isOpen = true;
     m_journal = {};
     m_journal.id = store::LectureJournal::idOf(m_with.dates.now());
@@ -194,7 +194,7 @@ void LectureJournalKeeper::lectureStored(bool isStored, const Lecture &lecture)
     m_write.cancel();
     m_owed.insert(m_journal.id, {lecture, lecture->getRecordUniqueID(), target});
     m_places.addOwed(journal());
-    storeOwedLater();
+    storeOwedSoon();
 }
 
 // The list may have another object for a lecture that has a row.
@@ -270,6 +270,12 @@ void LectureJournalKeeper::discardDeleted()
 
 void LectureJournalKeeper::storeOwedLater()
 {
+    m_isListWithout = true;
+    storeOwedSoon();
+}
+
+void LectureJournalKeeper::storeOwedSoon()
+{
     if (m_storeOwed.pendingCount() == 0)
         m_storeOwed.schedule(RetryInterval);
 }
@@ -295,10 +301,8 @@ bool LectureJournalKeeper::storeWhatCanBe()
 
 void LectureJournalKeeper::storeOwed()
 {
-    const bool isAnyStored = storeWhatCanBe();
-    const bool isStartUp = std::exchange(m_isStartUp, false);
-    if (isAnyStored)
-        m_with.lecturesStored(isStartUp);
+    if (storeWhatCanBe())
+        m_with.lecturesStored(std::exchange(m_isListWithout, false));
     if (m_with.left.owed() > 0 || m_places.hasOccupied())
         m_storeOwed.schedule(RetryInterval);
 }

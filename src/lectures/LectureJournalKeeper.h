@@ -77,7 +77,7 @@ public:
     void lectureClosed();
     void lectureCancelled();
 
-    // Some are to be stored; the next try comes soon.
+    // Lectures are to be stored that the list does not have; the next try comes soon.
     void storeOwedLater();
 
     // What has changed until now is written, and what could not be written yet is tried once more.
@@ -97,6 +97,7 @@ private:
     void removeClosedMark();
     QString closedMark() const;
     void storeOwed();
+    void storeOwedSoon();
     void discardDeleted();
     void writeChanges();
     bool storeWhatCanBe();
@@ -122,8 +123,8 @@ private:
     platform::DelayedCall m_write;
     platform::DelayedCall m_writeAgain;
     platform::DelayedCall m_storeOwed;
-    bool m_isStartUp = false;
-    QObject m_texts; // hears of their changes, as long as this object lives
+    bool m_isListWithout = false; // lectures that are still to be stored
+    QObject m_texts;              // hears of their changes, as long as this object lives
 };
 
 } // namespace tarvelo::lectures

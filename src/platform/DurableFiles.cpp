@@ -23,6 +23,9 @@ bool renameDurably(const QString &from, const QString &to)
         ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         return false;
     syncFolderOf(to);
+    // Of a name in each of two folders one may come back without the other one's going.
+    if (QFileInfo(from).path() != QFileInfo(to).path())
+        syncFolderOf(from);
     return true;
 }
 

@@ -18,7 +18,7 @@ public:
     bool replace(const QByteArray &content);
     // The file with its room.
     void remove();
-    // The same, but the file stays under another name of its folder.
+    // The same, but the file stays under another name, also of another folder of its disk.
     bool renameTo(const QString &path);
 
 private:

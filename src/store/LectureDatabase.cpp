@@ -103,6 +103,10 @@ Sqlite *LectureDatabase::openToWrite()
 
 bool LectureDatabase::mayWrite()
 {
+    // SQLite opens for reading alone what it was refused to write for a moment.
+    const QString file = m_connection->filePath();
+    if (m_connection->isReadOnly() && !openFile(file))
+        return false;
     m_isExposed = m_isExposed && !m_damagedFiles.putAside(m_connection->filePath());
     return !m_isExposed;
 }

@@ -58,6 +58,11 @@ Sqlite::~Sqlite()
     close();
 }
 
+bool Sqlite::isReadOnly() const
+{
+    return m_db && sqlite3_db_readonly(m_db, "main") == 1;
+}
+
 int Sqlite::errorCode() const
 {
     return sqlite3_errcode(m_db);

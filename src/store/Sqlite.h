@@ -48,6 +48,8 @@ public:
     // A null string while closed and after a failed open.
     const QString &filePath() const { return m_filePath; }
     qint64 busyRetryTimeout() const { return m_busyRetryTimeout; }
+    // Of a file that may only be read, and one that could not be opened otherwise then.
+    bool isReadOnly() const;
     int errorCode() const;
     QString errorMessage() const;
     // 0 while closed.

@@ -131,7 +131,80 @@ private Q_SLOTS:
         const auto all = files().all().value();
         QCOMPARE(all.size(), 1);
         QCOMPARE(all[0].journal.journal.notes, LeftStage::journal().notes);
-        QVERIFY(QFile::exists(folder() + u"/unread"_s));
+        QVERIFY(QFile::exists(folder() + u"/unread-lecture.latest"_s));
+    }
+
+    // Either may have been the one that stands.
+    void aJournalThatCannotBeReadKeepsItsRecordingBackForADay_data()
+    {
+        QTest::addColumn<bool>("isOutOfTheWay");
+        QTest::newRow("beside the take") << false;
+        QTest::newRow("out of the way") << true;
+    }
+    void aJournalThatCannotBeReadKeepsItsRecordingBackForADay()
+    {
+        QFETCH(bool, isOutOfTheWay);
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        QVERIFY(!isOutOfTheWay || files().moveFrom(folder()));
+        refuse("read", ".journal", 1000);
+        m_stage->clock.set(QDateTime::currentDateTimeUtc());
+        QCOMPARE(files().moveFrom(folder()), isOutOfTheWay);
+        QCOMPARE(m_stage->names().filter(u"unread"_s), QStringList());
+
+        m_stage->clock.set(QDateTime::currentDateTimeUtc().addDays(3));
+        QVERIFY(files().moveFrom(folder()));
+        tarvelo::tests::refuseNothing();
+
+        const auto all = files().all().value();
+        QCOMPARE(all.size(), 1);
+        QVERIFY(!all[0].takePath.isEmpty());
+        QVERIFY(all[0].journal.state == JournalFile::State::Missing);
+        const QStringList unread = m_stage->names().filter(u"unread-"_s);
+        QCOMPARE(unread.size(), 1);
+        QVERIFY(read(folder() + u'/' + unread[0]).contains("Huygens"));
+    }
+
+    void twoThatCannotBeReadAreBothKept()
+    {
+        leaveLatest();
+        LeftStage::write(m_stage->file("unread-lecture.latest"), "another");
+        refuse("read", "lecture.latest", 1000);
+
+        QVERIFY(files().moveFrom(folder()));
+        tarvelo::tests::refuseNothing();
+
+        QCOMPARE(read(m_stage->file("unread-lecture.latest")), QByteArray("another"));
+        QVERIFY(read(m_stage->file("unread-lecture.latest-2")).contains("Fresnel"));
+    }
+
+    // A take of another format stands there as well.
+    void whicheverCallFailsOnceAStrayTakeGetsNoOtherLecturesNotes()
+    {
+        RefusedInTurn calls("/temp");
+        while (calls.areLeft()) {
+            finish();
+            prepare();
+            m_stage->leaveTake();
+            m_stage->leaveJournal();
+            LeftStage::write(m_stage->file("tempAudioFile.aac"), QByteArray(100'000, 's'));
+            LectureJournal journal = LeftStage::journal();
+            journal.take = m_stage->file("tempAudioFile.aac");
+            m_stage->leaveJournal(journal);
+
+            calls.refuse();
+            static_cast<void>(files().moveFrom(folder()));
+            calls.allow();
+
+            QVERIFY(files().moveFrom(folder()));
+            const auto all = files().all().value();
+            QVERIFY2(all.size() == 2, calls.which());
+            for (const LeftFiles::Lecture &left : all)
+                QVERIFY2((left.journal.state == JournalFile::State::Read) ==
+                             left.takePath.endsWith(u".aac"_s),
+                         calls.which());
+        }
+        QVERIFY2(calls.count() > 10, calls.which());
     }
 
     void aTakeUnderTheNameIsNotWrittenOver()

@@ -434,9 +434,116 @@ private Q_SLOTS:
         for (const auto &left : lectures)
             QVERIFY(m_stage->left.keep(left) == LeftLectures::Kept::Stored);
 
+        expectTwoLectures();
+    }
+
+    void whatIsKeptWhileNothingCanBeStoredIsNotTakenForEachOther()
+    {
+        for (const char *name : {"leftover-20240303T080000000", "leftover-20240304T080000000"}) {
+            m_stage->leaveTake();
+            QVERIFY(QFile::rename(m_stage->takePath(), m_stage->file(name) + u".m4a"_s));
+            LeftStage::write(m_stage->file(name) + u".journal"_s,
+                             tarvelo::store::toBytes(LeftStage::journal()));
+        }
+        m_stage->setAside();
+        aLecture().insertInto(m_stage->database);
+        m_stage->database.connection()->executeNonQuery(u"DELETE FROM audioData"_s);
+        {
+            tarvelo::store::Sqlite other(m_stage->places.databaseFile());
+            QVERIFY(other.beginTransaction());
+            for (const auto &left : m_stage->left.undecided())
+                QVERIFY(m_stage->left.keep(left) == LeftLectures::Kept::Later);
+        }
+
+        m_stage->left.storeOwed();
+
+        expectTwoLectures();
+    }
+
+    void whatIsKeptAgainAfterItWasStoredIsThereOnce_data()
+    {
+        QTest::addColumn<bool>("hasTake");
+        QTest::addColumn<bool>("hasJournal");
+        QTest::newRow("with a journal") << true << true;
+        QTest::newRow("without a journal") << true << false;
+        QTest::newRow("without a recording") << false << true;
+    }
+    // The first try may have decided it without knowing, and it was stored later.
+    void whatIsKeptAgainAfterItWasStoredIsThereOnce()
+    {
+        QFETCH(bool, hasTake);
+        QFETCH(bool, hasJournal);
+        RefusedInTurn calls("/Tarvelo");
+        while (calls.areLeft()) {
+            finish();
+            prepare();
+            if (hasTake)
+                m_stage->leaveTake();
+            if (hasJournal)
+                m_stage->leaveJournal();
+            m_stage->setAside();
+            const auto lectures = m_stage->left.undecided();
+            QCOMPARE(lectures.size(), 1);
+
+            calls.refuse();
+            const auto kept = m_stage->left.keep(lectures[0]);
+            calls.allow();
+            m_stage->left.storeOwed();
+            if (kept == LeftLectures::Kept::Undecided)
+                QVERIFY2(m_stage->left.keep(lectures[0]) == LeftLectures::Kept::Stored,
+                         calls.which());
+
+            QVERIFY2(m_stage->rows().size() == 1,
+                     calls.which() + QByteArray::number(m_stage->rows().size()) + " rows, " +
+                         m_stage->names().join(u' ').toUtf8());
+            const QString path = m_stage->rows()[0]["audioFileFullPath"_L1].toString();
+            QVERIFY2(hasTake ? QFile::exists(path) : path.isEmpty(), calls.which());
+            QCOMPARE(m_stage->names(), QStringList());
+        }
+        QVERIFY2(calls.count() > 20, calls.which());
+    }
+
+    void whatIsDiscardedByItsIdIsNothingThatNobodyDecidedOn()
+    {
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        m_stage->setAside();
+
+        m_stage->left.discard(LeftStage::journal().id);
+
+        QCOMPARE(m_stage->left.undecided().size(), 1);
+    }
+
+    // As when a home was moved to another computer.
+    void aRecordingWhosePlaceIsNoMoreGetsAnotherOne()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = u"/no/such/home/Audio/Audio - 1.m4a"_s;
+        m_stage->leaveTake();
+        m_stage->leaveJournal(journal);
+        m_stage->setAside();
+
+        m_stage->left.storeOwed();
+
+        m_stage->expectOneKeptLecture();
+    }
+
+    // The clock was put back, and the file that had the name was deleted.
+    void aRowOfAnotherLectureWithTheSamePlaceIsNotItsOwn()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->locations.getAudioSavePath();
+        const qint64 row = aLecture().withAudio(journal.target).insertInto(m_stage->database);
+        m_stage->left.rowIsStored(u"earlier"_s, row);
+        m_stage->leaveTake();
+        m_stage->leaveJournal(journal);
+        m_stage->setAside();
+
+        m_stage->left.storeOwed();
+
         QCOMPARE(m_stage->rows().size(), 2);
-        QVERIFY(m_stage->rows().at(0)["audioFileFullPath"_L1] !=
-                m_stage->rows().at(1)["audioFileFullPath"_L1]);
         QCOMPARE(m_stage->rows().at(1)["notes"_L1], u"Huygens"_s);
     }
 
@@ -579,6 +686,13 @@ private Q_SLOTS:
 
 private:
     void prepare() override { m_stage = std::make_unique<LeftStage>(); }
+    void expectTwoLectures()
+    {
+        QCOMPARE(m_stage->rows().size(), 2);
+        QVERIFY(m_stage->rows().at(0)["audioFileFullPath"_L1] !=
+                m_stage->rows().at(1)["audioFileFullPath"_L1]);
+        QCOMPARE(m_stage->rows().at(1)["notes"_L1], u"Huygens"_s);
+    }
     void finish() override
     {
         tarvelo::tests::refuseNothing();

@@ -6,6 +6,7 @@
 #include "store/LectureJournal.h"
 #include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
+#include "support/RefusedCalls.h"
 #include "support/TemporaryPlaces.h"
 #include "support/TestCase.h"
 #include "support/TestSound.h"
@@ -182,6 +183,36 @@ private Q_SLOTS:
 
         m_promised += folder() + u"//Audio - 2.m4a"_s;
         QCOMPARE(m_recordings->bringBack(), 0);
+    }
+
+    void whileThePromisesCannotBeReadNothingIsOffered_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("beside a take") << u"/temp"_s;
+        QTest::newRow("beside one of a process's own") << u"/temp/take-abcdef"_s;
+    }
+    void whileThePromisesCannotBeReadNothingIsOffered()
+    {
+        QFETCH(QString, folder);
+        put("Audio - 1.m4a", m_sound);
+        QVERIFY(QDir().mkpath(m_places->folder() + folder));
+        QCOMPARE(found(), 1);
+
+        refuse("opendir", qPrintable(u"/Tarvelo"_s + folder));
+
+        QCOMPARE(m_recordings->bringBack().value_or(0), 0);
+        QVERIFY(wasRefused());
+        QCOMPARE(found(), 1);
+        QCOMPARE(m_recordings->bringBack(), 1);
+    }
+
+    // It was given up, and would keep all others back.
+    void aPromiseThatWasPutAsideIsNone()
+    {
+        put("Audio - 1.m4a", m_sound);
+        promiseIn(u"/temp/unread-lecture.journal"_s);
+
+        QCOMPARE(found(), 1);
     }
 
     void aTakeIsNotReadForAJournal()

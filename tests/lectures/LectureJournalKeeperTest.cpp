@@ -276,6 +276,32 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList({u".owner"_s}));
     }
 
+    // It was done before this start, and the list that shows does not have it.
+    void whatIsStoredOnlyAtASecondTryIsShown()
+    {
+        tarvelo::tests::aLecture().named("earlier").insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        const tarvelo::store::LectureJournal journal{.id = u"20240304T080000000"_s,
+                                                     .subject = u"Optics"_s,
+                                                     .day = u"2024-03-05"_s,
+                                                     .isDone = true};
+        QFile file(m_program->places.folder() + u"/temp/leftover-20240304T080000000.journal"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly) &&
+                file.write(tarvelo::store::toBytes(journal)) > 0);
+        file.close();
+        controller().journal().storeOwedLater();
+        {
+            tarvelo::store::Sqlite other(m_program->places.databaseFile());
+            QVERIFY(other.beginTransaction());
+            m_program->clock.advance(10s);
+            QVERIFY(!m_program->subjectsShown().contains(u"Optics"_s));
+        }
+
+        m_program->clock.advance(10s);
+
+        QVERIFY(m_program->subjectsShown().contains(u"Optics"_s));
+    }
+
     void theNextLectureCanBeginWhileARowWaits()
     {
         tarvelo::tests::aLecture().named("earlier").insertInto(m_program->database);

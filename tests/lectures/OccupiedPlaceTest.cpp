@@ -117,6 +117,29 @@ private Q_SLOTS:
         expectLeftLecture();
     }
 
+    // The row cannot be stored either, and there is no journal.
+    void whatIsDoneWithoutARoomOfItsOwnIsStoredLater()
+    {
+        leaveTakeAndJournal();
+        refuse("fsync", "/tempAudioFile.m4a", 1000);
+        refuse("mkdtemp", "/temp", 1000);
+        m_program->showDay(m_program->today());
+        tarvelo::tests::aLecture().named("earlier").insertInto(m_program->database);
+        m_program->recordNewLecture(3);
+        subject().setText(u"Acoustics"_s);
+        {
+            tarvelo::store::Sqlite other(m_program->places.databaseFile());
+            QVERIFY(other.beginTransaction());
+            m_program->finishNewLecture();
+            QCOMPARE(m_program->storedRows().size(), 1);
+        }
+
+        m_program->clock.advance(10s);
+
+        QCOMPARE(m_program->storedRows().size(), 2);
+        QCOMPARE(m_program->storedRows().value(1)["subject"_L1], u"Acoustics"_s);
+    }
+
     void whatALivingProcessRecordsIsNotTouched()
     {
         leaveTakeAndJournal();

@@ -1,7 +1,9 @@
 #include "platform/DurableFiles.h"
 
+#include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
@@ -11,6 +13,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::platform;
+using tarvelo::tests::RefusedInTurn;
 
 class DurableFilesTest final : public tarvelo::tests::TestCase
 {
@@ -26,6 +29,24 @@ private Q_SLOTS:
 
         QCOMPARE(read(u"whole"_s), QByteArray("new"));
         QVERIFY(!QFileInfo::exists(path(u"half"_s)));
+    }
+
+    // Else a power cut could bring the old name back beside the new one.
+    void theFolderThatAFileLeftKnowsOfItToo()
+    {
+        QVERIFY(QDir().mkpath(path(u"left"_s)) && QDir().mkpath(path(u"entered"_s)));
+        RefusedInTurn calls("/left");
+        while (calls.areLeft()) {
+            write(u"left/file"_s, "content");
+
+            calls.refuse();
+            const bool isMoved = renameDurably(path(u"left/file"_s), path(u"entered/file"_s));
+            calls.allow();
+
+            QCOMPARE(QFile::remove(path(u"entered/file"_s)), isMoved);
+        }
+        // The file is opened, synced and renamed, the folder opened and synced.
+        QCOMPARE(calls.count(), 3 + 2 + 1);
     }
 
     void whatIsNotThereTakesNoName()

@@ -82,6 +82,26 @@ private Q_SLOTS:
         }
     }
 
+    // SQLite is content then with a file that it can only read.
+    void aFileThatCouldNotBeOpenedForAMomentIsWrittenAllTheSame()
+    {
+        RefusedInTurn calls("/TarveloInfo.db");
+        while (calls.areLeft()) {
+            startAnew();
+            const qint64 id = aLecture().named("Optics").insertInto(*m_database);
+            open();
+
+            calls.refuse();
+            m_database->openDb();
+            calls.allow();
+
+            QVERIFY2(change(id, u"Wave Optics"_s), calls.which());
+            QCOMPARE(subjects(), QStringList(u"Wave Optics"_s));
+            QVERIFY(m_told.isEmpty());
+        }
+        QVERIFY2(calls.count() > 2, calls.which());
+    }
+
     void aChangeOfWhatIsNotThereIsNotSaved()
     {
         startAnew();
@@ -106,6 +126,10 @@ private:
         finish();
         m_told.clear();
         m_places = std::make_unique<TemporaryPlaces>();
+        open();
+    }
+    void open()
+    {
         m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
         m_database->setLecturesGone([this](const GoneLectures &gone) { m_told.append(gone); });
     }

@@ -25,7 +25,9 @@ std::unique_ptr<AacEncoder> AacEncoder::create(const RecorderSettings &settings)
 CodecPointer AacEncoder::open(const RecorderSettings &settings)
 {
     const AVCodec *encoder = avcodec_find_encoder(AV_CODEC_ID_AAC);
-    CodecPointer codec(encoder ? avcodec_alloc_context3(encoder) : nullptr);
+    // Told of the encoder only when it is opened: FFmpeg ends a program that has no memory for an
+    // encoder's own defaults, of which this one has none that are not set here.
+    CodecPointer codec(encoder ? avcodec_alloc_context3(nullptr) : nullptr);
     if (!codec)
         return nullptr;
     codec->sample_fmt = AV_SAMPLE_FMT_FLTP;
