@@ -34,6 +34,8 @@ ERRORS = {
 }
 AT_A_TIME = 2
 IN_SHORT = 1  # of each work and kind
+# What the layer says when one of those does not look whether it got its memory.
+ENDED_BY_LIBRARY = "ended by a library"
 # Once more, without a fault: what waits is stored or offered then, and what is offered is kept.
 COMING_BACK = ("later", "keep", "later", "back", "later", "offered")
 
@@ -51,7 +53,9 @@ def run(tools, short):
         tools.tell(f"{name}, {count} times: {loss}")
     if losses:
         tools.keep("losses.txt", "".join(f"{told(*fault)}: {loss}\n" for fault, loss in losses))
-    return Result(not losses, f"{len(faults)} faults in {len(WORKS)} works, and a start after each: {len(losses)} of them lost something, or left it twice")
+    ended = sum(desk.ended_by_library for desk in desks.queue)
+    return Result(not losses, f"{len(faults)} faults in {len(WORKS)} works, and a start after each: {len(losses)} of them lost something, or left it twice"
+                  + (f"; {ended} times a library did not look whether it got its memory, which ended the program and cost what a kill costs" if ended else ""))
 
 
 def all_faults(calls, random, short):
@@ -88,6 +92,7 @@ class Desk:
         self._student = student.Student(tools, self._folder)
         self._prepared = {}  # a template and a judgement for each work
         self._judged = {}  # what became of a folder that was left so
+        self.ended_by_library = 0
 
     def counts(self, work):
         """How many calls there are of each kind."""
@@ -99,7 +104,11 @@ class Desk:
         try:
             recorded = self._perform(work, f"{kind} {error} {number}")
         except Failed as failure:
-            return f"{failure}, {self._what_was_lost(work, 0.0) or 'and all is there after the next start'}"
+            lost = self._what_was_lost(work, 0.0)
+            if ENDED_BY_LIBRARY in str(failure):
+                self.ended_by_library += 1
+                return lost
+            return f"{failure}, {lost or 'and all is there after the next start'}"
         left = (work, recorded, self._state())
         if left not in self._judged:
             self._judged[left] = self._what_was_lost(work, recorded)

@@ -1,4 +1,5 @@
-// The part of OneFault that refuses memory.
+// The part of OneFault that refuses memory. Where one of our libraries does not look at what it got
+// and ends the program for it, that is said: "ended by a library", on stderr.
 
 #include "torture/Faults.h"
 #include "torture/Layer.h"
@@ -6,9 +7,14 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdint>
+#include <cstring>
 #include <link.h>
 #include <string_view>
+#include <sys/syscall.h>
+#include <ucontext.h>
+#include <unistd.h>
 
 extern "C" {
 void *__libc_malloc(size_t size);
@@ -66,7 +72,29 @@ bool isOutOfMemory(const void *caller)
     return true;
 }
 
+void sayWhoseCodeItWas(int, siginfo_t *, void *context)
+{
+    const auto &registers = static_cast<const ucontext_t *>(context)->uc_mcontext;
+#ifdef __x86_64__
+    const auto place = static_cast<std::uintptr_t>(registers.gregs[REG_RIP]);
+#else
+    const auto place = static_cast<std::uintptr_t>(registers.pc);
+#endif
+    constexpr std::string_view Words = "ended by a library\n";
+    if (isOurs(reinterpret_cast<const void *>(place)))
+        ::syscall(SYS_write, STDERR_FILENO, Words.data(), Words.size());
+}
+
+bool listensForTheEnd()
+{
+    struct sigaction action = {};
+    action.sa_sigaction = sayWhoseCodeItWas;
+    action.sa_flags = static_cast<int>(SA_SIGINFO | SA_RESETHAND); // and then it ends as it would
+    return std::strcmp(fault().kind, "memory") == 0 && ::sigaction(SIGSEGV, &action, nullptr) == 0;
+}
+
 // Nobody counts before that.
+const bool g_listens = listensForTheEnd();
 const int g_ranges = ::dl_iterate_phdr(noteRanges, nullptr);
 
 } // namespace
