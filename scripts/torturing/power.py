@@ -185,13 +185,13 @@ class Cuts:
             try:
                 self._judge(moment)
                 if self._tools.random.random() < self._share:
-                    self._let_inserts_through(moment)
-                    self.starts.start(moment, self._lectures_at(moment), self._sound_of)
+                    self.starts.start(moment, self._lectures_at(moment), self._sound_of, lambda: self._let_inserts_through(moment))
             except Failed as failure:
                 self.broken.append(f"{moment - self._story.first:.2f} s, {variant}: {failure}")
 
     def _let_inserts_through(self, moment):
-        """What makes the story's save fail is no fault of the disk, and a lecture that waits for its end would wait for ever."""
+        """What makes the story's save fail is no fault of the disk, and a lecture that waits for its end would wait for ever. Only after
+        the program has looked: who opens a database takes back what was half done."""
         path = os.path.join(self._folder, "TarveloInfo.db")
         if self._story.reset[0] < moment < self._story.reset[1] and os.path.exists(path):
             with contextlib.suppress(sqlite3.DatabaseError), contextlib.closing(sqlite3.connect(path)) as database:

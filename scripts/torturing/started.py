@@ -30,26 +30,28 @@ class Starts:
         self.offered = 0
         self.by_program = 0
 
-    def start(self, moment, lectures, sound_of):
-        """`lectures` are those that may be there at that moment."""
+    def start(self, moment, lectures, sound_of, seen=lambda: None):
+        """`lectures` are those that may be there at that moment; `seen` hears when the program has looked at what the cut left."""
         sounds = [sound_of(path) for path in student.sounds_of(self._home)]
         held = [(lecture, max((seconds_of(samples, lecture.sound) for samples in sounds), default=0)) for lecture in lectures]
         student.renew(self._cut, self._home)
         self.count += 1
-        offered = self._by_student()
+        offered = self._by_student(seen)
         self.offered += len(offered)
         self._expect_rows(moment, held, sound_of)
         if len(offered) == 1 and self._random.random() < BY_PROGRAM:
             subjects = self._kept
             student.renew(self._home, self._cut)
             self.by_program += 1
+            seen()
             self._by_program(offered[0], subjects)
             self._student.do("back", "later")
             self._expect_rows(moment, held, sound_of)
 
-    def _by_student(self):
+    def _by_student(self, seen):
         """Gives the subjects of what is offered."""
         offered = [line.split(" ", 2)[2] for line in self._student.told("later", "offered") if line.startswith("offered")]
+        seen()
         told = self._student.told("keep", "later", "offered")
         if told:
             raise Failed(f"when all was kept there is still {told[-1]!r}")
