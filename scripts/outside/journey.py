@@ -66,6 +66,19 @@ class Journey:
         finally:
             self._program.stop()
 
+    def record_one(self, filming):
+        """Only that, between start and quit; `filming` is entered for it."""
+        before, paused, after = self._prepare_speech()
+        try:
+            self._start("first")
+            with filming:
+                self._record(before, paused, after)
+                self._hands.point_at_row(names.MAIN_WINDOW, names.LECTURES, SUBJECT)
+                self._shot("recorded", "The row says what can be done with it")
+            self._quit()
+        finally:
+            self._program.stop()
+
     def _prepare_speech(self):
         paths = []
         for name, sentence in (("before", BEFORE), ("paused", PAUSED), ("after", AFTER)):
