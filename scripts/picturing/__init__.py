@@ -1,0 +1,1 @@
+"""Pictures of every window in every state: taken, kept, and compared."""
