@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/FileFormats.h"
+
 #include <QHash>
 #include <QString>
 #include <QVariant>
@@ -23,7 +25,7 @@ struct PreferenceKey
 inline constexpr std::array PreferenceKeys{
     PreferenceKey{Preference::ShowWindowAtLogin, "showWindowAtLogin", 1},
     PreferenceKey{Preference::WindowOnTop, "windowOnTop", 1},
-    PreferenceKey{Preference::FileFormat, "fileFormat", 1},
+    PreferenceKey{Preference::FileFormat, audio::FileFormatKey, audio::UsualFileFormat},
     PreferenceKey{Preference::StatusBar, "StatusBar", {}},
     PreferenceKey{Preference::DockIcon, "DockIcon", {}},
 };

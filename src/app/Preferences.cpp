@@ -13,6 +13,18 @@ namespace tarvelo::app {
 
 using platform::text;
 
+namespace {
+
+// In the order of the formats.
+auto formatButtons(const Ui::Preferences &ui)
+{
+    const std::array buttons{ui.matrixFileFormatRow0, ui.matrixFileFormatRow1};
+    static_assert(std::tuple_size_v<decltype(buttons)> == audio::FileFormats.size());
+    return buttons;
+}
+
+} // namespace
+
 Preferences::Preferences(platform::UserDefaults &defaults, QWidget &mainWindow, LoginItem loginItem)
     : m_defaults(defaults)
     , m_mainWindow(mainWindow)
@@ -24,8 +36,9 @@ Preferences::Preferences(platform::UserDefaults &defaults, QWidget &mainWindow, 
     // As white as the windows, whatever the desktop's theme.
     lectures::setLightPalette(*m_sheet);
     m_ui->setupUi(m_sheet);
-    m_ui->matrixFileFormat->setId(m_ui->matrixFileFormatRow0, 0);
-    m_ui->matrixFileFormat->setId(m_ui->matrixFileFormatRow1, 1);
+    const auto formats = formatButtons(*m_ui);
+    for (std::size_t number = 0; number < formats.size(); ++number)
+        m_ui->matrixFileFormat->setId(formats[number], static_cast<int>(number));
     connectControls();
 }
 
@@ -84,8 +97,9 @@ void Preferences::setLabels()
     m_ui->lblOpenAppAutomatically->setText(text("SETTING_OPENAPPAUTOMATICALLY"));
     m_ui->lblWindowOnTop->setText(text("SETTING_WINDOWONTOP"));
     m_ui->lblFileFormat->setText(text("SETTING_FILEFORMAT"));
-    m_ui->matrixFileFormatRow0->setText(text("FILEFORMAT_AAC"));
-    m_ui->matrixFileFormatRow1->setText(text("FILEFORMAT_M4A"));
+    const auto formats = formatButtons(*m_ui);
+    for (std::size_t number = 0; number < formats.size(); ++number)
+        formats[number]->setText(text(audio::FileFormats[number].nameKey));
     m_ui->btnClosePreferences->setText(text("BUTTON_DONE"));
     m_sheet->setWindowTitle(text("TITLE_PREFERENCES"));
     for (QLabel *label : m_sheet->findChildren<QLabel *>()) {
@@ -104,9 +118,8 @@ void Preferences::setUp()
     // disagree on purpose: leave both alone.
     if (integer(Preference::WindowOnTop) == 0)
         platform::setWindowLevel(m_mainWindow, platform::FloatingWindowLevel);
-    const bool isAac = integer(Preference::FileFormat) == 0;
-    m_ui->matrixFileFormatRow0->setChecked(isAac);
-    m_ui->matrixFileFormatRow1->setChecked(!isAac);
+    const int format = audio::fileFormatOf(integer(Preference::FileFormat));
+    m_ui->matrixFileFormat->button(format)->setChecked(true);
     showStored();
 }
 

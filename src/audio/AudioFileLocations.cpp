@@ -1,5 +1,6 @@
 #include "audio/AudioFileLocations.h"
 
+#include "audio/FileFormats.h"
 #include "audio/engine/Reserve.h"
 #include "platform/Dates.h"
 #include "platform/DurableFiles.h"
@@ -40,8 +41,8 @@ AudioFileLocations::AudioFileLocations(platform::Places places,
 
 QString AudioFileLocations::extensionByFormat() const
 {
-    return m_defaults.integerForKey(QStringLiteral("fileFormat")) == 0 ? QStringLiteral("aac")
-                                                                       : QStringLiteral("m4a");
+    const int stored = m_defaults.integerForKey(QLatin1String(FileFormatKey));
+    return QLatin1String(FileFormats[static_cast<std::size_t>(fileFormatOf(stored))].extension);
 }
 
 QString AudioFileLocations::getAudioFolderPath() const

@@ -30,7 +30,7 @@ public:
     const QString &temporaryFolder() const { return m_temporaryFolder; }
     // The temporary file's path without an extension; the bare name until createFolders() ran.
     const QString &temporaryBasePath() const { return m_temporaryBasePath; }
-    // "aac" when the preference "fileFormat" is 0, else "m4a". Read afresh at each call.
+    // Of the format that the preference names, see FileFormats. Read afresh at each call.
     QString extensionByFormat() const;
     // A path in the audio folder for this moment, whose file does not exist yet. Two calls within
     // one second give the same path.

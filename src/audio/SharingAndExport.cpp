@@ -1,6 +1,7 @@
 #include "audio/SharingAndExport.h"
 
 #include "audio/FileCopy.h"
+#include "audio/FileFormats.h"
 #include "platform/Fonts.h"
 #include "platform/MailComposer.h"
 #include "platform/PrivateFiles.h"
@@ -9,6 +10,8 @@
 
 #include <QFileInfo>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace tarvelo::audio {
 
@@ -43,7 +46,10 @@ SharingAndExport::SharingAndExport(const QString &music, platform::MailComposer 
 
 bool SharingAndExport::isSupportedIniTunes(const store::LectureInfoItem &lecture)
 {
-    return QFileInfo(lecture.strLectureAudioPath()).suffix() == u"m4a";
+    const QString extension = QFileInfo(lecture.strLectureAudioPath()).suffix();
+    return std::ranges::any_of(FileFormats, [&extension](const FileFormat &format) {
+        return format.isForMusicLibrary && extension == QLatin1String(format.extension);
+    });
 }
 
 void SharingAndExport::doSendMail(const store::LectureInfoItem &lecture)
