@@ -364,8 +364,7 @@ void LectureWindows::buildPlayAudioWindow()
     ui.btnPauseLecture->setTag(2);
     for (const audio::PlaySpeed &speed : audio::PlaySpeeds)
         ui.segPlaySpeed->addSegment(QString::fromUtf8(speed.label), platform::text(speed.nameKey));
-    // That of a lecture that was just opened.
-    ui.segPlaySpeed->setSelectedSegment(ui.segPlaySpeed->segmentCount() - 1);
+    ui.segPlaySpeed->setSelectedSegment(audio::RecordedSpeed);
     // The speeds came into being last, and are not what comes last.
     QWidget::setTabOrder(ui.segPlaySpeed->findChildren<QAbstractButton *>().constLast(),
                          ui.btnClosePlayAudio);

@@ -205,11 +205,11 @@ private Q_SLOTS:
         choose(3);
         m_engine->takeAsked();
 
-        choose(5);
+        choose(RecordingWindow::NoSpeed);
 
         QCOMPARE(m_engine->asked, inOrder({"player play"}));
         QVERIFY(m_engine->player->rate() == 0.5F);
-        QCOMPARE(playback().currentPlaySpeed(), 5);
+        QCOMPARE(playback().currentPlaySpeed(), RecordingWindow::NoSpeed);
     }
 
     void choosingASpeedResumesAPausedLecture()

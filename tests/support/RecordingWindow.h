@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/PlaySpeeds.h"
 #include "audio/Playback.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
@@ -13,11 +14,14 @@
 namespace tarvelo::tests {
 
 // The controls of recording and playing in bare windows of their own, as they stand before a take:
-// shown, with no pause button and no time tag. The speed control has a sixth segment, which has no
-// speed. Needs tarvelo_audio.
+// shown, with no pause button and no time tag. The speed control has one segment more than there
+// are speeds. Needs tarvelo_audio.
 class RecordingWindow final
 {
 public:
+    // A segment that stands for no speed.
+    static constexpr int NoSpeed = static_cast<int>(audio::PlaySpeeds.size());
+
     RecordingWindow()
     {
         btnPauseResumeRecording.setCheckable(true);
@@ -28,7 +32,7 @@ public:
         btnPauseLecture.setTag(2);
         bPlay.setTag(1);
         bPause.setTag(0);
-        for (int segment = 0; segment < 6; ++segment)
+        for (int segment = 0; segment <= NoSpeed; ++segment)
             segPlaySpeed.addSegment(QString::number(segment), QString::number(segment));
     }
 

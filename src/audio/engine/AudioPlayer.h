@@ -21,6 +21,10 @@ public:
 class AudioPlayer
 {
 public:
+    // What the stretcher does well.
+    static constexpr double SlowestRate = 0.1;
+    static constexpr double FastestRate = 4.0;
+
     AudioPlayer() = default;
     AudioPlayer(const AudioPlayer &) = delete;
     AudioPlayer &operator=(const AudioPlayer &) = delete;
@@ -38,7 +42,7 @@ public:
     virtual double duration() const = 0; // seconds
     virtual float rate() const = 0;
     // 1.0 is the recorded speed; the pitch is kept. What plays is heard so within a moment, and
-    // without a gap.
+    // without a gap. Beyond the slowest and the fastest rate it is heard at those.
     virtual void setRate(float rate) = 0;
     // Where the sound was read from; empty for a player that was made from bytes.
     virtual QUrl url() const = 0;

@@ -7,14 +7,6 @@
 
 namespace tarvelo::engine {
 
-namespace {
-
-// What the stretcher does well.
-constexpr double SlowestRate = 0.1;
-constexpr double FastestRate = 4.0;
-
-} // namespace
-
 std::unique_ptr<SoundServerPlayer> SoundServerPlayer::create(const QByteArray &bytes)
 {
     auto source = DecodedSource::open(bytes);
