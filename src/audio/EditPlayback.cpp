@@ -10,13 +10,6 @@
 
 namespace tarvelo::audio {
 
-namespace {
-
-constexpr int TagPause = 0;
-constexpr int TagPlay = 1;
-
-} // namespace
-
 EditPlayback::EditPlayback(engine::AudioEngine &engine, const EditPlayerOutlets &outlets)
     : m_engine(engine)
     , m_outlets(outlets)
@@ -51,12 +44,13 @@ void EditPlayback::onPlayPauseLectureEdit(int tag)
 {
     if (!m_editPlayer)
         return;
-    if (tag == TagPause)
+    const bool isPause = tag == EditPlayerOutlets::TagPause;
+    if (isPause)
         m_editPlayer->pause();
-    else if (tag == TagPlay)
+    else if (tag == EditPlayerOutlets::TagPlay)
         m_editPlayer->play();
-    m_outlets.bPause->setEnabled(tag != TagPause);
-    m_outlets.bPlay->setEnabled(tag == TagPause);
+    m_outlets.bPause->setEnabled(!isPause);
+    m_outlets.bPlay->setEnabled(isPause);
 }
 
 void EditPlayback::ended()

@@ -33,8 +33,7 @@ public:
     bool open(const QString &path, engine::AudioPlayerDelegate &delegate);
     // Stops the player and forgets it; nothing without one.
     void discard();
-    // By the sender's tag: 1 plays, 0 pauses. The pause button of the play window has another one,
-    // which is wanted. Nothing happens without a player.
+    // By the tag of the button. Nothing happens without a player.
     void onPlayPauseLectureEdit(int tag);
     // The player has come to its end.
     void ended();

@@ -23,10 +23,6 @@ using widgets::ImageButton;
 
 namespace {
 
-// The tags under which the play window's buttons say what a press means.
-constexpr int TagPlay = 1;
-constexpr int TagPause = 2;
-
 // The tags under which the stop button, turned into a play button, knows what a press means.
 constexpr int TagPaused = 1;
 constexpr int TagPlaying = 2;
@@ -93,12 +89,13 @@ void Playback::onPlayPauseLecture(QWidget *sender)
     if (!m_player)
         return;
     const int tag = tagOf(sender);
-    if (tag == TagPause)
+    const bool isPause = tag == LecturePlayerOutlets::TagPause;
+    if (isPause)
         m_player->pause();
-    else if (tag == TagPlay)
+    else if (tag == LecturePlayerOutlets::TagPlay)
         m_player->play();
-    m_lecture.btnPauseLecture->setEnabled(tag != TagPause);
-    m_lecture.btnPlayLecture->setEnabled(tag == TagPause);
+    m_lecture.btnPauseLecture->setEnabled(!isPause);
+    m_lecture.btnPlayLecture->setEnabled(isPause);
 }
 
 void Playback::onPlaySpeedChanged(QWidget *)
@@ -226,7 +223,7 @@ void Playback::lectureEnded(engine::AudioPlayer &player)
     setSeconds(*m_lecture.sliderPlayProgress, 0);
     player.stop();
     m_lecture.btnPlayLecture->setEnabled(true);
-    m_lecture.btnPlayLecture->setTag(TagPlay);
+    m_lecture.btnPlayLecture->setTag(LecturePlayerOutlets::TagPlay);
     showPlay(*m_lecture.btnPlayLecture);
     m_lecture.btnPauseLecture->setEnabled(false);
     if (!m_recording.lblElapsedTimeTemp->isVisible())

@@ -44,7 +44,7 @@ public:
     // is wanted, and brings the window to the front. Without a player, as for a file that cannot be
     // read, the controls and the window change all the same.
     void playLecture(const QString &path, const QString &subject);
-    // By the sender's tag: 1 plays, 2 pauses. Nothing happens without a player.
+    // By the sender's tag. Nothing happens without a player.
     void onPlayPauseLecture(QWidget *sender);
     // The speed of the segment that was chosen. The speed that was applied last changes nothing.
     void onPlaySpeedChanged(QWidget *sender);
@@ -68,7 +68,7 @@ public:
     // Ready to play but silent. False, and no player, for a file that cannot be read or heard.
     bool openEditPlayer(const QString &path);
     void discardEditPlayer() { m_edit.discard(); }
-    // By the sender's tag: 1 plays, 0 pauses. Nothing happens without a player.
+    // By the sender's tag. Nothing happens without a player.
     void onPlayPauseLectureEdit(QWidget *sender);
 
     // -- All of them

@@ -15,6 +15,10 @@ namespace tarvelo::audio {
 // The controls of the play window. All of them exist.
 struct LecturePlayerOutlets
 {
+    // The tags under which its two buttons say what a press means.
+    static constexpr int TagPlay = 1;
+    static constexpr int TagPause = 2;
+
     QWidget *playAudioWindow = nullptr;
     QLineEdit *txtSubjectName = nullptr;
     widgets::ImageButton *btnPlayLecture = nullptr;
@@ -28,6 +32,10 @@ struct LecturePlayerOutlets
 // The controls of the player in the lecture view. All of them exist.
 struct EditPlayerOutlets
 {
+    // That of pausing is another one than in the play window, which is wanted.
+    static constexpr int TagPause = 0;
+    static constexpr int TagPlay = 1;
+
     widgets::ImageButton *bPlay = nullptr;
     widgets::ImageButton *bPause = nullptr;
     QSlider *sliderEditProgress = nullptr;

@@ -17,7 +17,6 @@ namespace tarvelo::lectures {
 namespace {
 
 constexpr auto SlideUpDuration = 400ms;
-constexpr int ConfirmTag = 1;
 
 } // namespace
 
@@ -102,7 +101,7 @@ void LectureDeletion::onRemoveNotesRecord(QWidget *sender)
 void LectureDeletion::onConfirmOrCancelRecordDeletion(QWidget *sender)
 {
     const auto *button = qobject_cast<const widgets::ImageButton *>(sender);
-    if (button && button->tag() == ConfirmTag) {
+    if (button && button->tag() == PopoverOutlets::TagYes) {
         onDelete(m_with.pendingRow);
         m_with.goToCalendarView();
     }

@@ -59,6 +59,10 @@ struct LectureViewOutlets
 
 struct NewLectureOutlets
 {
+    // The tags under which its buttons say how the window is left.
+    static constexpr int TagDone = 0;
+    static constexpr int TagClose = 1;
+
     QWidget *newNoteWindow = nullptr;
     QLineEdit *txtSubjectForNewNote = nullptr;
     QTextEdit *txtView = nullptr;
@@ -96,6 +100,10 @@ struct PlayAudioOutlets
 // The two pop-overs and what they show.
 struct PopoverOutlets
 {
+    // The tags of the answers to the question whether to delete.
+    static constexpr int TagNo = 0;
+    static constexpr int TagYes = 1;
+
     widgets::PopOver *popoverAudioConfirmClose = nullptr;
     widgets::PopOver *popoverConfirmRecordDelete = nullptr;
     QLabel *lblRecordDeleteConfirmation = nullptr;

@@ -314,8 +314,8 @@ void LectureWindows::buildNewLectureWindow()
     ui.sliderPlayProgress2->hide();
     ui.lblElapsedTimeTemp->hide();
     ui.lblRemainingTimeTemp->hide();
-    ui.BtnDoneOrClose->setTag(0);
-    ui.btnCloseNewLecture->setTag(1);
+    ui.BtnDoneOrClose->setTag(NewLectureOutlets::TagDone);
+    ui.btnCloseNewLecture->setTag(NewLectureOutlets::TagClose);
 }
 
 void LectureWindows::buildEditLectureWindow()
@@ -358,10 +358,10 @@ void LectureWindows::buildPlayAudioWindow()
         style(*label, 13, Faint);
     ui.btnPlayLecture->setImage(imageNamed(QStringLiteral("play")));
     ui.btnPlayLecture->setAlternateImage(imageNamed(QStringLiteral("playH")));
-    ui.btnPlayLecture->setTag(1);
+    ui.btnPlayLecture->setTag(audio::LecturePlayerOutlets::TagPlay);
     ui.btnPauseLecture->setImage(imageNamed(QStringLiteral("pause")));
     ui.btnPauseLecture->setAlternateImage(imageNamed(QStringLiteral("pauseH")));
-    ui.btnPauseLecture->setTag(2);
+    ui.btnPauseLecture->setTag(audio::LecturePlayerOutlets::TagPause);
     for (const audio::PlaySpeed &speed : audio::PlaySpeeds)
         ui.segPlaySpeed->addSegment(QString::fromUtf8(speed.label), platform::text(speed.nameKey));
     ui.segPlaySpeed->setSelectedSegment(audio::RecordedSpeed);

@@ -42,8 +42,8 @@ void MediaLinksArrayController::connectPlayer()
 
     const audio::EditPlayerOutlets &editPlayer = m_windows.editPlayerOutlets();
     const auto playPauseEdit = [this](QWidget *sender) { onPlayPauseLectureEdit(sender); };
-    editPlayer.bPlay->setTag(1);
-    editPlayer.bPause->setTag(0);
+    editPlayer.bPlay->setTag(audio::EditPlayerOutlets::TagPlay);
+    editPlayer.bPause->setTag(audio::EditPlayerOutlets::TagPause);
     editPlayer.bPlay->setAction({"onPlayPauseLectureEdit", playPauseEdit});
     editPlayer.bPause->setAction({"onPlayPauseLectureEdit", playPauseEdit});
     connect(editPlayer.sliderEditProgress, &QSlider::sliderReleased, this,

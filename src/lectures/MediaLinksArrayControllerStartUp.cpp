@@ -152,8 +152,8 @@ void MediaLinksArrayController::setInsertionPointColors()
 
 void MediaLinksArrayController::tagConfirmButtons()
 {
-    m_windows.popoverOutlets().btnConfirmNo->setTag(0);
-    m_windows.popoverOutlets().btnConfirmYes->setTag(1);
+    m_windows.popoverOutlets().btnConfirmNo->setTag(PopoverOutlets::TagNo);
+    m_windows.popoverOutlets().btnConfirmYes->setTag(PopoverOutlets::TagYes);
 }
 
 void MediaLinksArrayController::setButtonTitleColor()

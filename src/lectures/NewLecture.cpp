@@ -40,8 +40,6 @@ namespace {
 
 constexpr auto AfterDone = 200ms;
 constexpr auto NoteViewSlide = 800ms;
-constexpr int TagDone = 0;
-constexpr int TagClose = 1;
 
 const platform::Alert AlreadyOpen{
     QStringLiteral("You have a Lecture that is not yet saved."), QStringLiteral("OK"),
@@ -158,10 +156,10 @@ void NewLecture::doSaveNewAudioInfos()
 void NewLecture::onDoneNewLectureOrCloseWindow(QWidget *sender)
 {
     const auto *button = qobject_cast<widgets::ImageButton *>(sender);
-    const int tag = button ? button->tag() : TagDone;
-    if (tag == TagDone)
+    const int tag = button ? button->tag() : NewLectureOutlets::TagDone;
+    if (tag == NewLectureOutlets::TagDone)
         done();
-    else if (tag == TagClose)
+    else if (tag == NewLectureOutlets::TagClose)
         closeWithoutSaving();
     resetControls(QStringLiteral("stopH"));
     m_bIsOnRecordingView = false;

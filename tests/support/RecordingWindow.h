@@ -28,10 +28,10 @@ public:
         window.show();
         btnPauseResumeRecording.hide();
         btnTimeTag.hide();
-        btnPlayLecture.setTag(1);
-        btnPauseLecture.setTag(2);
-        bPlay.setTag(1);
-        bPause.setTag(0);
+        btnPlayLecture.setTag(audio::LecturePlayerOutlets::TagPlay);
+        btnPauseLecture.setTag(audio::LecturePlayerOutlets::TagPause);
+        bPlay.setTag(audio::EditPlayerOutlets::TagPlay);
+        bPause.setTag(audio::EditPlayerOutlets::TagPause);
         for (int segment = 0; segment <= NoSpeed; ++segment)
             segPlaySpeed.addSegment(QString::number(segment), QString::number(segment));
     }
