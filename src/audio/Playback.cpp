@@ -3,6 +3,7 @@
 #include "audio/AudioFileLocations.h"
 #include "audio/PlaySpeeds.h"
 #include "audio/PlayerDisplay.h"
+#include "audio/RecordingDisplay.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
 #include "platform/WindowLevel.h"
@@ -169,12 +170,7 @@ void Playback::playRecordTemp(QWidget *)
         {"pauseResumeRecordTemp", [this](QWidget *sender) { pauseResumeRecordTemp(sender); }});
     m_recording.btnStopRecord->setTag(TagPlaying);
 
-    m_recording.audioLevelMeter->hide();
-    m_recording.imgLevelIndicatorBG->hide();
-    m_recording.lblRecordingDuration->hide();
-    m_recording.sliderPlayProgress2->show();
-    m_recording.lblElapsedTimeTemp->show();
-    m_recording.lblRemainingTimeTemp->show();
+    showPlayer(m_recording);
 }
 
 void Playback::pauseResumeRecordTemp(QWidget *)

@@ -1,21 +1,14 @@
 #include "audio/RecordingControl.h"
 
 #include "audio/AudioFileLocations.h"
-#include "audio/DurationText.h"
 #include "audio/Playback.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
 #include "platform/SleepInhibitor.h"
 #include "platform/Texts.h"
 #include "widgets/ImageButton.h"
-#include "widgets/LevelIndicator.h"
-#include "widgets/WholeText.h"
 
 #include <QFile>
-#include <QLabel>
-#include <QSlider>
-#include <QTextCursor>
-#include <QTextEdit>
 
 using namespace std::chrono_literals;
 
@@ -23,30 +16,11 @@ namespace tarvelo::audio {
 
 using engine::AudioRecorder;
 using platform::Dates;
-using widgets::ImageButton;
 
 namespace {
 
 constexpr auto ClockTick = 1000ms;
 constexpr auto AfterStop = 500ms;
-
-// The looks of the two buttons, each with its pressed image and tool tip.
-void lookPause(ImageButton &button)
-{
-    button.setLook(QStringLiteral("BtnPause"), QStringLiteral("BtnPauseH"),
-                   QStringLiteral("Pause"));
-}
-
-void lookResume(ImageButton &button)
-{
-    button.setLook(QStringLiteral("record"), QStringLiteral("recordH"), QStringLiteral("Resume"));
-}
-
-void showStopImage(ImageButton &button, const QString &name)
-{
-    button.setImage(platform::imageNamed(name));
-    button.setAlternateImage(platform::imageNamed(name + u'H'));
-}
 
 double secondsSince1970(const QDateTime &moment)
 {
@@ -65,7 +39,7 @@ RecordingControl::RecordingControl(engine::AudioEngine &engine, const AudioFileL
     , m_playback(playback)
     , m_sleep(sleep)
     , m_outlets(outlets)
-    , m_clockLabels(clock)
+    , m_display(dates, outlets, clock)
     , m_postRecordingFinished(dates.clock(), [this] { postRecordingFinished(); })
 {
 }
@@ -87,7 +61,7 @@ bool RecordingControl::isRecordingNow() const
 
 bool RecordingControl::isTakingSound() const
 {
-    return m_recording && m_outlets.btnPauseResumeRecording->state() != 1;
+    return m_recording && !m_display.isPauseOn();
 }
 
 engine::SoundHeard RecordingControl::soundHeard() const
@@ -148,19 +122,9 @@ void RecordingControl::startRecording(QWidget *sender)
     makeAndStartRecorder();
     say("ANNOUNCE_RECORDING_STARTED");
 
-    m_outlets.audioLevelMeter->show();
-    m_outlets.imgLevelIndicatorBG->show();
-    m_outlets.lblRecordingDuration->show();
-    m_outlets.sliderPlayProgress2->hide();
-    m_outlets.lblElapsedTimeTemp->hide();
-    m_outlets.lblRemainingTimeTemp->hide();
-
+    m_display.takeStarts();
     m_outlets.btnStopRecord->setAction(
         {"stopRecording", [this](QWidget *from) { stopRecording(from); }});
-    m_outlets.btnStopRecord->setLook(QStringLiteral("stopRed"), QStringLiteral("stopRedH"),
-                                     QStringLiteral("Stop"));
-    m_outlets.btnStopRecord->setEnabled(true);
-    m_outlets.btnTimeTag->show();
 
     m_floatRecordingDuration = 0;
     // Also when there is no recorder: the take then counts as running though nothing is captured,
@@ -169,30 +133,16 @@ void RecordingControl::startRecording(QWidget *sender)
     beginStretch(0);
     m_durationPause = 0;
     tellObserver(TakeEvent::Started);
-
-    // A take that was left while it was paused left the toggle on.
-    if (m_outlets.btnPauseResumeRecording->state() == 1) {
-        m_outlets.btnPauseResumeRecording->setState(0);
-        lookPause(*m_outlets.btnPauseResumeRecording);
-    }
-    // Shown before the pressed one hides, so that the keyboard focus has where to go.
-    m_outlets.btnPauseResumeRecording->setEnabled(true);
-    m_outlets.btnPauseResumeRecording->show();
-    if (sender) {
-        if (sender->hasFocus())
-            m_outlets.btnPauseResumeRecording->setFocus();
-        sender->hide();
-    }
+    m_display.offerPause(sender);
 }
 
 void RecordingControl::pauseResumeRecording(QWidget *)
 {
-    const bool pausing = m_outlets.btnPauseResumeRecording->state() == 1;
+    const bool pausing = m_display.isPauseOn();
     if (pausing)
         pauseTake();
     else
         resumeTake();
-    m_outlets.btnTimeTag->setHidden(pausing);
     tellObserver(pausing ? TakeEvent::Paused : TakeEvent::Resumed);
 }
 
@@ -200,9 +150,7 @@ void RecordingControl::pauseTake()
 {
     say("ANNOUNCE_RECORDING_PAUSED");
     m_pauseTimeInterval = secondsSince1970(m_dates.now());
-    lookResume(*m_outlets.btnPauseResumeRecording);
-    showStopImage(*m_outlets.btnStopRecord, QStringLiteral("stop"));
-    m_outlets.audioLevelMeter->setFloatValue(0);
+    m_display.takePauses();
     if (m_recorder)
         m_recorder->pause();
 }
@@ -211,8 +159,7 @@ void RecordingControl::resumeTake()
 {
     say("ANNOUNCE_RECORDING_RESUMED");
     beginStretch(soundHeard().arrived);
-    lookPause(*m_outlets.btnPauseResumeRecording);
-    showStopImage(*m_outlets.btnStopRecord, QStringLiteral("stopRed"));
+    m_display.takeGoesOn();
     // Cut to whole seconds at each resume, which is wanted: two pauses of 2.7 s count as 2 and
     // then 4.
     m_durationPause = static_cast<qint64>(secondsSince1970(m_dates.now()) - m_pauseTimeInterval +
@@ -240,21 +187,13 @@ void RecordingControl::stopRecording(QWidget *)
     say("ANNOUNCE_RECORDING_STOPPED");
     m_recording = false;
     m_bIsRecordingSaved = true;
-    m_outlets.btnPauseResumeRecording->hide();
-    m_outlets.btnPauseResumeRecording->setState(0);
-    // Out and in again: the start button stays hidden, as is wanted.
-    m_outlets.btnStartRecord->setHidden(false);
-    m_outlets.btnStartRecord->setHidden(true);
+    m_display.takeStops();
     m_floatRecordingDuration = recorderTime();
     stopRecorder();
-    m_outlets.btnPauseResumeRecording->setEnabled(false);
     m_postRecordingFinished.schedule(AfterStop);
-    m_outlets.btnStopRecord->setLook(QStringLiteral("play"), QStringLiteral("playH"),
-                                     QStringLiteral("Play"));
     m_outlets.btnStopRecord->setAction(
         {"playRecordTemp", [this](QWidget *from) { m_playback.playRecordTemp(from); }});
     m_durationPause = 0;
-    m_outlets.btnTimeTag->hide();
     tellObserver(TakeEvent::Stopped);
 }
 
@@ -263,9 +202,8 @@ void RecordingControl::startStopRecording(QWidget *)
     if (m_recording) {
         m_recording = false;
         m_floatRecordingDuration = recorderTime();
-        m_outlets.btnPauseResumeRecording->setState(0);
+        m_display.disablePause();
         stopRecorder();
-        m_outlets.btnPauseResumeRecording->setEnabled(false);
         m_postRecordingFinished.schedule(AfterStop);
         tellObserver(TakeEvent::Stopped);
         return;
@@ -280,7 +218,7 @@ void RecordingControl::startStopRecording(QWidget *)
         m_recorder->prepareToRecord();
         runRecorder();
     }
-    m_outlets.btnPauseResumeRecording->setEnabled(true);
+    m_display.enablePause();
     tellObserver(TakeEvent::Started);
 }
 
@@ -289,11 +227,8 @@ void RecordingControl::postRecordingFinished()
     m_recording = false;
     stopRecorder();
     m_recorder.reset();
-    lookPause(*m_outlets.btnPauseResumeRecording);
     invalidateLevelTimer();
-    m_outlets.audioLevelMeter->setFloatValue(0);
-    m_outlets.lblRecordingDuration->setText(QString());
-    m_outlets.lblRecordingDuration->setText(getDuration(wholeSeconds(m_floatRecordingDuration)));
+    m_display.takeHasEnded(m_floatRecordingDuration);
 }
 
 void RecordingControl::onMaxRecordingTimeReached()
@@ -303,16 +238,7 @@ void RecordingControl::onMaxRecordingTimeReached()
 
 void RecordingControl::onSetTimeTag(QWidget *)
 {
-    QTextEdit &notes = *m_outlets.txtView;
-    const QString text =
-        QStringLiteral("%1\n\n%2\n")
-            .arg(widgets::wholeText(notes), m_outlets.lblRecordingDuration->text());
-    // One replacement with the format that typing has, so that one undo takes the tag back.
-    const QTextCharFormat typing = notes.currentCharFormat();
-    QTextCursor cursor = notes.textCursor();
-    cursor.select(QTextCursor::Document);
-    cursor.insertText(text, typing);
-    notes.setTextCursor(cursor);
+    m_display.appendTimeTag();
     tellObserver(TakeEvent::Tagged);
 }
 
@@ -328,8 +254,7 @@ void RecordingControl::discardTake()
     stopRecorder();
     removeTemporaryFile();
     invalidateLevelTimer();
-    m_outlets.audioLevelMeter->setFloatValue(0);
-    m_outlets.lblRecordingDuration->setText(QString());
+    m_display.clear();
 }
 
 void RecordingControl::takeWasSaved()
@@ -346,30 +271,9 @@ void RecordingControl::startDisplayTimer()
 void RecordingControl::updateTimeDisplay()
 {
     if (m_recording && m_recorder)
-        m_outlets.lblRecordingDuration->setText(getDuration(wholeSeconds(recorderTime())));
+        m_display.showLength(recorderTime());
     m_playback.updateTimeDisplay();
-    // The labels follow the minute; a tick that skips second 00 leaves them a minute behind, which
-    // is accepted.
-    if (m_dates.formatFixed(m_dates.now(), QStringLiteral("ss")).toInt() == 0) {
-        showTimeOfDay();
-        showDate();
-    }
-}
-
-void RecordingControl::showTimeOfDay()
-{
-    const QString time = m_dates.format(m_dates.now(), Dates::Style::None, Dates::Style::Short);
-    for (QLabel *label :
-         {m_clockLabels.textTime, m_clockLabels.textEditTime, m_clockLabels.tEditTime})
-        label->setText(time);
-}
-
-void RecordingControl::showDate()
-{
-    const QString date = m_dates.format(m_dates.now(), Dates::Style::Medium, Dates::Style::None);
-    for (QLabel *label :
-         {m_clockLabels.textDate, m_clockLabels.textEditDate, m_clockLabels.tEditDate})
-        label->setText(date);
+    m_display.tick();
 }
 
 void RecordingControl::audioRecorderDidFinishRecordingSuccessfully(AudioRecorder *recorder, bool)

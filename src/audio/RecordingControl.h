@@ -1,6 +1,6 @@
 #pragma once
 
-#include "audio/RecordingOutlets.h"
+#include "audio/RecordingDisplay.h"
 #include "audio/engine/AudioRecorder.h"
 #include "platform/DelayedCall.h"
 
@@ -22,8 +22,9 @@ class Playback;
 // What happens to a take, for who follows it.
 enum class TakeEvent { Started, Paused, Resumed, Stopped, Tagged };
 
-// Records one take at a time from the default input into the temporary file, and keeps the controls
-// of the new-lecture window in step: start, pause, resume, stop, then the take to listen to.
+// Records one take at a time from the default input into the temporary file: start, pause, resume,
+// stop, then the take to listen to. Its display keeps the controls of the new-lecture window in
+// step.
 // Nothing here is ever shown as an error: the controls change state whether or not sound comes in.
 class RecordingControl final : public engine::AudioRecorderDelegate
 {
@@ -104,8 +105,8 @@ public:
     void startDisplayTimer();
     void updateTimeDisplay();
     // Writes the present time, or date, into the clock labels.
-    void showTimeOfDay();
-    void showDate();
+    void showTimeOfDay() { m_display.showTimeOfDay(); }
+    void showDate() { m_display.showDate(); }
 
     void audioRecorderDidFinishRecordingSuccessfully(engine::AudioRecorder *recorder,
                                                      bool successfully) override;
@@ -132,7 +133,7 @@ private:
     Playback &m_playback;
     platform::SleepInhibitor &m_sleep;
     RecordingOutlets m_outlets;
-    ClockOutlets m_clockLabels;
+    RecordingDisplay m_display;
 
     std::unique_ptr<engine::AudioRecorder> m_recorder;
     bool m_recording = false;

@@ -4,6 +4,7 @@
 #include "audio/DurationText.h"
 #include "audio/Playback.h"
 #include "audio/RecordingControl.h"
+#include "audio/RecordingDisplay.h"
 #include "calendar/CKCalendarView.h"
 #include "lectures/DayList.h"
 #include "lectures/LectureApplication.h"
@@ -29,7 +30,6 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSlider>
 #include <QTextEdit>
 
 using namespace std::chrono_literals;
@@ -217,12 +217,7 @@ void NewLecture::onDone(QWidget *)
 void NewLecture::resetControls(const QString &stopAlternate)
 {
     const audio::RecordingOutlets &controls = m_outlets.recording;
-    controls.audioLevelMeter->show();
-    controls.imgLevelIndicatorBG->show();
-    controls.lblRecordingDuration->show();
-    controls.sliderPlayProgress2->hide();
-    controls.lblElapsedTimeTemp->hide();
-    controls.lblRemainingTimeTemp->hide();
+    audio::showLevel(controls);
     controls.btnStopRecord->setLook(QStringLiteral("stop"), stopAlternate, QStringLiteral("Stop"));
     controls.btnStopRecord->setAction(
         {"stopRecording", [this](QWidget *sender) { m_with.recording.stopRecording(sender); }});

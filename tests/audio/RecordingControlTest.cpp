@@ -89,37 +89,12 @@ private Q_SLOTS:
         QVERIFY(window().btnTimeTag.isVisible());
     }
 
-    void aTakeStartsWithTheRecordersDisplay()
-    {
-        m_stage->playback.playRecordTemp(nullptr);
-
-        m_stage->start();
-
-        QVERIFY(window().audioLevelMeter.isVisible());
-        QVERIFY(window().imgLevelIndicatorBG.isVisible());
-        QVERIFY(window().lblRecordingDuration.isVisible());
-        QVERIFY(!window().sliderPlayProgress2.isVisible());
-        QVERIFY(!window().lblElapsedTimeTemp.isVisible());
-        QVERIFY(!window().lblRemainingTimeTemp.isVisible());
-    }
-
     void theStarterNeedNotBeTheStartButton()
     {
         control().startRecording(nullptr);
 
         QVERIFY(control().recording());
         QVERIFY(window().btnStartRecord.isVisible());
-    }
-
-    void theKeyboardFocusGoesFromStartToPause()
-    {
-        window().window.activateWindow();
-        window().btnStartRecord.setFocus();
-        QTRY_VERIFY(window().btnStartRecord.hasFocus());
-
-        m_stage->start();
-
-        QVERIFY(window().btnPauseResumeRecording.hasFocus());
     }
 
     void theLastTakeIsDeletedBeforeTheNextStarts()

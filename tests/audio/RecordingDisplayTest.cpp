@@ -6,7 +6,9 @@
 
 using namespace std::chrono_literals;
 
+using tarvelo::audio::RecordingDisplay;
 using tarvelo::tests::FakeAudioEngine;
+using tarvelo::tests::lookOf;
 using tarvelo::tests::RecordingStage;
 
 namespace {
@@ -18,12 +20,63 @@ QDateTime at(const char *isoText)
 
 } // namespace
 
-// What recording shows once a second, and the time tag in the notes.
+// The looks of a take's controls, what recording shows once a second, and the time tag in the
+// notes.
 class RecordingDisplayTest final : public tarvelo::tests::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void aTakeStartsWithTheRecordersDisplay()
+    {
+        m_stage->playback.playRecordTemp(nullptr);
+        QCOMPARE(partsShown(), QStringLiteral("slider elapsed remaining"));
+
+        display().takeStarts();
+
+        QCOMPARE(partsShown(), QStringLiteral("meter background length"));
+    }
+
+    void theButtonsLookAsTheTakeStands()
+    {
+        display().takeStarts();
+        display().offerPause(&window().btnStartRecord);
+        QCOMPARE(looks(), QStringLiteral("stopRed/stopRedH/Stop, //, tag"));
+
+        display().takePauses();
+        QCOMPARE(looks(), QStringLiteral("stop/stopH/Stop, record/recordH/Resume"));
+
+        display().takeGoesOn();
+        QCOMPARE(looks(), QStringLiteral("stopRed/stopRedH/Stop, BtnPause/BtnPauseH/Pause, tag"));
+
+        display().takeStops();
+        QCOMPARE(looks(), QStringLiteral("play/playH/Play"));
+    }
+
+    void aTakeThatHasEndedShowsItsLength()
+    {
+        window().audioLevelMeter.setFloatValue(3);
+
+        display().takeHasEnded(65.9);
+
+        QCOMPARE(length(), QStringLiteral("00:01:05"));
+        QCOMPARE(window().audioLevelMeter.floatValue(), 0.0F);
+        display().clear();
+        QCOMPARE(length(), QString());
+    }
+
+    void theKeyboardFocusGoesFromStartToPause()
+    {
+        window().window.activateWindow();
+        window().btnStartRecord.setFocus();
+        QTRY_VERIFY(window().btnStartRecord.hasFocus());
+
+        display().offerPause(&window().btnStartRecord);
+
+        QVERIFY(window().btnPauseResumeRecording.hasFocus());
+        QVERIFY(!window().btnStartRecord.isVisible());
+    }
+
     void theLengthOfATakeIsShownEverySecondCutToWholeSeconds()
     {
         m_stage->control.startDisplayTimer();
@@ -218,13 +271,43 @@ private:
     {
         m_engine.emplace();
         m_stage.emplace(*m_engine);
+        m_display.emplace(m_stage->dates, window().outlets(), window().clockOutlets());
     }
     void finish() override
     {
+        m_display.reset();
         m_stage.reset();
         m_engine.reset();
     }
 
+    RecordingDisplay &display() { return *m_display; }
+    tarvelo::tests::RecordingWindow &window() { return m_stage->window; }
+    QString partsShown()
+    {
+        const std::pair<QWidget *, QString> parts[] = {
+            {&window().audioLevelMeter, QStringLiteral("meter")},
+            {&window().imgLevelIndicatorBG, QStringLiteral("background")},
+            {&window().lblRecordingDuration, QStringLiteral("length")},
+            {&window().sliderPlayProgress2, QStringLiteral("slider")},
+            {&window().lblElapsedTimeTemp, QStringLiteral("elapsed")},
+            {&window().lblRemainingTimeTemp, QStringLiteral("remaining")}};
+        QStringList shown;
+        for (const auto &[part, name] : parts) {
+            if (part->isVisible())
+                shown << name;
+        }
+        return shown.join(u' ');
+    }
+    // Of the stop button, of the pause button where it shows, and whether there is a time tag.
+    QString looks()
+    {
+        QStringList looks{lookOf(window().btnStopRecord)};
+        if (window().btnPauseResumeRecording.isVisible())
+            looks << lookOf(window().btnPauseResumeRecording);
+        if (window().btnTimeTag.isVisible())
+            looks << QStringLiteral("tag");
+        return looks.join(QStringLiteral(", "));
+    }
     QString length() const { return m_stage->window.lblRecordingDuration.text(); }
     QTextEdit &notes() { return m_stage->window.txtView; }
     QStringList clockTexts() const
@@ -241,6 +324,7 @@ private:
 
     std::optional<FakeAudioEngine> m_engine;
     std::optional<RecordingStage> m_stage;
+    std::optional<RecordingDisplay> m_display;
 };
 
 QTEST_MAIN(RecordingDisplayTest)
