@@ -16,33 +16,25 @@ constexpr pa_usec_t RetryInterval = PA_USEC_PER_SEC / 4;
 std::unique_ptr<PulseCapture> PulseCapture::open(std::chrono::milliseconds patience)
 {
     std::unique_ptr<PulseCapture> capture(new PulseCapture);
-    if (!capture->startLoop())
+    if (!capture->m_connection.start())
         return nullptr;
     return capture->waitUntilOpen(patience) ? std::move(capture) : nullptr;
 }
 
-PulseCapture::~PulseCapture()
+PulseCapture::PulseCapture()
+    : m_connection(RetryInterval, {[this] { m_stream.reset(); }, [this] { answered(); },
+                                   [this] { askForMicrophone(); }, [this] { lost(); }})
 {
-    if (!m_loop)
-        return;
-    {
-        const PulseLock lock(m_loop.get());
-        m_sink = nullptr;
-        if (m_retry)
-            pa_threaded_mainloop_get_api(m_loop.get())->time_free(m_retry);
-        m_stream.reset();
-        m_context.reset();
-    }
-    pa_threaded_mainloop_stop(m_loop.get());
 }
 
-bool PulseCapture::startLoop()
+PulseCapture::~PulseCapture()
 {
-    m_loop.reset(pa_threaded_mainloop_new());
-    if (!m_loop)
-        return false;
-    connectContext(); // nobody else is there yet
-    return pa_threaded_mainloop_start(m_loop.get()) >= 0;
+    if (!m_connection.isStarted())
+        return;
+    const PulseLock lock(m_connection.loop());
+    m_sink = nullptr;
+    m_stream.reset();
+    m_connection.close();
 }
 
 bool PulseCapture::waitUntilOpen(std::chrono::milliseconds patience)
@@ -75,18 +67,18 @@ void PulseCapture::settle(Outcome outcome)
 
 void PulseCapture::resume(SoundSink &sink)
 {
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     m_sink = &sink;
-    if (isStreamReady())
+    if (isReady(m_stream))
         forget(pa_stream_cork(m_stream.get(), 0, nullptr, nullptr));
 }
 
 void PulseCapture::pause()
 {
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     if (!m_sink)
         return;
-    if (isStreamReady()) {
+    if (isReady(m_stream)) {
         takeWhatIsThere();
         forget(pa_stream_cork(m_stream.get(), 1, nullptr, nullptr));
     }
@@ -94,36 +86,10 @@ void PulseCapture::pause()
     m_sink = nullptr;
 }
 
-void PulseCapture::connectContext()
+void PulseCapture::askForMicrophone()
 {
-    m_stream.reset();
-    PulseContextPointer context(
-        pa_context_new(pa_threaded_mainloop_get_api(m_loop.get()), "Tarvelo"));
-    if (!context) {
-        settle(Outcome::Failed);
-        if (m_context) // without memory for another one now, there may be some later
-            lost();
-        return;
-    }
-    m_context = std::move(context);
-    pa_context_set_state_callback(
-        m_context.get(),
-        [](pa_context *, void *self) { static_cast<PulseCapture *>(self)->contextChanged(); },
-        this);
-    if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
-        lost();
-}
-
-void PulseCapture::contextChanged()
-{
-    const pa_context_state_t state = pa_context_get_state(m_context.get());
-    answered();
-    if (!PA_CONTEXT_IS_GOOD(state))
-        lost();
-    if (state != PA_CONTEXT_READY)
-        return;
     pa_operation *const question = pa_context_get_source_info_by_name(
-        m_context.get(), "@DEFAULT_SOURCE@",
+        m_connection.context(), "@DEFAULT_SOURCE@",
         [](pa_context *, const pa_source_info *microphone, int end, void *self) {
             if (microphone)
                 static_cast<PulseCapture *>(self)->microphoneFound(*microphone);
@@ -147,9 +113,8 @@ void PulseCapture::microphoneFound(const pa_source_info &microphone)
 
 void PulseCapture::openStream()
 {
-    const pa_sample_spec spec{PA_SAMPLE_FLOAT32NE, static_cast<std::uint32_t>(m_format.rate),
-                              static_cast<std::uint8_t>(m_format.channels)};
-    m_stream.reset(pa_stream_new(m_context.get(), "Lecture", &spec, nullptr));
+    const pa_sample_spec spec = specOf(m_format);
+    m_stream.reset(pa_stream_new(m_connection.context(), "Lecture", &spec, nullptr));
     if (!m_stream) {
         lost();
         return;
@@ -185,28 +150,12 @@ void PulseCapture::streamChanged()
         lost();
 }
 
-// Runs inside callbacks of the very handles that are lost: they go when the retry makes new ones.
 void PulseCapture::lost()
 {
     settle(Outcome::Failed);
     if (m_sink)
         m_sink->breakOff();
-    if (m_retry)
-        return;
-    m_retry = pa_context_rttime_new(
-        m_context.get(), pa_rtclock_now() + RetryInterval,
-        [](pa_mainloop_api *api, pa_time_event *event, const timeval *, void *self) {
-            auto capture = static_cast<PulseCapture *>(self);
-            api->time_free(event);
-            capture->m_retry = nullptr;
-            capture->connectContext();
-        },
-        this);
-}
-
-bool PulseCapture::isStreamReady() const
-{
-    return m_stream && pa_stream_get_state(m_stream.get()) == PA_STREAM_READY;
+    m_connection.retryLater();
 }
 
 void PulseCapture::takeWhatIsThere()

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "audio/engine/PcmFormat.h"
-#include "audio/engine/PulseHandles.h"
+#include "audio/engine/PulseConnection.h"
 #include "audio/engine/SoundSink.h"
 
 #include <chrono>
@@ -35,26 +34,21 @@ public:
 private:
     enum class Outcome { Pending, Opened, Failed };
 
-    PulseCapture() = default;
-    bool startLoop();
+    PulseCapture();
     bool waitUntilOpen(std::chrono::milliseconds patience);
     void answered();
     void settle(Outcome outcome);
 
     // All below run with the loop's lock held.
-    void connectContext();
-    void contextChanged();
+    void askForMicrophone();
     void microphoneFound(const pa_source_info &microphone);
     void openStream();
     void streamChanged();
     void lost();
     void takeWhatIsThere();
-    bool isStreamReady() const;
 
-    PulseLoopPointer m_loop;
-    PulseContextPointer m_context;
+    PulseConnection m_connection;
     PulseStreamPointer m_stream;
-    pa_time_event *m_retry = nullptr;
     PcmFormat m_format;
     SoundSink *m_sink = nullptr; // none while paused
 

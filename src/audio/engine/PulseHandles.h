@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/engine/PcmFormat.h"
+
 #include <pulse/pulseaudio.h>
 
 #include <memory>
@@ -47,6 +49,17 @@ public:
 private:
     pa_threaded_mainloop *m_loop;
 };
+
+inline pa_sample_spec specOf(const PcmFormat &format)
+{
+    return {PA_SAMPLE_FLOAT32NE, static_cast<std::uint32_t>(format.rate),
+            static_cast<std::uint8_t>(format.channels)};
+}
+
+inline bool isReady(const PulseStreamPointer &stream)
+{
+    return stream && pa_stream_get_state(stream.get()) == PA_STREAM_READY;
+}
 
 // Nobody waits for the answer.
 inline void forget(pa_operation *operation)

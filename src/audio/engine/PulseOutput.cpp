@@ -16,139 +16,101 @@ constexpr pa_usec_t RetryInterval = PA_USEC_PER_SEC;
 
 constexpr std::size_t BlockFrames = 2048;
 
-pa_sample_spec specFor(const PcmFormat &format)
-{
-    return {PA_SAMPLE_FLOAT32NE, static_cast<std::uint32_t>(format.rate),
-            static_cast<std::uint8_t>(format.channels)};
-}
-
 } // namespace
 
 PulseOutput::PulseOutput(std::function<void()> tellOfEnd)
     : m_tellOfEnd(std::move(tellOfEnd))
+    , m_connection(RetryInterval, {[this] { m_stream.reset(); }, [] {}, [this] { openStream(); },
+                                   [this] { lost(); }})
 {
 }
 
 PulseOutput::~PulseOutput()
 {
-    if (!m_loop)
+    if (!m_connection.isStarted())
         return;
-    {
-        const PulseLock lock(m_loop.get());
-        m_supply = nullptr;
-        freeRetry();
-        m_stream.reset();
-        m_context.reset();
-    }
-    pa_threaded_mainloop_stop(m_loop.get());
+    const PulseLock lock(m_connection.loop());
+    m_supply = nullptr;
+    m_stream.reset();
+    m_connection.close();
 }
 
 bool PulseOutput::prepare()
 {
-    if (m_loop)
-        return true;
-    m_loop.reset(pa_threaded_mainloop_new());
-    if (!m_loop || pa_threaded_mainloop_start(m_loop.get()) < 0) {
-        m_loop.reset();
-        return false;
-    }
-    const PulseLock lock(m_loop.get());
-    connectContext();
-    return true;
+    return m_connection.start();
 }
 
 void PulseOutput::start(SoundSupply &supply)
 {
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     m_supply = &supply;
     m_isPaused = false;
     m_isFinished = false;
-    if (isContextReady())
+    if (m_connection.isReady())
         openStream();
-    else if (m_retry) // nobody waits for the next second when the user asks now
-        connectContext();
+    else
+        m_connection.retryNow();
 }
 
 void PulseOutput::stop()
 {
-    if (!m_loop)
+    if (!m_connection.isStarted())
         return;
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     m_supply = nullptr;
     m_stream.reset();
 }
 
 void PulseOutput::pause()
 {
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     m_isPaused = true;
-    if (isStreamReady())
+    if (isReady(m_stream))
         forget(pa_stream_cork(m_stream.get(), 1, nullptr, nullptr));
 }
 
 void PulseOutput::resume()
 {
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     m_isPaused = false;
-    if (isStreamReady()) {
+    if (isReady(m_stream)) {
         forget(pa_stream_cork(m_stream.get(), 0, nullptr, nullptr));
         fill();
-    } else if (m_retry) {
-        connectContext();
+    } else {
+        m_connection.retryNow();
     }
 }
 
 double PulseOutput::seconds()
 {
-    if (!m_loop)
+    if (!m_connection.isStarted())
         return 0;
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     return m_supply ? m_supply->secondsAt(m_heard.at(pa_rtclock_now())) : 0;
 }
 
 void PulseOutput::moreIsThere()
 {
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     fill();
 }
 
 bool PulseOutput::isFinished()
 {
-    const PulseLock lock(m_loop.get());
+    const PulseLock lock(m_connection.loop());
     return m_supply && m_isFinished && m_supply->isAtEnd();
-}
-
-void PulseOutput::connectContext()
-{
-    freeRetry();
-    m_stream.reset();
-    m_context.reset(pa_context_new(pa_threaded_mainloop_get_api(m_loop.get()), "Tarvelo"));
-    if (!m_context)
-        return;
-    pa_context_set_state_callback(
-        m_context.get(),
-        [](pa_context *, void *self) { static_cast<PulseOutput *>(self)->contextChanged(); }, this);
-    if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
-        retryLater();
-}
-
-void PulseOutput::contextChanged()
-{
-    const pa_context_state_t state = pa_context_get_state(m_context.get());
-    if (!PA_CONTEXT_IS_GOOD(state))
-        lost();
-    else if (state == PA_CONTEXT_READY && m_supply)
-        openStream();
 }
 
 void PulseOutput::openStream()
 {
+    if (!m_supply)
+        return;
     m_isDraining = false;
     m_heard.restart(m_supply->format().rate);
-    const pa_sample_spec spec = specFor(m_supply->format());
-    m_stream.reset(pa_stream_new(m_context.get(), "Lecture", &spec, nullptr));
+    const pa_sample_spec spec = specOf(m_supply->format());
+    m_stream.reset(pa_stream_new(m_connection.context(), "Lecture", &spec, nullptr));
     if (!m_stream) {
-        retryLater();
+        m_connection.retryLater();
         return;
     }
     pa_stream_set_state_callback(
@@ -184,37 +146,17 @@ void PulseOutput::streamChanged()
     }
 }
 
-// Runs inside callbacks of the very handles that are lost: they go when the retry makes new ones.
 void PulseOutput::lost()
 {
     if (m_supply)
         m_supply->restartAt(m_heard.at(pa_rtclock_now()));
     m_heard = HeardFrames();
-    retryLater();
-}
-
-void PulseOutput::retryLater()
-{
-    if (m_retry)
-        return;
-    m_retry = pa_context_rttime_new(
-        m_context.get(), pa_rtclock_now() + RetryInterval,
-        [](pa_mainloop_api *, pa_time_event *, const timeval *, void *self) {
-            static_cast<PulseOutput *>(self)->connectContext();
-        },
-        this);
-}
-
-void PulseOutput::freeRetry()
-{
-    if (m_retry)
-        pa_threaded_mainloop_get_api(m_loop.get())->time_free(m_retry);
-    m_retry = nullptr;
+    m_connection.retryLater();
 }
 
 void PulseOutput::fill()
 {
-    if (!m_supply || !isStreamReady() || m_retry)
+    if (!m_supply || !isReady(m_stream) || m_connection.isWaiting())
         return;
     const auto channels = static_cast<std::size_t>(m_supply->format().channels);
     m_block.resize(BlockFrames * channels);
@@ -267,7 +209,7 @@ void PulseOutput::drained(const pa_stream *stream, bool isTrue)
     if (stream != m_stream.get())
         return;
     m_isDraining = false;
-    if (!m_supply || m_retry || m_isPaused)
+    if (!m_supply || m_connection.isWaiting() || m_isPaused)
         return;
     if (!isTrue || m_framesToDrain != m_heard.written() || !m_supply->isAtEnd()) {
         fill();
@@ -295,16 +237,6 @@ void PulseOutput::timingChanged()
     const double inSpeaker = static_cast<double>(timing->sink_usec) * format.rate / 1e6;
     const pa_usec_t age = pa_timeval_age(&timing->timestamp);
     m_heard.movedAt(read - inSpeaker, pa_rtclock_now() - age, read > 0);
-}
-
-bool PulseOutput::isContextReady() const
-{
-    return m_context && pa_context_get_state(m_context.get()) == PA_CONTEXT_READY;
-}
-
-bool PulseOutput::isStreamReady() const
-{
-    return m_stream && pa_stream_get_state(m_stream.get()) == PA_STREAM_READY;
 }
 
 } // namespace tarvelo::engine

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "audio/engine/HeardFrames.h"
-#include "audio/engine/PulseHandles.h"
+#include "audio/engine/PulseConnection.h"
 #include "audio/engine/SoundSupply.h"
 
 #include <functional>
@@ -41,26 +41,18 @@ public:
 
 private:
     // All below run with the loop's lock held.
-    void connectContext();
-    void contextChanged();
     void openStream();
     void streamChanged();
     void timingChanged();
     void lost();
-    void retryLater();
-    void freeRetry();
     void fill();
     void write(std::size_t frames);
     void drain();
     void drained(const pa_stream *stream, bool isTrue);
-    bool isContextReady() const;
-    bool isStreamReady() const;
 
     std::function<void()> m_tellOfEnd;
-    PulseLoopPointer m_loop;
-    PulseContextPointer m_context;
+    PulseConnection m_connection;
     PulseStreamPointer m_stream;
-    pa_time_event *m_retry = nullptr;
     SoundSupply *m_supply = nullptr;
     std::vector<float> m_block;
     HeardFrames m_heard;
