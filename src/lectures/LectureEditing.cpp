@@ -8,8 +8,7 @@
 #include "lectures/WindowWidths.h"
 #include "platform/Alerts.h"
 #include "platform/WindowLevel.h"
-#include "store/LectureDatabase.h"
-#include "store/Statements.h"
+#include "store/GoneLectures.h"
 #include "widgets/ImageButton.h"
 #include "widgets/MouseDownTextField.h"
 #include "widgets/PopOver.h"
@@ -52,10 +51,11 @@ bool isSame(const Lecture &one, const Lecture &other)
 
 } // namespace
 
-LectureEditing::LectureEditing(const Collaborators &collaborators, const Outlets &outlets)
+LectureEditing::LectureEditing(const Collaborators &collaborators,
+                               LectureSaving::Collaborators saving, const Outlets &outlets)
     : m_with(collaborators)
     , m_outlets(outlets)
-    , m_unsavedTexts(collaborators.database, collaborators.clock)
+    , m_saving(std::move(saving))
     , m_stopSoundPlayEdit(collaborators.clock, [this] { m_with.playback.stopSoundPlayEdit(); })
 {
 }
@@ -69,7 +69,7 @@ Lecture LectureEditing::selectedLectureOfSender(const QWidget *sender)
         return nullptr;
     table.selectRow(row);
     const Lecture &lecture = lectures[static_cast<std::size_t>(row)];
-    m_unsavedTexts.putInto(*lecture);
+    m_saving.putUnsavedInto(*lecture);
     return lecture;
 }
 
@@ -145,13 +145,7 @@ void LectureEditing::save(const Lecture &lecture, const QString &subject, const 
 {
     if (!lecture)
         return;
-    m_with.changeWaiting(*lecture, subject, notes);
-    if (isSaved(*lecture, subject, notes))
-        m_unsavedTexts.forget(*lecture);
-    else
-        m_unsavedTexts.keep(*lecture, subject, notes);
-    lecture->setSubject(subject);
-    lecture->setNotes(notes);
+    m_saving.save(*lecture, subject, notes);
     // The list may have been built anew while the lecture was open.
     for (const Lecture &shown : m_with.dayList.arrangedObjects()) {
         if (!isSame(shown, lecture))
@@ -159,23 +153,6 @@ void LectureEditing::save(const Lecture &lecture, const QString &subject, const 
         shown->setSubject(subject);
         shown->setNotes(notes);
     }
-}
-
-// One without a row has nothing to save but what waits of it.
-bool LectureEditing::isSaved(const store::LectureInfoItem &lecture, const QString &subject,
-                             const QString &notes)
-{
-    const qint64 id = lecture.getRecordUniqueID();
-    if (lecture.hasGone())
-        return m_with.database.changeGone(lecture.copyPath(), id, subject, notes);
-    if (!lecture.hasRow() || m_with.database.updateToDoDatawithSqlStatementWithArguments(
-                                 store::statements::Update, {subject, notes, QString::number(id)}))
-        return true;
-    // It may have turned out only now.
-    if (lecture.hasGone())
-        return m_with.database.changeGone(lecture.copyPath(), id, subject, notes);
-    // Without a recording nothing would tell it from the next one with its ID.
-    return lecture.getLectureAudioPath().isEmpty() && !isStored(lecture);
 }
 
 void LectureEditing::onDoneEdit(QWidget *sender)
@@ -243,14 +220,14 @@ void LectureEditing::mouseDownTextFieldClicked(widgets::MouseDownTextField &fiel
 void LectureEditing::lecturesWereDeleted()
 {
     for (Lecture *lecture : {&m_itemEditingNow, &m_itemOfWindow, &m_itemOfView}) {
-        if (*lecture && !isStored(**lecture))
+        if (*lecture && !m_saving.isStored(**lecture))
             lecture->reset();
     }
 }
 
 void LectureEditing::lectureWasDeleted(const store::LectureInfoItem &lecture)
 {
-    m_unsavedTexts.forget(lecture);
+    m_saving.forget(lecture);
 }
 
 void LectureEditing::lecturesHaveGone(const store::GoneLectures &gone)
@@ -258,35 +235,17 @@ void LectureEditing::lecturesHaveGone(const store::GoneLectures &gone)
     for (const Lecture &lecture : {m_itemEditingNow, m_itemOfWindow, m_itemOfView})
         if (lecture)
             gone.mark(*lecture);
-    m_unsavedTexts.lecturesHaveGone(gone);
+    m_saving.lecturesHaveGone(gone);
 }
 
 void LectureEditing::lecturesCameBack(const store::LecturesBack &back)
 {
     LectureList lectures = m_with.dayList.arrangedObjects();
     lectures.insert(lectures.end(), {m_itemEditingNow, m_itemOfWindow, m_itemOfView});
-    for (const Lecture &lecture : lectures) {
-        if (!lecture || !lecture->hasGone())
-            continue;
-        if (const auto id =
-                m_with.database.idNow(back, lecture->copyPath(), lecture->getRecordUniqueID(),
-                                      lecture->getLectureAudioPath()))
-            lecture->setRow(*id);
-    }
-    m_unsavedTexts.lecturesCameBack(back);
-}
-
-bool LectureEditing::isStored(const store::LectureInfoItem &lecture) const
-{
-    if (!lecture.hasRow())
-        return lecture.hasGone() || m_with.isWaiting(lecture);
-    store::Sqlite *connection = m_with.database.connection();
-    const auto rows = connection ? connection->executeQueryArguments(
-                                       QStringLiteral("select ID from audioData where ID = ?"),
-                                       {lecture.getRecordUniqueID()})
-                                 : std::nullopt;
-    // A list that ends early is no word about it.
-    return !rows || !rows->isEmpty() || connection->errorCode() != 0;
+    for (const Lecture &lecture : lectures)
+        if (lecture)
+            m_saving.giveRowBack(*lecture, back);
+    m_saving.lecturesCameBack(back);
 }
 
 void LectureEditing::clearChanges()

@@ -3,11 +3,9 @@
 #include "audio/PlaybackOutlets.h"
 #include "lectures/LectureList.h"
 #include "lectures/LectureOutlets.h"
+#include "lectures/LectureSaving.h"
 #include "lectures/TextDelegate.h"
-#include "lectures/UnsavedTexts.h"
 #include "platform/DelayedCall.h"
-
-#include <functional>
 
 namespace tarvelo::audio {
 class Playback;
@@ -16,9 +14,6 @@ namespace tarvelo::platform {
 class Alerts;
 class Clock;
 } // namespace tarvelo::platform
-namespace tarvelo::store {
-class LectureDatabase;
-}
 namespace tarvelo::widgets {
 class MouseDownTextField;
 }
@@ -38,15 +33,10 @@ public:
     struct Collaborators
     {
         platform::Clock &clock;
-        store::LectureDatabase &database;
         audio::Playback &playback;
         const DayList &dayList;
         ViewChanges &viewChanges;
         platform::Alerts &alerts;
-        // Of a lecture whose row waits to be stored: what it is to have, and whether it waits.
-        std::function<void(const store::LectureInfoItem &, const QString &, const QString &)>
-            changeWaiting;
-        std::function<bool(const store::LectureInfoItem &)> isWaiting;
     };
 
     struct Outlets
@@ -58,7 +48,8 @@ public:
         PopoverOutlets popovers;
     };
 
-    LectureEditing(const Collaborators &collaborators, const Outlets &outlets);
+    LectureEditing(const Collaborators &collaborators, LectureSaving::Collaborators saving,
+                   const Outlets &outlets);
     LectureEditing(const LectureEditing &) = delete;
     LectureEditing &operator=(const LectureEditing &) = delete;
 
@@ -99,10 +90,6 @@ private:
     void showThatThereIsNoAudio(const QWidget &sender);
     bool refuseBlankSubject(const QLineEdit &subject, QWidget *sender);
     void save(const Lecture &lecture, const QString &subject, const QString &notes);
-    // True also when that cannot be asked.
-    bool isStored(const store::LectureInfoItem &lecture) const;
-    bool isSaved(const store::LectureInfoItem &lecture, const QString &subject,
-                 const QString &notes);
     bool lectureViewShowsUntouched(const Lecture &lecture) const;
     void textWasTouched();
 
@@ -115,7 +102,7 @@ private:
     bool m_bIsEditingNow = false;
     bool m_bHasChangesInNote = false;
     bool m_bHasChangesInNoteTitle = false;
-    UnsavedTexts m_unsavedTexts;
+    LectureSaving m_saving;
     platform::DelayedCall m_stopSoundPlayEdit;
 };
 

@@ -48,8 +48,8 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
     , m_dayList(services.dates, services.database, windows.mainOutlets(), [this] { reloadData(); })
     , m_viewChanges(windows.mainOutlets(), windows.lectureViewOutlets())
     , m_editing(
-          {services.dates.clock(), services.database, m_playback, m_dayList, m_viewChanges,
-           services.alerts,
+          {services.dates.clock(), m_playback, m_dayList, m_viewChanges, services.alerts},
+          {services.dates.clock(), services.database,
            [this](const store::LectureInfoItem &lecture, const QString &subject,
                   const QString &notes) { m_journal.lectureChanged(lecture, subject, notes); },
            [this](const store::LectureInfoItem &lecture) { return m_journal.owes(lecture); }},

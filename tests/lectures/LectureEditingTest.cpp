@@ -256,38 +256,6 @@ private Q_SLOTS:
         QCOMPARE(m_program->storedRows().value(0)["subject"_L1].toString(), u"  Acoustics "_s);
     }
 
-    void theIdIsWrittenWhole()
-    {
-        QCOMPARE(QString(tarvelo::store::statements::Update),
-                 u"UPDATE audioData SET subject = ?, notes = ?  where ID = ?"_s);
-        aLecture().insertInto(m_program->database);
-        m_program->storedRows();
-        m_program->database.connection()->executeNonQuery(
-            u"UPDATE audioData SET ID = 2147483647"_s);
-        m_program->showDay(m_program->today());
-        controller().onEditLecture(row(0)->btnEdit());
-        windowSubject().setText(u"Acoustics"_s);
-
-        doneButton().click();
-
-        QCOMPARE(m_program->storedRows().value(0)["subject"_L1].toString(), u"Acoustics"_s);
-    }
-
-    // Other programs may have given it.
-    void aLectureWithTheIdZeroIsSavedAsAnyOther()
-    {
-        aLecture().insertInto(m_program->database);
-        m_program->database.openDb()->executeNonQuery(u"UPDATE audioData SET ID = 0"_s);
-        m_program->showDay(m_program->today());
-        controller().onEditLecture(row(0)->btnEdit());
-        windowSubject().setText(u"Acoustics"_s);
-
-        doneButton().click();
-
-        QCOMPARE(m_program->storedRows().value(0)["subject"_L1].toString(), u"Acoustics"_s);
-        QCOMPARE(m_program->storedRows().value(0)["ID"_L1].toLongLong(), 0);
-    }
-
     void aBlankSubjectIsRefused_data()
     {
         QTest::addColumn<QString>("subject");
