@@ -77,7 +77,7 @@ QList<CustomTableCellView *> LectureTable::shownRows() const
 
 CustomTableCellView *LectureTable::keyboardRow() const
 {
-    const auto found = m_shown.find(m_selectedRow);
+    const auto found = m_shown.find(selectedRow());
     return found != m_shown.end() && hasKeyboard() ? found->second : nullptr;
 }
 
@@ -113,7 +113,7 @@ void LectureTable::reloadData()
     layoutRows();
     for (const auto &[row, view] : m_shown)
         bind(*view, row);
-    setSelection(m_selectedRows, m_selectedRow);
+    setSelection(selectedRowIndexes(), selectedRow());
     m_slideUp->finish();
 }
 
@@ -138,26 +138,22 @@ void LectureTable::selectRow(int row)
 void LectureTable::selectRowIndexesByExtendingSelection(const QList<int> &rows, bool extend)
 {
     const int current = rows.isEmpty() ? -1 : rows.last();
-    setSelection(extend ? m_selectedRows + rows : rows,
-                 extend && current < 0 ? m_selectedRow : current);
+    setSelection(extend ? selectedRowIndexes() + rows : rows,
+                 extend && current < 0 ? selectedRow() : current);
 }
 
 void LectureTable::setSelection(const QList<int> &rows, int current)
 {
-    const auto isThere = [this](int row) { return row >= 0 && row < rowCount(); };
-    QList<int> chosen;
-    std::copy_if(rows.cbegin(), rows.cend(), std::back_inserter(chosen), isThere);
-    std::sort(chosen.begin(), chosen.end());
-    chosen.erase(std::unique(chosen.begin(), chosen.end()), chosen.end());
-    const int keyboard = isThere(current) ? current : -1;
-    if (chosen == m_selectedRows && keyboard == m_selectedRow)
-        return;
-    m_selectedRows = chosen;
-    m_selectedRow = keyboard;
+    if (m_selection.set(rows, current, rowCount()))
+        selectionHasChanged();
+}
+
+void LectureTable::selectionHasChanged()
+{
     showCurrentRow();
     tellOfKeyboardRow();
     viewport()->update();
-    Q_EMIT selectionChanged(m_selectedRows);
+    Q_EMIT selectionChanged(selectedRowIndexes());
 }
 
 void LectureTable::removeRow(int row, std::chrono::milliseconds duration,
@@ -183,8 +179,7 @@ void LectureTable::finishRemoval()
     m_slideUp->finish();
 }
 
-// The rows below it, their views and their selection move up by one; the keyboard stays at its
-// place.
+// The rows below it, their views and their selection move up by one.
 void LectureTable::forgetRow(int row)
 {
     if (const auto found = m_shown.find(row); found != m_shown.end())
@@ -196,18 +191,9 @@ void LectureTable::forgetRow(int row)
     }
     m_shown = std::move(shown);
 
-    QList<int> selected;
-    for (const int index : std::as_const(m_selectedRows)) {
-        if (index != row)
-            selected.append(index > row ? index - 1 : index);
-    }
-    int current = m_selectedRow > row ? m_selectedRow - 1 : m_selectedRow;
-    if (m_selectedRow == row) {
-        current = std::min(row, rowCount() - 1);
-        selected.append(current);
-    }
-    m_selectedRow = -2; // the row of that number is another one now
-    setSelection(selected, current);
+    m_selection.removeRow(row, rowCount());
+    // Also where the numbers are the same, as the rows are others.
+    selectionHasChanged();
 }
 
 void LectureTable::updateScrollBar()
@@ -296,7 +282,7 @@ CustomTableCellView *LectureTable::takeView()
 void LectureTable::bind(CustomTableCellView &view, int row) const
 {
     view.setObjectValue(m_model->index(row, 0).data(LectureRole).value<Lecture>());
-    view.setCurrent(row == m_selectedRow && hasKeyboard());
+    view.setCurrent(row == selectedRow() && hasKeyboard());
 }
 
 void LectureTable::resizeEvent(QResizeEvent *event)
@@ -315,7 +301,7 @@ void LectureTable::showCurrentRow()
 {
     const bool has = hasKeyboard();
     for (const auto &[row, view] : m_shown)
-        view->setCurrent(has && row == m_selectedRow);
+        view->setCurrent(has && row == selectedRow());
 }
 
 void LectureTable::tellOfKeyboardRow()
@@ -339,7 +325,7 @@ void LectureTable::paintEvent(QPaintEvent *)
     painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
     if (m_highlightStyle == SelectionHighlightStyle::Regular) {
         for (const auto &[row, view] : m_shown) {
-            if (m_selectedRows.contains(row))
+            if (m_selection.has(row))
                 painter.fillRect(view->geometry(), palette().color(QPalette::Midlight));
         }
     }

@@ -2,6 +2,7 @@
 
 #include "lectures/LectureList.h"
 #include "lectures/RowAction.h"
+#include "lectures/RowSelection.h"
 
 #include <QAbstractItemModel>
 #include <QAbstractScrollArea>
@@ -44,17 +45,14 @@ public:
     int rowForView(const QWidget *view) const;
     int viewCount() const { return static_cast<int>(m_shown.size() + m_spare.size()); }
     // The row that the keyboard is on; -1 for none.
-    int selectedRow() const { return m_selectedRow; }
+    int selectedRow() const { return m_selection.current(); }
     // All of them, in ascending order.
-    const QList<int> &selectedRowIndexes() const { return m_selectedRows; }
+    const QList<int> &selectedRowIndexes() const { return m_selection.rows(); }
     // The view of the row that the keyboard is on, when both the row and the keyboard are here.
     CustomTableCellView *keyboardRow() const;
     // The views of the rows that show, from above to below.
     QList<CustomTableCellView *> shownRows() const;
-    bool isSelected(const QWidget &rowView) const
-    {
-        return m_selectedRows.contains(rowForView(&rowView));
-    }
+    bool isSelected(const QWidget &rowView) const { return m_selection.has(rowForView(&rowView)); }
     SelectionHighlightStyle selectionHighlightStyle() const { return m_highlightStyle; }
 
     // The model must outlive the table or be taken off it. Its resets reload the table.
@@ -114,6 +112,7 @@ private:
     void putAway(CustomTableCellView &view);
     void forgetRow(int row);
     void setSelection(const QList<int> &rows, int current);
+    void selectionHasChanged();
     // Gives every row that shows its view, in its place, and takes the others' away.
     void layoutRows();
     void placeRowAction();
@@ -130,8 +129,7 @@ private:
     RowActions m_rowActions;
     RowSlideUp *m_slideUp;
     RowSwipe *m_swipe;
-    QList<int> m_selectedRows;
-    int m_selectedRow = -1;
+    RowSelection m_selection;
     SelectionHighlightStyle m_highlightStyle = SelectionHighlightStyle::Regular;
 };
 

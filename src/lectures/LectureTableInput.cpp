@@ -58,7 +58,7 @@ bool LectureTable::hasKeyboard() const
 bool LectureTable::focusNextPrevChild(bool next)
 {
     QList<QWidget *> stops{this};
-    if (const auto found = m_shown.find(m_selectedRow); found != m_shown.end()) {
+    if (const auto found = m_shown.find(selectedRow()); found != m_shown.end()) {
         for (QWidget *button : found->second->buttons()) {
             if (button->isVisible() && button->isEnabled())
                 stops.append(button);
@@ -83,7 +83,7 @@ void LectureTable::keyPressEvent(QKeyEvent *event)
 bool LectureTable::moveByKey(int key)
 {
     const int page = std::max(1, viewport()->height() / CustomTableCellView::RowHeight);
-    int row = m_selectedRow;
+    int row = selectedRow();
     switch (key) {
     case Qt::Key_Down:
         row += 1;
@@ -121,7 +121,7 @@ bool LectureTable::commandByKey(const QKeyEvent &event)
     // A key that is held gives its command once.
     if (!isCommand || event.isAutoRepeat())
         return isCommand;
-    CustomTableCellView *view = viewAtColumnRowMakeIfNecessary(0, m_selectedRow, true);
+    CustomTableCellView *view = viewAtColumnRowMakeIfNecessary(0, selectedRow(), true);
     if (!view)
         return false;
     if (isMenuKey)
@@ -140,12 +140,12 @@ void LectureTable::command(CustomTableCellView &row, int key)
     else if (key == Qt::Key_F2)
         row.btnEdit()->click();
     else
-        Q_EMIT rowOpened(m_selectedRow);
+        Q_EMIT rowOpened(selectedRow());
 }
 
 void LectureTable::showMenuOfSelectedRow(Qt::KeyboardModifiers modifiers)
 {
-    CustomTableCellView *view = viewAtColumnRowMakeIfNecessary(0, m_selectedRow, true);
+    CustomTableCellView *view = viewAtColumnRowMakeIfNecessary(0, selectedRow(), true);
     if (!view)
         return;
     QMenu *menu = modifiers & Qt::ControlModifier ? view->exportMenu() : view->getMenu();
