@@ -65,6 +65,36 @@ void describe(QApplication &application)
                                                                                 : Qt::LeftToRight);
 }
 
+// What the program stands on. It comes into being in this order.
+struct Ground
+{
+    Ground()
+    {
+        platform::keepFolderPrivate(QFileInfo(platform::UserDefaults::standardFile()).path());
+    }
+
+    platform::SystemClock clock;
+    platform::Dates dates{clock, platform::Region::ofUser()};
+    platform::UserDefaults defaults{platform::UserDefaults::standardFile()};
+    platform::Places places = platform::Places::ofProcess();
+    store::LectureDatabase database{places, clock};
+    std::unique_ptr<engine::AudioEngine> sound = engine::makeSoundServerEngine();
+    platform::WindowAlerts alerts;
+    platform::DesktopWorkspace workspace;
+    platform::DesktopMailComposer mail;
+    platform::DesktopSleepInhibitor sleep{platform::text("REASON_RECORDING")};
+    app::ProcessFlags &flags = app::ProcessFlags::ofProcess();
+};
+
+// What somebody outside asks of the program that runs.
+void answerRequests(const app::SingleInstance &instance, const app::DesktopService &service,
+                    app::AppDelegate &delegate)
+{
+    const auto perform = [&delegate](app::Request request) { delegate.perform(request); };
+    QObject::connect(&instance, &app::SingleInstance::requested, &delegate, perform);
+    QObject::connect(&service, &app::DesktopService::requested, &delegate, perform);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -85,40 +115,27 @@ int main(int argc, char **argv)
     }
     describe(application);
 
-    platform::SystemClock clock;
-    platform::Dates dates(clock, platform::Region::ofUser());
-    platform::UserDefaults defaults(platform::UserDefaults::standardFile());
-    platform::keepFolderPrivate(QFileInfo(platform::UserDefaults::standardFile()).path());
-    const platform::Places places = platform::Places::ofProcess();
-    store::LectureDatabase database(places, clock);
-    const auto engine = engine::makeSoundServerEngine();
-    platform::WindowAlerts alerts;
-    platform::DesktopWorkspace workspace;
-    platform::DesktopMailComposer mail;
-    platform::DesktopSleepInhibitor sleep(platform::text("REASON_RECORDING"));
-    app::ProcessFlags &flags = app::ProcessFlags::ofProcess();
-
-    const lectures::LectureWindows windows(dates);
-    lectures::MediaLinksArrayController controller({dates, places, defaults, database, *engine,
-                                                    alerts, workspace, mail, sleep,
-                                                    flags.controllerIsAwake, flags.pendingRow},
-                                                   windows);
+    Ground ground;
+    const lectures::LectureWindows windows(ground.dates);
+    lectures::MediaLinksArrayController controller(
+        {ground.dates, ground.places, ground.defaults, ground.database, *ground.sound,
+         ground.alerts, ground.workspace, ground.mail, ground.sleep, ground.flags.controllerIsAwake,
+         ground.flags.pendingRow},
+        windows);
     app::AppDelegate delegate(
-        {dates, defaults, database, alerts, windows, controller,
+        {ground.dates, ground.defaults, ground.database, ground.alerts, windows, controller,
          app::LoginItem(app::LoginItem::standardFolder(), QApplication::applicationFilePath()),
-         app::Help(workspace, places.resources), flags});
+         app::Help(ground.workspace, ground.places.resources), ground.flags});
 
     const app::WaysOut waysOut(application, delegate, controller);
     const app::DesktopService service;
-    const auto perform = [&delegate](app::Request request) { delegate.perform(request); };
-    QObject::connect(&instance, &app::SingleInstance::requested, &delegate, perform);
-    QObject::connect(&service, &app::DesktopService::requested, &delegate, perform);
+    answerRequests(instance, service, delegate);
 
     controller.awakeFromNib();
     delegate.awakeFromNib();
     delegate.applicationDidFinishLaunching(&application);
-    const store::DailyCheck check(database, clock);
-    platform::DelayedCall firstRequest(clock, [&] { delegate.perform(line.request); });
+    const store::DailyCheck check(ground.database, ground.clock);
+    platform::DelayedCall firstRequest(ground.clock, [&] { delegate.perform(line.request); });
     if (line.request != app::Request::Reopen)
         firstRequest.schedule(LaunchTime);
     return QApplication::exec();

@@ -147,6 +147,61 @@ ImageButton *addButton(QWidget &popoverContent, const char *name, const char *te
     return button;
 }
 
+calendar::CKCalendarView *makeCalendar(platform::Dates &dates, QWidget &window)
+{
+    auto *view = new calendar::CKCalendarView(dates, CalendarFrame, &window);
+    view->setObjectName(QStringLiteral("calendarView"));
+    view->setAccessibleName(platform::text("CALENDAR"));
+    platform::setFrame(*view, platform::frameOf(*view));
+    view->lower();
+    return view;
+}
+
+// Nothing shows it yet; it waits beside the list.
+QWidget *makeNewNoteView(QWidget &list)
+{
+    auto *view = new QWidget(&list);
+    view->setObjectName(QStringLiteral("newNoteView"));
+    view->hide();
+    return view;
+}
+
+audio::RecordingOutlets recordingOutletsOf(QWidget *window, const Ui::NewLectureWindow &ui)
+{
+    return {window,
+            ui.btnStartRecord,
+            ui.btnStopRecord,
+            ui.btnPauseResumeRecording,
+            ui.btnTimeTag,
+            ui.btnStartStopRecording,
+            ui.audioLevelMeter,
+            ui.imgLevelIndicatorBG,
+            ui.lblRecordingDuration,
+            ui.sliderPlayProgress2,
+            ui.lblElapsedTimeTemp,
+            ui.lblRemainingTimeTemp,
+            ui.txtView,
+            ui.lblRecordingWarning};
+}
+
+// As they stand before a take.
+void dressRecordingControls(const audio::RecordingOutlets &controls)
+{
+    controls.btnStartRecord->setImage(imageNamed(QStringLiteral("record")));
+    controls.btnStartRecord->setAlternateImage(imageNamed(QStringLiteral("recordH")));
+    controls.btnPauseResumeRecording->setLook(QStringLiteral("BtnPause"),
+                                              QStringLiteral("BtnPauseH"), QStringLiteral("Pause"));
+    controls.btnStopRecord->setLook(QStringLiteral("stop"), QStringLiteral("stopH"),
+                                    QStringLiteral("Stop"));
+    controls.btnTimeTag->setImage(imageNamed(QStringLiteral("timetag")));
+    keepRoom(*controls.btnTimeTag);
+    controls.btnTimeTag->hide();
+    controls.btnPauseResumeRecording->hide();
+    controls.sliderPlayProgress2->hide();
+    controls.lblElapsedTimeTemp->hide();
+    controls.lblRemainingTimeTemp->hide();
+}
+
 } // namespace
 
 LectureWindows::LectureWindows(platform::Dates &dates)
@@ -185,16 +240,8 @@ void LectureWindows::buildMainWindow(platform::Dates &dates)
     m_mainWindow->setObjectName(QStringLiteral("mainWindow"));
     m_mainWindow->setFrameSize(ListShownWidth, CanvasHeight);
 
-    auto *calendarView = new calendar::CKCalendarView(dates, CalendarFrame, m_mainWindow.get());
-    calendarView->setObjectName(QStringLiteral("calendarView"));
-    calendarView->setAccessibleName(platform::text("CALENDAR"));
-    platform::setFrame(*calendarView, platform::frameOf(*calendarView));
-    calendarView->lower();
-    // Nothing shows it yet; it waits beside the list.
-    auto *newNoteView = new QWidget(ui.tableListView);
-    newNoteView->setObjectName(QStringLiteral("newNoteView"));
-    newNoteView->hide();
-
+    auto *calendarView = makeCalendar(dates, *m_mainWindow);
+    auto *newNoteView = makeNewNoteView(*ui.tableListView);
     m_main = {m_mainWindow.get(),   calendarView,     ui.tblRecordSubjectList, ui.tableListView,
               ui.scrollTableView,   newNoteView,      ui.editPlayView,         ui.weekDayView,
               ui.topHorizontalLine, ui.lblTarvelo,    ui.lblDateDisplay,       ui.btnMainMenu,
@@ -274,20 +321,7 @@ void LectureWindows::buildNewLectureWindow()
                     ui.btnCloseNewLecture,
                     ui.BtnCancelAddNewLecture,
                     ui.recordAnimationView};
-    m_recording = {m_newNoteWindow.get(),
-                   ui.btnStartRecord,
-                   ui.btnStopRecord,
-                   ui.btnPauseResumeRecording,
-                   ui.btnTimeTag,
-                   ui.btnStartStopRecording,
-                   ui.audioLevelMeter,
-                   ui.imgLevelIndicatorBG,
-                   ui.lblRecordingDuration,
-                   ui.sliderPlayProgress2,
-                   ui.lblElapsedTimeTemp,
-                   ui.lblRemainingTimeTemp,
-                   ui.txtView,
-                   ui.lblRecordingWarning};
+    m_recording = recordingOutletsOf(m_newNoteWindow.get(), ui);
 
     for (QLabel *label : {ui.textDate, ui.textTime, ui.lblNotesForAdd, ui.lblElapsedTimeTemp,
                           ui.lblRemainingTimeTemp})
@@ -301,19 +335,7 @@ void LectureWindows::buildNewLectureWindow()
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
     fill(*ui.recordingPanel, QColor(247, 247, 249));
     ui.imgLevelIndicatorBG->setImage(imageNamed(QStringLiteral("levelBackground")));
-    ui.btnStartRecord->setImage(imageNamed(QStringLiteral("record")));
-    ui.btnStartRecord->setAlternateImage(imageNamed(QStringLiteral("recordH")));
-    ui.btnPauseResumeRecording->setLook(QStringLiteral("BtnPause"), QStringLiteral("BtnPauseH"),
-                                        QStringLiteral("Pause"));
-    ui.btnStopRecord->setLook(QStringLiteral("stop"), QStringLiteral("stopH"),
-                              QStringLiteral("Stop"));
-    ui.btnTimeTag->setImage(imageNamed(QStringLiteral("timetag")));
-    keepRoom(*ui.btnTimeTag);
-    ui.btnTimeTag->hide();
-    ui.btnPauseResumeRecording->hide();
-    ui.sliderPlayProgress2->hide();
-    ui.lblElapsedTimeTemp->hide();
-    ui.lblRemainingTimeTemp->hide();
+    dressRecordingControls(m_recording);
     ui.BtnDoneOrClose->setTag(NewLectureOutlets::TagDone);
     ui.btnCloseNewLecture->setTag(NewLectureOutlets::TagClose);
 }
