@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QShortcut>
 
+#include <algorithm>
+
 namespace tarvelo::app {
 
 namespace {
@@ -15,44 +17,44 @@ using platform::text;
 struct Entry
 {
     Command command;
-    QString title;
+    const char *titleKey;
     const char *name;
-    QKeySequence shortcut;
+    int shortcut; // 0 for none
     bool beginsGroup;
 };
 
-// In the order of the commands, which is also that of the menus.
-QList<Entry> entries()
+constexpr int ctrl(Qt::Key key)
 {
-    return {
-        {Command::NewLecture, text("MENU_NEW_LECTURE"), "newLecture", Qt::CTRL | Qt::Key_N, false},
-        {Command::AllList, text("MENU_ALL_LIST"), "allList", Qt::CTRL | Qt::Key_L, true},
-        {Command::FoldList, text("MENU_FOLD_LIST"), "foldList", Qt::Key_F9, false},
-        {Command::ShowFolder, text("MENU_SHOW_FOLDER"), "showFolder", Qt::CTRL | Qt::Key_O, false},
-        {Command::BringLecturesBack,
-         text("MENU_BRING_LECTURES_BACK"),
-         "bringLecturesBack",
-         {},
-         false},
-        {Command::ShowPreferences, text("MENU_PREFERENCES"), "preferences",
-         Qt::CTRL | Qt::Key_Comma, true},
-        {Command::CloseWindow, text("MENU_CLOSE_WINDOW"), "closeWindow", Qt::CTRL | Qt::Key_W,
-         true},
-        {Command::Quit, text("MENU_QUIT"), "quit", Qt::CTRL | Qt::Key_Q, false},
-        {Command::Open, text("MENU_OPEN"), "statusOpen", {}, false},
-        {Command::NewLectureFromStatusItem,
-         text("MENU_NEW_LECTURE"),
-         "statusNewLecture",
-         {},
-         false},
-        {Command::PreferencesFromStatusItem,
-         text("MENU_PREFERENCES"),
-         "statusPreferences",
-         {},
-         true},
-        {Command::QuitFromStatusItem, text("MENU_QUIT"), "statusQuit", {}, false},
-    };
+    return (Qt::CTRL | key).toCombined();
 }
+
+// In the order of the commands, which is also that of the menus.
+constexpr std::array<Entry, static_cast<std::size_t>(Command::Count)> entries()
+{
+    return {{
+        {Command::NewLecture, "MENU_NEW_LECTURE", "newLecture", ctrl(Qt::Key_N), false},
+        {Command::AllList, "MENU_ALL_LIST", "allList", ctrl(Qt::Key_L), true},
+        {Command::FoldList, "MENU_FOLD_LIST", "foldList", Qt::Key_F9, false},
+        {Command::ShowFolder, "MENU_SHOW_FOLDER", "showFolder", ctrl(Qt::Key_O), false},
+        {Command::BringLecturesBack, "MENU_BRING_LECTURES_BACK", "bringLecturesBack", 0, false},
+        {Command::ShowPreferences, "MENU_PREFERENCES", "preferences", ctrl(Qt::Key_Comma), true},
+        {Command::CloseWindow, "MENU_CLOSE_WINDOW", "closeWindow", ctrl(Qt::Key_W), true},
+        {Command::Quit, "MENU_QUIT", "quit", ctrl(Qt::Key_Q), false},
+        {Command::Open, "MENU_OPEN", "statusOpen", 0, false},
+        {Command::NewLectureFromStatusItem, "MENU_NEW_LECTURE", "statusNewLecture", 0, false},
+        {Command::PreferencesFromStatusItem, "MENU_PREFERENCES", "statusPreferences", 0, true},
+        {Command::QuitFromStatusItem, "MENU_QUIT", "statusQuit", 0, false},
+    }};
+}
+
+constexpr bool haveEachItsPlace()
+{
+    std::size_t place = 0;
+    return std::ranges::all_of(entries(), [&place](const Entry &entry) {
+        return entry.titleKey && static_cast<std::size_t>(entry.command) == place++;
+    });
+}
+static_assert(haveEachItsPlace());
 
 struct HelpEntry
 {
@@ -86,9 +88,9 @@ AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run,
         QMenu &menu = command < Command::Open ? m_mainMenu : m_statusMenu;
         if (entry.beginsGroup)
             menu.addSeparator();
-        QAction *action = menu.addAction(entry.title);
+        QAction *action = menu.addAction(text(entry.titleKey));
         action->setObjectName(QLatin1String(entry.name));
-        action->setShortcut(entry.shortcut);
+        action->setShortcut(QKeySequence(entry.shortcut));
         action->setShortcutContext(command == Command::CloseWindow ? Qt::WindowShortcut
                                                                    : Qt::ApplicationShortcut);
         connect(action, &QAction::triggered, this, [run, command] { run(command); });
