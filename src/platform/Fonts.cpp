@@ -1,10 +1,22 @@
 #include "platform/Fonts.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QString>
 
+#include <algorithm>
+
 namespace tarvelo::platform {
+
+namespace {
+
+// Ten points of print, as large as desktops write that have nothing set otherwise.
+constexpr double OrdinarySize = 40.0 / 3;
+// The windows have fixed widths.
+constexpr double LargestScale = 1.35;
+
+} // namespace
 
 QFont fontNamed(const QString &face, double size)
 {
@@ -14,6 +26,17 @@ QFont fontNamed(const QString &face, double size)
     font.setWeight(QFont::Medium);
     font.setPixelSize(qRound(size));
     return font;
+}
+
+double textScale()
+{
+    return std::clamp(QFontInfo(QGuiApplication::font()).pixelSize() / OrdinarySize, 1.0,
+                      LargestScale);
+}
+
+QFont scaledFontNamed(const QString &face, double size)
+{
+    return fontNamed(face, size * textScale());
 }
 
 QFont systemFontOfSize(double points)

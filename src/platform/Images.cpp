@@ -1,5 +1,7 @@
 #include "platform/Images.h"
 
+#include "platform/HighContrast.h"
+
 #include <QFile>
 #include <QHash>
 #include <QPainter>
@@ -12,6 +14,27 @@
 
 namespace tarvelo::platform {
 
+namespace {
+
+// The greys of the drawings, and what they are where the desktop asks for high contrast.
+constexpr std::array StrongColours{
+    std::pair{"#605c66", "#000000"},
+    std::pair{"#3f3c44", "#000000"},
+    std::pair{"#8c8a92", "#000000"},
+    std::pair{"#d3d0d8", "#000000"},
+    // The ground of a small button, which has no outline otherwise.
+    std::pair{"fill=\"#efedf1\"", "fill=\"#ffffff\" stroke=\"#000000\" stroke-width=\"2\""},
+};
+
+QByteArray withStrongColours(QByteArray drawing)
+{
+    for (const auto &[usual, strong] : StrongColours)
+        drawing.replace(usual, strong);
+    return drawing;
+}
+
+} // namespace
+
 QSizeF Image::size() const
 {
     return m_renderer ? QSizeF(m_renderer->defaultSize()) : QSizeF();
@@ -19,8 +42,10 @@ QSizeF Image::size() const
 
 QPixmap Image::rendered(const QSize &pixels) const
 {
-    const QString key =
-        QStringLiteral("tarvelo/%1/%2x%3").arg(m_name).arg(pixels.width()).arg(pixels.height());
+    const QString key = QStringLiteral("tarvelo/%1/%2x%3")
+                            .arg(quintptr(m_renderer.get()))
+                            .arg(pixels.width())
+                            .arg(pixels.height());
     QPixmap pixmap;
     if (!QPixmapCache::find(key, &pixmap)) {
         pixmap = QPixmap(pixels);
@@ -67,23 +92,26 @@ QIcon Image::icon() const
 Image imageNamed(const QString &name)
 {
     // Parsed once a name: the calendar asks for the same few drawings at every layout.
-    static QHash<QString, Image> known;
+    static QHash<std::pair<QString, bool>, Image> known;
     if (name.isEmpty())
         return {};
-    const auto found = known.constFind(name);
+    const bool isStrong = isContrastHigh();
+    const auto found = known.constFind({name, isStrong});
     if (found != known.cend())
         return *found;
 
     Image image;
-    const QString file = QStringLiteral(":/images/%1.svg").arg(name);
-    if (QFile::exists(file)) {
-        auto renderer = std::make_shared<QSvgRenderer>(file);
+    QFile file(QStringLiteral(":/images/%1.svg").arg(name));
+    if (file.open(QIODevice::ReadOnly)) {
+        const QByteArray drawing = file.readAll();
+        auto renderer =
+            std::make_shared<QSvgRenderer>(isStrong ? withStrongColours(drawing) : drawing);
         if (renderer->isValid()) {
             image.m_name = name;
             image.m_renderer = std::move(renderer);
         }
     }
-    known.insert(name, image);
+    known.insert({name, isStrong}, image);
     return image;
 }
 

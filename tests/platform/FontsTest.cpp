@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 
 using tarvelo::platform::fontNamed;
+using tarvelo::platform::scaledFontNamed;
 using tarvelo::platform::systemFontOfSize;
 
 class FontsTest final : public tarvelo::tests::TestCase
@@ -27,6 +28,23 @@ private Q_SLOTS:
 
         QCOMPARE(font.families(), QGuiApplication::font().families());
         QCOMPARE(font.pointSizeF(), 15.0);
+    }
+
+    void textsGrowWithTheDesktopsAndNoFurtherThanThereIsRoom()
+    {
+        const QFont usual = QGuiApplication::font();
+        const auto sizeAt = [&](double pixels) {
+            QFont font = usual;
+            font.setPixelSize(qRound(pixels));
+            QGuiApplication::setFont(font);
+            return scaledFontNamed(QStringLiteral("No Face Has This Name"), 20).pixelSize();
+        };
+
+        QCOMPARE(sizeAt(10), 20);
+        QCOMPARE(sizeAt(13), 20);
+        QCOMPARE(sizeAt(16), 24);
+        QCOMPARE(sizeAt(40), 27);
+        QGuiApplication::setFont(usual);
     }
 
     void aFaceThatIsThereIsTaken()

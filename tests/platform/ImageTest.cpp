@@ -65,6 +65,33 @@ private Q_SLOTS:
         QCOMPARE(between, exact);
     }
 
+    void inHighContrastTheGreysOfADrawingAreBlack()
+    {
+        const QPalette usual = QGuiApplication::palette();
+        QPalette palette(Qt::black);
+        for (const auto role : {QPalette::Window, QPalette::Base})
+            palette.setColor(role, Qt::white);
+        for (const auto role : {QPalette::WindowText, QPalette::Text})
+            palette.setColor(role, Qt::black);
+        const auto drawn = [] {
+            QImage canvas(24, 24, QImage::Format_ARGB32_Premultiplied);
+            canvas.fill(Qt::white);
+            QPainter painter(&canvas);
+            imageNamed(QStringLiteral("menu")).paint(painter, canvas.rect());
+            return canvas;
+        };
+        const QImage grey = drawn();
+
+        QGuiApplication::setPalette(palette);
+        const QImage black = drawn();
+        QGuiApplication::setPalette(usual);
+
+        QCOMPARE(grey.pixelColor(12, 12), QColor(0x60, 0x5c, 0x66));
+        QCOMPARE(black.pixelColor(12, 12), QColor(Qt::black));
+        QCOMPARE(black.pixelColor(12, 0), QColor(Qt::black));
+        QCOMPARE(drawn(), grey);
+    }
+
     void anIconHasTheSizesThatDesktopsAskFor()
     {
         const QIcon icon = imageNamed(QStringLiteral("recordbox")).icon();

@@ -1,0 +1,58 @@
+#include "platform/HighContrast.h"
+
+#include "support/TestCase.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+using tarvelo::platform::contrastOf;
+using tarvelo::platform::isContrastHigh;
+
+class HighContrastTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void coloursDifferByOneToTwentyOne()
+    {
+        QCOMPARE(contrastOf(Qt::white, Qt::white), 1.0);
+        QCOMPARE(contrastOf(Qt::white, Qt::black), 21.0);
+        QCOMPARE(contrastOf(Qt::black, Qt::white), 21.0);
+        QCOMPARE(qRound(contrastOf(QColor(118, 118, 118), Qt::white) * 10), 45);
+    }
+
+    void pureBlackAndWhiteIsHighContrast_data()
+    {
+        QTest::addColumn<QColor>("ink");
+        QTest::addColumn<QColor>("ground");
+        QTest::addColumn<bool>("high");
+        QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white) << true;
+        QTest::newRow("white on black") << QColor(Qt::white) << QColor(Qt::black) << true;
+        QTest::newRow("light") << QColor(Qt::black) << QColor(239, 239, 239) << false;
+        QTest::newRow("dark") << QColor(Qt::white) << QColor(53, 53, 53) << false;
+    }
+    void pureBlackAndWhiteIsHighContrast()
+    {
+        QFETCH(const QColor, ink);
+        QFETCH(const QColor, ground);
+        QFETCH(const bool, high);
+        QPalette palette;
+        for (const auto role : {QPalette::WindowText, QPalette::Text})
+            palette.setColor(role, ink);
+        for (const auto role : {QPalette::Window, QPalette::Base})
+            palette.setColor(role, ground);
+
+        QGuiApplication::setPalette(palette);
+
+        QCOMPARE(isContrastHigh(), high);
+    }
+
+private:
+    void prepare() override { m_before = QGuiApplication::palette(); }
+    void finish() override { QGuiApplication::setPalette(m_before); }
+
+    QPalette m_before;
+};
+
+QTEST_MAIN(HighContrastTest)
+#include "HighContrastTest.moc"
