@@ -18,6 +18,7 @@
 #include "platform/Workspace.h"
 #include "store/DailyCheck.h"
 #include "store/LectureDatabase.h"
+#include "widgets/ControlStyle.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -60,7 +61,7 @@ void describe(QApplication &application)
     QApplication::setWindowIcon(platform::imageNamed(QStringLiteral("icon")).icon());
     QApplication::setQuitOnLastWindowClosed(false);
     // One look on every desktop: the windows' own drawings go with no other.
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new widgets::ControlStyle);
     application.setLayoutDirection(platform::text("LAYOUT_DIRECTION") == u"RTL" ? Qt::RightToLeft
                                                                                 : Qt::LeftToRight);
 }

@@ -1,10 +1,26 @@
 #include "platform/Alerts.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
 namespace tarvelo::platform {
+
+namespace {
+
+// What has happened stands out from what to do about it.
+void emphasiseMessage(QMessageBox &box)
+{
+    auto *message = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    if (!message)
+        return;
+    QFont font = message->font();
+    font.setBold(true);
+    message->setFont(font);
+}
+
+} // namespace
 
 void WindowAlerts::beginSheet(const Alert &alert, QWidget &window, std::function<void(int)> didEnd)
 {
@@ -14,6 +30,7 @@ void WindowAlerts::beginSheet(const Alert &alert, QWidget &window, std::function
     // It belongs to its window, also in colour.
     box->setPalette(window.palette());
     box->setInformativeText(alert.informativeText);
+    emphasiseMessage(*box);
     box->setDefaultButton(box->addButton(alert.button, QMessageBox::AcceptRole));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);
@@ -32,6 +49,7 @@ int WindowAlerts::runModal(const QString &message, const QString &informativeTex
     if (window)
         box.setPalette(window->palette());
     box.setInformativeText(informativeText);
+    emphasiseMessage(box);
     // Buttons of one role stand in the order in which they are added.
     QList<QAbstractButton *> added;
     for (const QString &title : buttons)

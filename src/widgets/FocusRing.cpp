@@ -1,5 +1,7 @@
 #include "widgets/FocusRing.h"
 
+#include "widgets/ControlPainting.h"
+
 #include <QFocusEvent>
 #include <QPainter>
 #include <QWidget>
@@ -7,6 +9,9 @@
 namespace tarvelo::widgets {
 
 namespace {
+
+// The ring lies on the outline of the control, in its middle.
+constexpr double Radius = ControlRadius - 0.5;
 
 // Lies over the view, out of the mouse's way.
 class Ring final : public QWidget
@@ -41,7 +46,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Radius, Radius);
     }
 
 private:

@@ -61,6 +61,8 @@ protected:
     void paintFocus(QPainter &painter) const;
 
 private:
+    void paintTinted(QPainter &painter, const platform::Image &image) const;
+
     platform::Image m_image;
     platform::Image m_alternateImage;
     Action m_action;

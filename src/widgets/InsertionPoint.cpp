@@ -1,10 +1,11 @@
 #include "widgets/InsertionPoint.h"
 
+#include "widgets/ControlStyle.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QTextEdit>
 #include <QTimer>
 
@@ -15,13 +16,13 @@ namespace {
 constexpr int CaretWidth = 2;
 
 // Leaves the field's own insertion point out, which always has the colour of the text.
-class StyleWithoutCaret final : public QProxyStyle
+class StyleWithoutCaret final : public ControlStyle
 {
 public:
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override
     {
-        return metric == PM_TextCursorWidth ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_TextCursorWidth ? 0 : ControlStyle::pixelMetric(metric, option, widget);
     }
 };
 

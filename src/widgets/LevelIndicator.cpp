@@ -25,11 +25,12 @@ void LevelIndicator::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     const QRectF bar(rect());
     const double radius = bar.height() / 2;
-    painter.setBrush(palette().color(QPalette::Mid));
-    painter.drawRoundedRect(bar, radius, radius);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(palette().color(QPalette::Midlight));
+    painter.drawRoundedRect(bar.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setPen(Qt::NoPen);
     painter.setBrush(palette().color(QPalette::Highlight));
     painter.drawRoundedRect(
         QRectF(bar.topLeft(), QSizeF(bar.width() * double(m_value), bar.height())), radius, radius);

@@ -8,6 +8,10 @@ namespace tarvelo::widgets {
 
 namespace {
 
+constexpr int BorderedMargin = 6;
+// What a field of one line always leaves free.
+constexpr int OwnMargin = 2;
+
 // Keys that open a heading for typing. What is typed goes into it at once.
 bool wantsToType(const QKeyEvent &key)
 {
@@ -27,6 +31,14 @@ void MouseDownTextField::setEditable(bool editable)
 {
     setReadOnly(!editable);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::TabFocus);
+}
+
+// A heading begins where the texts around it do; what is typed stands clear of the border.
+void MouseDownTextField::setBordered(bool bordered)
+{
+    setFrame(bordered);
+    const int margin = bordered ? BorderedMargin : -OwnMargin;
+    setTextMargins(margin, 0, margin, 0);
 }
 
 void MouseDownTextField::setDrawsBackground(bool draws)

@@ -33,7 +33,7 @@ public:
 
     void setDelegate(MouseDownTextFieldDelegate *delegate) { m_delegate = delegate; }
     void setEditable(bool editable);
-    void setBordered(bool bordered) { setFrame(bordered); }
+    void setBordered(bool bordered);
     void setDrawsBackground(bool draws);
 
     // What a press of the mouse does.

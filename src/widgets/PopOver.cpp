@@ -171,9 +171,9 @@ void PopOver::paintEvent(QPaintEvent *)
     QPainter painter(this);
     // Without a compositor the pixels that the line half covers would be black.
     if (!mask().isEmpty())
-        painter.fillRect(rect(), palette().color(QPalette::Dark));
+        painter.fillRect(rect(), palette().color(QPalette::Shadow));
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Dark), 2 * HalfLine));
+    painter.setPen(QPen(palette().color(QPalette::Shadow), 2 * HalfLine));
     painter.setBrush(palette().color(QPalette::Window));
     painter.drawPath(outline(HalfLine));
 }

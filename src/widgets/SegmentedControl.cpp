@@ -22,21 +22,28 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    QColor ground() const
+    {
+        if (isChecked())
+            return palette().color(QPalette::Highlight);
+        if (isDown())
+            return palette().color(QPalette::Mid);
+        return palette().color(isEnabled() && underMouse() ? QPalette::Midlight : QPalette::Base);
+    }
+
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QRectF inside = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
-        if (isChecked() || isDown()) {
-            painter.setPen(Qt::NoPen);
-            const QColor fill = palette().color(QPalette::Highlight);
-            painter.setBrush(isDown() && !isChecked() ? fill.lighter(150) : fill);
-            painter.drawRoundedRect(inside, Radius - 2, Radius - 2);
-        }
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground());
+        painter.drawRoundedRect(inside, Radius - 2, Radius - 2);
         if (hasFocus()) {
-            painter.setPen(QPen(palette().color(QPalette::WindowText), 1.5, Qt::DotLine));
+            const auto ring = isChecked() ? QPalette::HighlightedText : QPalette::Highlight;
+            painter.setPen(QPen(palette().color(ring), 2));
             painter.setBrush(Qt::NoBrush);
-            painter.drawRoundedRect(inside.adjusted(2, 2, -2, -2), Radius - 3, Radius - 3);
+            painter.drawRoundedRect(inside.adjusted(2.5, 2.5, -2.5, -2.5), Radius - 4, Radius - 4);
         }
         const QPalette::ColorRole ink =
             isChecked() ? QPalette::HighlightedText : QPalette::WindowText;
@@ -60,7 +67,7 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(palette().color(QPalette::Mid));
+        painter.setPen(palette().color(QPalette::Shadow));
         painter.setBrush(palette().color(QPalette::Base));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
     }
@@ -104,6 +111,7 @@ int SegmentedControl::selectedSegment() const
 void SegmentedControl::addSegment(const QString &label, const QString &accessibleName)
 {
     auto *segment = new Segment(this);
+    segment->setAttribute(Qt::WA_Hover);
     segment->setCheckable(true);
     // Tells who cannot see it that it is one choice of several.
     segment->setAutoExclusive(true);

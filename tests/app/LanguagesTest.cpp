@@ -1,6 +1,7 @@
 #include "gallery/Scenes.h"
 #include "support/TestCase.h"
 #include "support/TextFit.h"
+#include "widgets/ControlStyle.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -28,7 +29,7 @@ class LanguagesTest final : public tests::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QApplication::setStyle(QStringLiteral("Fusion")); }
+    void initTestCase() { QApplication::setStyle(new widgets::ControlStyle); }
 
     void everyTextFitsItsControlAndCanBeDrawn_data()
     {

@@ -3,6 +3,7 @@
 // pixels a point is Qt's QT_SCALE_FACTOR. It ends with 1 when one is missing.
 
 #include "gallery/Scenes.h"
+#include "widgets/ControlStyle.h"
 
 #include <QApplication>
 #include <QDir>
@@ -39,7 +40,7 @@ void ignore(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 void dress(const QString &theme)
 {
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new widgets::ControlStyle);
     QApplication::setCursorFlashTime(0);
     if (theme == u"dark")
         QApplication::setPalette(dark());

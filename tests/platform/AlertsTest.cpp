@@ -2,6 +2,7 @@
 
 #include "support/TestCase.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -23,6 +24,14 @@ private Q_SLOTS:
         QCOMPARE(sheet()->buttons().size(), 1);
         QCOMPARE(sheet()->buttons().first()->text(), u"Close"_s);
         QCOMPARE(sheet()->icon(), QMessageBox::Warning);
+    }
+
+    void whatHasHappenedStandsOutFromWhatToDo()
+    {
+        begin();
+
+        QVERIFY(sheet()->findChild<QLabel *>(u"qt_msgbox_label"_s)->font().bold());
+        QVERIFY(!sheet()->findChild<QLabel *>(u"qt_msgbox_informativelabel"_s)->font().bold());
     }
 
     void aSheetHoldsUpItsWindowAloneAndNotTheCaller()

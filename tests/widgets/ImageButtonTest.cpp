@@ -88,6 +88,26 @@ private Q_SLOTS:
         QTRY_VERIFY(button.grab().toImage() != without);
     }
 
+    void whoTurnsToADrawingSeesItDarkerAndPressedDarkerStill()
+    {
+        ImageButton button;
+        button.setImage(imageNamed(QStringLiteral("menu")));
+        button.resize(24, 24);
+        const auto ground = [&button] { return drawn(button).pixelColor(12, 3).lightness(); };
+        const int atRest = ground();
+
+        button.setAttribute(Qt::WA_UnderMouse);
+        const int turnedTo = ground();
+        button.setDown(true);
+        const int pressed = ground();
+
+        QVERIFY(turnedTo < atRest);
+        QVERIFY(pressed < turnedTo);
+        button.setDown(false);
+        button.setEnabled(false);
+        QVERIFY(ground() > atRest);
+    }
+
     void aDisabledButtonDoesNothing()
     {
         ImageButton button;

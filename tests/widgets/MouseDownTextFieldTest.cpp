@@ -157,6 +157,20 @@ private Q_SLOTS:
                  QColor(Qt::cyan));
     }
 
+    void aHeadingBeginsAtItsEdgeAndAFieldClearOfItsBorder()
+    {
+        const auto begin = [this] {
+            return heading().inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+        };
+        heading().setCursorPosition(0);
+        const int ofHeading = begin();
+
+        heading().setBordered(true);
+
+        QVERIFY(ofHeading <= 1);
+        QVERIFY(begin() >= ofHeading + 8);
+    }
+
     void aHeadingShowsThatTheKeyboardIsOnIt()
     {
         const QImage before = drawn(heading());

@@ -50,6 +50,22 @@ private Q_SLOTS:
         QCOMPARE(control.actionName(), QByteArray("chosen"));
     }
 
+    void aChoiceShowsTheMouseAndThePressBeforeItIsMade()
+    {
+        SegmentedControl control;
+        addThree(control);
+        control.setSelectedSegment(0);
+        const QImage atRest = control.grab().toImage();
+
+        segment(control, 1).setAttribute(Qt::WA_UnderMouse);
+        const QImage turnedTo = control.grab().toImage();
+        segment(control, 1).setDown(true);
+        const QImage pressed = control.grab().toImage();
+
+        QVERIFY(turnedTo != atRest);
+        QVERIFY(pressed != turnedTo);
+    }
+
     void aClickSelectsAndSendsTheActionWithTheControlAsItsSender()
     {
         SegmentedControl control;

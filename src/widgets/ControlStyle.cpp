@@ -1,0 +1,246 @@
+#include "widgets/ControlStyle.h"
+
+#include "platform/Images.h"
+#include "widgets/ControlPainting.h"
+
+#include <QAbstractItemView>
+#include <QPushButton>
+#include <QStyleOption>
+
+#include <algorithm>
+
+namespace tarvelo::widgets {
+
+namespace {
+
+// Everything stands on a grid of four points.
+constexpr int Margin = 20;
+constexpr int GapAcross = 8;
+constexpr int GapDown = 12;
+constexpr QSize SmallestButton(84, 32);
+constexpr QSize RoomAroundTitle(28, 14);
+// With the ring of the keyboard around it.
+constexpr int Indicator = 22;
+constexpr int ScrollBarWidth = 12;
+constexpr int ShortestScrollHandle = 28;
+constexpr int ListRowHeight = 32;
+
+bool isDefault(const QStyleOption &option)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return button && button->features.testFlag(QStyleOptionButton::DefaultButton);
+}
+
+bool isOnAccent(const QStyleOption &option)
+{
+    return isDefault(option) && option.state.testFlag(QStyle::State_Enabled);
+}
+
+// The corners of what scrolls stay inside of the round ones around it.
+bool hasRoundFrame(const QWidget *widget)
+{
+    const auto *area = qobject_cast<const QAbstractScrollArea *>(widget);
+    return area && area->frameShape() == QFrame::StyledPanel;
+}
+
+QRect sliderPart(const QStyleOptionSlider &option, QStyle::SubControl part)
+{
+    const QRect &rect = option.rect;
+    if (part == QStyle::SC_SliderGroove)
+        return rect;
+    const int at =
+        QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.sliderPosition,
+                                        rect.width() - SliderHandleSide, option.upsideDown);
+    return {rect.left() + at, rect.top() + (rect.height() - SliderHandleSide) / 2, SliderHandleSide,
+            SliderHandleSide};
+}
+
+// There are no buttons at its ends.
+QRect scrollBarPart(const QStyleOptionSlider &option, QStyle::SubControl part)
+{
+    const bool isAcross = option.orientation == Qt::Horizontal;
+    const int length = isAcross ? option.rect.width() : option.rect.height();
+    const int range = std::max(1, option.maximum - option.minimum + option.pageStep);
+    const int handle = std::clamp(length * option.pageStep / range,
+                                  std::min(ShortestScrollHandle, length), length);
+    const int at = QStyle::sliderPositionFromValue(
+        option.minimum, option.maximum, option.sliderPosition, length - handle, option.upsideDown);
+    const auto along = [&](int from, int to) {
+        return isAcross ? QRect(option.rect.left() + from, option.rect.top(), to - from,
+                                option.rect.height())
+                        : QRect(option.rect.left(), option.rect.top() + from, option.rect.width(),
+                                to - from);
+    };
+    switch (part) {
+    case QStyle::SC_ScrollBarSlider:
+        return along(at, at + handle);
+    case QStyle::SC_ScrollBarGroove:
+        return option.rect;
+    case QStyle::SC_ScrollBarSubPage:
+        return along(0, at);
+    case QStyle::SC_ScrollBarAddPage:
+        return along(at + handle, length);
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+ControlStyle::ControlStyle()
+    : QProxyStyle(QStringLiteral("Fusion"))
+{
+}
+
+void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                 QPainter *painter, const QWidget *widget) const
+{
+    const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+    switch (element) {
+    case PE_PanelButtonCommand:
+        return paintButton(*painter, *option, isDefault(*option));
+    case PE_FrameFocusRect:
+        if (option->state.testFlag(State_KeyboardFocusChange))
+            paintKeyboardRing(*painter, *option, false);
+        return;
+    case PE_PanelLineEdit:
+        if (frame && frame->lineWidth > 0)
+            return paintField(*painter, *option);
+        break;
+    case PE_Frame:
+        if (hasRoundFrame(widget))
+            return paintField(*painter, *option);
+        break;
+    case PE_IndicatorCheckBox:
+        return paintCheckBox(*painter, *option);
+    case PE_IndicatorRadioButton:
+        return paintRadioButton(*painter, *option);
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void ControlStyle::drawControl(ControlElement element, const QStyleOption *option,
+                               QPainter *painter, const QWidget *widget) const
+{
+    switch (element) {
+    case CE_PushButton:
+        drawControl(CE_PushButtonBevel, option, painter, widget);
+        drawControl(CE_PushButtonLabel, option, painter, widget);
+        if (option->state.testFlag(State_HasFocus) &&
+            option->state.testFlag(State_KeyboardFocusChange))
+            paintKeyboardRing(*painter, *option, isOnAccent(*option));
+        return;
+    case CE_PushButtonLabel:
+        if (isOnAccent(*option)) {
+            QStyleOptionButton label(*qstyleoption_cast<const QStyleOptionButton *>(option));
+            label.palette.setBrush(QPalette::ButtonText,
+                                   label.palette.brush(QPalette::HighlightedText));
+            return QProxyStyle::drawControl(element, &label, painter, widget);
+        }
+        break;
+    case CE_HeaderSection:
+    case CE_HeaderEmptyArea:
+        return paintHeaderSection(*painter, *option);
+    default:
+        break;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                      QPainter *painter, const QWidget *widget) const
+{
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (slider && control == CC_Slider && slider->orientation == Qt::Horizontal)
+        paintSlider(*painter, *slider, sliderPart(*slider, SC_SliderGroove),
+                    sliderPart(*slider, SC_SliderHandle));
+    else if (slider && control == CC_ScrollBar)
+        paintScrollBar(*painter, *slider, scrollBarPart(*slider, SC_ScrollBarSlider));
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect ControlStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                                   SubControl part, const QWidget *widget) const
+{
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (slider && control == CC_ScrollBar)
+        return scrollBarPart(*slider, part);
+    const bool isOurs = part == SC_SliderGroove || part == SC_SliderHandle;
+    if (slider && control == CC_Slider && slider->orientation == Qt::Horizontal && isOurs)
+        return sliderPart(*slider, part);
+    return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
+                                     const QSize &contents, const QWidget *widget) const
+{
+    if (type == CT_PushButton)
+        return (contents + RoomAroundTitle).expandedTo(SmallestButton);
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_ItemViewItem ? size.expandedTo(QSize(0, ListRowHeight)) : size;
+}
+
+int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                              const QWidget *widget) const
+{
+    switch (metric) {
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+        return Margin;
+    case PM_LayoutHorizontalSpacing:
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+    case PM_HeaderMargin:
+        return GapAcross;
+    case PM_LayoutVerticalSpacing:
+        return GapDown;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return Indicator;
+    case PM_SliderLength:
+    case PM_SliderThickness:
+    case PM_SliderControlThickness:
+        return SliderHandleSide;
+    case PM_ScrollBarExtent:
+        return ScrollBarWidth;
+    case PM_ScrollBarSliderMin:
+        return ShortestScrollHandle;
+    case PM_DefaultFrameWidth:
+        if (hasRoundFrame(widget))
+            return 3;
+        break;
+    case PM_FocusFrameHMargin:
+        if (qobject_cast<const QAbstractItemView *>(widget))
+            return GapAcross - 1;
+        break;
+    default:
+        break;
+    }
+    return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QPixmap ControlStyle::standardPixmap(StandardPixmap standard, const QStyleOption *option,
+                                     const QWidget *widget) const
+{
+    if (standard == SP_MessageBoxWarning)
+        return standardIcon(standard, option, widget)
+            .pixmap(pixelMetric(PM_MessageBoxIconSize, option, widget));
+    return QProxyStyle::standardPixmap(standard, option, widget);
+}
+
+QIcon ControlStyle::standardIcon(StandardPixmap standard, const QStyleOption *option,
+                                 const QWidget *widget) const
+{
+    if (standard == SP_MessageBoxWarning)
+        return platform::imageNamed(QStringLiteral("warning")).icon();
+    return QProxyStyle::standardIcon(standard, option, widget);
+}
+
+} // namespace tarvelo::widgets

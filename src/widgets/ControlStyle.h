@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace tarvelo::widgets {
+
+// One look for the controls of every window, beside the drawings of the image buttons: white, with
+// round corners of one radius, outlines that stand out from white by 3 to 1, and the accent on what
+// is chosen, filled or has the keyboard. All colours are those of the window's palette. What it
+// says nothing of looks as in the style below it, which is the same on every desktop.
+class ControlStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    ControlStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                         const QWidget *widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
+    QPixmap standardPixmap(StandardPixmap standard, const QStyleOption *option = nullptr,
+                           const QWidget *widget = nullptr) const override;
+    QIcon standardIcon(StandardPixmap standard, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
+};
+
+} // namespace tarvelo::widgets

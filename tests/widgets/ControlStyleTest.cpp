@@ -1,0 +1,240 @@
+#include "widgets/ControlStyle.h"
+
+#include "platform/HighContrast.h"
+#include "support/TestCase.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSlider>
+#include <QStyleOptionSlider>
+#include <QTextEdit>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+using tarvelo::platform::contrastOf;
+using tarvelo::widgets::ControlStyle;
+
+namespace {
+
+constexpr QColor Ink(40, 40, 40);
+constexpr QColor Outline(140, 138, 146);
+constexpr QColor Accent(214, 22, 38);
+
+QPalette colours()
+{
+    QPalette palette(Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, Ink);
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::HighlightedText})
+        palette.setColor(role, Qt::white);
+    palette.setColor(QPalette::Midlight, QColor(240, 240, 243));
+    palette.setColor(QPalette::Mid, QColor(228, 227, 232));
+    palette.setColor(QPalette::Shadow, Outline);
+    palette.setColor(QPalette::Highlight, Accent);
+    return palette;
+}
+
+QImage look(QWidget &control)
+{
+    return control.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+int pixelsOf(const QImage &image, const QColor &colour)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == colour ? 1 : 0;
+    return count;
+}
+
+} // namespace
+
+class ControlStyleTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QApplication::setStyle(new ControlStyle); }
+
+    void whatCanBeUsedHasAnOutlineThatIsSeen()
+    {
+        QPushButton button(u"Close"_s, m_window.get());
+        QLineEdit field(m_window.get());
+        QTextEdit text(m_window.get());
+
+        for (QWidget *control : {static_cast<QWidget *>(&button), static_cast<QWidget *>(&field),
+                                 static_cast<QWidget *>(&text)}) {
+            const QImage image = look(*control);
+            QCOMPARE(image.pixelColor(image.width() / 2, 0), Outline);
+            QCOMPARE(image.pixelColor(image.width() / 2, image.height() - 1), Outline);
+            QVERIFY(contrastOf(image.pixelColor(0, 0), Qt::white) < 1.5); // round
+        }
+    }
+
+    void theButtonThatReturnPressesIsFilledAndItsTitleWhite()
+    {
+        QDialog dialog;
+        dialog.setPalette(colours());
+        QPushButton button(u"Keep"_s, &dialog);
+
+        button.setDefault(true);
+        const QImage filled = look(button);
+        button.setEnabled(false);
+        const QImage disabled = look(button);
+
+        QCOMPARE(filled.pixelColor(8, filled.height() / 2), Accent);
+        QVERIFY(pixelsOf(filled, Qt::white) > 5);
+        QCOMPARE(pixelsOf(filled, Ink), 0);
+        QCOMPARE(disabled.pixelColor(8, disabled.height() / 2), QColor(Qt::white));
+    }
+
+    void aButtonShowsTheMouseAndThePress()
+    {
+        QPushButton button(u"Close"_s, m_window.get());
+        const QImage atRest = look(button);
+
+        button.setAttribute(Qt::WA_UnderMouse);
+        const QImage turnedTo = look(button);
+        button.setDown(true);
+        const QImage pressed = look(button);
+
+        QVERIFY(turnedTo != atRest);
+        QVERIFY(pressed != turnedTo);
+        QVERIFY(pressed != atRest);
+    }
+
+    void aTitleHasRoomAndAButtonIsNoSmallerThanAFinger()
+    {
+        const QPushButton brief(u"No"_s);
+        const QPushButton wordy(u"Show the recordings folder"_s);
+
+        QCOMPARE(brief.sizeHint(), QSize(84, 32));
+        QVERIFY(wordy.sizeHint().width() >=
+                wordy.fontMetrics().horizontalAdvance(wordy.text()) + 28);
+    }
+
+    void whatIsChosenIsFilled()
+    {
+        QCheckBox box(m_window.get());
+        QRadioButton radio(m_window.get());
+
+        for (QAbstractButton *button :
+             {static_cast<QAbstractButton *>(&box), static_cast<QAbstractButton *>(&radio)}) {
+            QCOMPARE(pixelsOf(look(*button), Accent), 0);
+            button->setChecked(true);
+            QVERIFY(pixelsOf(look(*button), Accent) > 60);
+        }
+    }
+
+    void aBoxWithoutWordsShowsTheKeyboardAroundItself()
+    {
+        QCheckBox box(m_window.get());
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        m_window->setAttribute(Qt::WA_KeyboardFocusChange);
+        m_window->setFocus();
+        const QImage without = look(box);
+
+        box.setFocus(Qt::TabFocusReason);
+
+        QCOMPARE(pixelsOf(without, Accent), 0);
+        QVERIFY(pixelsOf(look(box), Accent) > 30);
+    }
+
+    void aSliderIsFilledUpToItsHandleAlsoFromTheRight()
+    {
+        QSlider slider(Qt::Horizontal, m_window.get());
+        slider.setRange(0, 100);
+        slider.setValue(75);
+        slider.resize(200, 20);
+
+        const QImage image = look(slider);
+        slider.setLayoutDirection(Qt::RightToLeft);
+        const QImage mirrored = look(slider);
+
+        QCOMPARE(image.pixelColor(60, 10), Accent);
+        QCOMPARE(image.pixelColor(190, 10), Outline);
+        QCOMPARE(mirrored.pixelColor(140, 10), Accent);
+        QCOMPARE(mirrored.pixelColor(10, 10), Outline);
+        slider.setEnabled(false);
+        QCOMPARE(pixelsOf(look(slider), Accent), 0);
+    }
+
+    void theMouseTakesASliderByItsHandle()
+    {
+        QSlider slider(Qt::Horizontal, m_window.get());
+        slider.setRange(0, 100);
+        slider.resize(216, 20);
+
+        QTest::mousePress(&slider, Qt::LeftButton, {}, {8, 10});
+        QVERIFY(slider.isSliderDown());
+        QMouseEvent move(QEvent::MouseMove, QPointF(108, 10), QPointF(108, 10), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&slider, &move);
+
+        QCOMPARE(slider.value(), 50);
+    }
+
+    void aScrollBarIsAHandleAlone()
+    {
+        QScrollBar bar(Qt::Vertical, m_window.get());
+        bar.setRange(0, 300);
+        bar.setPageStep(100);
+        bar.resize(12, 200);
+        QStyleOptionSlider option;
+        option.initFrom(&bar);
+        option.orientation = Qt::Vertical;
+        option.maximum = 300;
+        option.pageStep = 100;
+        const auto part = [&](QStyle::SubControl which) {
+            return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, which, &bar);
+        };
+
+        QCOMPARE(part(QStyle::SC_ScrollBarSlider), QRect(0, 0, 12, 50));
+        QVERIFY(part(QStyle::SC_ScrollBarAddLine).isEmpty());
+        QCOMPARE(part(QStyle::SC_ScrollBarAddPage), QRect(0, 50, 12, 150));
+        QVERIFY(pixelsOf(look(bar), Outline) > 100);
+        bar.setRange(0, 0);
+        QCOMPARE(pixelsOf(look(bar), Outline), 0);
+    }
+
+    void rowsOfAListAreHighEnoughToBeHit()
+    {
+        QTreeWidget list(m_window.get());
+        list.setRootIsDecorated(false);
+        auto *entry = new QTreeWidgetItem(&list, {u"Monday"_s});
+
+        QVERIFY(list.visualItemRect(entry).height() >= 32);
+    }
+
+    void aWarningHasTheProgramsOwnSign()
+    {
+        const QIcon sign = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+        const QPixmap drawn = QApplication::style()->standardPixmap(QStyle::SP_MessageBoxWarning);
+
+        QVERIFY(!sign.isNull());
+        QVERIFY(!drawn.isNull());
+        QVERIFY(pixelsOf(drawn.toImage(), QColor(0xd6, 0x16, 0x26)) > 50);
+    }
+
+private:
+    void prepare() override
+    {
+        m_window = std::make_unique<QWidget>();
+        m_window->setPalette(colours());
+    }
+    void finish() override { m_window.reset(); }
+
+    std::unique_ptr<QWidget> m_window;
+};
+
+QTEST_MAIN(ControlStyleTest)
+#include "ControlStyleTest.moc"
