@@ -1,5 +1,6 @@
 #include "lectures/CustomTableCellView.h"
 
+#include "lectures/Colours.h"
 #include "lectures/LectureRowHost.h"
 #include "platform/Fonts.h"
 #include "platform/Texts.h"
@@ -11,23 +12,27 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace tarvelo::lectures {
 
 using widgets::ImageButton;
 
 namespace {
 
-const QColor SubjectColour(60, 57, 66);
-const QColor DetailColour(105, 101, 113);
-const QColor LineColour(232, 231, 235);
-
 constexpr int Margin = 14;
 constexpr int PlaySide = 36;
 constexpr int TextX = Margin + PlaySide + 12;
 constexpr int ButtonSide = 24;
 constexpr int ButtonGap = 6;
-constexpr QRect Line1(0, 12, 0, 22);
-constexpr QRect Line2(0, 35, 0, 22);
+// Between the line of the subject and that of the notes.
+constexpr int LineHeight = 22;
+constexpr int LineGap = 1;
+
+int lineHeightOf(const QLabel &label)
+{
+    return std::max(LineHeight, label.fontMetrics().height());
+}
 
 // The notes' first words, on one line.
 QString beginningOf(const QString &notes)
@@ -58,9 +63,9 @@ CustomTableCellView::CustomTableCellView(QWidget *parent)
     , m_tracking(*this, {[this] { mouseEntered(); }, [this] { mouseExited(); }})
 {
     m_imageView->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_subject = makeLabel("lblSubject", 15, SubjectColour);
-    m_notes = makeLabel("lblNotes", 12, DetailColour);
-    m_duration = makeLabel("lblDuration", 13, DetailColour);
+    m_subject = makeLabel("lblSubject", 15, colours().ink);
+    m_notes = makeLabel("lblNotes", 12, colours().faint);
+    m_duration = makeLabel("lblDuration", 13, colours().faint);
     m_btnPlay = makeButton("btnPlay", "play", "ROW_PLAY");
     m_btnPlay->setAlternateImage(platform::imageNamed(QStringLiteral("playH")));
     m_btnEdit = makeButton("btnEdit", "edit", "ROW_EDIT");
@@ -78,7 +83,7 @@ QLabel *CustomTableCellView::makeLabel(const char *name, double size, const QCol
     label->setObjectName(QString::fromLatin1(name));
     // Notes are the student's own words, never markup.
     label->setTextFormat(Qt::PlainText);
-    label->setFont(platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), size));
+    label->setFont(platform::scaledFontNamed(QStringLiteral("Helvetica Neue Medium"), size));
     // The table's rows lie on its base colour and would take the colour of its text.
     label->setForegroundRole(QPalette::WindowText);
     QPalette colours = label->palette();
@@ -149,13 +154,18 @@ void CustomTableCellView::layoutSubviews()
     place(*m_imageView, rect());
     place(*m_btnPlay, {Margin, (height() - PlaySide) / 2, PlaySide, PlaySide});
 
+    // The two lines stand together in the middle of the row, as high as the desktop's letters are.
+    const int height1 = lineHeightOf(*m_subject);
+    const int height2 = lineHeightOf(*m_notes);
+    const QRect line1(0, (height() - height1 - LineGap - height2 + 1) / 2, 0, height1);
+    const QRect line2(0, line1.bottom() + 1 + LineGap, 0, height2);
     const int right = width() - Margin;
     int x = right - ButtonSide;
     int notesEnd = right;
     for (ImageButton *button :
          {m_btnExport, m_btnEmail, m_btnInfo, m_btnDelete, m_btnEdit, m_btnBrowse}) {
         // One that does not show lies under the last one, where a pop-over about it may point.
-        place(*button, {x, Line2.y() - 1, ButtonSide, ButtonSide});
+        place(*button, {x, line2.center().y() - ButtonSide / 2 + 1, ButtonSide, ButtonSide});
         if (button->isHidden())
             continue;
         notesEnd = x - 2 * ButtonGap;
@@ -163,10 +173,10 @@ void CustomTableCellView::layoutSubviews()
     }
 
     const int durationWidth = m_duration->sizeHint().width();
-    place(*m_duration, {right - durationWidth, Line1.y(), durationWidth, Line1.height()});
+    place(*m_duration, {right - durationWidth, line1.y(), durationWidth, line1.height()});
     place(*m_subject,
-          {TextX, Line1.y(), right - durationWidth - 2 * ButtonGap - TextX, Line1.height()});
-    place(*m_notes, {TextX, Line2.y(), notesEnd - TextX, Line2.height()});
+          {TextX, line1.y(), right - durationWidth - 2 * ButtonGap - TextX, line1.height()});
+    place(*m_notes, {TextX, line2.y(), notesEnd - TextX, line2.height()});
 }
 
 void CustomTableCellView::awakeFromNib()
@@ -235,7 +245,7 @@ void CustomTableCellView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QRect line(TextX, height() - 1, width() - TextX, 1);
-    painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), LineColour);
+    painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), colours().hairline);
     if (!m_isCurrent)
         return;
     painter.setRenderHint(QPainter::Antialiasing);

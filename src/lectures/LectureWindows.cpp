@@ -2,10 +2,13 @@
 
 #include "audio/PlaySpeeds.h"
 #include "calendar/CKCalendarView.h"
+#include "lectures/Colours.h"
+#include "lectures/LectureHeading.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureTableAccess.h"
 #include "lectures/LectureViewMargins.h"
 #include "lectures/LightPalette.h"
+#include "lectures/PlayingTitle.h"
 #include "lectures/WindowWidths.h"
 #include "platform/Dates.h"
 #include "platform/Fonts.h"
@@ -43,14 +46,10 @@ const QRectF CalendarFrame(-2, 0, 450, 489);
 const QRectF PlayWindowContent(0, 0, 440, 190);
 
 const QString Face = QStringLiteral("Helvetica Neue Medium");
-const QColor Ink(43, 41, 48);
-const QColor Faint(105, 101, 113);
-const QColor Line(228, 227, 232);
-const QColor Warning(163, 18, 32);
 
 void style(QLabel &label, double size, const QColor &colour)
 {
-    label.setFont(platform::fontNamed(Face, size));
+    label.setFont(platform::scaledFontNamed(Face, size));
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, colour);
     label.setPalette(palette);
@@ -131,7 +130,7 @@ std::unique_ptr<widgets::PopOver> makePopover(const char *labelName)
     layout->addLayout(buttons);
     auto popover = std::make_unique<widgets::PopOver>(std::move(content));
     setLightPalette(*popover);
-    style(*label, 14, Ink);
+    style(*label, 14, colours().ink);
     return popover;
 }
 
@@ -140,7 +139,7 @@ ImageButton *addButton(QWidget &popoverContent, const char *name, const char *te
     auto *button = new ImageButton(&popoverContent);
     button->setObjectName(QString::fromLatin1(name));
     button->setText(platform::text(textKey));
-    button->setFont(platform::fontNamed(Face, 14));
+    button->setFont(platform::scaledFontNamed(Face, 14));
     // Return presses the button that has the keyboard.
     button->setAutoDefault(true);
     popoverContent.layout()->itemAt(1)->layout()->addWidget(button);
@@ -253,15 +252,18 @@ void LectureWindows::buildMainWindow(platform::Dates &dates)
         {ui.tableListView, [table = ui.tblRecordSubjectList] { return table; }},
         {ui.editPlayView, [this] { return m_lectureView.tSubjectName; }},
     });
-    style(*ui.lblTarvelo, 18, Ink);
-    style(*ui.lblDateDisplay, 22, Ink);
-    style(*ui.lblEmptyDayTitle, 17, Ink);
-    style(*ui.lblEmptyDayHint, 13, Faint);
-    fill(*ui.topHorizontalLine, Line);
-    fill(*ui.paneLine, Line);
-    fill(*ui.lectureLine, Line);
-    fill(*ui.listTopLine, Line);
-    fill(*ui.listBottomLine, Line);
+    style(*ui.lblTarvelo, 18, colours().ink);
+    style(*ui.lblDateDisplay, 22, colours().ink);
+    // Their neighbours, the ordinal of the date and the calendar, have one size on every desktop.
+    ui.lblTarvelo->setFont(platform::fontNamed(Face, 18));
+    ui.lblDateDisplay->setFont(platform::fontNamed(Face, 22));
+    style(*ui.lblEmptyDayTitle, 17, colours().ink);
+    style(*ui.lblEmptyDayHint, 13, colours().faint);
+    fill(*ui.topHorizontalLine, colours().hairline);
+    fill(*ui.paneLine, colours().hairline);
+    fill(*ui.lectureLine, colours().hairline);
+    fill(*ui.listTopLine, colours().hairline);
+    fill(*ui.listBottomLine, colours().hairline);
     fill(*ui.editPlayView, Qt::white);
     ui.imgEmptyDay->setPixmap(imageNamed(QStringLiteral("emptyDay")).icon().pixmap(96, 96));
     ui.btnMainMenu->setImage(imageNamed(QStringLiteral("menu")));
@@ -284,14 +286,14 @@ void LectureWindows::buildLectureView()
     giveMargins(*ui.tSubjectName, *ui.tViewNoteForEdit);
     for (QLabel *label :
          {ui.lblNotesForView, ui.tEditTime, ui.tEditDate, ui.tElapsedTime, ui.tRemainingTime})
-        style(*label, 13, Faint);
-    fill(*ui.editPlayerPanel, QColor(247, 247, 249));
+        style(*label, 13, colours().faint);
+    fill(*ui.editPlayerPanel, colours().panel);
     ui.bPlay->setImage(imageNamed(QStringLiteral("play")));
     ui.bPlay->setAlternateImage(imageNamed(QStringLiteral("playH")));
     ui.bPause->setImage(imageNamed(QStringLiteral("pause")));
     ui.bPause->setAlternateImage(imageNamed(QStringLiteral("pauseH")));
     // A heading until someone wants to change it.
-    ui.tSubjectName->setFont(platform::fontNamed(Face, 18));
+    ui.tSubjectName->setFont(platform::scaledFontNamed(Face, 18));
     ui.tSubjectName->setEditable(false);
     ui.tSubjectName->setBordered(false);
     ui.tSubjectName->setDrawsBackground(false);
@@ -300,6 +302,7 @@ void LectureWindows::buildLectureView()
         giveRoomToTitle(*button);
     breakLongRow(ui);
     keepContentInSight(*m_main.editPlayView);
+    putHeadingOver(*m_main.editPlayView);
 }
 
 void LectureWindows::buildNewLectureWindow()
@@ -325,15 +328,16 @@ void LectureWindows::buildNewLectureWindow()
 
     for (QLabel *label : {ui.textDate, ui.textTime, ui.lblNotesForAdd, ui.lblElapsedTimeTemp,
                           ui.lblRemainingTimeTemp})
-        style(*label, 13, Faint);
-    style(*ui.lblRecordingDuration, 24, Ink);
-    style(*ui.lblRecordingWarning, 13, Warning);
+        style(*label, 13, colours().faint);
+    style(*ui.lblRecordingDuration, 24, colours().ink);
+    ui.lblRecordingDuration->setFont(platform::fontNamed(Face, 24));
+    style(*ui.lblRecordingWarning, 13, colours().warning);
     keepRoom(*ui.lblRecordingWarning);
     ui.lblRecordingWarning->hide();
-    ui.txtSubjectForNewNote->setFont(platform::fontNamed(Face, 16));
+    ui.txtSubjectForNewNote->setFont(platform::scaledFontNamed(Face, 16));
     limitSubject(*ui.txtSubjectForNewNote);
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
-    fill(*ui.recordingPanel, QColor(247, 247, 249));
+    fill(*ui.recordingPanel, colours().panel);
     ui.imgLevelIndicatorBG->setImage(imageNamed(QStringLiteral("levelBackground")));
     dressRecordingControls(m_recording);
     ui.BtnDoneOrClose->setTag(NewLectureOutlets::TagDone);
@@ -351,9 +355,9 @@ void LectureWindows::buildEditLectureWindow()
     m_editLecture = {m_windowEditLecture.get(), ui.txtSubjectForEdit, ui.txtViewNotesForEdit,
                      ui.textEditTime,           ui.textEditDate,      ui.btnDoneEdit,
                      ui.btnCancelEdit};
-    ui.txtSubjectForEdit->setFont(platform::fontNamed(Face, 16));
+    ui.txtSubjectForEdit->setFont(platform::scaledFontNamed(Face, 16));
     for (QLabel *label : {ui.textEditTime, ui.textEditDate, ui.lblNotesForEdit})
-        style(*label, 13, Faint);
+        style(*label, 13, colours().faint);
 }
 
 void LectureWindows::buildPlayAudioWindow()
@@ -370,14 +374,15 @@ void LectureWindows::buildPlayAudioWindow()
                        ui.btnPauseLecture,      ui.sliderPlayProgress, ui.txtElapsedTime,
                        ui.txtRemainingTime,     ui.segPlaySpeed};
 
-    ui.txtSubjectName->setFont(platform::fontNamed(Face, 18));
+    ui.txtSubjectName->setFont(platform::scaledFontNamed(Face, 18));
     ui.txtSubjectName->setMaxLength(std::numeric_limits<int>::max());
+    keepTitleInSight(*ui.txtSubjectName);
     ui.btnClosePlayAudio->setImage(imageNamed(QStringLiteral("close")));
     ui.btnClosePlayAudio->setToolTip(QStringLiteral("%1 (%2)").arg(
         platform::text("BUTTON_CLOSE"),
         QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)));
     for (QLabel *label : {ui.txtElapsedTime, ui.txtRemainingTime, ui.lblSpeed})
-        style(*label, 13, Faint);
+        style(*label, 13, colours().faint);
     ui.btnPlayLecture->setImage(imageNamed(QStringLiteral("play")));
     ui.btnPlayLecture->setAlternateImage(imageNamed(QStringLiteral("playH")));
     ui.btnPlayLecture->setTag(audio::LecturePlayerOutlets::TagPlay);

@@ -1,5 +1,7 @@
 #include "lectures/LightPalette.h"
 
+#include "lectures/Colours.h"
+
 #include <QPalette>
 #include <QWidget>
 
@@ -7,28 +9,27 @@ namespace tarvelo::lectures {
 
 void setLightPalette(QWidget &window)
 {
-    const QColor ink(43, 41, 48);
-    const QColor faint(113, 109, 121);
+    const Colours its = colours();
     QPalette palette;
     palette.setColor(QPalette::Window, Qt::white);
     palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(247, 247, 249));
+    palette.setColor(QPalette::AlternateBase, its.panel);
     palette.setColor(QPalette::Button, QColor(246, 246, 248));
     palette.setColor(QPalette::Light, Qt::white);
-    palette.setColor(QPalette::Midlight, QColor(240, 240, 243));
-    palette.setColor(QPalette::Mid, QColor(220, 219, 224));
-    palette.setColor(QPalette::Dark, QColor(180, 178, 186));
-    palette.setColor(QPalette::Shadow, QColor(140, 138, 146));
+    palette.setColor(QPalette::Midlight, its.turnedTo);
+    palette.setColor(QPalette::Mid, its.hairline);
+    palette.setColor(QPalette::Dark, its.outline);
+    palette.setColor(QPalette::Shadow, its.outline);
     palette.setColor(QPalette::ToolTipBase, Qt::white);
-    palette.setColor(QPalette::Highlight, QColor(252, 39, 52));
+    palette.setColor(QPalette::Highlight, its.accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                             QPalette::BrightText, QPalette::ToolTipText})
-        palette.setColor(role, ink);
-    palette.setColor(QPalette::PlaceholderText, faint);
+        palette.setColor(role, its.ink);
+    palette.setColor(QPalette::PlaceholderText, its.faint);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, faint);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(220, 219, 224));
+        palette.setColor(QPalette::Disabled, role, its.disabled);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, its.hairline);
     window.setPalette(palette);
 }
 

@@ -433,6 +433,38 @@ private Q_SLOTS:
         QVERIFY(!QApplication::activePopupWidget());
     }
 
+    void itsMenuIsAsLightAsTheWindow()
+    {
+        const QPalette usual = QGuiApplication::palette();
+        QGuiApplication::setPalette(QPalette(QColor(40, 40, 40)));
+
+        const QColor ground = m_row->getMenu()->palette().color(QPalette::Base);
+        QGuiApplication::setPalette(usual);
+
+        QCOMPARE(ground, QColor(Qt::white));
+    }
+
+    void largeLettersAreLargerInTheRowAndNothingLiesOverEachOther()
+    {
+        const int usualHeight = label("lblNotes").fontMetrics().height();
+        const QFont usual = QApplication::font();
+        QFont large = usual;
+        large.setPixelSize(24);
+        QApplication::setFont(large);
+        prepare();
+        m_row->show();
+        QApplication::setFont(usual);
+
+        const QLabel &subject = label("lblSubject");
+        const QLabel &notes = label("lblNotes");
+        QVERIFY(notes.fontMetrics().height() > usualHeight);
+        QVERIFY(subject.height() >= subject.fontMetrics().height());
+        QVERIFY(notes.height() >= notes.fontMetrics().height());
+        QVERIFY(notes.y() > subject.geometry().bottom());
+        QVERIFY(subject.y() >= 0);
+        QVERIFY(notes.geometry().bottom() < CustomTableCellView::RowHeight - 1);
+    }
+
     void aButtonThatDoesNotShowHasAPlaceInTheRow()
     {
         for (const ImageButton *button : m_row->buttons())

@@ -9,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QLayout>
 
 using namespace Qt::StringLiterals;
 using tarvelo::tests::LectureProgram;
@@ -46,6 +47,25 @@ private Q_SLOTS:
     {
         QCOMPARE(windows().mainWindow().size(), QSize(833, 540));
         QCOMPARE(windows().mainWindow().frameWidth(), 833);
+    }
+
+    void theListsHeaderStandsAsFarFromBothItsEdgesInEitherDirection()
+    {
+        const auto &main = windows().mainOutlets();
+        const QWidget &header = *main.btnAddItem->parentWidget();
+        main.lblDateDisplay->setText(u"5"_s);
+        const auto edges = [&](Qt::LayoutDirection direction) {
+            windows().mainWindow().setLayoutDirection(direction);
+            header.layout()->activate();
+            const QRect date = main.lblDateDisplay->geometry();
+            const QRect add = main.btnAddItem->geometry();
+            const int right = header.width() - 1;
+            return direction == Qt::LeftToRight ? QPoint(date.left(), right - add.right())
+                                                : QPoint(right - date.right(), add.left());
+        };
+
+        QCOMPARE(edges(Qt::LeftToRight), QPoint(16, 12));
+        QCOMPARE(edges(Qt::RightToLeft), QPoint(16, 12));
     }
 
     void theCalendarFillsItsPane()

@@ -77,8 +77,8 @@ private Q_SLOTS:
         QTest::newRow("every other row") << QPalette::Text << QPalette::AlternateBase << 7.0;
         QTest::newRow("button") << QPalette::ButtonText << QPalette::Button << 7.0;
         QTest::newRow("tool tip") << QPalette::ToolTipText << QPalette::ToolTipBase << 7.0;
-        QTest::newRow("selected") << QPalette::HighlightedText << QPalette::Highlight << 3.0;
-        QTest::newRow("placeholder") << QPalette::PlaceholderText << QPalette::Base << 3.0;
+        QTest::newRow("selected") << QPalette::HighlightedText << QPalette::Highlight << 4.5;
+        QTest::newRow("placeholder") << QPalette::PlaceholderText << QPalette::Base << 4.5;
     }
     void everyTextStandsOutFromItsGround()
     {
@@ -93,6 +93,28 @@ private Q_SLOTS:
             const QPalette &palette = window.palette();
             QVERIFY(contrast(palette.color(group, text), palette.color(group, ground)) >= least);
         }
+    }
+
+    void theOutlinesOfControlsAreSeen()
+    {
+        QApplication::setPalette(m_before);
+        QWidget window;
+
+        setLightPalette(window);
+
+        const QPalette &palette = window.palette();
+        QVERIFY(contrast(palette.color(QPalette::Shadow), Qt::white) >= 3);
+        QVERIFY(contrast(palette.color(QPalette::Mid), Qt::white) < 2);
+    }
+
+    void inHighContrastHairlinesAreBlack()
+    {
+        QWidget window;
+
+        setLightPalette(window);
+
+        QCOMPARE(window.palette().color(QPalette::Mid), QColor(Qt::black));
+        QCOMPARE(window.palette().color(QPalette::Shadow), QColor(Qt::black));
     }
 
     void whatIsDisabledLooksSoAndCanStillBeMadeOut()

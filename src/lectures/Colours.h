@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QColor>
+
+namespace tarvelo::lectures {
+
+// The colours of the windows, which are white on every desktop. Where the desktop asks for high
+// contrast all that is grey is black.
+struct Colours
+{
+    QColor ink;
+    QColor faint;    // of texts beside those that count
+    QColor disabled; // of texts
+    QColor hairline; // between two areas
+    QColor outline;  // of controls, 3 to 1 against white
+    QColor panel;
+    QColor turnedTo; // of a control under the mouse
+    QColor warning;
+    QColor accent; // under white texts, and of what is chosen
+    QColor chosen; // under dark texts
+};
+
+// As the desktop's palette wants them now.
+Colours colours();
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,53 @@
+#include "lectures/Colours.h"
+
+#include "platform/HighContrast.h"
+#include "support/TestCase.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+using tarvelo::lectures::Colours;
+using tarvelo::lectures::colours;
+using tarvelo::platform::contrastOf;
+
+class ColoursTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textsAndOutlinesStandOutFromWhite()
+    {
+        const Colours usual = colours();
+
+        for (const QColor &text : {usual.ink, usual.faint, usual.disabled, usual.warning})
+            QVERIFY(contrastOf(text, usual.panel) >= 4.5);
+        QVERIFY(contrastOf(usual.outline, Qt::white) >= 3);
+        QVERIFY(contrastOf(usual.accent, Qt::white) >= 4.5);
+        QVERIFY(contrastOf(usual.ink, usual.chosen) >= 7);
+    }
+
+    void inHighContrastTheLinesAreAsBlackAsTheTexts()
+    {
+        QPalette palette(Qt::black, Qt::black);
+        for (const auto role : {QPalette::WindowText, QPalette::Text})
+            palette.setColor(role, Qt::white);
+        palette.setColor(QPalette::Base, Qt::black);
+        QGuiApplication::setPalette(palette);
+
+        const Colours strong = colours();
+
+        for (const QColor &colour : {strong.ink, strong.faint, strong.hairline, strong.outline})
+            QCOMPARE(colour, QColor(Qt::black));
+        QVERIFY(contrastOf(strong.disabled, Qt::white) >= 7);
+        QVERIFY(contrastOf(strong.accent, Qt::white) >= 7);
+    }
+
+private:
+    void prepare() override { m_before = QGuiApplication::palette(); }
+    void finish() override { QGuiApplication::setPalette(m_before); }
+
+    QPalette m_before;
+};
+
+QTEST_MAIN(ColoursTest)
+#include "ColoursTest.moc"
