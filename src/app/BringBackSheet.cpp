@@ -1,5 +1,6 @@
 #include "app/BringBackSheet.h"
 
+#include "lectures/Colours.h"
 #include "lectures/LightPalette.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
@@ -11,6 +12,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -24,12 +26,24 @@ using platform::text;
 
 constexpr int Width = 460;
 constexpr int ListHeight = 190;
+constexpr int GapBetweenButtons = 8;
+constexpr Qt::Alignment Numbers = Qt::AlignRight | Qt::AlignVCenter;
 
 QLabel *wrapped(const QString &words)
 {
     auto *label = new QLabel(words);
     label->setWordWrap(true);
     return label;
+}
+
+// Room for every word in every column, in large letters too.
+int widthOf(const QTreeWidget &list)
+{
+    const QAbstractItemView &view = list;
+    int width = 2 * list.frameWidth() + list.verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < list.columnCount(); ++column)
+        width += std::max(view.sizeHintForColumn(column), list.header()->sectionSizeHint(column));
+    return width;
 }
 
 } // namespace
@@ -58,15 +72,7 @@ void BringBackSheet::build()
     lectures::setLightPalette(*m_sheet);
 
     m_list = new QTreeWidget;
-    m_list->setObjectName(QStringLiteral("copies"));
-    m_list->setAccessibleName(text("TITLE_BRING_LECTURES_BACK"));
-    m_list->setRootIsDecorated(false);
-    m_list->setHeaderLabels(
-        {text("COLUMN_COPY_OF"), text("COLUMN_LECTURES"), text("COLUMN_MISSING")});
-    m_list->header()->setSectionsMovable(false);
-    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_list->setMinimumHeight(ListHeight);
-
+    dressList();
     m_damaged = wrapped({});
     m_damaged->setObjectName(QStringLiteral("damaged"));
     m_outcome = wrapped({});
@@ -78,6 +84,7 @@ void BringBackSheet::build()
     close->setObjectName(QStringLiteral("closeBringBack"));
 
     auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(GapBetweenButtons);
     buttons->addStretch();
     buttons->addWidget(close);
     buttons->addWidget(m_bringBack);
@@ -88,6 +95,7 @@ void BringBackSheet::build()
     column->addWidget(m_outcome);
     column->addLayout(buttons);
     m_sheet->setMinimumWidth(Width);
+    m_sheet->resize(Width, m_sheet->height());
 
     connect(&m_recordings, &audio::UnlistedRecordings::searched, this,
             &BringBackSheet::listRecordings);
@@ -96,12 +104,38 @@ void BringBackSheet::build()
     connect(close, &QPushButton::clicked, m_sheet, &QDialog::reject);
 }
 
+// A name with room, and numbers one below the other at the trailing edge.
+void BringBackSheet::dressList()
+{
+    m_list->setObjectName(QStringLiteral("copies"));
+    m_list->setAccessibleName(text("TITLE_BRING_LECTURES_BACK"));
+    m_list->setRootIsDecorated(false);
+    m_list->setHeaderLabels(
+        {text("COLUMN_COPY_OF"), text("COLUMN_LECTURES"), text("COLUMN_MISSING")});
+    QHeaderView &header = *m_list->header();
+    header.setSectionsMovable(false);
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(0, QHeaderView::Stretch);
+    for (const int column : {1, 2})
+        m_list->headerItem()->setTextAlignment(column, Numbers);
+    m_list->setMinimumHeight(ListHeight);
+    QPalette palette = m_sheet->palette();
+    palette.setColor(QPalette::Highlight, lectures::colours().chosen);
+    palette.setColor(QPalette::HighlightedText, lectures::colours().ink);
+    m_list->setPalette(palette);
+}
+
 void BringBackSheet::show()
 {
     m_recordings.search();
     list();
-    m_outcome->setText(m_copies.isEmpty() ? text("BRING_BACK_NO_COPIES") : QString());
+    sayWhatCame(m_copies.isEmpty() ? text("BRING_BACK_NO_COPIES") : QString());
     sayWhatWasDamaged();
+    fit();
+    // Otherwise the sheet would open on the button of the last time.
+    if (m_list->isEnabled())
+        m_list->setFocus();
     m_sheet->open();
 }
 
@@ -116,9 +150,38 @@ void BringBackSheet::list()
                  copy.lectures, copy.missing);
     if (m_recordings.count() > 0)
         addEntry(text("BRING_BACK_RECORDINGS"), m_recordings.count(), m_recordings.count());
-    m_list->setEnabled(m_list->topLevelItemCount() > 0);
+    showListOrNone();
     m_list->setCurrentItem(m_list->topLevelItem(0));
     offer();
+}
+
+// Where nothing can be chosen there is no empty table: the sheet says so in words.
+void BringBackSheet::showListOrNone()
+{
+    const bool isThere = m_list->topLevelItemCount() > 0;
+    m_list->setEnabled(isThere);
+    m_list->setMinimumWidth(widthOf(*m_list));
+    if (m_list->isHidden() == !isThere)
+        return;
+    m_list->setVisible(isThere);
+    fit();
+}
+
+void BringBackSheet::sayWhatCame(const QString &words)
+{
+    m_outcome->setText(words);
+    m_outcome->setHidden(words.isEmpty());
+    fit();
+}
+
+// Wrapped texts need a height that depends on the width, which windows do not ask for.
+void BringBackSheet::fit()
+{
+    QLayout &column = *m_sheet->layout();
+    column.activate();
+    const int width = std::max(m_sheet->width(), column.totalMinimumSize().width());
+    m_sheet->setMinimumHeight(column.totalHeightForWidth(width));
+    m_sheet->resize(width, m_sheet->minimumHeight());
 }
 
 void BringBackSheet::addEntry(const QString &name, int lectures, int missing)
@@ -127,6 +190,8 @@ void BringBackSheet::addEntry(const QString &name, int lectures, int missing)
     entry->setText(0, name);
     entry->setText(1, QLocale().toString(lectures));
     entry->setText(2, QLocale().toString(missing));
+    entry->setTextAlignment(1, Numbers);
+    entry->setTextAlignment(2, Numbers);
 }
 
 // What the student has chosen by then stays chosen.
@@ -137,7 +202,7 @@ void BringBackSheet::listRecordings()
     const int chosen = m_list->indexOfTopLevelItem(m_list->currentItem());
     const bool wasNothingThere = !m_list->isEnabled();
     if (m_copies.isEmpty())
-        m_outcome->clear();
+        sayWhatCame({});
     list();
     // The keyboard was on Close, which was all there was; Return would close the sheet.
     if (wasNothingThere)
@@ -174,8 +239,8 @@ void BringBackSheet::bringBack()
     const auto back = bringBackRow(row);
     list();
     m_list->setCurrentItem(m_list->topLevelItem(std::min(row, m_list->topLevelItemCount() - 1)));
-    m_outcome->setText(back ? text("BRING_BACK_DONE").arg(QLocale().toString(back->count))
-                            : text("BRING_BACK_FAILED"));
+    sayWhatCame(back ? text("BRING_BACK_DONE").arg(QLocale().toString(back->count))
+                     : text("BRING_BACK_FAILED"));
     if (back)
         Q_EMIT lecturesCameBack(*back);
 }

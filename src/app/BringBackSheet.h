@@ -42,7 +42,11 @@ Q_SIGNALS:
 
 private:
     void build();
+    void dressList();
     void list();
+    void showListOrNone();
+    void sayWhatCame(const QString &words);
+    void fit();
     void addEntry(const QString &name, int lectures, int missing);
     void listRecordings();
     void sayWhatWasDamaged();

@@ -3,6 +3,7 @@
 #include "audio/DurationText.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
+#include "lectures/Colours.h"
 #include "lectures/LightPalette.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
@@ -25,6 +26,8 @@ using platform::Dates;
 using platform::text;
 
 constexpr int Width = 420;
+constexpr int GapBetweenRows = 4;
+constexpr int GapBetweenButtons = 8;
 
 QLabel *wrapped(const char *name)
 {
@@ -34,6 +37,17 @@ QLabel *wrapped(const char *name)
     // What a student typed is shown as it is.
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+// What a value is of is said quietly beside it.
+void addRow(QFormLayout &form, const char *key, QLabel &value)
+{
+    auto *name = new QLabel(text(key));
+    QPalette quiet = name->palette();
+    quiet.setColor(QPalette::WindowText, lectures::colours().faint);
+    name->setPalette(quiet);
+    name->setBuddy(&value);
+    form.addRow(name, &value);
 }
 
 QPushButton *button(const char *name, const char *key)
@@ -79,15 +93,17 @@ void LeftLectureSheet::build()
     m_outcome = wrapped("outcome");
     m_outcome->hide();
     auto *form = new QFormLayout;
-    form->addRow(text("LABEL_SUBJECT"), m_subject);
-    form->addRow(text("LABEL_LECTURE_DAY"), m_day);
-    form->addRow(text("LABEL_RECORDING_DURATION"), m_length);
+    form->setVerticalSpacing(GapBetweenRows);
+    addRow(*form, "LABEL_SUBJECT", *m_subject);
+    addRow(*form, "LABEL_LECTURE_DAY", *m_day);
+    addRow(*form, "LABEL_RECORDING_DURATION", *m_length);
 
     m_listen = button("listen", "BUTTON_LISTEN");
     auto *discarding = button("discard", "BUTTON_DISCARD_LECTURE");
     m_keep = button("keep", "BUTTON_KEEP_LECTURE");
     m_keep->setDefault(true);
     auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(GapBetweenButtons);
     buttons->addWidget(m_listen);
     buttons->addStretch();
     buttons->addWidget(discarding);

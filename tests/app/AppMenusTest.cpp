@@ -27,6 +27,20 @@ private Q_SLOTS:
                  &program.delegate.menus().mainMenu());
     }
 
+    void theMenusOfTheWindowsAreAsLightAsTheWindows()
+    {
+        const QPalette usual = QGuiApplication::palette();
+        QGuiApplication::setPalette(QPalette(QColor(40, 40, 40)));
+        {
+            Application program;
+            app::AppMenus &menus = program.delegate.menus();
+
+            for (const QMenu *menu : {&menus.mainMenu(), &menus.helpMenu()})
+                QCOMPARE(menu->palette().color(QPalette::Base), QColor(Qt::white));
+        }
+        QGuiApplication::setPalette(usual);
+    }
+
     void theCommandsHaveTheirShortcuts_data()
     {
         QTest::addColumn<Command>("command");

@@ -38,6 +38,26 @@ private Q_SLOTS:
         QCOMPARE(list().topLevelItemCount(), 0);
         QCOMPARE(outcome(), u"There are no copies: no lectures went in bulk so far."_s);
         QVERIFY(!button().isEnabled());
+        QVERIFY(list().isHidden());
+    }
+
+    void theTableShowsWhereThereIsSomethingAndTheButtonBesideItIsWhatReturnPresses()
+    {
+        open();
+        sheet().close();
+        loseTwoLectures();
+
+        open();
+
+        QVERIFY(list().isVisible());
+        QVERIFY(list().hasFocus() || !sheet().isActiveWindow());
+        QVERIFY(button().isDefault());
+        QVERIFY(outcome().isEmpty());
+        const QTreeWidgetItem &copy = *list().topLevelItem(0);
+        for (const int column : {1, 2})
+            QVERIFY(Qt::Alignment(copy.textAlignment(column)).testFlag(Qt::AlignRight));
+        QVERIFY(
+            sheet().rect().contains(QRect(button().mapTo(&sheet(), QPoint()), button().size())));
     }
 
     void everyCopyStandsThereWithItsMomentAndItsLectures()
