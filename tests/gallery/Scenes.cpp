@@ -1,5 +1,6 @@
 #include "gallery/Scenes.h"
 
+#include "gallery/ControlScenes.h"
 #include "lectures/CustomTableCellView.h"
 #include "lectures/LectureTable.h"
 #include "platform/Alerts.h"
@@ -228,7 +229,9 @@ void Tour::sheets()
     platform::WindowAlerts().beginSheet(
         {u"Recording is on process!"_s, u"Ok"_s, u"Please click Done to save."_s},
         m_program.window(), {});
-    look("alert", *m_program.window().findChild<QMessageBox *>());
+    auto &alert = *m_program.window().findChild<QMessageBox *>();
+    look("alert", alert);
+    alert.close();
 }
 
 } // namespace
@@ -267,6 +270,7 @@ bool goThrough(Application &program, const std::function<void(const QString &, Q
     tour.windows();
     tour.popOvers();
     tour.sheets();
+    goThroughControls(program, look);
     return isAllShown;
 }
 

@@ -1,0 +1,160 @@
+#include "gallery/ControlScenes.h"
+
+#include "lectures/CustomTableCellView.h"
+#include "lectures/LectureTable.h"
+#include "store/LectureInfoItem.h"
+#include "support/LectureBuilder.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QFile>
+#include <QTest>
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+namespace tarvelo::tests {
+
+namespace {
+
+class Controls final
+{
+public:
+    using Look = std::function<void(const QString &, QWidget &)>;
+
+    Controls(Application &program, const Look &look)
+        : m_program(program)
+        , m_look(look)
+    {
+    }
+
+    void manyLectures() const;
+    void playing() const;
+    void copies() const;
+    void controls() const;
+
+private:
+    void look(const QString &name, QWidget &window) const
+    {
+        window.show();
+        QCoreApplication::sendPostedEvents();
+        m_look(name, window);
+    }
+    void showDay(int day) const;
+    void lookAtControls(const QString &name, QWidget &window) const;
+    lectures::CustomTableCellView &firstRow() const
+    {
+        auto &table = *m_program.windows.mainOutlets().tblRecordSubjectList;
+        return *table.viewAtColumnRowMakeIfNecessary(0, 0, true);
+    }
+
+    Application &m_program;
+    const Look &m_look;
+};
+
+void Controls::showDay(int day) const
+{
+    m_program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, day));
+    m_program.windows.mainOutlets().calendarView->layoutSubviews();
+}
+
+// The list scrolls.
+void Controls::manyLectures() const
+{
+    m_program.controller.goToCalendarView(nullptr);
+    m_program.window().setFrameWidth(app::AppDelegate::ListShownWidth, false);
+    for (int at = 1; at <= 12; ++at)
+        aLecture().named("Linear algebra").on("2024-03-06").insertInto(m_program.database);
+    showDay(6);
+    look(u"main-many"_s, m_program.window());
+}
+
+void Controls::playing() const
+{
+    const QString path = m_program.home.folder() + u"/take.m4a"_s;
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write("sound");
+    file.close();
+    const auto lecture = aLecture().named("Fourier series").on("2024-03-07").withAudio(path);
+    lecture.insertInto(m_program.database);
+    showDay(7);
+    m_program.engine.playerDuration = 5465;
+    firstRow().btnPlay()->click();
+    m_program.engine.playedSeconds = 1822;
+    m_program.clock.advance(1s);
+    QWidget &window = *m_program.windows.playAudioOutlets().playAudioWindow;
+    look(u"play-playing"_s, window);
+    lookAtControls(u"play-playing"_s, window);
+    m_program.controller.openPlayEditWindow(firstRow().btnEdit());
+    m_program.window().setFrameWidth(lectures::ExpandedWidth, false);
+    look(u"lecture-with-audio"_s, m_program.window());
+    m_program.window().setFrameWidth(app::AppDelegate::ListShownWidth, false);
+}
+
+// After lectures went at once, there is a copy of them.
+void Controls::copies() const
+{
+    const store::LectureInfoItem lecture(u"Any"_s, QString(), QString(), QString(), false);
+    for (const auto &pause : {1h, 30h}) {
+        for (const char *name : {"Logic", "Ethics"})
+            aLecture().named(name).withoutAudio().insertInto(m_program.database);
+        m_program.clock.advance(pause);
+        m_program.database.deleteVoiceData(lecture);
+    }
+    m_program.delegate.menus().action(app::Command::BringLecturesBack)->trigger();
+    auto &bringBack = *m_program.window().findChild<QDialog *>(u"bringBackSheet"_s);
+    look(u"bring-back-copies"_s, bringBack);
+    bringBack.close();
+}
+
+void Controls::controls() const
+{
+    QWidget &newLecture = *m_program.windows.newLectureOutlets().newNoteWindow;
+    QWidget &preferences = *m_program.delegate.preferences().preferrenceWindow();
+    preferences.hide();
+    m_program.controller.onAddItem(nullptr);
+    lookAtControls(u"new-lecture"_s, newLecture);
+    newLecture.hide();
+    lookAtControls(u"main"_s, m_program.window());
+    preferences.show();
+    lookAtControls(u"preferences"_s, preferences);
+    preferences.hide();
+}
+
+// All at once, as each is under the mouse and while it is pressed, and one that has the keyboard.
+void Controls::lookAtControls(const QString &name, QWidget &window) const
+{
+    const auto buttons = window.findChildren<QAbstractButton *>();
+    const auto setAll = [&](bool underMouse, bool down) {
+        for (QAbstractButton *button : buttons) {
+            button->setAttribute(Qt::WA_UnderMouse, underMouse && button->isEnabled());
+            button->setDown(down && button->isEnabled());
+        }
+    };
+    setAll(true, false);
+    look(name + u"-controls-under-the-mouse"_s, window);
+    setAll(true, true);
+    look(name + u"-controls-pressed"_s, window);
+    setAll(false, false);
+    window.activateWindow();
+    static_cast<void>(QTest::qWaitForWindowActive(&window));
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    for (int tabs = 0; tabs < 3; ++tabs)
+        QTest::keyClick(&window, Qt::Key_Tab);
+    look(name + u"-keyboard"_s, window);
+}
+
+} // namespace
+
+void goThroughControls(Application &program,
+                       const std::function<void(const QString &, QWidget &)> &look)
+{
+    const Controls controls(program, look);
+    controls.manyLectures();
+    controls.playing();
+    controls.copies();
+    controls.controls();
+}
+
+} // namespace tarvelo::tests
