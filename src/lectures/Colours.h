@@ -13,6 +13,7 @@ struct Colours
     QColor disabled; // of texts
     QColor hairline; // between two areas
     QColor outline;  // of controls, 3 to 1 against white
+    QColor disabledOutline;
     QColor panel;
     QColor turnedTo; // of a control under the mouse
     QColor warning;

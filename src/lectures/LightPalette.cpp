@@ -29,7 +29,8 @@ void setLightPalette(QWidget &window)
     palette.setColor(QPalette::PlaceholderText, its.faint);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, its.disabled);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, its.hairline);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, its.disabledOutline);
+    palette.setColor(QPalette::Disabled, QPalette::Shadow, its.disabledOutline);
     window.setPalette(palette);
 }
 

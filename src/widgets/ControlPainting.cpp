@@ -15,6 +15,8 @@ constexpr double IndicatorSide = 16;
 constexpr double IndicatorRadius = 4;
 constexpr double GrooveHeight = 4;
 constexpr double ScrollHandleWidth = 6;
+// In per cent, as against a control under the mouse.
+constexpr int PressedShade = 106;
 
 bool is(const QStyleOption &option, QStyle::StateFlag state)
 {
@@ -23,8 +25,7 @@ bool is(const QStyleOption &option, QStyle::StateFlag state)
 
 QColor outlineOf(const QStyleOption &option)
 {
-    return option.palette.color(is(option, QStyle::State_Enabled) ? QPalette::Shadow
-                                                                  : QPalette::Mid);
+    return option.palette.color(QPalette::Shadow);
 }
 
 QColor accentOf(const QStyleOption &option)
@@ -40,7 +41,7 @@ QColor groundOf(const QStyleOption &option)
     if (!is(option, QStyle::State_Enabled))
         return option.palette.color(QPalette::Base);
     if (is(option, QStyle::State_Sunken))
-        return option.palette.color(QPalette::Mid);
+        return option.palette.color(QPalette::Midlight).darker(PressedShade);
     return option.palette.color(is(option, QStyle::State_MouseOver) ? QPalette::Midlight
                                                                     : QPalette::Base);
 }
@@ -174,7 +175,7 @@ void paintSlider(QPainter &painter, const QStyleOptionSlider &option, const QRec
     bar.setTop(middle.y() - GrooveHeight / 2);
     bar.setHeight(GrooveHeight);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(option.palette.color(isEnabled ? QPalette::Shadow : QPalette::Mid));
+    painter.setBrush(outlineOf(option));
     painter.drawRoundedRect(bar, GrooveHeight / 2, GrooveHeight / 2);
     if (isEnabled) {
         if (option.upsideDown)

@@ -27,7 +27,7 @@ protected:
         if (isChecked())
             return palette().color(QPalette::Highlight);
         if (isDown())
-            return palette().color(QPalette::Mid);
+            return palette().color(QPalette::Midlight).darker(106);
         return palette().color(isEnabled() && underMouse() ? QPalette::Midlight : QPalette::Base);
     }
 

@@ -115,6 +115,8 @@ private Q_SLOTS:
 
         QCOMPARE(window.palette().color(QPalette::Mid), QColor(Qt::black));
         QCOMPARE(window.palette().color(QPalette::Shadow), QColor(Qt::black));
+        QVERIFY(contrast(window.palette().color(QPalette::Disabled, QPalette::Shadow), Qt::black) >=
+                3);
     }
 
     void whatIsDisabledLooksSoAndCanStillBeMadeOut()

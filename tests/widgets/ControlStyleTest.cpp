@@ -34,8 +34,9 @@ QPalette colours()
     for (const auto role : {QPalette::Window, QPalette::Base, QPalette::HighlightedText})
         palette.setColor(role, Qt::white);
     palette.setColor(QPalette::Midlight, QColor(240, 240, 243));
-    palette.setColor(QPalette::Mid, QColor(228, 227, 232));
+    palette.setColor(QPalette::Mid, Qt::black); // as in high contrast
     palette.setColor(QPalette::Shadow, Outline);
+    palette.setColor(QPalette::Disabled, QPalette::Shadow, QColor(200, 200, 200));
     palette.setColor(QPalette::Highlight, Accent);
     return palette;
 }
@@ -108,6 +109,8 @@ private Q_SLOTS:
         QVERIFY(turnedTo != atRest);
         QVERIFY(pressed != turnedTo);
         QVERIFY(pressed != atRest);
+        // Also where all lines are black, the title can be read meanwhile.
+        QVERIFY(contrastOf(pressed.pixelColor(8, 16), Ink) >= 4.5);
     }
 
     void aTitleHasRoomAndAButtonIsNoSmallerThanAFinger()
@@ -166,6 +169,7 @@ private Q_SLOTS:
         QCOMPARE(mirrored.pixelColor(10, 10), Outline);
         slider.setEnabled(false);
         QCOMPARE(pixelsOf(look(slider), Accent), 0);
+        QCOMPARE(pixelsOf(look(slider), Outline), 0);
     }
 
     void theMouseTakesASliderByItsHandle()
