@@ -42,6 +42,7 @@ private:
     }
     void showDay(int day) const;
     void lookAtControls(const QString &name, QWidget &window) const;
+    void lookAtKeyboard(const QString &name, QWidget &window) const;
     lectures::CustomTableCellView &firstRow() const
     {
         auto &table = *m_program.windows.mainOutlets().tblRecordSubjectList;
@@ -86,6 +87,7 @@ void Controls::playing() const
     QWidget &window = *m_program.windows.playAudioOutlets().playAudioWindow;
     look(u"play-playing"_s, window);
     lookAtControls(u"play-playing"_s, window);
+    lookAtKeyboard(u"play-playing"_s, window);
     m_program.controller.openPlayEditWindow(firstRow().btnEdit());
     m_program.window().setFrameWidth(lectures::ExpandedWidth, false);
     look(u"lecture-with-audio"_s, m_program.window());
@@ -96,7 +98,7 @@ void Controls::playing() const
 void Controls::copies() const
 {
     const store::LectureInfoItem lecture(u"Any"_s, QString(), QString(), QString(), false);
-    for (const auto &pause : {1h, 30h}) {
+    for (const auto &pause : {1h, 2h}) {
         for (const char *name : {"Logic", "Ethics"})
             aLecture().named(name).withoutAudio().insertInto(m_program.database);
         m_program.clock.advance(pause);
@@ -115,14 +117,16 @@ void Controls::controls() const
     preferences.hide();
     m_program.controller.onAddItem(nullptr);
     lookAtControls(u"new-lecture"_s, newLecture);
+    lookAtKeyboard(u"new-lecture"_s, newLecture);
     newLecture.hide();
     lookAtControls(u"main"_s, m_program.window());
-    preferences.show();
+    lookAtKeyboard(u"main"_s, m_program.window());
+    m_program.delegate.menus().action(app::Command::ShowPreferences)->trigger();
     lookAtControls(u"preferences"_s, preferences);
     preferences.hide();
 }
 
-// All at once, as each is under the mouse and while it is pressed, and one that has the keyboard.
+// All at once, as each is under the mouse and while it is pressed.
 void Controls::lookAtControls(const QString &name, QWidget &window) const
 {
     const auto buttons = window.findChildren<QAbstractButton *>();
@@ -137,6 +141,10 @@ void Controls::lookAtControls(const QString &name, QWidget &window) const
     setAll(true, true);
     look(name + u"-controls-pressed"_s, window);
     setAll(false, false);
+}
+
+void Controls::lookAtKeyboard(const QString &name, QWidget &window) const
+{
     window.activateWindow();
     static_cast<void>(QTest::qWaitForWindowActive(&window));
     window.setAttribute(Qt::WA_KeyboardFocusChange);
