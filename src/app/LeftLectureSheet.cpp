@@ -50,6 +50,16 @@ void addRow(QFormLayout &form, const char *key, QLabel &value)
     form.addRow(name, &value);
 }
 
+QFormLayout *formOf(QLabel &subject, QLabel &day, QLabel &length)
+{
+    auto *form = new QFormLayout;
+    form->setVerticalSpacing(GapBetweenRows);
+    addRow(*form, "LABEL_SUBJECT", subject);
+    addRow(*form, "LABEL_LECTURE_DAY", day);
+    addRow(*form, "LABEL_RECORDING_DURATION", length);
+    return form;
+}
+
 QPushButton *button(const char *name, const char *key)
 {
     auto *made = new QPushButton(text(key));
@@ -92,11 +102,6 @@ void LeftLectureSheet::build()
     m_length = wrapped("leftLength");
     m_outcome = wrapped("outcome");
     m_outcome->hide();
-    auto *form = new QFormLayout;
-    form->setVerticalSpacing(GapBetweenRows);
-    addRow(*form, "LABEL_SUBJECT", *m_subject);
-    addRow(*form, "LABEL_LECTURE_DAY", *m_day);
-    addRow(*form, "LABEL_RECORDING_DURATION", *m_length);
 
     m_listen = button("listen", "BUTTON_LISTEN");
     auto *discarding = button("discard", "BUTTON_DISCARD_LECTURE");
@@ -110,7 +115,7 @@ void LeftLectureSheet::build()
     buttons->addWidget(m_keep);
     auto *column = new QVBoxLayout(m_sheet);
     column->addWidget(explained);
-    column->addLayout(form);
+    column->addLayout(formOf(*m_subject, *m_day, *m_length));
     column->addWidget(m_outcome);
     column->addLayout(buttons);
     m_sheet->setMinimumWidth(Width);
