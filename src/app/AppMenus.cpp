@@ -20,31 +20,28 @@ struct Entry
     Command command;
     const char *titleKey;
     const char *name;
-    int shortcut; // 0 for none
+    QKeyCombination shortcut;
     bool beginsGroup;
 };
 
-constexpr int ctrl(Qt::Key key)
-{
-    return (Qt::CTRL | key).toCombined();
-}
+constexpr QKeyCombination NoKeys(Qt::Key(0));
 
 // In the order of the commands, which is also that of the menus.
 constexpr std::array<Entry, static_cast<std::size_t>(Command::Count)> entries()
 {
     return {{
-        {Command::NewLecture, "MENU_NEW_LECTURE", "newLecture", ctrl(Qt::Key_N), false},
-        {Command::AllList, "MENU_ALL_LIST", "allList", ctrl(Qt::Key_L), true},
+        {Command::NewLecture, "MENU_NEW_LECTURE", "newLecture", Qt::CTRL | Qt::Key_N, false},
+        {Command::AllList, "MENU_ALL_LIST", "allList", Qt::CTRL | Qt::Key_L, true},
         {Command::FoldList, "MENU_FOLD_LIST", "foldList", Qt::Key_F9, false},
-        {Command::ShowFolder, "MENU_SHOW_FOLDER", "showFolder", ctrl(Qt::Key_O), false},
-        {Command::BringLecturesBack, "MENU_BRING_LECTURES_BACK", "bringLecturesBack", 0, false},
-        {Command::ShowPreferences, "MENU_PREFERENCES", "preferences", ctrl(Qt::Key_Comma), true},
-        {Command::CloseWindow, "MENU_CLOSE_WINDOW", "closeWindow", ctrl(Qt::Key_W), true},
-        {Command::Quit, "MENU_QUIT", "quit", ctrl(Qt::Key_Q), false},
-        {Command::Open, "MENU_OPEN", "statusOpen", 0, false},
-        {Command::NewLectureFromStatusItem, "MENU_NEW_LECTURE", "statusNewLecture", 0, false},
-        {Command::PreferencesFromStatusItem, "MENU_PREFERENCES", "statusPreferences", 0, true},
-        {Command::QuitFromStatusItem, "MENU_QUIT", "statusQuit", 0, false},
+        {Command::ShowFolder, "MENU_SHOW_FOLDER", "showFolder", Qt::CTRL | Qt::Key_O, false},
+        {Command::BringLecturesBack, "MENU_BRING_LECTURES_BACK", "bringLecturesBack", NoKeys, false},
+        {Command::ShowPreferences, "MENU_PREFERENCES", "preferences", Qt::CTRL | Qt::Key_Comma, true},
+        {Command::CloseWindow, "MENU_CLOSE_WINDOW", "closeWindow", Qt::CTRL | Qt::Key_W, true},
+        {Command::Quit, "MENU_QUIT", "quit", Qt::CTRL | Qt::Key_Q, false},
+        {Command::Open, "MENU_OPEN", "statusOpen", NoKeys, false},
+        {Command::NewLectureFromStatusItem, "MENU_NEW_LECTURE", "statusNewLecture", NoKeys, false},
+        {Command::PreferencesFromStatusItem, "MENU_PREFERENCES", "statusPreferences", NoKeys, true},
+        {Command::QuitFromStatusItem, "MENU_QUIT", "statusQuit", NoKeys, false},
     }};
 }
 
