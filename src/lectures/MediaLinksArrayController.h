@@ -138,8 +138,9 @@ public:
     // `sender` is a control in a row; from anywhere else nothing happens.
     void openAudioFolderPath(QWidget *sender);
 
-    // -- Sharing. `sender` is a control in a row; from anywhere else nothing happens.
+    // -- Sharing
     bool isSupportedIniTunes(QWidget *cell) const;
+    // `sender` is a control in a row; from anywhere else nothing happens.
     void doSendMail(QWidget *sender);
     void onExportToiTunes(QWidget *sender);
 
