@@ -3,6 +3,7 @@
 // own.
 
 #include "ChildProcess.h"
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/TakeWriter.h"
 #include "support/TestSound.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/TakeWriter.h"
 #include "support/TestSound.h"
 

@@ -2,6 +2,7 @@
 // machine can; what the process holds after one minute of sound is laid beside what it holds at the
 // end.
 
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/TakeWriter.h"
 #include "support/TestSound.h"
 

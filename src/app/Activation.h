@@ -4,6 +4,12 @@
 
 #include <QObject>
 
+#include <chrono>
+
+namespace tarvelo::platform {
+class Clock;
+}
+
 namespace tarvelo::app {
 
 // Tells when the user comes to the application from another one. Between two of our own windows

@@ -5,7 +5,11 @@
 #include "platform/Texts.h"
 
 #include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QPoint>
 #include <QShortcut>
+#include <QWidget>
 
 #include <algorithm>
 

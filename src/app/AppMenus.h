@@ -5,9 +5,12 @@
 #include <QObject>
 
 #include <array>
+#include <cstddef>
 #include <functional>
 
 class QAction;
+class QMenu;
+class QWidget;
 
 namespace tarvelo::app {
 

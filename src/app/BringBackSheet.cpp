@@ -5,17 +5,23 @@
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
 #include "platform/Texts.h"
+#include "store/DamagedFiles.h"
+#include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
 
-#include <QBoxLayout>
 #include <QDialog>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTreeWidget>
+#include <QTreeWidgetItem>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvelo::app {
 

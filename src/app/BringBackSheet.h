@@ -5,17 +5,21 @@
 
 #include <QObject>
 
+#include <optional>
+
 class QDialog;
 class QLabel;
 class QPushButton;
 class QTreeWidget;
+class QWidget;
 
 namespace tarvelo::platform {
 class Dates;
 }
 namespace tarvelo::store {
 class LectureDatabase;
-}
+struct LecturesBack;
+} // namespace tarvelo::store
 
 namespace tarvelo::app {
 

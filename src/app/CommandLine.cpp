@@ -1,5 +1,7 @@
 #include "app/CommandLine.h"
 
+#include <optional>
+
 namespace tarvelo::app {
 
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 
+class QDateTime;
 class QLabel;
 
 namespace tarvelo::platform {

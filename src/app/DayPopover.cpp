@@ -1,6 +1,8 @@
 #include "app/DayPopover.h"
 
 #include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
 
 namespace tarvelo::app {
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QLabel>
-#include <QPushButton>
+#include <QWidget>
+
+class QPushButton;
 
 namespace tarvelo::app {
 

@@ -4,6 +4,8 @@
 #include "platform/SessionObject.h"
 
 #include <QObject>
+#include <QStringList>
+#include <QVariantList>
 #include <QVariantMap>
 
 namespace tarvelo::app {

@@ -4,6 +4,7 @@
 #include "platform/Workspace.h"
 
 #include <QObject>
+#include <QUrl>
 #include <QVariant>
 
 #include <utility>

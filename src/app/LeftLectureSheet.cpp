@@ -8,15 +8,22 @@
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
 #include "platform/Texts.h"
+#include "store/LectureJournal.h"
 
-#include <QBoxLayout>
+#include <QDateTime>
 #include <QDialog>
 #include <QEvent>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLayout>
+#include <QMetaObject>
 #include <QPushButton>
+#include <QVBoxLayout>
+#include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvelo::app {
 

@@ -10,6 +10,7 @@
 class QDialog;
 class QLabel;
 class QPushButton;
+class QWidget;
 
 namespace tarvelo::engine {
 class AudioEngine;

@@ -3,6 +3,7 @@
 #include "platform/PrivateFiles.h"
 
 #include <QFile>
+#include <QIODevice>
 #include <QSaveFile>
 #include <QStandardPaths>
 

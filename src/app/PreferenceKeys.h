@@ -7,6 +7,7 @@
 #include <QVariant>
 
 #include <array>
+#include <cstddef>
 #include <optional>
 
 namespace tarvelo::app {

@@ -7,7 +7,17 @@
 #include "platform/WindowLevel.h"
 #include "ui_Preferences.h"
 
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QDialog>
+#include <QEvent>
+#include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
+#include <QWidget>
+
+#include <utility>
 
 namespace tarvelo::app {
 

@@ -4,14 +4,14 @@
 #include "app/PreferenceKeys.h"
 
 #include <QObject>
+#include <QVariant>
 
 #include <memory>
 
 class QAbstractButton;
 class QButtonGroup;
-class QCheckBox;
 class QDialog;
-class QLabel;
+class QWidget;
 
 namespace Ui { // NOLINT(readability-identifier-naming): the name that the layouts are given
 class Preferences;

@@ -3,6 +3,7 @@
 #include "platform/StatusNotifierHost.h"
 
 #include <QAbstractNativeEventFilter>
+#include <QObject>
 
 namespace tarvelo::app {
 

@@ -1,9 +1,11 @@
 #include "app/StatusItem.h"
 
 #include <QGuiApplication>
-#include <QMenu>
+#include <QIcon>
 #include <QPainter>
 #include <QPixmap>
+#include <QPointF>
+#include <QRectF>
 
 namespace tarvelo::app {
 

@@ -3,6 +3,7 @@
 #include "app/StatusBars.h"
 #include "platform/Images.h"
 
+#include <QObject>
 #include <QSize>
 #include <QSystemTrayIcon>
 

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <xcb/xcb.h>
+
 namespace tarvelo::app {
 
 TaskbarEntry::TaskbarEntry(QWidget &window)

@@ -1,6 +1,7 @@
 #include "app/TerminationSignals.h"
 
 #include <QSocketNotifier>
+#include <QtAlgorithms>
 
 #include <atomic>
 #include <cerrno>

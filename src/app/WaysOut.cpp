@@ -4,6 +4,8 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QGuiApplication>
 #include <QSessionManager>
 
 #include <cstdlib>

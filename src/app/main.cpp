@@ -7,11 +7,14 @@
 #include "lectures/LectureWindows.h"
 #include "lectures/MediaLinksArrayController.h"
 #include "platform/Alerts.h"
+#include "platform/Clock.h"
 #include "platform/Dates.h"
 #include "platform/DelayedCall.h"
 #include "platform/Images.h"
 #include "platform/MailComposer.h"
 #include "platform/PrivateFiles.h"
+#include "platform/Process.h"
+#include "platform/Region.h"
 #include "platform/SleepInhibitor.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
@@ -22,6 +25,11 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QObject>
+#include <QStringList>
+
+#include <chrono>
+#include <cstdio>
 
 using namespace tarvelo;
 

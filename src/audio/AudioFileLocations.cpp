@@ -7,8 +7,11 @@
 #include "platform/PrivateFiles.h"
 #include "platform/UserDefaults.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+
+#include <utility>
 
 namespace tarvelo::audio {
 

@@ -2,8 +2,9 @@
 
 #include "platform/Process.h"
 
-#include <QDateTime>
 #include <QString>
+
+class QDateTime;
 
 namespace tarvelo::platform {
 class Dates;

@@ -3,6 +3,8 @@
 #include "audio/PlaybackOutlets.h"
 #include "audio/engine/AudioPlayer.h"
 
+#include <QString>
+
 #include <memory>
 
 namespace tarvelo::engine {

@@ -1,9 +1,11 @@
 #include "audio/FileCopy.h"
 
 #include <QFileInfo>
+#include <QIODevice>
 #include <QTimer>
 
 #include <unistd.h>
+#include <utility>
 
 namespace tarvelo::audio {
 

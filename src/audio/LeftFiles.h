@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <optional>
+
 namespace tarvelo::platform {
 class Dates;
 }

@@ -6,6 +6,7 @@
 #include "audio/RecordingDisplay.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
+#include "platform/Images.h"
 #include "platform/WindowLevel.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
@@ -13,8 +14,11 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QObject>
 #include <QSlider>
+#include <QWidget>
 
+#include <cstddef>
 #include <optional>
 
 namespace tarvelo::audio {

@@ -3,8 +3,13 @@
 #include "audio/EditPlayback.h"
 #include "audio/PlaybackOutlets.h"
 #include "audio/RecordingOutlets.h"
+#include "audio/engine/AudioPlayer.h"
+
+#include <QString>
 
 #include <memory>
+
+class QWidget;
 
 namespace tarvelo::engine {
 class AudioEngine;

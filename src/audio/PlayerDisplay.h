@@ -1,10 +1,12 @@
 #pragma once
 
-#include "audio/engine/AudioPlayer.h"
-
 #include <QString>
 
 class QSlider;
+
+namespace tarvelo::engine {
+class AudioPlayer;
+}
 
 namespace tarvelo::audio {
 

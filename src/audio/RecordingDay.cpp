@@ -2,7 +2,10 @@
 
 #include "platform/Dates.h"
 
+#include <QDate>
+#include <QDateTime>
 #include <QFileInfo>
+#include <QTime>
 
 #include <algorithm>
 

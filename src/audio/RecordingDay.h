@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QDateTime>
 #include <QString>
+
+class QDateTime;
 
 namespace tarvelo::platform {
 class Dates;

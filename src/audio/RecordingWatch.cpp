@@ -1,6 +1,7 @@
 #include "audio/RecordingWatch.h"
 
 #include "audio/RecordingControl.h"
+#include "audio/engine/Hearing.h"
 #include "audio/engine/Reserve.h"
 #include "platform/Announcer.h"
 #include "platform/Texts.h"
@@ -9,6 +10,11 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
+#include <QStringList>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace tarvelo::audio {

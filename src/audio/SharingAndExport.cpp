@@ -5,6 +5,7 @@
 #include "platform/Fonts.h"
 #include "platform/MailComposer.h"
 #include "platform/PrivateFiles.h"
+#include "platform/StyledText.h"
 #include "platform/Workspace.h"
 #include "store/LectureInfoItem.h"
 

@@ -1,8 +1,12 @@
 #include "audio/TakePlaces.h"
 
 #include "audio/AudioFileLocations.h"
+#include "audio/LeftFiles.h"
+
+#include <QString>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvelo::audio {
 

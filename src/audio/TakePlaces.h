@@ -5,6 +5,11 @@
 #include "store/JournalWriter.h"
 #include "store/LectureJournal.h"
 
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace tarvelo::audio {

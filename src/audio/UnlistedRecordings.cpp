@@ -5,17 +5,15 @@
 #include "audio/RecordingDay.h"
 #include "platform/Dates.h"
 #include "platform/SureReading.h"
+#include "store/LectureBackups.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureJournal.h"
 #include "store/RecordingRows.h"
-#include "store/Statements.h"
-#include "store/Tables.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
 
-#include <algorithm>
 #include <utility>
 
 namespace tarvelo::audio {

@@ -2,6 +2,11 @@
 
 #include "audio/RecordingSearch.h"
 
+#include <QList>
+#include <QObject>
+#include <QStringList>
+#include <QVariantList>
+
 #include <functional>
 #include <memory>
 #include <optional>

@@ -1,12 +1,17 @@
 #include "calendar/CKCalendarView.h"
+
 #include "calendar/DateButton.h"
 #include "platform/Frames.h"
+#include "widgets/CustomButton.h"
 #include "widgets/GradientView.h"
 #include "widgets/ImageView.h"
 
+#include <QDateTime>
 #include <QLabel>
+#include <QRectF>
 
 #include <compare>
+#include <cstddef>
 
 namespace tarvelo::calendar {
 

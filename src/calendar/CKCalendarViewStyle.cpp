@@ -1,11 +1,17 @@
 #include "calendar/CKCalendarView.h"
+
 #include "calendar/DateButton.h"
 #include "platform/Fonts.h"
 #include "platform/Images.h"
 #include "widgets/CustomButton.h"
 #include "widgets/GradientView.h"
 
+#include <QColor>
+#include <QFont>
 #include <QLabel>
+#include <QPalette>
+
+#include <optional>
 
 namespace tarvelo::calendar {
 

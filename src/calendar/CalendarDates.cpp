@@ -1,5 +1,9 @@
 #include "calendar/CalendarDates.h"
 
+#include "platform/Dates.h"
+
+#include <QString>
+
 namespace tarvelo::calendar {
 
 using platform::Dates;

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "platform/CivilCalendar.h"
 #include "platform/Dates.h"
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
 
 #include <compare>
 

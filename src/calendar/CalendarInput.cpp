@@ -4,9 +4,13 @@
 #include "calendar/CalendarDelegate.h"
 #include "calendar/DateButton.h"
 
+#include <QAbstractButton>
+#include <QEvent>
 #include <QKeyEvent>
+#include <QWidget>
 
 #include <algorithm>
+#include <cstddef>
 
 namespace tarvelo::calendar {
 

@@ -9,6 +9,8 @@
 #include "store/Statements.h"
 
 #include <QPainter>
+#include <QPointF>
+#include <QSizeF>
 
 #include <algorithm>
 

@@ -2,7 +2,12 @@
 
 #include "widgets/CustomButton.h"
 
+#include <QColor>
 #include <QDateTime>
+#include <QRectF>
+
+class QPainter;
+class QWidget;
 
 namespace tarvelo::platform {
 class Dates;

@@ -5,8 +5,10 @@
 #include "lectures/NewLecture.h"
 #include "platform/Alerts.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QWidget>
+
+#include <utility>
 
 namespace tarvelo::lectures {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "lectures/LectureOutlets.h"
-
 #include <QObject>
 
 #include <functional>
+
+class QWidget;
 
 namespace tarvelo::audio {
 class RecordingControl;

@@ -3,14 +3,22 @@
 #include "lectures/Colours.h"
 #include "lectures/LectureRowHost.h"
 #include "platform/Fonts.h"
+#include "platform/Images.h"
 #include "platform/Texts.h"
+#include "store/LectureInfoItem.h"
 #include "widgets/ImageButton.h"
 #include "widgets/ImageView.h"
 
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QPalette>
+#include <QPen>
+#include <QRect>
+#include <QRectF>
+#include <QStringList>
 #include <QStyle>
+#include <QWidget>
 
 #include <algorithm>
 

@@ -3,6 +3,7 @@
 #include "lectures/LectureList.h"
 #include "widgets/TrackingRects.h"
 
+#include <QColor>
 #include <QFrame>
 #include <QPointer>
 
@@ -10,6 +11,7 @@
 
 class QLabel;
 class QMenu;
+class QWidget;
 
 namespace tarvelo::widgets {
 class ImageButton;

@@ -4,10 +4,13 @@
 #include "lectures/LightPalette.h"
 #include "widgets/ImageButton.h"
 
+#include <QAction>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QObject>
 
 #include <functional>
+#include <utility>
 
 namespace tarvelo::lectures {
 

@@ -1,13 +1,20 @@
 #include "lectures/DayList.h"
-#include "lectures/WindowWidths.h"
 
+#include "lectures/WindowWidths.h"
 #include "platform/Dates.h"
 #include "store/LectureDatabase.h"
+#include "store/LectureInfoItem.h"
 #include "store/LectureRows.h"
 #include "widgets/ImageButton.h"
 #include "widgets/SlidingWindow.h"
 
 #include <QLabel>
+#include <QVariantMap>
+#include <QWidget>
+
+#include <cstddef>
+#include <memory>
+#include <utility>
 
 namespace tarvelo::lectures {
 

@@ -9,6 +9,8 @@
 #include <functional>
 #include <optional>
 
+class QWidget;
+
 namespace tarvelo::platform {
 class Dates;
 }

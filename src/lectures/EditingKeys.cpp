@@ -3,9 +3,16 @@
 #include "audio/RecordingOutlets.h"
 #include "widgets/ImageButton.h"
 
+#include <QKeySequence>
 #include <QLineEdit>
+#include <QObject>
 #include <QShortcut>
 #include <QTextEdit>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <utility>
 
 namespace tarvelo::lectures {
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QObject>
-
 class QLineEdit;
 class QTextEdit;
+class QWidget;
 
 namespace tarvelo::audio {
 struct RecordingOutlets;

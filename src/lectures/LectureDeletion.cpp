@@ -4,11 +4,16 @@
 #include "lectures/DayList.h"
 #include "lectures/LectureTable.h"
 #include "store/LectureDatabase.h"
+#include "store/LectureInfoItem.h"
 #include "widgets/ImageButton.h"
 #include "widgets/PopOver.h"
 
 #include <QFile>
 #include <QPointer>
+#include <QWidget>
+
+#include <chrono>
+#include <cstddef>
 
 using namespace std::chrono_literals;
 

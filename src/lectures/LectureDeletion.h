@@ -8,13 +8,17 @@
 
 #include <functional>
 
+class QWidget;
+
 namespace tarvelo::store {
 class LectureDatabase;
-}
+class LectureInfoItem;
+} // namespace tarvelo::store
 
 namespace tarvelo::lectures {
 
 class DayList;
+class LectureTable;
 
 // Deletes lectures: at once, after a confirmation, or by the action that a swipe uncovers. The row
 // goes first, then the file, then the entry of the list: if removing the file fails, no lecture is

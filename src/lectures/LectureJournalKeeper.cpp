@@ -3,6 +3,7 @@
 #include "audio/AudioFileLocations.h"
 #include "lectures/DayList.h"
 #include "platform/Dates.h"
+#include "store/JournalWriter.h"
 #include "widgets/WholeText.h"
 
 #include <QFileInfo>
@@ -10,6 +11,7 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 using namespace std::chrono_literals;

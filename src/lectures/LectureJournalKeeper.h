@@ -7,12 +7,24 @@
 #include "lectures/LectureList.h"
 #include "lectures/LectureOutlets.h"
 #include "platform/DelayedCall.h"
+#include "store/LectureInfoItem.h"
 #include "store/LectureJournal.h"
 
+#include <QDateTime>
 #include <QHash>
 #include <QObject>
+#include <QStringList>
 
+#include <chrono>
 #include <functional>
+#include <memory>
+
+namespace tarvelo::audio {
+class AudioFileLocations;
+}
+namespace tarvelo::platform {
+class Dates;
+}
 
 namespace tarvelo::lectures {
 

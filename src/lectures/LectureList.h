@@ -1,9 +1,11 @@
 #pragma once
 
-#include "store/LectureInfoItem.h"
-
 #include <memory>
 #include <vector>
+
+namespace tarvelo::store {
+class LectureInfoItem;
+}
 
 namespace tarvelo::lectures {
 

@@ -2,8 +2,11 @@
 
 #include "platform/Dates.h"
 #include "store/LectureDatabase.h"
+#include "store/Sqlite.h"
 
 #include <QLabel>
+#include <QModelIndex>
+#include <QPalette>
 #include <QTableView>
 
 namespace tarvelo::lectures {

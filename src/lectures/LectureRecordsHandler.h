@@ -2,9 +2,11 @@
 
 #include <QAbstractTableModel>
 #include <QDateTime>
+#include <QVariant>
 #include <QVariantMap>
 
 class QLabel;
+class QModelIndex;
 class QTableView;
 
 namespace tarvelo::platform {

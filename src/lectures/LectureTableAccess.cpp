@@ -5,8 +5,12 @@
 #include "lectures/RowSwipe.h"
 #include "widgets/ImageView.h"
 
+#include <QAccessible>
+#include <QAccessibleInterface>
 #include <QAccessibleWidget>
 #include <QMenu>
+#include <QObject>
+#include <QWidget>
 
 namespace tarvelo::lectures {
 

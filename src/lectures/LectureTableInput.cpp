@@ -1,13 +1,22 @@
 #include "lectures/CustomTableCellView.h"
+
 #include "lectures/LectureTable.h"
+#include "lectures/RowAction.h"
 #include "lectures/RowSwipe.h"
 #include "widgets/ImageButton.h"
 
-#include <QApplication>
+#include <QAbstractScrollArea>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QMouseEvent>
+#include <QPoint>
+#include <QRect>
+#include <QWheelEvent>
+#include <QWidget>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 
 namespace tarvelo::lectures {

@@ -1,7 +1,9 @@
 #include "lectures/LectureViewMargins.h"
 
+#include <QEvent>
 #include <QLayout>
-#include <QResizeEvent>
+#include <QMargins>
+#include <QObject>
 #include <QWidget>
 
 #include <algorithm>

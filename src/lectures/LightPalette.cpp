@@ -2,6 +2,7 @@
 
 #include "lectures/Colours.h"
 
+#include <QColor>
 #include <QPalette>
 #include <QWidget>
 

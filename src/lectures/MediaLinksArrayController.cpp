@@ -1,23 +1,28 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include "calendar/CKCalendarView.h"
-#include "lectures/CustomTableCellView.h"
 #include "lectures/LectureApplication.h"
+#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
+#include "lectures/LectureWindows.h"
 #include "lectures/RowLookup.h"
 #include "platform/Dates.h"
 #include "platform/DiskRoom.h"
 #include "platform/Workspace.h"
+#include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
-#include "widgets/ImageButton.h"
+#include "store/LectureInfoItem.h"
 #include "widgets/LayerView.h"
 #include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QTextEdit>
+#include <QDateTime>
+#include <QModelIndex>
 #include <QUrl>
+#include <QWidget>
+
+#include <chrono>
+#include <cstddef>
 
 using namespace std::chrono_literals;
 

@@ -11,16 +11,25 @@
 #include "lectures/LectureDeletion.h"
 #include "lectures/LectureEditing.h"
 #include "lectures/LectureJournalKeeper.h"
-#include "lectures/LectureWindows.h"
+#include "lectures/LectureList.h"
 #include "lectures/NewLecture.h"
+#include "lectures/RowAction.h"
 #include "lectures/TextActivity.h"
+#include "lectures/TextDelegate.h"
 #include "lectures/ViewChanges.h"
 #include "platform/DelayedCall.h"
+#include "platform/Process.h"
 #include "widgets/MouseDownTextField.h"
 
 #include <QAbstractTableModel>
+#include <QVariant>
+#include <QVariantList>
 
 #include <array>
+
+class QDateTime;
+class QModelIndex;
+class QWidget;
 
 namespace tarvelo::engine {
 class AudioEngine;
@@ -33,11 +42,21 @@ class SleepInhibitor;
 class UserDefaults;
 class Workspace;
 } // namespace tarvelo::platform
+namespace tarvelo::store {
+struct GoneLectures;
+class LectureDatabase;
+class LectureInfoItem;
+struct LecturesBack;
+class Sqlite;
+} // namespace tarvelo::store
 
 namespace tarvelo::lectures {
 
 class CustomTableCellView;
+class LectureApplication;
 class LectureRowHost;
+class LectureTable;
+class LectureWindows;
 
 // What the controller and its workflows work with. All of it outlives the controller.
 struct LectureServices

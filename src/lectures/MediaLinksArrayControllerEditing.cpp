@@ -1,13 +1,17 @@
 #include "lectures/MediaLinksArrayController.h"
 
+#include "audio/PlaybackOutlets.h"
 #include "lectures/CustomTableCellView.h"
 #include "lectures/EditingKeys.h"
+#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
+#include "lectures/LectureWindows.h"
 #include "lectures/RowLookup.h"
 #include "widgets/ImageButton.h"
-#include "widgets/SlidingWindow.h"
 
 #include <QMenu>
+#include <QPoint>
+#include <QWidget>
 
 namespace tarvelo::lectures {
 

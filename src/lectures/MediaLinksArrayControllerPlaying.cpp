@@ -1,8 +1,13 @@
 #include "lectures/MediaLinksArrayController.h"
 
+#include "audio/PlaybackOutlets.h"
 #include "lectures/EditingKeys.h"
+#include "lectures/LectureList.h"
+#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
+#include "lectures/LectureWindows.h"
 #include "platform/WindowLevel.h"
+#include "store/LectureInfoItem.h"
 #include "widgets/ImageButton.h"
 #include "widgets/PopOver.h"
 #include "widgets/SegmentedControl.h"
@@ -10,6 +15,7 @@
 
 #include <QShortcut>
 #include <QSlider>
+#include <QWidget>
 
 namespace tarvelo::lectures {
 

@@ -1,5 +1,9 @@
-#include "lectures/LectureTable.h"
 #include "lectures/MediaLinksArrayController.h"
+
+#include "audio/SharingAndExport.h"
+#include "lectures/LectureOutlets.h"
+#include "lectures/LectureTable.h"
+#include "lectures/LectureWindows.h"
 #include "lectures/RowLookup.h"
 
 namespace tarvelo::lectures {

@@ -1,8 +1,10 @@
 #include "lectures/MediaLinksArrayController.h"
 
+#include "audio/RecordingOutlets.h"
 #include "calendar/CKCalendarView.h"
+#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
-#include "platform/Dates.h"
+#include "lectures/LectureWindows.h"
 #include "platform/Fonts.h"
 #include "platform/Texts.h"
 #include "platform/WindowLevel.h"
@@ -10,9 +12,15 @@
 #include "widgets/InsertionPoint.h"
 #include "widgets/SlidingWindow.h"
 
+#include <QColor>
+#include <QFont>
 #include <QLabel>
-#include <QLineEdit>
+#include <QPalette>
 #include <QTextEdit>
+#include <QWidget>
+
+#include <chrono>
+#include <initializer_list>
 
 using namespace std::chrono_literals;
 

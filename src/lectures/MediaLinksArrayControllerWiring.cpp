@@ -1,11 +1,16 @@
 #include "lectures/MediaLinksArrayController.h"
 
+#include "audio/RecordingOutlets.h"
 #include "lectures/CustomTableCellView.h"
+#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
+#include "lectures/LectureWindows.h"
+#include "lectures/RowAction.h"
 #include "widgets/ImageButton.h"
 #include "widgets/SlidingWindow.h"
 
-#include <QTextEdit>
+#include <functional>
+#include <utility>
 
 namespace tarvelo::lectures {
 

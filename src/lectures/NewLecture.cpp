@@ -19,7 +19,9 @@
 #include "platform/Texts.h"
 #include "platform/WindowLevel.h"
 #include "store/LectureDatabase.h"
+#include "store/LectureInfoItem.h"
 #include "store/LectureJournal.h"
+#include "store/Sqlite.h"
 #include "store/Statements.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
@@ -30,7 +32,16 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QObject>
+#include <QPointF>
+#include <QRectF>
 #include <QTextEdit>
+#include <QWidget>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <utility>
 
 using namespace std::chrono_literals;
 

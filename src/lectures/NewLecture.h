@@ -4,7 +4,9 @@
 #include "lectures/LectureOutlets.h"
 #include "platform/DelayedCall.h"
 
-#include <functional>
+#include <QString>
+
+class QWidget;
 
 namespace tarvelo::audio {
 class AudioFileLocations;

@@ -3,6 +3,8 @@
 #include "lectures/CustomTableCellView.h"
 #include "lectures/LectureTable.h"
 
+#include <QWidget>
+
 namespace tarvelo::lectures {
 
 int rowOfSender(LectureTable &table, const QWidget *sender)

@@ -1,6 +1,8 @@
 #include "lectures/RowSlideUp.h"
 
+#include <QEasingCurve>
 #include <QPainter>
+#include <QVariant>
 
 #include <utility>
 

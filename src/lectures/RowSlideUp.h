@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QAbstractAnimation>
+#include <QObject>
 #include <QPixmap>
 #include <QVariantAnimation>
 

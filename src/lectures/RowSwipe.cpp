@@ -2,9 +2,16 @@
 
 #include "platform/Fonts.h"
 
+#include <QAbstractAnimation>
 #include <QApplication>
+#include <QColor>
+#include <QEasingCurve>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRect>
+#include <QVariant>
+#include <QWidget>
 
 #include <algorithm>
 

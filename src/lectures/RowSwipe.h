@@ -3,7 +3,11 @@
 #include "lectures/RowAction.h"
 
 #include <QAbstractButton>
+#include <QObject>
+#include <QSize>
 #include <QVariantAnimation>
+
+class QWidget;
 
 namespace tarvelo::lectures {
 

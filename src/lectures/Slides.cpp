@@ -2,7 +2,9 @@
 
 #include "platform/Frames.h"
 
+#include <QAbstractAnimation>
 #include <QPropertyAnimation>
+#include <QRect>
 #include <QWidget>
 
 namespace tarvelo::lectures {

@@ -2,9 +2,12 @@
 
 #include "lectures/TextDelegate.h"
 
+#include <QEvent>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QTextDocument>
 #include <QTextEdit>
+#include <QWidget>
 
 namespace tarvelo::lectures {
 

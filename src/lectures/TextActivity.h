@@ -3,7 +3,6 @@
 #include <QObject>
 #include <QSet>
 
-class QFocusEvent;
 class QLineEdit;
 class QTextEdit;
 class QWidget;

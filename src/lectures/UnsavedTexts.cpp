@@ -1,7 +1,9 @@
 #include "lectures/UnsavedTexts.h"
 
+#include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
+#include "store/Sqlite.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

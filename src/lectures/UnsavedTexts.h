@@ -4,13 +4,19 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
+#include <chrono>
+
+namespace tarvelo::platform {
+class Clock;
+}
 namespace tarvelo::store {
+struct GoneLectures;
 class LectureDatabase;
 class LectureInfoItem;
-class Sqlite;
-struct GoneLectures;
 struct LecturesBack;
+class Sqlite;
 } // namespace tarvelo::store
 
 namespace tarvelo::lectures {

@@ -7,6 +7,9 @@
 #include "widgets/ImageButton.h"
 #include "widgets/SlidingWindow.h"
 
+#include <QRectF>
+#include <QWidget>
+
 #include <chrono>
 
 using namespace std::chrono_literals;

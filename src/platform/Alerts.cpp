@@ -1,9 +1,15 @@
 #include "platform/Alerts.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QObject>
 #include <QPushButton>
+#include <QWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace tarvelo::platform {
 

@@ -1,7 +1,10 @@
 #include "platform/Announcer.h"
 
+#include <QAccessible>
+#include <QAccessibleEvent>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QObject>
 #include <QPointer>
 #include <QWidget>
 

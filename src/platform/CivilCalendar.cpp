@@ -4,6 +4,8 @@
 
 #include <unicode/ucal.h>
 
+#include <cstdint>
+
 namespace tarvelo::platform {
 
 namespace {

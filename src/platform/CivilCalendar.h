@@ -6,8 +6,6 @@
 
 namespace tarvelo::platform {
 
-struct Region;
-
 // One calendar with its locale, time zone and week rules: takes instants apart into civil days and
 // puts them together again. Movable; main thread only.
 class CivilCalendar final

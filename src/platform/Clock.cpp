@@ -1,6 +1,9 @@
 #include "platform/Clock.h"
 
+#include <QObject>
 #include <QTimer>
+
+#include <utility>
 
 namespace tarvelo::platform {
 

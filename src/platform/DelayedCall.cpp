@@ -1,5 +1,7 @@
 #include "platform/DelayedCall.h"
 
+#include <utility>
+
 namespace tarvelo::platform {
 
 DelayedCall::DelayedCall(Clock &clock, std::function<void()> operation)

@@ -2,6 +2,11 @@
 
 #include "platform/Clock.h"
 
+#include <QtGlobal>
+
+#include <chrono>
+#include <functional>
+#include <memory>
 #include <vector>
 
 namespace tarvelo::platform {

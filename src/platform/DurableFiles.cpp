@@ -2,8 +2,14 @@
 
 #include "platform/Descriptor.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
+
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace tarvelo::platform {
 

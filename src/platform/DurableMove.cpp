@@ -3,7 +3,11 @@
 #include "platform/Descriptor.h"
 #include "platform/DurableFiles.h"
 
+#include <QFile>
 #include <QFileInfo>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace tarvelo::platform {
 

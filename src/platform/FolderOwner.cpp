@@ -1,6 +1,11 @@
 #include "platform/FolderOwner.h"
 
+#include <QFile>
+#include <QString>
+
+#include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 
 namespace tarvelo::platform {
 

@@ -2,6 +2,8 @@
 
 #include "platform/Descriptor.h"
 
+#include <QString>
+
 #include <optional>
 
 namespace tarvelo::platform {

@@ -2,8 +2,6 @@
 
 #include <QFont>
 
-class QString;
-
 namespace tarvelo::platform {
 
 // The named face, or the system font when it is missing. The size is in points of the canvas, 1/96

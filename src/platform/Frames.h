@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QPointF>
 #include <QRect>
+#include <QRectF>
 
-class QPointF;
-class QRectF;
 class QScreen;
 class QWidget;
 

@@ -7,10 +7,13 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPixmapCache>
+#include <QPointF>
+#include <QSize>
 #include <QSvgRenderer>
 #include <QtMath>
 
 #include <array>
+#include <utility>
 
 namespace tarvelo::platform {
 

@@ -1,14 +1,15 @@
 #pragma once
 
 #include <QIcon>
+#include <QPixmap>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 
 #include <memory>
 
 class QPainter;
-class QPixmap;
-class QRectF;
+class QSize;
 class QSvgRenderer;
 
 namespace tarvelo::platform {

@@ -6,7 +6,9 @@
 #include <QDBusMetaType>
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
+#include <QStringList>
 #include <QUrl>
+#include <QVariant>
 #include <QVariantMap>
 
 #include <fcntl.h>

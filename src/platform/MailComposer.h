@@ -3,6 +3,8 @@
 #include "platform/SessionService.h"
 #include "platform/StyledText.h"
 
+#include <chrono>
+
 class QUrl;
 
 namespace tarvelo::platform {

@@ -5,6 +5,7 @@
 #include <unicode/uloc.h>
 
 #include <array>
+#include <cstdint>
 
 namespace tarvelo::platform {
 

@@ -1,8 +1,10 @@
 #include "platform/SessionService.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
+#include <QObject>
+
+#include <utility>
 
 namespace tarvelo::platform {
 

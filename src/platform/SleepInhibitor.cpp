@@ -2,12 +2,16 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusObjectPath>
+#include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
+#include <QStringList>
 #include <QThread>
 #include <QVariantMap>
+
+#include <limits>
+#include <utility>
 
 namespace tarvelo::platform {
 

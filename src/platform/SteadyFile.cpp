@@ -3,11 +3,15 @@
 #include "platform/Descriptor.h"
 #include "platform/DurableFiles.h"
 
+#include <QByteArray>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 #include <utility>
 
 namespace tarvelo::platform {

@@ -2,12 +2,15 @@
 
 #include "platform/Descriptor.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <array>
 #include <cerrno>
 #include <dirent.h>
+#include <fcntl.h>
 #include <memory>
+#include <unistd.h>
 
 namespace tarvelo::platform {
 

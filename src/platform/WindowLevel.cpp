@@ -1,5 +1,7 @@
 #include "platform/WindowLevel.h"
 
+#include <QPoint>
+#include <QRect>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>

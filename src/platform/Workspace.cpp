@@ -5,6 +5,7 @@
 #include <QDBusMessage>
 #include <QFileInfo>
 #include <QStringList>
+#include <QUrl>
 
 namespace tarvelo::platform {
 

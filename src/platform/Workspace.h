@@ -3,7 +3,10 @@
 #include "platform/SessionService.h"
 
 #include <QList>
-#include <QUrl>
+
+#include <chrono>
+
+class QUrl;
 
 namespace tarvelo::platform {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QVariant>
 #include <QVariantList>
 
 namespace tarvelo::store {

@@ -5,6 +5,7 @@
 #include "store/Tables.h"
 
 #include <QFileInfo>
+#include <QHash>
 
 namespace tarvelo::store {
 

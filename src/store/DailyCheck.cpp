@@ -1,10 +1,15 @@
 #include "store/DailyCheck.h"
 
+#include "platform/Clock.h"
 #include "platform/PrivateFiles.h"
+#include "store/LectureBackups.h"
 #include "store/LectureDatabase.h"
+#include "store/Sqlite.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QIODevice>
+#include <QObject>
 
 namespace tarvelo::store {
 

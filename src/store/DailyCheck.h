@@ -2,8 +2,16 @@
 
 #include "platform/DelayedCall.h"
 #include "store/IntegrityCheck.h"
+#include "store/Soundness.h"
 
+#include <QString>
+
+#include <chrono>
 #include <memory>
+
+namespace tarvelo::platform {
+class Clock;
+}
 
 namespace tarvelo::store {
 

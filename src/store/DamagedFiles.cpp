@@ -7,6 +7,7 @@
 #include "store/RescuedLectures.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <utility>

@@ -4,6 +4,7 @@
 #include "platform/PrivateFiles.h"
 
 #include <QFile>
+#include <QIODevice>
 
 namespace tarvelo::store {
 

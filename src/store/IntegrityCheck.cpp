@@ -4,10 +4,13 @@
 
 #include <QUrl>
 
+#include <sqlite3.h>
+
 #include <chrono>
 #include <cstring>
-#include <sqlite3.h>
+#include <memory>
 #include <system_error>
+#include <utility>
 
 namespace tarvelo::store {
 

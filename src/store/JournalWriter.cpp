@@ -5,6 +5,8 @@
 #include "platform/SignalMask.h"
 #include "store/LectureJournal.h"
 
+#include <QByteArray>
+
 #include <system_error>
 #include <utility>
 

@@ -2,6 +2,8 @@
 
 #include "platform/SteadyFile.h"
 
+#include <QString>
+
 #include <condition_variable>
 #include <deque>
 #include <functional>

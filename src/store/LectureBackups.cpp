@@ -5,11 +5,13 @@
 #include "platform/PrivateFiles.h"
 #include "store/AttachedCopy.h"
 #include "store/FileBytes.h"
+#include "store/GoneLectures.h"
 #include "store/Sqlite.h"
 #include "store/Statements.h"
 #include "store/Tables.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 

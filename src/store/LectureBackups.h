@@ -1,7 +1,5 @@
 #pragma once
 
-#include "store/GoneLectures.h"
-
 #include <QDateTime>
 #include <QList>
 #include <QStringList>
@@ -15,6 +13,7 @@ class Clock;
 
 namespace tarvelo::store {
 
+struct LecturesBack;
 class Sqlite;
 
 // Copies of the whole lecture database, each made just before something takes many lectures out of

@@ -4,13 +4,18 @@
 #include "platform/SureReading.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace tarvelo::store {
 

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class QDateTime;
+
 namespace tarvelo::store {
 
 // What is known of a new lecture before its row is stored: enough to make the row from, should the

@@ -3,6 +3,7 @@
 #include "store/Sqlite.h"
 
 #include <QStringList>
+#include <QVariantList>
 
 #include <optional>
 

@@ -3,15 +3,17 @@
 #include "platform/PrivateFiles.h"
 #include "store/FileBytes.h"
 #include "store/Sqlite.h"
-#include "store/Statements.h"
 #include "store/Tables.h"
 
 #include <QFile>
+#include <QIODevice>
 #include <QScopeGuard>
+#include <QVariantList>
+
+#include <sqlite3.h>
 
 #include <algorithm>
 #include <optional>
-#include <sqlite3.h>
 
 namespace tarvelo::store {
 

@@ -2,6 +2,9 @@
 
 #include "store/Sqlite.h"
 
+#include <QString>
+#include <QVariant>
+
 #include <sqlite3.h>
 
 namespace tarvelo::store {

@@ -1,11 +1,17 @@
 #include "store/Sqlite.h"
 
+#include "store/Statement.h"
+
 #include <QDateTime>
 #include <QFile>
+#include <QMetaType>
 #include <QUuid>
 
 #include <sqlite3.h>
+
+#include <algorithm>
 #include <unistd.h>
+#include <utility>
 
 namespace tarvelo::store {
 

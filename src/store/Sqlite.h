@@ -1,17 +1,18 @@
 #pragma once
 
-#include "store/Statement.h"
-
 #include <QList>
 #include <QString>
 #include <QVariant>
+#include <QVariantList>
+#include <QVariantMap>
 
 #include <optional>
-#include <type_traits>
 
 struct sqlite3;
 
 namespace tarvelo::store {
+
+class Statement;
 
 // Column name to value: an int, a double, a QString, a QByteArray or the null marker.
 using Row = QVariantMap;

@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include <utility>
+
 namespace tarvelo::store {
 
 void Statement::Finalize::operator()(sqlite3_stmt *handle) const

@@ -4,9 +4,16 @@
 #include "widgets/LevelIndicator.h"
 #include "widgets/PopOver.h"
 
+#include <QAccessible>
+#include <QAccessibleInterface>
+#include <QAccessibleValueInterface>
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QFrame>
+#include <QMetaObject>
+#include <QStringList>
+#include <QVariant>
+#include <QWidget>
 
 namespace tarvelo::widgets {
 

@@ -1,8 +1,13 @@
 #include "widgets/CardView.h"
 
+#include <QColor>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
+#include <QPen>
+#include <QRectF>
+#include <QRegion>
 
 namespace tarvelo::widgets {
 

@@ -3,6 +3,15 @@
 #include "widgets/ImageButton.h"
 #include "widgets/TrackingRects.h"
 
+#include <QRectF>
+#include <QString>
+
+class QWidget;
+
+namespace tarvelo::platform {
+class Image;
+}
+
 namespace tarvelo::widgets {
 
 // A button that notices the mouse over it and knows two image names for it. It keeps the names but

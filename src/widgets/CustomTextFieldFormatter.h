@@ -2,7 +2,12 @@
 
 #include "platform/StyledText.h"
 
+#include <QString>
+
 #include <limits>
+#include <optional>
+
+class QFont;
 
 namespace tarvelo::widgets {
 

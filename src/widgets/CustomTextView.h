@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QStringList>
 #include <QTextEdit>
+
+class QMimeData;
+class QWidget;
 
 namespace tarvelo::widgets {
 

@@ -2,15 +2,22 @@
 
 #include "platform/Frames.h"
 
+#include <QEasingCurve>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QMouseEvent>
-#include <QScreen>
+#include <QRect>
+#include <QRegion>
+#include <QSize>
+#include <QSizeF>
 #include <QTransform>
+#include <QVariant>
 #include <QVariantAnimation>
 #include <QWindow>
+
+#include <utility>
 
 namespace tarvelo::widgets {
 

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QPointF>
+#include <QRectF>
 #include <QWidget>
 
 #include <memory>
+
+class QPoint;
 
 namespace tarvelo::widgets {
 

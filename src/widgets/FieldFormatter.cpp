@@ -1,7 +1,11 @@
 #include "widgets/FieldFormatter.h"
 
+#include "widgets/CustomTextFieldFormatter.h"
+
 #include <QLineEdit>
 #include <QValidator>
+
+#include <limits>
 
 namespace tarvelo::widgets {
 

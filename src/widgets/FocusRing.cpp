@@ -2,8 +2,12 @@
 
 #include "widgets/ControlPainting.h"
 
+#include <QEvent>
 #include <QFocusEvent>
 #include <QPainter>
+#include <QPalette>
+#include <QPen>
+#include <QRectF>
 #include <QWidget>
 
 namespace tarvelo::widgets {

@@ -3,6 +3,8 @@
 #include <QLinearGradient>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tarvelo::widgets {
 
 void GradientLayer::paint(QPainter &painter, const QRectF &bounds) const

@@ -2,9 +2,12 @@
 
 #include <QColor>
 #include <QList>
+#include <QRectF>
 #include <QWidget>
 
 #include <optional>
+
+class QPainter;
 
 namespace tarvelo::widgets {
 

@@ -1,9 +1,13 @@
 #include "widgets/ImageButton.h"
 
+#include <QEvent>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QPalette>
+#include <QPen>
 #include <QPointer>
+#include <QSizeF>
 #include <QToolTip>
 
 namespace tarvelo::widgets {

@@ -5,8 +5,14 @@
 #include <QByteArray>
 #include <QKeySequence>
 #include <QPushButton>
+#include <QRectF>
+#include <QSize>
 
 #include <functional>
+#include <utility>
+
+class QPainter;
+class QWidget;
 
 namespace tarvelo::widgets {
 

@@ -3,11 +3,15 @@
 #include "widgets/ControlStyle.h"
 
 #include <QApplication>
+#include <QColor>
 #include <QEvent>
 #include <QLineEdit>
+#include <QObject>
 #include <QPainter>
+#include <QRect>
 #include <QTextEdit>
 #include <QTimer>
+#include <QWidget>
 
 namespace tarvelo::widgets {
 

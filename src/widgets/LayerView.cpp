@@ -1,6 +1,8 @@
 #include "widgets/LayerView.h"
 
 #include <QPainter>
+#include <QPen>
+#include <QRectF>
 
 namespace tarvelo::widgets {
 

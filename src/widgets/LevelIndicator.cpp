@@ -1,7 +1,12 @@
 #include "widgets/LevelIndicator.h"
 
 #include <QAccessible>
+#include <QAccessibleValueChangeEvent>
 #include <QPainter>
+#include <QPalette>
+#include <QRectF>
+#include <QSizeF>
+#include <QSizePolicy>
 
 #include <algorithm>
 

@@ -2,6 +2,9 @@
 
 #include <QMenu>
 
+class QAction;
+class QStyleOptionMenuItem;
+
 namespace tarvelo::widgets {
 
 // A menu that writes keys such as "Ctrl+," from left to right also where its titles run from right

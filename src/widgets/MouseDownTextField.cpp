@@ -3,6 +3,10 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPalette>
+#include <QPen>
+#include <QRectF>
+#include <QWidget>
 
 namespace tarvelo::widgets {
 

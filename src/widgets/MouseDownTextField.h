@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+class QWidget;
+
 namespace tarvelo::widgets {
 
 class MouseDownTextField;

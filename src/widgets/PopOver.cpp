@@ -1,11 +1,20 @@
 #include "widgets/PopOver.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
+#include <QPen>
+#include <QPointF>
+#include <QPolygonF>
+#include <QRectF>
+#include <QRegion>
 #include <QScreen>
+#include <QSize>
 #include <QVBoxLayout>
 #include <QWindow>
 

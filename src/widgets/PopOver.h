@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QPoint>
 #include <QPointer>
+#include <QRect>
 #include <QWidget>
 
 #include <memory>

@@ -2,8 +2,14 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
+#include <QColor>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QPalette>
+#include <QPen>
+#include <QRectF>
+#include <QSize>
+#include <QSizePolicy>
 
 namespace tarvelo::widgets {
 

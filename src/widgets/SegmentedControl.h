@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <utility>
+
 class QButtonGroup;
 
 namespace tarvelo::widgets {

@@ -1,6 +1,9 @@
 #include "widgets/SlidingWindow.h"
 
+#include <QEasingCurve>
+#include <QRect>
 #include <QShortcut>
+#include <QVariant>
 
 #include <algorithm>
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractAnimation>
 #include <QVariantAnimation>
 #include <QWidget>
 

@@ -1,7 +1,11 @@
 #include "widgets/TrackingRects.h"
 
+#include <QEnterEvent>
+#include <QEvent>
 #include <QMouseEvent>
 #include <QWidget>
+
+#include <utility>
 
 namespace tarvelo::widgets {
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+class QPoint;
 class QWidget;
 
 namespace tarvelo::widgets {

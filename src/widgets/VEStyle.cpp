@@ -3,6 +3,7 @@
 #include "platform/Frames.h"
 
 #include <QPainter>
+#include <QPalette>
 #include <QResizeEvent>
 
 namespace tarvelo::widgets {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QSize>
 #include <QWidget>
 
 namespace tarvelo::widgets {

@@ -1,5 +1,6 @@
 #include "audio/RecordingWatch.h"
 
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/Reserve.h"
 #include "audio/engine/TakeWriter.h"
 #include "platform/Texts.h"

@@ -1,6 +1,7 @@
 #include "lectures/CustomTableCellView.h"
 
 #include "lectures/LectureRowHost.h"
+#include "store/LectureInfoItem.h"
 #include "support/TestCase.h"
 #include "widgets/ImageButton.h"
 #include "widgets/ImageView.h"

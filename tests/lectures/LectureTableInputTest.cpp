@@ -2,6 +2,7 @@
 #include "lectures/LectureRowHost.h"
 #include "lectures/LectureTable.h"
 #include "lectures/RowSwipe.h"
+#include "store/LectureInfoItem.h"
 #include "support/TestCase.h"
 #include "widgets/ImageButton.h"
 

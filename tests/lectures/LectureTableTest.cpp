@@ -1,6 +1,7 @@
 #include "lectures/LectureTable.h"
 
 #include "lectures/CustomTableCellView.h"
+#include "store/LectureInfoItem.h"
 #include "support/TestCase.h"
 #include "widgets/ImageButton.h"
 

@@ -1,4 +1,5 @@
 #include "store/Sqlite.h"
+#include "store/Statement.h"
 #include "support/TestCase.h"
 
 #include <QTemporaryDir>

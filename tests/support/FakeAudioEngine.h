@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/engine/AudioPlayer.h"
 #include "audio/engine/AudioRecorder.h"
 
 #include <QFile>

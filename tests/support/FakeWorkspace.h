@@ -3,6 +3,7 @@
 #include "platform/Workspace.h"
 
 #include <QStringList>
+#include <QUrl>
 
 namespace tarvelo::tests {
 

@@ -1,7 +1,9 @@
 #include "audio/engine/AacEncoder.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstddef>
+#include <utility>
 
 namespace tarvelo::engine {
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "audio/engine/AudioPlayer.h"
 #include "audio/engine/Hearing.h"
 
 #include <QString>
@@ -10,6 +9,7 @@
 
 namespace tarvelo::engine {
 
+class AudioPlayer;
 class AudioRecorder;
 
 // Hears from a recorder on the main thread. Must outlive the recorder or take itself off it.

@@ -1,5 +1,7 @@
 #include "audio/engine/BackgroundSync.h"
 
+#include "audio/engine/OutputFile.h"
+
 #include <chrono>
 #include <system_error>
 

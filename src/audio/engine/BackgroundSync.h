@@ -1,11 +1,11 @@
 #pragma once
 
-#include "audio/engine/OutputFile.h"
-
 #include <future>
 #include <optional>
 
 namespace tarvelo::engine {
+
+class OutputFile;
 
 // Forces a file to the disk on a thread of its own, so that nobody who writes has to wait for a
 // disk that takes its time: what waits in memory meanwhile is lost when the program is killed. One

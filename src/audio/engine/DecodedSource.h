@@ -1,8 +1,12 @@
 #pragma once
 
+#include "audio/engine/Ffmpeg.h"
 #include "audio/engine/PcmFormat.h"
 #include "audio/engine/SoundFileInput.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
 

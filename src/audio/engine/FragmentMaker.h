@@ -1,7 +1,11 @@
 #pragma once
 
+#include "audio/engine/Ffmpeg.h"
 #include "audio/engine/MovieOutput.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 

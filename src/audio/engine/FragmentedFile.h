@@ -1,14 +1,17 @@
 #pragma once
 
 #include "audio/engine/BackgroundSync.h"
+#include "audio/engine/Ffmpeg.h"
 #include "audio/engine/FragmentMaker.h"
 #include "audio/engine/OutputFile.h"
 #include "audio/engine/Reserve.h"
 #include "audio/engine/TakeExtent.h"
 
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <deque>
-#include <vector>
+#include <memory>
 
 namespace tarvelo::engine {
 

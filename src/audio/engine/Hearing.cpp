@@ -1,5 +1,7 @@
 #include "audio/engine/Hearing.h"
 
+#include "audio/engine/PcmFormat.h"
+
 #include <algorithm>
 #include <cmath>
 

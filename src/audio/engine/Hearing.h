@@ -1,11 +1,12 @@
 #pragma once
 
-#include "audio/engine/PcmFormat.h"
-
 #include <atomic>
+#include <cstddef>
 #include <span>
 
 namespace tarvelo::engine {
+
+struct PcmFormat;
 
 // What came from the microphone so far, in seconds of sound.
 struct SoundHeard

@@ -1,15 +1,19 @@
 #include "audio/engine/IndexedCopy.h"
 
+#include "audio/engine/ByteSource.h"
+#include "audio/engine/Ffmpeg.h"
 #include "audio/engine/MovieOutput.h"
 #include "audio/engine/OutputFile.h"
 #include "audio/engine/SoundFileInput.h"
+#include "audio/engine/TakeExtent.h"
 #include "platform/DurableFiles.h"
 
 #include <QFile>
 
 #include <algorithm>
+#include <cstdint>
+#include <memory>
 #include <unistd.h>
-#include <utility>
 
 namespace tarvelo::engine {
 

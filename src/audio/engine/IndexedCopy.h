@@ -1,11 +1,11 @@
 #pragma once
 
-#include "audio/engine/TakeExtent.h"
-
 #include <optional>
 #include <string>
 
 namespace tarvelo::engine {
+
+struct TakeExtent;
 
 // Turns a take in fragments into a plain MPEG-4 with one index over all of it, from which every
 // reader knows the exact length at once. The new file is complete, on the disk and read again

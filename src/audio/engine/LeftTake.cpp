@@ -1,9 +1,14 @@
 #include "audio/engine/LeftTake.h"
 
+#include "audio/engine/ByteSource.h"
 #include "audio/engine/IndexedCopy.h"
+#include "audio/engine/MovieOutline.h"
 #include "audio/engine/SoundFileInput.h"
+#include "audio/engine/TakeExtent.h"
 
 #include <QFile>
+
+#include <optional>
 
 namespace tarvelo::engine {
 

@@ -1,5 +1,7 @@
 #include "audio/engine/MovieOutline.h"
 
+#include "audio/engine/ByteSource.h"
+
 #include <QtEndian>
 
 #include <algorithm>

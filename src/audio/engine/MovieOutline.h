@@ -1,12 +1,12 @@
 #pragma once
 
-#include "audio/engine/ByteSource.h"
-
 #include <QByteArrayView>
 
 #include <optional>
 
 namespace tarvelo::engine {
+
+class ByteSource;
 
 // What the boxes of a file of MPEG-4 tell before it is given to a reader.
 struct MovieOutline

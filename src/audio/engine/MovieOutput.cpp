@@ -1,5 +1,9 @@
 #include "audio/engine/MovieOutput.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
 namespace tarvelo::engine {
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "audio/engine/PcmFormat.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <span>

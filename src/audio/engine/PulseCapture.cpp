@@ -1,6 +1,11 @@
 #include "audio/engine/PulseCapture.h"
 
+#include "audio/engine/SoundSink.h"
+
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace tarvelo::engine {

@@ -1,13 +1,17 @@
 #pragma once
 
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/PulseConnection.h"
-#include "audio/engine/SoundSink.h"
+#include "audio/engine/PulseHandles.h"
 
 #include <chrono>
 #include <condition_variable>
+#include <memory>
 #include <mutex>
 
 namespace tarvelo::engine {
+
+class SoundSink;
 
 // The default input of the session's sound server. Once open it stays so: when the microphone or
 // the server goes away there is no sound until one is back, which is looked for all the time.

@@ -3,6 +3,7 @@
 #include "audio/engine/Ffmpeg.h"
 #include "audio/engine/PcmFormat.h"
 
+#include <memory>
 #include <span>
 #include <vector>
 

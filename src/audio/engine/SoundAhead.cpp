@@ -1,5 +1,7 @@
 #include "audio/engine/SoundAhead.h"
 
+#include "audio/engine/DecodedSource.h"
+#include "audio/engine/SoundAtRate.h"
 #include "platform/SignalMask.h"
 
 #include <algorithm>

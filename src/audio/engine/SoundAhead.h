@@ -1,16 +1,24 @@
 #pragma once
 
 #include "audio/engine/KeptSound.h"
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/RateMap.h"
-#include "audio/engine/SoundAtRate.h"
 #include "audio/engine/SoundSupply.h"
 
 #include <condition_variable>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <thread>
+#include <vector>
 
 namespace tarvelo::engine {
+
+class DecodedSource;
+class SoundAtRate;
 
 // Keeps a few seconds of sound ready ahead of what is taken, decoded and stretched in a thread of
 // its own. Knows which second of the sound every frame comes from, over all changes of rate.

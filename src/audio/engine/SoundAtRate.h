@@ -2,8 +2,15 @@
 
 #include "audio/engine/DecodedSource.h"
 #include "audio/engine/OnsetKeeper.h"
+#include "audio/engine/PcmFormat.h"
 
 #include <rubberband/RubberBandStretcher.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
 
 namespace tarvelo::engine {
 

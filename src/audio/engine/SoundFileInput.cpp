@@ -1,8 +1,13 @@
 #include "audio/engine/SoundFileInput.h"
 
+#include "audio/engine/MovieOutline.h"
 #include "audio/engine/SoundSignature.h"
 
+#include <QByteArray>
+
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <mutex>
 #include <utility>
 

@@ -2,14 +2,14 @@
 
 #include "audio/engine/ByteSource.h"
 #include "audio/engine/Ffmpeg.h"
-#include "audio/engine/MovieOutline.h"
-
-#include <QByteArray>
 
 #include <atomic>
 #include <cstdint>
+#include <memory>
 
 namespace tarvelo::engine {
+
+struct MovieOutline;
 
 // The sound track of a file, packet by packet. Takes any bytes: those of a
 // stranger, of a file that was cut off, or of none at all. Opens no other file, whatever the bytes

@@ -1,8 +1,12 @@
 #include "audio/engine/RecorderSettings.h"
+
+#include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundServerPlayer.h"
 #include "audio/engine/SoundServerRecorder.h"
 
 #include <QFile>
+
+#include <memory>
 
 namespace tarvelo::engine {
 

@@ -1,9 +1,14 @@
 #include "audio/engine/SoundServerPlayer.h"
 
+#include "audio/engine/DecodedSource.h"
+#include "audio/engine/PulseOutput.h"
+
 #include <QCoreApplication>
+#include <QMetaObject>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tarvelo::engine {
 

@@ -1,12 +1,16 @@
 #pragma once
 
 #include "audio/engine/AudioPlayer.h"
-#include "audio/engine/PulseOutput.h"
 #include "audio/engine/SoundAhead.h"
 
-#include <QByteArray>
+#include <QUrl>
+
+#include <memory>
 
 namespace tarvelo::engine {
+
+class DecodedSource;
+class PulseOutput;
 
 // A player over the session's sound server. Without one it plays in name only, and is heard from
 // where it stands as soon as there is one.

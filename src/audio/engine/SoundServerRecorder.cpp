@@ -1,6 +1,13 @@
 #include "audio/engine/SoundServerRecorder.h"
 
+#include "audio/engine/PulseCapture.h"
+#include "audio/engine/Take.h"
+
 #include <QCoreApplication>
+#include <QObject>
+
+#include <chrono>
+#include <utility>
 
 namespace tarvelo::engine {
 

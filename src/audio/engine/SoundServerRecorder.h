@@ -1,13 +1,18 @@
 #pragma once
 
 #include "audio/engine/AudioRecorder.h"
-#include "audio/engine/PulseCapture.h"
+#include "audio/engine/Hearing.h"
 #include "audio/engine/RecorderSettings.h"
-#include "audio/engine/Take.h"
 
 #include <QTimer>
 
+#include <memory>
+#include <string>
+
 namespace tarvelo::engine {
+
+class PulseCapture;
+class Take;
 
 // A recorder over the session's sound server. Connects when it is prepared, lets go when it is
 // stopped; it can be prepared again then, for another take in the same place.

@@ -3,7 +3,6 @@
 #include "audio/engine/PcmFormat.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <span>
 
 namespace tarvelo::engine {

@@ -1,10 +1,13 @@
 #include "audio/engine/Take.h"
 
+#include "audio/engine/TakeWriter.h"
 #include "platform/SignalMask.h"
 
 #include <algorithm>
+#include <chrono>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace tarvelo::engine {
 

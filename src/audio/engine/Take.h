@@ -1,17 +1,26 @@
 #pragma once
 
 #include "audio/engine/Hearing.h"
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/SampleRing.h"
 #include "audio/engine/SoundSink.h"
 #include "audio/engine/SpliceFader.h"
-#include "audio/engine/TakeWriter.h"
 
+#include <atomic>
 #include <condition_variable>
+#include <cstddef>
 #include <limits>
+#include <memory>
 #include <mutex>
+#include <span>
+#include <string>
 #include <thread>
+#include <vector>
 
 namespace tarvelo::engine {
+
+struct RecorderSettings;
+class TakeWriter;
 
 // One take from captured samples to a complete file. Sound comes in on one thread and waits in a
 // ring until the take's own thread has encoded and written it, so that neither a slow disk nor a

@@ -1,8 +1,15 @@
 #include "audio/engine/TakeWriter.h"
 
+#include "audio/engine/Ffmpeg.h"
 #include "audio/engine/IndexedCopy.h"
+#include "audio/engine/OutputFile.h"
+#include "audio/engine/RecorderSettings.h"
+#include "audio/engine/Resampler.h"
+#include "audio/engine/TakeExtent.h"
 
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace tarvelo::engine {
 

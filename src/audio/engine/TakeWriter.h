@@ -2,9 +2,16 @@
 
 #include "audio/engine/AacEncoder.h"
 #include "audio/engine/FragmentedFile.h"
-#include "audio/engine/Resampler.h"
+
+#include <memory>
+#include <span>
+#include <string>
 
 namespace tarvelo::engine {
+
+struct PcmFormat;
+struct RecorderSettings;
+class Resampler;
 
 // Samples in, an MPEG-4 file out: resamples, encodes and writes, all in the thread that calls. Its
 // memory does not grow with the take. A disk that takes no more is no failure while recording, nor

@@ -1,5 +1,6 @@
 #include "audio/engine/BackgroundSync.h"
 
+#include "audio/engine/OutputFile.h"
 #include "support/TestCase.h"
 
 #include <QFile>

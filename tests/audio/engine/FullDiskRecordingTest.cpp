@@ -1,5 +1,6 @@
 #include "audio/engine/AacEncoder.h"
 #include "audio/engine/FragmentedFile.h"
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/TakeWriter.h"
 #include "store/FullDisk.h"
 #include "support/DecodedAudio.h"

@@ -1,5 +1,6 @@
 #include "audio/engine/Hearing.h"
 
+#include "audio/engine/PcmFormat.h"
 #include "support/TestCase.h"
 
 #include <limits>

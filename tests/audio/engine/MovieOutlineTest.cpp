@@ -1,5 +1,6 @@
 #include "audio/engine/MovieOutline.h"
 #include "audio/engine/Boxes.h"
+#include "audio/engine/ByteSource.h"
 #include "audio/engine/Recordings.h"
 #include "support/TestCase.h"
 #include "support/TestSound.h"

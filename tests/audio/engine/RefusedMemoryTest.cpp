@@ -1,3 +1,4 @@
+#include "audio/engine/DecodedSource.h"
 #include "audio/engine/LittleMemory.h"
 #include "audio/engine/Recordings.h"
 #include "audio/engine/SoundAhead.h"

@@ -1,4 +1,5 @@
 #include "audio/engine/OneRefusal.h"
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/TakeWriter.h"
 #include "support/DecodedAudio.h"
 #include "support/TestCase.h"

@@ -1,4 +1,5 @@
 #include "audio/engine/SoundAhead.h"
+#include "audio/engine/DecodedSource.h"
 #include "audio/engine/Recordings.h"
 #include "support/TestCase.h"
 #include "support/TestSound.h"

@@ -1,3 +1,4 @@
+#include "audio/engine/AudioPlayer.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/Recordings.h"
 #include "audio/engine/SpeakerRecording.h"

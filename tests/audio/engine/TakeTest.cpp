@@ -1,4 +1,5 @@
 #include "audio/engine/Take.h"
+#include "audio/engine/RecorderSettings.h"
 #include "audio/engine/SmallDisk.h"
 #include "support/DecodedAudio.h"
 #include "support/TestCase.h"

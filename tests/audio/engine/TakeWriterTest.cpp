@@ -1,4 +1,5 @@
 #include "audio/engine/TakeWriter.h"
+#include "audio/engine/PcmFormat.h"
 #include "audio/engine/SmallDisk.h"
 #include "support/DecodedAudio.h"
 #include "support/OrdinaryUser.h"
