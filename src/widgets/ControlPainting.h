@@ -8,7 +8,7 @@ class QStyleOptionSlider;
 
 namespace tarvelo::widgets {
 
-// How the controls of `ControlStyle` are drawn. Lengths in points.
+// How the controls of that style are drawn which all windows share. Lengths in points.
 
 constexpr double ControlRadius = 6;
 constexpr int SliderHandleSide = 16;
