@@ -110,7 +110,7 @@ void paintButton(QPainter &painter, const QStyleOption &option, bool isDefault)
 void paintKeyboardRing(QPainter &painter, const QStyleOption &option, bool isOnAccent)
 {
     const Restored restored(painter);
-    const double inset = RingWidth / 2 + (isOnAccent ? 2.5 : 0);
+    const double inset = 0.5 * RingWidth + (isOnAccent ? 2.5 : 0);
     const auto role = isOnAccent ? QPalette::HighlightedText : QPalette::Highlight;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(option.palette.color(role), RingWidth));
