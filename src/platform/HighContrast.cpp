@@ -33,6 +33,9 @@ double contrastOf(const QColor &one, const QColor &other)
 
 bool isContrastHigh()
 {
+    // Without a screen there is no palette either, not even to ask for.
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return false;
     const QPalette palette = QGuiApplication::palette();
     return contrastOf(palette.color(QPalette::WindowText), palette.color(QPalette::Window)) >=
                HighContrast &&
