@@ -75,10 +75,14 @@ bool isOutOfMemory(const void *caller)
 void sayWhoseCodeItWas(int, siginfo_t *, void *context)
 {
     const auto &registers = static_cast<const ucontext_t *>(context)->uc_mcontext;
+    // Who called what is not there stands where the call would have come back to.
 #ifdef __x86_64__
-    const auto place = static_cast<std::uintptr_t>(registers.gregs[REG_RIP]);
+    const auto called = static_cast<std::uintptr_t>(registers.gregs[REG_RIP]);
+    const auto place =
+        called != 0 ? called : *reinterpret_cast<const std::uintptr_t *>(registers.gregs[REG_RSP]);
 #else
-    const auto place = static_cast<std::uintptr_t>(registers.pc);
+    const auto place =
+        static_cast<std::uintptr_t>(registers.pc != 0 ? registers.pc : registers.regs[30]);
 #endif
     constexpr std::string_view Words = "ended by a library\n";
     if (isOurs(reinterpret_cast<const void *>(place)))
