@@ -110,12 +110,16 @@ bool AttachedCopy::forgetMarks(QHash<qint64, qint64> &idsNow)
     const auto there = m_database.executeQuery(
         QStringLiteral("SELECT ID FROM copy.audioData WHERE ID IN (SELECT ID FROM "
                        "copy.goingLectures) AND ifnull(audioFileFullPath, '') = ''"));
-    for (const Row &row : there.value_or(Rows())) {
+    // Where SQLite lacked memory or a page it has taken the whole transaction back by now, and what
+    // would be deleted then would go alone.
+    if (!there || m_database.errorCode() != 0)
+        return false;
+    for (const Row &row : *there) {
         const qint64 id = row.first().toLongLong();
         if (!idsNow.contains(id))
             idsNow.insert(id, id);
     }
-    return there && m_database.executeNonQuery(QStringLiteral("DELETE FROM copy.goingLectures"));
+    return m_database.executeNonQuery(QStringLiteral("DELETE FROM copy.goingLectures"));
 }
 
 QString AttachedCopy::fromMissing() const

@@ -21,8 +21,8 @@ namespace {
 
 using Kind = SoundFileInput::Kind;
 
-// What two ways of measuring may differ by.
-constexpr double SecondsInPacket = 0.05;
+// What two ways of measuring may differ by: less than a packet, of which one may be missing.
+constexpr double PartOfPacket = 0.5;
 
 // FFmpeg's own way to a file asks the system for the size of it with each packet, which for a long
 // lecture is half of all that keeping it costs.
@@ -97,7 +97,10 @@ bool isAsLong(const std::string &copy, const std::string &take)
 {
     const auto copied = openTake(copy, Kind::Strange);
     const auto input = openTake(take, Kind::Strange);
-    return copied && input && copied->seconds() + SecondsInPacket >= input->seconds();
+    if (!copied || !input || copied->track().codecpar->sample_rate <= 0)
+        return false;
+    const double margin = PartOfPacket * SamplesInPacket / copied->track().codecpar->sample_rate;
+    return copied->seconds() + margin >= input->seconds();
 }
 
 } // namespace

@@ -214,7 +214,8 @@ std::int64_t SoundFileInput::packetsIndexed() const
 bool SoundFileInput::read(AVPacket &packet)
 {
     const bool isPlain = av_get_bits_per_sample(track().codecpar->codec_id) > 0;
-    while (!m_isCancelled && av_read_frame(m_demuxer, &packet) >= 0) {
+    int result = 0;
+    while (!m_isCancelled && (result = av_read_frame(m_demuxer, &packet)) >= 0) {
         // A packet that the file's end cuts through would be heard as a crack; of plain samples
         // what there is of it is as good as all.
         // Without its decoder the reader does not know how long the last one is.
@@ -226,6 +227,7 @@ bool SoundFileInput::read(AVPacket &packet)
             return true;
         av_packet_unref(&packet);
     }
+    m_lackedMemory = m_lackedMemory || result == AVERROR(ENOMEM);
     return false;
 }
 

@@ -38,7 +38,7 @@ public:
     // As far as the index knows.
     std::int64_t packetsIndexed() const;
     // What was read is not all that there was.
-    bool hasFailed() const { return m_bytes->hasFailed(); }
+    bool hasFailed() const { return m_bytes->hasFailed() || m_lackedMemory; }
     // The time stamp, in the track's time base, at which playing begins.
     std::int64_t origin() const;
     // Seconds of sound, also of a file that is cut off. Reads the file, without decoding, when
@@ -70,6 +70,7 @@ private:
     const std::int64_t m_size; // of what is shown to the demuxer
     const bool m_holdsFragments;
     std::int64_t m_position = 0;
+    bool m_lackedMemory = false;
     std::atomic<bool> m_isCancelled = false;
     AVIOContext *m_io = nullptr;
     AVFormatContext *m_demuxer = nullptr;
