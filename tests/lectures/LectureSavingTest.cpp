@@ -1,5 +1,6 @@
 #include "lectures/LectureSaving.h"
 
+#include "lectures/StoredTexts.h"
 #include "store/LectureInfoItem.h"
 #include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
@@ -134,13 +135,7 @@ private:
 
     LectureInfoItem stored() const
     {
-        const auto path = u"/music/%1.m4a"_s.arg(m_files++);
-        LectureInfoItem lecture(u"Optics"_s, {}, {}, {}, false);
-        lecture.setNotes(u"Lenses"_s);
-        lecture.setLectureAudioPath(path);
-        lecture.setRecordUniqueID(
-            aLecture().withNotes("Lenses").withAudio(path).insertInto(*m_database));
-        return lecture;
+        return tarvelo::tests::storedOptics(*m_database, u"/music/%1.m4a"_s.arg(m_files++));
     }
     LectureInfoItem storedAs(qint64 id) const
     {
@@ -149,15 +144,7 @@ private:
         lecture.setRecordUniqueID(id);
         return lecture;
     }
-    QStringList everything() const
-    {
-        QStringList lectures;
-        const auto rows =
-            m_database->openDb()->executeQuery(u"select * from audioData order by ID"_s);
-        for (const Row &row : rows.value_or(Rows()))
-            lectures.append(row[u"subject"_s].toString() + u": "_s + row[u"notes"_s].toString());
-        return lectures;
-    }
+    QStringList everything() const { return tarvelo::tests::textsIn(*m_database); }
 
     tarvelo::tests::FakeClock m_clock;
     std::unique_ptr<tarvelo::tests::TemporaryPlaces> m_places;
