@@ -289,9 +289,7 @@ private Q_SLOTS:
 
     void whoseRecordingIsGoneKeepsItsNotes()
     {
-        LectureJournal journal = LeftStage::journal();
-        journal.isDone = true;
-        journal.target = m_stage->locations.getAudioSavePath();
+        const LectureJournal journal = doneJournal();
         m_stage->leaveJournal(journal);
         m_stage->setAside();
 
@@ -305,9 +303,7 @@ private Q_SLOTS:
 
     void theJournalThatPromisesARecordingIsKnownByIt()
     {
-        LectureJournal journal = LeftStage::journal();
-        journal.isDone = true;
-        journal.target = m_stage->locations.getAudioSavePath();
+        const LectureJournal journal = doneJournal();
         m_stage->leaveJournal(journal);
         m_stage->setAside();
 
@@ -348,9 +344,7 @@ private Q_SLOTS:
     // It could not be removed when the row was stored, and then the row went to a copy.
     void theJournalOfARowThatWentHasNothingLeftToDo()
     {
-        LectureJournal journal = LeftStage::journal();
-        journal.isDone = true;
-        journal.target = m_stage->locations.getAudioSavePath();
+        const LectureJournal journal = doneJournal();
         m_stage->leaveJournal(journal);
         m_stage->setAside();
         m_stage->left.rowIsStored(journal.id, 1);
@@ -368,9 +362,7 @@ private Q_SLOTS:
 
     void aRowThatWentBeforeItsRecordingWasMovedIsStoredAgain()
     {
-        LectureJournal journal = LeftStage::journal();
-        journal.isDone = true;
-        journal.target = m_stage->locations.getAudioSavePath();
+        const LectureJournal journal = doneJournal();
         m_stage->leaveTake();
         m_stage->leaveJournal(journal);
         m_stage->setAside();
@@ -385,9 +377,7 @@ private Q_SLOTS:
     // The lecture was stored while its recording could not be moved, and another got its place.
     void theRowFollowsItsRecordingToAnotherPlace()
     {
-        LectureJournal journal = LeftStage::journal();
-        journal.isDone = true;
-        journal.target = m_stage->locations.getAudioSavePath();
+        const LectureJournal journal = doneJournal();
         m_stage->database.insertIntoDbwithSqlStatementWithArguments(
             tarvelo::store::statements::Insert, journal.row());
         m_stage->leaveTake();
@@ -532,9 +522,7 @@ private Q_SLOTS:
     // The clock was put back, and the file that had the name was deleted.
     void aRowOfAnotherLectureWithTheSamePlaceIsNotItsOwn()
     {
-        LectureJournal journal = LeftStage::journal();
-        journal.isDone = true;
-        journal.target = m_stage->locations.getAudioSavePath();
+        const LectureJournal journal = doneJournal();
         const qint64 row = aLecture().withAudio(journal.target).insertInto(m_stage->database);
         m_stage->left.rowIsStored(u"earlier"_s, row);
         m_stage->leaveTake();
@@ -610,9 +598,7 @@ private Q_SLOTS:
 
     void whoseRecordingCannotBeLookedForNowIsNotForgotten()
     {
-        LectureJournal journal = LeftStage::journal();
-        journal.isDone = true;
-        journal.target = m_stage->locations.getAudioSavePath();
+        const LectureJournal journal = doneJournal();
         m_stage->leaveJournal(journal);
         m_stage->setAside();
         const QString audio = m_stage->locations.getAudioFolderPath();
@@ -686,6 +672,14 @@ private Q_SLOTS:
 
 private:
     void prepare() override { m_stage = std::make_unique<LeftStage>(); }
+    // With a place for its recording.
+    LectureJournal doneJournal() const
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->locations.getAudioSavePath();
+        return journal;
+    }
     void expectTwoLectures()
     {
         QCOMPARE(m_stage->rows().size(), 2);
