@@ -12,7 +12,7 @@
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
-#include "store/Tables.h"
+#include "store/StoredRows.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,9 +30,6 @@ using store::LectureJournal;
 namespace {
 
 const QString DayFormat = QStringLiteral("yyyy-MM-dd");
-const QString MoveRecording =
-    QStringLiteral("UPDATE audioData SET audioFileFullPath = ?, recordDuration = ? WHERE ID = ? "
-                   "AND audioFileFullPath <> ?");
 
 } // namespace
 
@@ -164,41 +161,25 @@ bool LeftLectures::moveTake(Left &left)
 qint64 LeftLectures::lastRow() const
 {
     store::Sqlite *const database = m_database.openDb();
-    const auto isThere =
-        database ? store::hasTable(*database, "main", QStringLiteral("audioData")) : std::nullopt;
-    const auto rows =
-        isThere.value_or(false)
-            ? database->executeQuery(QStringLiteral("SELECT ifnull(max(ID), 0) FROM audioData"))
-            : std::nullopt;
-    if (rows && !rows->isEmpty())
-        return rows->first().first().toLongLong();
-    // Then none of those that are there may be taken for its own.
-    return isThere == false ? 0 : std::numeric_limits<qint64>::max();
+    const auto last = database ? store::lastRow(*database) : std::nullopt;
+    // Where it is not known none of those that are there may be taken for its own.
+    return last.value_or(std::numeric_limits<qint64>::max());
 }
 
 // 0 when there is none; null when that cannot be known.
 std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) const
 {
     store::Sqlite *const database = m_database.connection();
-    if (store::hasTable(*database, "main", QStringLiteral("audioData")) == false)
-        return 0;
     const auto rows =
         journal.target.isEmpty()
-            ? database->executeQuery(
-                  QStringLiteral("SELECT ID FROM audioData WHERE subject = ? AND notes = ? AND "
-                                 "recordingDate = ? AND audioFileFullPath = '' AND ID > ?"),
-                  store::subjectToStore(journal.subject), journal.notes, journal.day,
-                  journal.lastRow.value_or(0))
-            : database->executeQuery(
-                  QStringLiteral("SELECT ID FROM audioData WHERE audioFileFullPath = ?"),
-                  journal.target);
-    // A list that ends early is no word about it.
-    if (!rows || database->errorCode() != 0)
+            ? store::rowsWithTexts(*database, store::subjectToStore(journal.subject), journal.notes,
+                                   journal.day, journal.lastRow.value_or(0))
+            : store::rowsWithRecording(*database, journal.target);
+    if (!rows)
         return std::nullopt;
-    for (const auto &row : *rows)
-        if (!m_rows.values().contains(row.first().toLongLong()))
-            return row.first().toLongLong();
-    return 0;
+    const QList<qint64> known = m_rows.values();
+    const auto own = std::ranges::find_if(*rows, [&](qint64 row) { return !known.contains(row); });
+    return own == rows->end() ? 0 : *own;
 }
 
 // Without the reset that a failed write of the program is followed by: nobody asked for this one
@@ -222,8 +203,7 @@ std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
     auto row = isKnown ? m_rows.value(left.journal.id) : storedRow(left.journal);
     // Its recording may have got another place since.
     if (isKnown && !left.journal.target.isEmpty() &&
-        !database->executeNonQuery(MoveRecording, left.journal.target, left.journal.duration, *row,
-                                   left.journal.target))
+        !store::moveRecording(*database, *row, left.journal.target, left.journal.duration))
         return std::nullopt;
     const auto makeTable = [&] {
         return database->executeNonQuery(store::statements::CreateAfterInsert);
@@ -300,7 +280,7 @@ std::optional<bool> LeftLectures::change(const QString &id, const QString &subje
     for (const LeftFiles::Lecture &file : files.value_or(QList<LeftFiles::Lecture>())) {
         LectureJournal journal = file.journal.journal;
         areAllKnown = areAllKnown && file.journal.state != JournalFile::State::Unreadable;
-        if (journal.id != id)
+        if (!journal.isDone || journal.id != id)
             continue;
         journal.subject = subject;
         journal.notes = notes;

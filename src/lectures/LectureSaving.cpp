@@ -3,6 +3,7 @@
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
+#include "store/StoredRows.h"
 
 namespace tarvelo::lectures {
 
@@ -17,12 +18,7 @@ bool LectureSaving::isStored(const store::LectureInfoItem &lecture) const
     if (!lecture.hasRow())
         return lecture.hasGone() || m_with.isWaiting(lecture);
     store::Sqlite *connection = m_with.database.connection();
-    const auto rows = connection ? connection->executeQueryArguments(
-                                       QStringLiteral("select ID from audioData where ID = ?"),
-                                       {lecture.getRecordUniqueID()})
-                                 : std::nullopt;
-    // A list that ends early is no word about it.
-    return !rows || !rows->isEmpty() || connection->errorCode() != 0;
+    return !connection || store::hasRow(*connection, lecture.getRecordUniqueID()).value_or(true);
 }
 
 void LectureSaving::save(store::LectureInfoItem &lecture, const QString &subject,

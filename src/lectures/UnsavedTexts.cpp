@@ -4,23 +4,11 @@
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "store/Sqlite.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
+#include "store/StoredRows.h"
 
 #include <algorithm>
 
 namespace tarvelo::lectures {
-
-namespace {
-
-// An ID may be given again, and then the lecture that has it must not get the texts of another.
-const QString Update =
-    QStringLiteral("UPDATE audioData SET subject = ?, notes = ? WHERE ID = ? AND "
-                   "ifnull(audioFileFullPath, '') = ? AND (audioFileFullPath <> '' OR "
-                   "ifnull(notes, '') IN (SELECT value FROM json_each(?)))");
-
-} // namespace
 
 UnsavedTexts::UnsavedTexts(store::LectureDatabase &database, platform::Clock &clock)
     : m_database(database)
@@ -111,11 +99,10 @@ bool UnsavedTexts::save(const Texts &texts, store::Sqlite *database) const
 {
     if (!texts.copyPath.isEmpty())
         return m_database.changeGone(texts.copyPath, texts.id, texts.subject, texts.notes);
-    const QJsonDocument storedNotes(
-        QJsonArray::fromStringList(QStringList(texts.storedNotes) << texts.notes));
     return database &&
-           database->executeNonQuery(Update, texts.subject, texts.notes, texts.id, texts.audioPath,
-                                     QString::fromUtf8(storedNotes.toJson())) &&
+           store::changeTexts(*database, texts.id, texts.audioPath,
+                              QStringList(texts.storedNotes) << texts.notes, texts.subject,
+                              texts.notes) &&
            (database->changes() > 0 || texts.audioPath.isEmpty());
 }
 

@@ -5,6 +5,7 @@
 #include "store/LectureInfoItem.h"
 #include "store/Soundness.h"
 #include "store/Statements.h"
+#include "store/StoredRows.h"
 #include "store/Tables.h"
 
 #include <QFileInfo>
@@ -167,11 +168,8 @@ std::optional<qint64> LectureDatabase::idNow(const LecturesBack &back, const QSt
         return back.idsNow.value(id);
     if (audioPath.isEmpty() || !m_connection)
         return std::nullopt;
-    const auto rows = m_connection->executeQuery(
-        QStringLiteral("SELECT ID FROM audioData WHERE audioFileFullPath = ?"), audioPath);
-    const bool isKnown = rows && m_connection->errorCode() == 0;
-    return isKnown && rows->size() == 1 ? std::optional(rows->first().first().toLongLong())
-                                        : std::nullopt;
+    const auto rows = rowsWithRecording(*m_connection, audioPath);
+    return rows && rows->size() == 1 ? std::optional(rows->first()) : std::nullopt;
 }
 
 bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)

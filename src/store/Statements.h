@@ -2,8 +2,8 @@
 
 #include <QLatin1String>
 
-// Every statement text of the lecture table, byte for byte as it is sent: blanks and letter case
-// are wanted as they stand, files and other programs know them so.
+// The statements of the lecture table that other programs know too, byte for byte as they are sent:
+// blanks and letter case are wanted as they stand.
 namespace tarvelo::store::statements {
 
 // Arguments: subject, course, notes, day, start, end, audio path, duration.
