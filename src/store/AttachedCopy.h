@@ -32,9 +32,8 @@ public:
 
 private:
     // The copy says which lectures were about to go when it was made. One that does not is of a
-    // file that could not be asked.
-    bool isMarked() const;
-    QString fromMissing() const;
+    // file that could not be asked. Null: it cannot be known now.
+    std::optional<bool> isMarked() const;
     bool forgetMarks(QHash<qint64, qint64> &idsNow);
 
     Sqlite &m_database;

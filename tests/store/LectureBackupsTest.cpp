@@ -168,6 +168,32 @@ private Q_SLOTS:
         QCOMPARE(subjectsIn(connection()).size(), 2);
     }
 
+    // Two that were saved within a second have one.
+    void ofSeveralWithOneRecordingAllComeBack()
+    {
+        add(aLecture().named("first").withAudio(u"/music/a.m4a"_s));
+        add(aLecture().named("second").withAudio(u"/music/a.m4a"_s));
+        reset();
+        add(aLecture().named("first").withAudio(u"/music/a.m4a"_s));
+
+        QCOMPARE(copies().value(0).missing, 1);
+        QCOMPARE(bringBack(), 1);
+
+        QCOMPARE(subjectsIn(connection()), (QStringList{u"first"_s, u"second"_s}));
+        QCOMPARE(copies().value(0).missing, 0);
+    }
+
+    void ofSeveralWithOneRecordingAChangedOneIsNotMissing()
+    {
+        add(aLecture().named("first").withAudio(u"/music/a.m4a"_s));
+        add(aLecture().named("second").withAudio(u"/music/a.m4a"_s));
+        reset();
+        add(aLecture().named("changed").withAudio(u"/music/a.m4a"_s));
+        add(aLecture().named("second").withAudio(u"/music/a.m4a"_s));
+
+        QCOMPARE(copies().value(0).missing, 0);
+    }
+
     void withoutATableEverythingIsMissingAndComesBack()
     {
         add(aLecture().named("Optics"));
