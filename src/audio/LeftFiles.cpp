@@ -113,18 +113,46 @@ std::optional<QList<LeftFiles::Lecture>> LeftFiles::all() const
 
 bool LeftFiles::moveFrom(const QString &from) const
 {
-    return giveUpUnreadable(from) && giveUpUnreadable(m_folder) &&
-           (from == m_folder || moveLeftovers(from)) && moveLecture(from);
+    return takeBackReadable(from) && takeBackReadable(m_folder) && giveUpUnreadable(from) &&
+           giveUpUnreadable(m_folder) && (from == m_folder || moveLeftovers(from)) &&
+           moveLecture(from);
 }
 
-// The recording beside one that was not read for a day does not wait for it any longer.
+// What was put aside and can be read after all. Its recording may be a lecture by now; subject and
+// notes are offered all the same.
+bool LeftFiles::takeBackReadable(const QString &from) const
+{
+    const auto names = namesIn(from);
+    for (const QString &name : beginning(unreadBegin(), names.value_or(QStringList()))) {
+        const QString path = from + u'/' + name;
+        if (store::readJournal(path).state != JournalFile::State::Read)
+            continue;
+        const QString was = baseOf(name.mid(unreadBegin().size()));
+        const QString free =
+            was.startsWith(NameBegin) ? freeName(was, false) : freeName(momentName(), true);
+        if (!free.isEmpty())
+            moveJournal(path, pathOf(free + JournalEnding));
+    }
+    return names.has_value();
+}
+
+// The recording beside one that was not read for a day does not wait for it any longer. Where none
+// waits it may take longer.
 bool LeftFiles::giveUpUnreadable(const QString &from) const
 {
     const auto names = namesIn(from);
+    const auto keepsBack = [&](const QString &journal) {
+        return names && std::ranges::any_of(*names, [&](const QString &name) {
+                   return journal == journalName()
+                              ? isTake(name)
+                              : !isJournal(name) && baseOf(name) == baseOf(journal);
+               });
+    };
     for (const QString &name : names.value_or(QStringList())) {
         const QFileInfo file(from + u'/' + name);
-        if (isJournal(name) && file.lastModified().daysTo(m_dates.now()) > 1 &&
-            isUnreadable(file.filePath()) && isUnreadable(file.filePath()))
+        if (isJournal(name) && !name.startsWith(unreadBegin()) && keepsBack(name) &&
+            file.lastModified().daysTo(m_dates.now()) > 1 && isUnreadable(file.filePath()) &&
+            isUnreadable(file.filePath()))
             putAside(file.filePath());
     }
     return names.has_value();
@@ -203,8 +231,12 @@ bool LeftFiles::moveLecture(const QString &from) const
     if (!journal.isDone)
         takes.removeIf(
             [](const QString &take) { return holdsNothing(take) && QFile::remove(take); });
+    // One that the journal does not name is a stray of another format, be it the only one: its own
+    // may be in its place already.
     const auto isOfJournal = [&takes, &journal](const QString &take) {
-        return takes.size() == 1 || journal.take.endsWith(QFileInfo(take).suffix());
+        if (!journal.take.isEmpty())
+            return QFileInfo(journal.take).suffix() == QFileInfo(take).suffix();
+        return takes.size() == 1 && !(journal.isDone && journal.target.isEmpty());
     };
     const auto ofJournal = std::ranges::find_if(takes, isOfJournal);
     const bool hasTake = hasJournal && ofJournal != takes.end();

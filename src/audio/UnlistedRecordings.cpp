@@ -1,6 +1,7 @@
 #include "audio/UnlistedRecordings.h"
 
 #include "audio/DurationText.h"
+#include "audio/FileFormats.h"
 #include "audio/LeftFiles.h"
 #include "audio/RecordingDay.h"
 #include "platform/Dates.h"
@@ -102,8 +103,10 @@ QStringList UnlistedRecordings::unlisted() const
 {
     const QString folder = m_sources.audioFolder();
     QStringList paths;
-    for (const QFileInfo &file : QDir(folder).entryInfoList(
-             {QStringLiteral("*.m4a"), QStringLiteral("*.aac")}, QDir::Files, QDir::Name))
+    QStringList filters;
+    for (const FileFormat &format : FileFormats)
+        filters.append(QStringLiteral("*.") + QLatin1String(format.extension));
+    for (const QFileInfo &file : QDir(folder).entryInfoList(filters, QDir::Files, QDir::Name))
         if (file.size() > 0)
             paths.append(folder + u'/' + file.fileName());
     const auto listedPaths = listed(namesOf(paths));
@@ -142,7 +145,7 @@ std::optional<QStringList> UnlistedRecordings::promised() const
             return std::nullopt;
         for (const QString &name : names.value_or(QStringList())) {
             const QFileInfo file(folder + u'/' + name);
-            if (file.isDir())
+            if (file.isDir() && !file.isSymLink())
                 folders.append(file.filePath());
             const auto target = isJournal(name) ? promisedBy(file.filePath()) : QString();
             if (!target)

@@ -165,6 +165,81 @@ private Q_SLOTS:
         QVERIFY(read(folder() + u'/' + unread[0]).contains("Huygens"));
     }
 
+    void whatWasPutAsideIsOfferedWhenItCanBeRead_data()
+    {
+        aJournalThatCannotBeReadKeepsItsRecordingBackForADay_data();
+    }
+    void whatWasPutAsideIsOfferedWhenItCanBeRead()
+    {
+        QFETCH(bool, isOutOfTheWay);
+        m_stage->leaveTake();
+        m_stage->leaveJournal();
+        QVERIFY(!isOutOfTheWay || files().moveFrom(folder()));
+        refuse("read", ".journal", 1000);
+        m_stage->clock.set(QDateTime::currentDateTimeUtc().addDays(3));
+        for (int time = 0; time < 3; ++time)
+            QVERIFY(files().moveFrom(folder()));
+        QCOMPARE(m_stage->names().filter(u"unread-"_s).size(), 1);
+        QCOMPARE(m_stage->names().filter(u"unread-unread-"_s), QStringList());
+        tarvelo::tests::refuseNothing();
+
+        QVERIFY(files().moveFrom(folder()));
+
+        QCOMPARE(m_stage->names().filter(u"unread-"_s), QStringList());
+        const auto all = files().all().value();
+        QCOMPARE(
+            std::ranges::count_if(
+                all, [](const auto &left) { return left.journal.journal.notes == u"Huygens"; }),
+            1);
+        QCOMPARE(
+            std::ranges::count_if(all, [](const auto &left) { return !left.takePath.isEmpty(); }),
+            1);
+        // It was moved under the moment of its opening before, and so it joins its recording again.
+        QCOMPARE(all.size(), isOutOfTheWay ? 1 : 2);
+    }
+
+    // Nothing waits for it, and it may be read tomorrow.
+    void aJournalThatCannotBeReadAndHasNoRecordingIsNotPutAside()
+    {
+        m_stage->leaveJournal();
+        LeftStage::write(m_stage->file("leftover-20240303T080000000.journal"), "{}");
+        refuse("read", ".journal", 1000);
+        m_stage->clock.set(QDateTime::currentDateTimeUtc().addDays(3));
+
+        QVERIFY(!files().moveFrom(folder()));
+        tarvelo::tests::refuseNothing();
+
+        QCOMPARE(m_stage->names().filter(u"unread-"_s), QStringList());
+    }
+
+    // Its own recording is in its place already, or it never had one.
+    void aStrayTakeOfAnotherFormatIsNotTheJournalsOwn_data()
+    {
+        QTest::addColumn<QString>("take");
+        QTest::addColumn<QString>("target");
+        QTest::newRow("with a recording")
+            << u"tempAudioFile.m4a"_s << u"/home/Audio/Audio - 20240304080000.m4a"_s;
+        QTest::newRow("without one") << QString() << QString();
+    }
+    void aStrayTakeOfAnotherFormatIsNotTheJournalsOwn()
+    {
+        QFETCH(QString, take);
+        QFETCH(QString, target);
+        LeftStage::write(m_stage->file("tempAudioFile.aac"), QByteArray(100'000, 's'));
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.take = take;
+        journal.target = target;
+        m_stage->leaveJournal(journal);
+
+        QVERIFY(files().moveFrom(folder()));
+
+        const auto all = files().all().value();
+        QCOMPARE(all.size(), 2);
+        for (const LeftFiles::Lecture &left : all)
+            QCOMPARE(left.journal.state == JournalFile::State::Read, left.takePath.isEmpty());
+    }
+
     void twoThatCannotBeReadAreBothKept()
     {
         leaveLatest();
