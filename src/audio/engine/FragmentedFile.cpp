@@ -11,6 +11,11 @@ namespace {
 
 // What a disk needs beyond the bytes of the file, and the end of the sound, which is not cut yet.
 constexpr std::int64_t Slack = std::int64_t{64} << 10;
+// What is taken from the reserve at a time: six seconds of sound.
+constexpr std::int64_t Step = std::int64_t{64} << 10;
+constexpr auto MostWaiting = static_cast<std::int64_t>(FragmentedFile::MostBytesWaiting);
+// A step more than may wait, so that all that may has room.
+constexpr std::int64_t MostTaken = MostWaiting + Step;
 
 } // namespace
 
@@ -43,7 +48,7 @@ double FragmentedFile::secondsSafe() const
     if (!m_diskFails)
         return Everything;
     // What is wrong with the disk otherwise is not mended by room.
-    std::int64_t room = m_file->isOutOfRoom() ? m_reserve.bytes() - Slack : 0;
+    std::int64_t room = m_file->isOutOfRoom() ? roomLeft() + m_unused : 0;
     TakeExtent safe = m_inFile;
     for (const Fragment &fragment : m_waiting) {
         room -= static_cast<std::int64_t>(fragment.bytes.size());
@@ -52,6 +57,12 @@ double FragmentedFile::secondsSafe() const
         safe = fragment.upToIt;
     }
     return isFull() ? seconds(m_added) : Everything;
+}
+
+bool FragmentedFile::isFull() const
+{
+    const std::int64_t taken = m_file->isOutOfRoom() ? m_taken - m_unused : 0;
+    return static_cast<std::int64_t>(m_bytesWaiting + m_maker->bytesKept()) >= MostWaiting - taken;
 }
 
 void FragmentedFile::add(const AVPacket &packet)
@@ -92,7 +103,7 @@ void FragmentedFile::putWaiting()
     for (m_diskFails = false; !m_waiting.empty(); m_waiting.pop_front()) {
         Fragment &next = m_waiting.front();
         next.offset = m_file->size();
-        m_diskFails = !m_file->append(next.bytes);
+        m_diskFails = !append(next.bytes);
         if (m_diskFails)
             return;
         m_bytesWaiting -= next.bytes.size();
@@ -105,13 +116,44 @@ void FragmentedFile::putWaiting()
     }
 }
 
+// Of the reserve, what the sound may have still: the rest is for the end, and for the lecture's
+// row.
+std::int64_t FragmentedFile::roomLeft() const
+{
+    return std::max<std::int64_t>(0, std::min(MostTaken - m_taken, m_reserve.bytes() - Slack));
+}
+
+bool FragmentedFile::append(const FragmentMaker::Bytes &bytes)
+{
+    const auto size = static_cast<std::int64_t>(bytes.size());
+    const bool isIn =
+        m_file->append(bytes) || (m_file->isOutOfRoom() && makeRoom(size) && m_file->append(bytes));
+    if (isIn)
+        m_unused = std::max<std::int64_t>(0, m_unused - size);
+    return isIn;
+}
+
+// Not again before what was taken last is used: somebody who fills the disk may have been faster,
+// and is not fed with the rest.
+bool FragmentedFile::makeRoom(std::int64_t bytes)
+{
+    const std::int64_t step = std::min(std::max(Step, bytes), roomLeft());
+    if (m_unused >= bytes || m_unused + step < bytes || !m_reserve.giveBack(step))
+        return false;
+    m_taken += step;
+    m_unused += step;
+    return true;
+}
+
 void FragmentedFile::syncNowAndThen()
 {
-    if (const auto isOnDisk = m_sync.outcome())
-        syncEnded(*isOnDisk);
     const auto now = std::chrono::steady_clock::now();
+    if (const auto isOnDisk = m_sync.outcome()) {
+        m_lastSync = now - m_synced;
+        syncEnded(*isOnDisk);
+    }
     const bool hasNothing = m_unsynced.empty() && !m_diskFails;
-    if (hasNothing || m_sync.isUnderWay() || now - m_synced < SyncInterval)
+    if (hasNothing || m_sync.isUnderWay() || now - m_synced < SyncInterval - m_lastSync)
         return;
     m_synced = now;
     if (m_diskFails)

@@ -17,15 +17,17 @@ namespace tarvelo::engine {
 
 // A take on the disk while it grows: whole fragments of a quarter of a second stand in the file,
 // and at most the last is torn, so that it plays whatever happens to the program, the machine or
-// the disk. A fragment for which there is no room waits in memory and is tried again with the next
-// one, and at the end with the room that was held for it. Nobody waits for the disk to have it for
-// certain but the end.
+// the disk. On a full disk it goes into the room that was held for it. What the disk does not take
+// waits in memory and is tried again with the next fragment, and at the end. Nobody waits for the
+// disk to have it for certain but the end.
 class FragmentedFile final
 {
 public:
     static constexpr double FragmentSeconds = 0.25;
-    static constexpr std::chrono::seconds SyncInterval{2};
-    // About 100 seconds of sound.
+    // Between the beginnings of two; sooner as a disk takes longer, so that what is not certain yet
+    // is never older than this or than twice what a sync takes.
+    static constexpr std::chrono::milliseconds SyncInterval{2000};
+    // About 100 seconds of sound. As much is written at most into the room that was held.
     static constexpr std::size_t MostBytesWaiting = std::size_t{1} << 20;
 
     // Takes the track as the encoder has it, one tick a sample. Null when it cannot be written.
@@ -36,12 +38,12 @@ public:
     const TakeExtent &extentInFile() const { return m_inFile; }
     double secondsInFile() const { return seconds(m_inFile); }
     // What of it a full disk takes from nobody any more: what stands in the file, and what waits
-    // and has the reserve for itself. Infinity while that is everything.
+    // and has a share of the reserve for itself. Infinity while that is everything.
     double secondsSafe() const;
     // The disk did not take the last fragment.
     bool isDiskFailing() const { return m_diskFails; }
     // More sound would only be lost: call retry() until there is room again.
-    bool isFull() const { return m_bytesWaiting + m_maker->bytesKept() >= MostBytesWaiting; }
+    bool isFull() const;
     // All that stands in the file was forced to the disk.
     bool isSynced() const { return m_unsynced.empty(); }
 
@@ -68,6 +70,9 @@ private:
     bool isFragmentDue() const;
     bool cut();
     void putWaiting();
+    bool append(const FragmentMaker::Bytes &bytes);
+    bool makeRoom(std::int64_t bytes);
+    std::int64_t roomLeft() const;
     void sync();
     void syncEnded(bool isOnDisk);
     bool writeLostAgain();
@@ -83,12 +88,15 @@ private:
     TakeExtent m_inFile;
     std::deque<Fragment> m_waiting;
     std::size_t m_bytesWaiting = 0;
+    std::int64_t m_taken = 0;  // bytes of the reserve that the sound got
+    std::int64_t m_unused = 0; // of those, what no sound went into yet
     std::deque<Fragment> m_unsynced;
     std::size_t m_bytesUnsynced = 0;
     std::size_t m_syncing = 0; // of the unsynced, those that the sync which is under way is for
     bool m_mayBeLost = false;  // all that is unsynced
     bool m_diskFails = false;
     std::chrono::steady_clock::time_point m_synced = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::duration m_lastSync{}; // how long it took
 };
 
 } // namespace tarvelo::engine

@@ -63,4 +63,12 @@ void Reserve::giveBack()
     m_bytes = 0;
 }
 
+bool Reserve::giveBack(std::int64_t bytes)
+{
+    if (bytes > m_bytes || ::truncate(m_path.c_str(), m_bytes - bytes) != 0)
+        return false;
+    m_bytes -= bytes;
+    return true;
+}
+
 } // namespace tarvelo::engine

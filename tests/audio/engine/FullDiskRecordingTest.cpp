@@ -127,6 +127,46 @@ private Q_SLOTS:
         }
     }
 
+    // So that who kills it then takes no more of it than at any other time.
+    void onADiskThatFillsUpTheSoundGoesOnIntoTheFile()
+    {
+        SmallDisk disk(m_folder->path(), 16 * Kibibyte);
+        const auto take = FragmentedFile::create(OutputFile::create(path()),
+                                                 AacEncoder::create(ManyBits)->codec());
+        disk.fill();
+        if (!disk.isMounted())
+            return;
+
+        for (int second = 1; second <= 20; ++second) {
+            const double added = addUntil(*take, second);
+            QVERIFY(!take->isDiskFailing());
+            QVERIFY(added - take->secondsInFile() <= FragmentedFile::FragmentSeconds);
+        }
+        const auto heard = DecodedAudio::read(name());
+
+        QVERIFY(heard && std::abs(heard->seconds() - take->secondsInFile()) < 0.05);
+    }
+
+    void whatIsNotHadOfTheReserveIsAskedForOnce()
+    {
+        SmallDisk disk(m_folder->path(), 16 * Kibibyte);
+        const auto take = FragmentedFile::create(OutputFile::create(path()),
+                                                 AacEncoder::create(ManyBits)->codec());
+        const QString reserve = m_folder->filePath(u".take.reserve"_s);
+        const qint64 held = QFileInfo(reserve).size();
+        disk.fill();
+
+        // Somebody takes all that becomes free, before the sound does.
+        for (int second = 1; second <= 10; ++second) {
+            addUntil(*take, second);
+            disk.fill();
+        }
+
+        QVERIFY(held - QFileInfo(reserve).size() <= 10 * 64 * Kibibyte);
+        take->finish();
+        QVERIFY(std::abs(DecodedAudio::read(name())->seconds() - take->secondsInFile()) < 0.05);
+    }
+
     void roomThatComesBackIsUsedBeforeTheEnd()
     {
         SmallDisk disk(m_folder->path(), 8 * Kibibyte);
@@ -160,15 +200,29 @@ private:
         return names;
     }
 
+    void addNext(FragmentedFile &take)
+    {
+        const auto &packet = m_packets[m_next % m_packets.size()];
+        packet->pts = packet->dts = m_first + static_cast<std::int64_t>(m_next++) * 1024;
+        take.add(*packet);
+    }
+    double added() const
+    {
+        return static_cast<double>(m_first + static_cast<std::int64_t>(m_next) * 1024) / Rate;
+    }
     // Seconds that went in until no more did.
     double addUntilFull(FragmentedFile &take)
     {
-        while (!take.isFull()) {
-            const auto &packet = m_packets[m_next % m_packets.size()];
-            packet->pts = packet->dts = m_first + static_cast<std::int64_t>(m_next++) * 1024;
-            take.add(*packet);
-        }
-        return static_cast<double>(m_first + static_cast<std::int64_t>(m_next) * 1024) / Rate;
+        while (!take.isFull())
+            addNext(take);
+        return added();
+    }
+    // The seconds that are in it then: these or a little more.
+    double addUntil(FragmentedFile &take, double seconds)
+    {
+        while (added() < seconds)
+            addNext(take);
+        return added();
     }
 
     static std::vector<float> noiseOf(int seconds)

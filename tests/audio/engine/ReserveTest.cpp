@@ -47,6 +47,29 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList());
     }
 
+    void aPartOfItIsGivenBack()
+    {
+        Reserve reserve(take());
+
+        QVERIFY(reserve.giveBack(Reserve::Most / 4));
+        QCOMPARE(reserve.bytes(), Reserve::Most * 3 / 4);
+        struct stat status = {};
+        QCOMPARE(::stat(file().toStdString().c_str(), &status), 0);
+        QVERIFY(status.st_blocks * 512 <= Reserve::Most * 3 / 4);
+
+        QVERIFY(!reserve.giveBack(Reserve::Most));
+        QCOMPARE(reserve.bytes(), Reserve::Most * 3 / 4);
+    }
+
+    void whatSomebodyTookAwayIsNotGivenBack()
+    {
+        Reserve reserve(take());
+        QVERIFY(QFile::remove(file()));
+
+        QVERIFY(!reserve.giveBack(Reserve::Most / 4));
+        QCOMPARE(reserve.bytes(), Reserve::Most);
+    }
+
     void itsEndGivesItBack()
     {
         {
