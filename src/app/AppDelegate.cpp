@@ -82,11 +82,11 @@ AppDelegate::AppDelegate(const AppServices &services)
     connect(&m_bringBack, &BringBackSheet::lecturesCameBack, this,
             [this](const store::LecturesBack &back) {
                 m_mediaLinksArrayController.lecturesCameBack(back);
-                showLecturesAnew();
+                m_mediaLinksArrayController.showStoredLectures();
             });
     connect(&m_leftLectures, &LeftLectureSheet::lectureKept, this, [this] {
-        showLecturesAnew();
-        m_mediaLinksArrayController.journal().storeOwedLater();
+        m_mediaLinksArrayController.showStoredLectures();
+        m_mediaLinksArrayController.journal().storeOwedSoon();
     });
     connect(&m_myStatusItem, &StatusItem::pressed, this, [this] { openAtFront(&m_myStatusItem); });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_activation,
@@ -165,17 +165,12 @@ TerminateReply AppDelegate::applicationShouldTerminate(QObject *)
 {
     if (!isRecordingNow())
         return TerminateReply::Now;
-    // One sheet says it; asking again while it stands adds no other.
-    const QWidget *said = m_window.findChild<QWidget *>(QStringLiteral("alertSheet"));
-    if (said && said->isVisible())
-        return TerminateReply::Cancel;
-    m_services.alerts.beginSheet(
-        {QStringLiteral("Recording is on process!"), QStringLiteral("Ok"),
-         QStringLiteral("Please click Done to save or Cancel to exit.")},
-        m_window, [this](int returnCode) {
-            alerDeletedDidEndReturnCodeContextInfo(
-                m_window.findChild<QWidget *>(QStringLiteral("alertSheet")), returnCode, nullptr);
-        });
+    m_services.alerts.beginSheet({QStringLiteral("Recording is on process!"), QStringLiteral("Ok"),
+                                  QStringLiteral("Please click Done to save or Cancel to exit.")},
+                                 m_window, [this](int returnCode) {
+                                     alerDeletedDidEndReturnCodeContextInfo(nullptr, returnCode,
+                                                                            nullptr);
+                                 });
     return TerminateReply::Cancel;
 }
 
@@ -325,13 +320,6 @@ void AppDelegate::addLecture()
         m_calendarView.postInit();
     }
     m_mediaLinksArrayController.onAddItem(nullptr);
-}
-
-void AppDelegate::showLecturesAnew()
-{
-    m_calendarView.layoutSubviews();
-    if (m_dateOfButtonClicked.isValid())
-        m_mediaLinksArrayController.prepareViewForDate(m_dateOfButtonClicked);
 }
 
 void AppDelegate::run(Command command)

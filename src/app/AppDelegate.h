@@ -186,7 +186,6 @@ private:
     void showStatusItem(bool shown);
     void run(Command command);
     void addLecture();
-    void showLecturesAnew();
 
     AppServices m_services;
     lectures::MediaLinksArrayController &m_mediaLinksArrayController;

@@ -46,6 +46,7 @@ bool DayList::isDayOpen(const QDateTime &date) const
 void DayList::prepareViewForDate(const QDateTime &date)
 {
     m_dateOfButtonClicked = date;
+    m_month.reset();
     m_outlets.btnDeleteItem->hide();
     const bool isOpen = isDayOpen(date);
     m_outlets.btnAddItem->setHidden(!isOpen);
@@ -60,15 +61,29 @@ void DayList::prepareViewForDate(const QDateTime &date)
 
 void DayList::showAllList(const QDateTime &date)
 {
+    m_month = date;
     m_outlets.btnDeleteItem->hide();
-    m_arrangedObjects.clear();
-    // The month alone counts, so this shows it of every year, in the order of the file: wanted so.
-    fill(m_database.lecturesOfMonth(m_dates.formatFixed(date, QStringLiteral("MM"))));
     m_outlets.lblDateDisplay->setText(QStringLiteral("All List"));
     m_outlets.lblDateDisplay->setAccessibleName(QStringLiteral("All List"));
+    fillWithAll();
+    m_outlets.mainWindow->setFrameWidth(ListShownWidth, true);
+}
+
+// The month alone counts, so this shows it of every year, in the order of the file: wanted so.
+void DayList::fillWithAll()
+{
+    m_arrangedObjects.clear();
+    fill(m_database.lecturesOfMonth(m_dates.formatFixed(*m_month, QStringLiteral("MM"))));
     m_reload();
     showWhetherEmpty();
-    m_outlets.mainWindow->setFrameWidth(ListShownWidth, true);
+}
+
+void DayList::showAgain()
+{
+    if (m_month)
+        fillWithAll();
+    else if (m_dateOfButtonClicked.isValid())
+        prepareViewForDate(m_dateOfButtonClicked);
 }
 
 void DayList::append(const Lecture &lecture)

@@ -41,6 +41,8 @@ public:
     void prepareViewForDate(const QDateTime &date);
     // `date` names the month.
     void showAllList(const QDateTime &date);
+    // What shows, read from the store again. Nothing before the first.
+    void showAgain();
     // Stands last until the list is next built from the store, though the store gives the newest
     // first: wanted so.
     void append(const Lecture &lecture);
@@ -52,6 +54,7 @@ public:
 
 private:
     void fill(const std::optional<store::Rows> &rows);
+    void fillWithAll();
     void enableDeleteItem();
     // The panel that says that a day has no lectures lies two levels above its button.
     QWidget &emptyDayPanel() const;
@@ -62,6 +65,8 @@ private:
     std::function<void()> m_reload;
     LectureList m_arrangedObjects;
     QDateTime m_dateOfButtonClicked;
+    // Set while all are shown.
+    std::optional<QDateTime> m_month;
 };
 
 } // namespace tarvelo::lectures

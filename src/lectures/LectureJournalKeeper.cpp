@@ -49,8 +49,7 @@ LectureJournalKeeper::~LectureJournalKeeper()
 void LectureJournalKeeper::start()
 {
     m_places.open();
-    m_isListWithout = m_with.left.owed() > 0;
-    if (m_isListWithout || m_places.hasOccupied())
+    if (m_with.left.owed() > 0 || m_places.hasOccupied())
         m_storeOwed.schedule(AfterStart);
 }
 
@@ -270,41 +269,39 @@ void LectureJournalKeeper::discardDeleted()
         m_with.left.discard(id);
 }
 
-void LectureJournalKeeper::storeOwedLater()
-{
-    m_isListWithout = true;
-    storeOwedSoon();
-}
-
 void LectureJournalKeeper::storeOwedSoon()
 {
     if (m_storeOwed.pendingCount() == 0)
         m_storeOwed.schedule(RetryInterval);
 }
 
-bool LectureJournalKeeper::storeWhatCanBe()
+LectureJournalKeeper::StoredNow LectureJournalKeeper::storeWhatCanBe()
 {
     m_places.clear();
     discardDeleted();
     writeChanges();
-    bool isAnyStored = false;
-    const auto stored = [this, &isAnyStored](const audio::LeftLectures::Stored &owed) {
-        isAnyStored = true;
+    StoredNow now;
+    const auto stored = [this, &now](const audio::LeftLectures::Stored &owed) {
         m_changed.remove(owed.id);
-        if (const Lecture lecture = m_owed.take(owed.id).lecture.lock()) {
+        const Lecture lecture = m_owed.take(owed.id).lecture.lock();
+        if (lecture) {
             lecture->setRow(owed.row);
             lecture->setLectureAudioPath(owed.recording);
         }
+        const LectureList &shown = m_with.dayList.arrangedObjects();
+        now.isAny = true;
+        now.doesListLackOne =
+            now.doesListLackOne || std::ranges::find(shown, lecture) == shown.end();
     };
     m_with.left.storeOwed(stored, m_changed);
     m_places.storeUnwritten(stored);
-    return isAnyStored;
+    return now;
 }
 
 void LectureJournalKeeper::storeOwed()
 {
-    if (storeWhatCanBe())
-        m_with.lecturesStored(std::exchange(m_isListWithout, false));
+    if (const StoredNow now = storeWhatCanBe(); now.isAny)
+        m_with.lecturesStored(now.doesListLackOne);
     if (m_with.left.owed() > 0 || m_places.hasOccupied())
         m_storeOwed.schedule(RetryInterval);
 }

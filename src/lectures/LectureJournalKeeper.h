@@ -50,7 +50,7 @@ public:
         const DayList &dayList;
         audio::LeftLectures &left;
         // Rows that had no room, or that a process which died left to this one, are stored by now;
-        // whether the list may be without them.
+        // whether the list lacks one of them.
         std::function<void(bool)> lecturesStored;
     };
 
@@ -89,8 +89,8 @@ public:
     void lectureClosed();
     void lectureCancelled();
 
-    // Lectures are to be stored that the list does not have; the next try comes soon.
-    void storeOwedLater();
+    // Something may be to be stored; the next try comes soon.
+    void storeOwedSoon();
 
     // What has changed until now is written, and what could not be written yet is tried once more.
     void programEnds();
@@ -109,10 +109,14 @@ private:
     void removeClosedMark();
     QString closedMark() const;
     void storeOwed();
-    void storeOwedSoon();
     void discardDeleted();
     void writeChanges();
-    bool storeWhatCanBe();
+    struct StoredNow
+    {
+        bool isAny = false;
+        bool doesListLackOne = false;
+    };
+    StoredNow storeWhatCanBe();
     // Empty when nothing of it is owed.
     QString journalOf(const store::LectureInfoItem &lecture) const;
 
@@ -135,8 +139,7 @@ private:
     platform::DelayedCall m_write;
     platform::DelayedCall m_writeAgain;
     platform::DelayedCall m_storeOwed;
-    bool m_isListWithout = false; // lectures that are still to be stored
-    QObject m_texts;              // hears of their changes, as long as this object lives
+    QObject m_texts; // hears of their changes, as long as this object lives
 };
 
 } // namespace tarvelo::lectures

@@ -70,7 +70,7 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
                  windows.mainOutlets(), windows.popoverOutlets())
     , m_left(m_locations, services.dates, services.database)
     , m_journal({services.dates, m_locations, m_recordingControl, m_dayList, m_left,
-                 [this](bool inList) { showStoredLectures(inList); }},
+                 [this](bool doesListLackOne) { lecturesStored(doesListLackOne); }},
                 windows.newLectureOutlets())
     , m_newLecture({services.dates, services.database, m_locations, m_recordingControl, m_playback,
                     m_dayList, m_editing, m_journal, services.alerts},
@@ -272,11 +272,20 @@ void MediaLinksArrayController::onClosePlayAudioWindow(QWidget *sender)
         sender->window()->hide();
 }
 
-void MediaLinksArrayController::showStoredLectures(bool inList)
+void MediaLinksArrayController::showStoredLectures()
 {
     m_windows.mainOutlets().calendarView->layoutSubviews();
-    if (inList && dateOfButtonClicked().isValid())
-        prepareViewForDate(dateOfButtonClicked());
+    m_windows.mainOutlets().tblRecordSubjectList->finishRemoval();
+    m_dayList.showAgain();
+}
+
+// A list that has them already is left as it is.
+void MediaLinksArrayController::lecturesStored(bool doesListLackOne)
+{
+    if (doesListLackOne)
+        showStoredLectures();
+    else
+        m_windows.mainOutlets().calendarView->layoutSubviews();
 }
 
 void MediaLinksArrayController::reloadData()

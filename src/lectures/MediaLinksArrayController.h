@@ -137,6 +137,9 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     void prepareViewForDate(const QDateTime &date);
     void showList(QWidget *sender);
+    // Lectures came that nobody made just now: the marks of the days and the list that shows, a
+    // day's or all, are made anew.
+    void showStoredLectures();
     void setSelectedIndexes(const QList<int> &indexes);
     void setSelectedDownloads(const LectureList &lectures);
 
@@ -290,7 +293,7 @@ private:
     void setInsertionPointColors();
     void tagConfirmButtons();
     void reloadData();
-    void showStoredLectures(bool inList);
+    void lecturesStored(bool doesListLackOne);
     void removeArrangedObject(int row);
     void lecturesHaveGone(const store::GoneLectures &gone);
 

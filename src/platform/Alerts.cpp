@@ -26,10 +26,25 @@ void emphasiseMessage(QMessageBox &box)
     message->setFont(font);
 }
 
+QMessageBox *standingSheet(const Alert &alert, const QWidget &window)
+{
+    const auto sheets = window.findChildren<QMessageBox *>(QStringLiteral("alertSheet"),
+                                                           Qt::FindDirectChildrenOnly);
+    const auto found = std::ranges::find_if(sheets, [&alert](const QMessageBox *sheet) {
+        return sheet->isVisible() && sheet->text() == alert.message &&
+               sheet->informativeText() == alert.informativeText;
+    });
+    return found == sheets.end() ? nullptr : *found;
+}
+
 } // namespace
 
 void WindowAlerts::beginSheet(const Alert &alert, QWidget &window, std::function<void(int)> didEnd)
 {
+    if (QMessageBox *standing = standingSheet(alert, window)) {
+        standing->raise();
+        return;
+    }
     auto *box = new QMessageBox(QMessageBox::Warning, QString(), alert.message,
                                 QMessageBox::NoButton, &window);
     box->setObjectName(QStringLiteral("alertSheet"));

@@ -30,7 +30,8 @@ public:
     Alerts &operator=(const Alerts &) = delete;
     virtual ~Alerts() = default;
 
-    // `didEnd` may be empty.
+    // `didEnd` may be empty. What a sheet of `window` says already is not said by another; the end
+    // of that one is heard by who began it.
     virtual void beginSheet(const Alert &alert, QWidget &window,
                             std::function<void(int)> didEnd) = 0;
     // Returns when it was answered; Escape and its close button count as the last button. One that

@@ -204,6 +204,26 @@ private Q_SLOTS:
         QVERIFY(outlets().btnDeleteItem->isHidden());
     }
 
+    void whatShowsIsReadAgain()
+    {
+        m_list->showAgain();
+        QCOMPARE(m_reloads, 0);
+        aLecture().named("march").on("2024-03-05").insertInto(m_program->database);
+        aLecture().named("earlier").on("2024-03-01").insertInto(m_program->database);
+
+        m_list->showAllList(m_program->today());
+        aLecture().named("later").on("2024-03-09").insertInto(m_program->database);
+        outlets().mainWindow->setFrameWidth(452, false);
+        m_list->showAgain();
+        QCOMPARE(subjects(), QStringList({u"March"_s, u"Earlier"_s, u"Later"_s}));
+        QCOMPARE(outlets().mainWindow->frameWidth(), 452);
+
+        m_list->prepareViewForDate(m_program->today());
+        aLecture().named("second").on("2024-03-05").insertInto(m_program->database);
+        m_list->showAgain();
+        QCOMPARE(subjects(), QStringList({u"Second"_s, u"March"_s}));
+    }
+
     void allListBringsTheWindowBackToTheListsWidth()
     {
         outlets().mainWindow->setFrameWidth(1234, false);

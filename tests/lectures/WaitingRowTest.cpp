@@ -48,6 +48,44 @@ private Q_SLOTS:
         QCOMPARE(lecture(0)->strNotes(), u"Huygens"_s);
     }
 
+    // The day was chosen again meanwhile.
+    void aListThatWasMadeAnewGetsItWhenItIsStored()
+    {
+        finishWhileLocked("Optics", true);
+        controller().prepareViewForDate(m_program->today());
+        QVERIFY(m_program->subjectsShown().isEmpty());
+
+        m_program->clock.advance(20s);
+
+        QCOMPARE(m_program->subjectsShown(), QStringList{u"Optics"_s});
+    }
+
+    // Nothing moves under the hand of whoever works with it.
+    void aListThatHasItIsNotMadeAnewWhenItIsStored()
+    {
+        finishWhileLocked("Optics", true);
+        const auto shown = lecture(0);
+        controller().journal().storeOwedSoon();
+
+        m_program->clock.advance(20s);
+
+        QVERIFY(shown->hasRow());
+        QCOMPARE(lecture(0), shown);
+    }
+
+    void theListOfAllStaysOneWhenSomethingIsStored()
+    {
+        aLecture().named("earlier").on("2024-03-01").insertInto(m_program->database);
+        finishWhileLocked("Optics", true);
+        controller().showList(nullptr);
+        QCOMPARE(m_program->subjectsShown(), QStringList{u"Earlier"_s});
+
+        m_program->clock.advance(20s);
+
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"Earlier"_s, u"Optics"_s}));
+        QCOMPARE(m_program->windows.mainOutlets().lblDateDisplay->text(), u"All List"_s);
+    }
+
     void whatIsChangedAfterItWasStoredIsStoredToo()
     {
         finishWhileLocked("Optics", true);

@@ -87,6 +87,30 @@ private Q_SLOTS:
         QVERIFY(m_ends.isEmpty());
     }
 
+    void whatASheetSaysAlreadyIsNotSaidByAnother()
+    {
+        begin();
+        begin();
+        QCOMPARE(m_window->findChildren<QMessageBox *>().size(), 1);
+
+        sheet()->buttons().first()->click();
+        QTRY_VERIFY(!sheet());
+        QCOMPARE(m_ends.size(), 1);
+        begin();
+
+        QVERIFY(sheet());
+    }
+
+    void somethingElseIsSaidBesideIt()
+    {
+        begin();
+
+        WindowAlerts().beginSheet({u"Recording is on process!"_s, u"Ok"_s, QString()}, *m_window,
+                                  {});
+
+        QCOMPARE(m_window->findChildren<QMessageBox *>().size(), 2);
+    }
+
     void aWindowThatGoesTakesItsSheetAlong()
     {
         begin();

@@ -164,7 +164,7 @@ public:
     {
         for (const auto &left : m_controller.leftLectures().undecided())
             m_controller.leftLectures().keep(left);
-        m_controller.journal().storeOwedLater();
+        m_controller.journal().storeOwedSoon();
     }
 
     void discardOffered(const QString &subject)
