@@ -68,7 +68,7 @@ struct AppServices
 enum class TerminateReply { Cancel, Now };
 
 // The application around the calendar and the lectures: it sets up the main window, shows the
-// selected day in its header, keeps its three widths, answers when the program is launched,
+// selected day in its header, folds and unfolds it, answers when the program is launched,
 // activated, opened again and quit, and owns the status item and the preferences. The work on
 // lectures is the controller's.
 //

@@ -74,12 +74,12 @@ QList<LeftLectures::Left> LeftLectures::undecided() const
     for (Left &left : lectures) {
         if (!left.takePath.isEmpty())
             left.seconds = engine::secondsOfLeftTake(left.takePath);
-        // The day on which it ended is the best that is known of a recording alone.
+        // The day on which it ended is the best that is known of a recording alone. It is written
+        // as days are asked for, so that the lecture is found under it whatever the user's
+        // calendar.
         const QDateTime end = QFileInfo(left.takePath).lastModified();
-        if (left.journal.day.isEmpty()) {
-            left.journal.day = m_dates.format(end, DayFormat);
-            left.journal.date = m_dates.formatFixed(end, DayFormat);
-        }
+        if (left.journal.day.isEmpty())
+            left.journal.day = left.journal.date = m_dates.formatFixed(end, DayFormat);
     }
     return lectures;
 }
@@ -116,10 +116,10 @@ bool LeftLectures::decide(Left &left)
     left.journal.isDone = true;
     left.journal.lastRow = lastRow();
     if (left.journal.day.isEmpty())
-        left.journal.day = m_dates.format(m_dates.now(), DayFormat);
+        left.journal.day = m_dates.formatFixed(m_dates.now(), DayFormat);
     // One that nobody else has: no two files have one name, and a name may have been another's.
     left.journal.id = QFileInfo(left.journalPath).completeBaseName();
-    while (m_rows.contains(left.journal.id) || m_gone.contains(left.journal.id))
+    while (m_rowOfJournal.contains(left.journal.id) || m_goneJournals.contains(left.journal.id))
         left.journal.id += u'+';
     return choosePlace(left);
 }
@@ -177,7 +177,7 @@ std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) con
             : store::rowsWithRecording(*database, journal.target);
     if (!rows)
         return std::nullopt;
-    const QList<qint64> known = m_rows.values();
+    const QList<qint64> known = m_rowOfJournal.values();
     const auto own = std::ranges::find_if(*rows, [&](qint64 row) { return !known.contains(row); });
     return own == rows->end() ? 0 : *own;
 }
@@ -191,7 +191,7 @@ std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
     if (!database)
         return std::nullopt;
     // It is in a copy, and comes back from there.
-    if (m_gone.contains(left.journal.id) && left.takePath.isEmpty()) {
+    if (m_goneJournals.contains(left.journal.id) && left.takePath.isEmpty()) {
         platform::SteadyFile(left.journalPath).remove();
         return std::nullopt;
     }
@@ -199,8 +199,8 @@ std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
         return database->executeNonQueryArguments(store::statements::Insert, left.journal.row());
     };
     // A journal that could not be removed is no second lecture.
-    const bool isKnown = m_rows.contains(left.journal.id);
-    auto row = isKnown ? m_rows.value(left.journal.id) : storedRow(left.journal);
+    const bool isKnown = m_rowOfJournal.contains(left.journal.id);
+    auto row = isKnown ? m_rowOfJournal.value(left.journal.id) : storedRow(left.journal);
     // Its recording may have got another place since.
     if (isKnown && !left.journal.target.isEmpty() &&
         !store::moveRecording(*database, *row, left.journal.target, left.journal.duration))
@@ -223,18 +223,18 @@ std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
 void LeftLectures::rowIsStored(const QString &id, qint64 row)
 {
     // An ID may be given again.
-    m_rows.removeIf(
+    m_rowOfJournal.removeIf(
         [row](const std::pair<const QString &, qint64 &> &stored) { return stored.second == row; });
     if (!id.isEmpty())
-        m_rows.insert(id, row);
+        m_rowOfJournal.insert(id, row);
 }
 
 void LeftLectures::lecturesHaveGone(const store::GoneLectures &gone)
 {
-    m_rows.removeIf([&](const std::pair<const QString &, qint64 &> &stored) {
+    m_rowOfJournal.removeIf([&](const std::pair<const QString &, qint64 &> &stored) {
         if (!gone.has(stored.second))
             return false;
-        m_gone.insert(stored.first);
+        m_goneJournals.insert(stored.first);
         return true;
     });
 }
@@ -248,7 +248,7 @@ QString LeftLectures::journalOf(const store::LectureInfoItem &lecture) const
     });
     if (owed != lectures.end())
         return owed->journal.id;
-    return lecture.hasRow() ? m_rows.key(lecture.getRecordUniqueID()) : QString();
+    return lecture.hasRow() ? m_rowOfJournal.key(lecture.getRecordUniqueID()) : QString();
 }
 
 void LeftLectures::storeOwed(const std::function<void(const Stored &)> &stored,

@@ -112,9 +112,9 @@ private:
     const AudioFileLocations &m_locations;
     const platform::Dates &m_dates;
     store::LectureDatabase &m_database;
-    QHash<QString, qint64> m_rows;    // stored by this process, by the journal's ID
-    QSet<QString> m_gone;             // that were stored by this process
-    std::optional<LeftFiles> m_files; // null until a folder is ours
+    QHash<QString, qint64> m_rowOfJournal; // stored by this process, by the journal's ID
+    QSet<QString> m_goneJournals;          // that were stored by this process
+    std::optional<LeftFiles> m_files;      // null until a folder is ours
 };
 
 } // namespace tarvelo::audio

@@ -37,8 +37,9 @@ LectureJournalKeeper::LectureJournalKeeper(const Collaborators &collaborators,
 {
     m_with.recording.setTakeObserver([this](TakeEvent event) { takeChanged(event); });
     const auto changed = [this] { textChanged(); };
-    QObject::connect(m_outlets.txtSubjectForNewNote, &QLineEdit::textChanged, &m_texts, changed);
-    QObject::connect(m_outlets.txtView, &QTextEdit::textChanged, &m_texts, changed);
+    QObject::connect(m_outlets.txtSubjectForNewNote, &QLineEdit::textChanged, &m_textConnections,
+                     changed);
+    QObject::connect(m_outlets.txtView, &QTextEdit::textChanged, &m_textConnections, changed);
 }
 
 LectureJournalKeeper::~LectureJournalKeeper()

@@ -32,7 +32,8 @@ class DayList;
 
 // Writes down, beside the take, what the open new lecture is so far, so that nothing of it is lost
 // when the program does not live to store it: at once when the recording changes its state and at a
-// time tag, else within Interval of a change. It changes nothing of the lecture.
+// time tag, else within Interval of a change. What could not be stored it stores later, and gives
+// the lecture the row and the path that it got.
 class LectureJournalKeeper final
 {
 public:
@@ -139,7 +140,7 @@ private:
     platform::DelayedCall m_write;
     platform::DelayedCall m_writeAgain;
     platform::DelayedCall m_storeOwed;
-    QObject m_texts; // hears of their changes, as long as this object lives
+    QObject m_textConnections; // hears of their changes, as long as this object lives
 };
 
 } // namespace tarvelo::lectures

@@ -66,7 +66,7 @@ bool LectureDatabase::openFile(const QString &file)
     const bool hasJournal = QFileInfo(journalOf(file)).size() > 0;
     const bool wasEmpty = QFileInfo(file).size() == 0;
     const auto aside = hasJournal ? m_damagedFiles.putAside(file) : std::nullopt;
-    m_syncsNames = false;
+    m_areNamesSynced = false;
     if (!m_connection->open(file))
         return false;
     const bool isDamaged = soundnessAtFirstSight(*m_connection) == Soundness::Damaged;
@@ -108,8 +108,8 @@ bool LectureDatabase::mayWrite()
     const QString file = m_connection->filePath();
     if (m_connection->isReadOnly() && !openFile(file))
         return false;
-    m_isExposed = m_isExposed && !m_damagedFiles.putAside(m_connection->filePath());
-    return !m_isExposed;
+    m_isDamagedInUse = m_isDamagedInUse && !m_damagedFiles.putAside(m_connection->filePath());
+    return !m_isDamagedInUse;
 }
 
 // The connection stays the same object, which others know, and is open afterwards if it can be.
@@ -118,8 +118,8 @@ bool LectureDatabase::replaceWithSound()
     const QString file = m_connection->filePath();
     m_connection->close();
     const bool isSound = m_damagedFiles.replaceWithSound(file);
-    m_isExposed = !isSound;
-    m_syncsNames = false;
+    m_isDamagedInUse = !isSound;
+    m_areNamesSynced = false;
     m_connection->open(file);
     syncNames();
     return isSound;
@@ -326,8 +326,8 @@ void LectureDatabase::makeIndexes()
 // Refused as long as another program holds the file, and then it is asked for again.
 void LectureDatabase::syncNames()
 {
-    if (!m_syncsNames)
-        m_syncsNames = m_connection->executeNonQuery(statements::SyncNamesToo);
+    if (!m_areNamesSynced)
+        m_areNamesSynced = m_connection->executeNonQuery(statements::SyncNamesToo);
 }
 
 } // namespace tarvelo::store

@@ -12,7 +12,7 @@
 namespace tarvelo::store {
 
 // The one database file of lectures and the connection that all share, open from its first use to
-// the end of the run. Every change of a lecture passes here. Nothing is ever reported.
+// the end of the run. What the user does to a lecture passes here. Nothing is ever reported.
 class LectureDatabase final
 {
 public:
@@ -107,8 +107,8 @@ private:
     std::unique_ptr<Sqlite> m_connection;
     std::function<void(const GoneLectures &)> m_lecturesGone;
     QList<Untold> m_untold;
-    bool m_syncsNames = false; // of the connection as it was last opened
-    bool m_isExposed = false;  // damaged, and not put aside yet
+    bool m_areNamesSynced = false; // of the connection as it was last opened
+    bool m_isDamagedInUse = false; // damaged, and not put aside yet
 };
 
 } // namespace tarvelo::store

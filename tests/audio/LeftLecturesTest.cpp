@@ -77,6 +77,23 @@ private Q_SLOTS:
         QCOMPARE(m_stage->rows().value(0)["recordingDate"_L1], u"2024-01-31"_s);
     }
 
+    // Lectures are asked for under the day that everyone counts.
+    void aTakeWithoutAJournalIsFoundUnderItsDayInEveryCalendar()
+    {
+        m_stage->leaveTake();
+        const tarvelo::platform::Dates dates(m_stage->clock, {"fa_IR", u"UTC"_s});
+        LeftLectures left(m_stage->locations, dates, m_stage->database);
+        QVERIFY(left.setAside(m_stage->locations.temporaryFolder()));
+        auto lecture = left.undecided().at(0);
+        QCOMPARE(lecture.journal.day,
+                 QFileInfo(lecture.takePath).lastModified().toUTC().toString(u"yyyy-MM-dd"_s));
+        lecture.journal.day.clear();
+
+        QVERIFY(left.keep(lecture) == LeftLectures::Kept::Stored);
+
+        QCOMPARE(m_stage->rows().value(0)["recordingDate"_L1], u"2024-03-05"_s);
+    }
+
     void aJournalWithoutATakeIsOfferedForItsNotes()
     {
         m_stage->leaveJournal();
