@@ -49,7 +49,7 @@ AppDelegate::AppDelegate(const AppServices &services)
     , m_preferences(services.defaults, m_window, services.loginItem)
     , m_bringBack(services.database, services.dates,
                   {[this] { return m_mediaLinksArrayController.getAudioFolderPath(); },
-                   [this] { return m_mediaLinksArrayController.journal().recordingsOwed(); }},
+                   [this] { return m_mediaLinksArrayController.journal().owed().recordings(); }},
                   m_window)
     , m_leftLectures(services.mediaLinksArrayController.leftLectures(), services.dates,
                      services.mediaLinksArrayController.audioEngine(), m_window)
@@ -86,7 +86,7 @@ AppDelegate::AppDelegate(const AppServices &services)
             });
     connect(&m_leftLectures, &LeftLectureSheet::lectureKept, this, [this] {
         m_mediaLinksArrayController.showStoredLectures();
-        m_mediaLinksArrayController.journal().storeOwedSoon();
+        m_mediaLinksArrayController.journal().owed().storeSoon();
     });
     connect(&m_myStatusItem, &StatusItem::pressed, this, [this] { openAtFront(&m_myStatusItem); });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_activation,

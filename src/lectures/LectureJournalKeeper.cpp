@@ -14,14 +14,7 @@
 #include <optional>
 #include <utility>
 
-using namespace std::chrono_literals;
-
 namespace tarvelo::lectures {
-
-namespace {
-// The list of the day shows by then.
-constexpr auto AfterStart = 900ms;
-} // namespace
 
 using audio::TakeEvent;
 using State = store::LectureJournal::State;
@@ -31,9 +24,10 @@ LectureJournalKeeper::LectureJournalKeeper(const Collaborators &collaborators,
     : m_with(collaborators)
     , m_outlets(outlets)
     , m_places(collaborators.locations, collaborators.left)
+    , m_owed({collaborators.dates.clock(), collaborators.dayList, collaborators.left, m_places,
+              collaborators.lecturesStored})
     , m_write(collaborators.dates.clock(), [this] { writeNow(); })
     , m_writeAgain(collaborators.dates.clock(), [this] { writeAgainIfItFailed(); })
-    , m_storeOwed(collaborators.dates.clock(), [this] { storeOwed(); })
 {
     m_with.recording.setTakeObserver([this](TakeEvent event) { takeChanged(event); });
     const auto changed = [this] { textChanged(); };
@@ -50,15 +44,14 @@ LectureJournalKeeper::~LectureJournalKeeper()
 void LectureJournalKeeper::start()
 {
     m_places.open();
-    if (m_with.left.owed() > 0 || m_places.hasOccupied())
-        m_storeOwed.schedule(AfterStart);
+    m_owed.start();
 }
 
 void LectureJournalKeeper::lectureOpened()
 {
     m_places.makeWay();
     if (m_places.hasOccupied())
-        storeOwedSoon();
+        m_owed.storeSoon();
     m_isOpen = true;
     m_journal = {};
     m_journal.id = store::LectureJournal::idOf(m_with.dates.now());
@@ -75,7 +68,7 @@ void LectureJournalKeeper::removeClosedMark()
 
 QString LectureJournalKeeper::closedMark() const
 {
-    return m_places.path() + u'/' + closedMarkName();
+    return m_places.path() + u'/' + audio::LeftFiles::closedMarkName();
 }
 
 void LectureJournalKeeper::takeChanged(TakeEvent event)
@@ -154,7 +147,7 @@ store::LectureJournal LectureJournalKeeper::journal() const
 void LectureJournalKeeper::programEnds()
 {
     writeNow();
-    storeWhatCanBe();
+    m_owed.storeAtTheEnd();
 }
 
 void LectureJournalKeeper::lectureDone()
@@ -194,117 +187,7 @@ void LectureJournalKeeper::lectureStored(bool isStored, const Lecture &lecture)
     }
     m_isOpen = false;
     m_write.cancel();
-    m_owed.insert(m_journal.id, {lecture, lecture->getRecordUniqueID(), target});
-    m_places.addOwed(journal());
-    storeOwedSoon();
-}
-
-// The list may have another object for a lecture that has a row.
-QString LectureJournalKeeper::journalOf(const store::LectureInfoItem &lecture) const
-{
-    for (auto owed = m_owed.begin(); owed != m_owed.end(); ++owed)
-        if (owed->lecture.lock().get() == &lecture ||
-            (lecture.hasRow() && owed->row == lecture.getRecordUniqueID() &&
-             owed->path == lecture.getLectureAudioPath()))
-            return owed.key();
-    return {};
-}
-
-bool LectureJournalKeeper::owes(const store::LectureInfoItem &lecture) const
-{
-    return !journalOf(lecture).isEmpty();
-}
-
-QStringList LectureJournalKeeper::recordingsOwed() const
-{
-    QStringList paths;
-    for (const Owed &owed : m_owed)
-        paths.append(owed.path);
-    return paths;
-}
-
-void LectureJournalKeeper::lectureChanged(const store::LectureInfoItem &lecture,
-                                          const QString &subject, const QString &notes)
-{
-    const QString id = journalOf(lecture);
-    if (id.isEmpty())
-        return;
-    m_changed.insert(id, {subject, notes});
-    writeChanges();
-}
-
-void LectureJournalKeeper::writeChanges()
-{
-    if (m_changed.isEmpty())
-        return;
-    m_places.clear();
-    using Changed = std::pair<const QString &, audio::LeftLectures::Texts &>;
-    m_changed.removeIf([this](const Changed &changed) {
-        const auto &[subject, notes] = changed.second;
-        const auto isWritten = m_places.changeOwed(changed.first, subject, notes)
-                                   ? std::optional(true)
-                                   : m_with.left.change(changed.first, subject, notes);
-        // Where none is found it may still stand in a place from where it could not be moved.
-        return isWritten.value_or(!m_places.hasOccupied());
-    });
-}
-
-void LectureJournalKeeper::lectureDeleted(const store::LectureInfoItem &lecture)
-{
-    // Also of one that is stored, whose journal could not be removed then.
-    const QString owed = journalOf(lecture);
-    const QString id = owed.isEmpty() ? m_with.left.journalOf(lecture) : owed;
-    if (id.isEmpty())
-        return;
-    m_owed.remove(id);
-    m_changed.remove(id);
-    m_places.discardOwed(id);
-    m_places.clear();
-    m_deleted.append(id);
-    discardDeleted();
-}
-
-void LectureJournalKeeper::discardDeleted()
-{
-    for (const QString &id : std::as_const(m_deleted))
-        m_with.left.discard(id);
-}
-
-void LectureJournalKeeper::storeOwedSoon()
-{
-    if (m_storeOwed.pendingCount() == 0)
-        m_storeOwed.schedule(RetryInterval);
-}
-
-LectureJournalKeeper::StoredNow LectureJournalKeeper::storeWhatCanBe()
-{
-    m_places.clear();
-    discardDeleted();
-    writeChanges();
-    StoredNow now;
-    const auto stored = [this, &now](const audio::LeftLectures::Stored &owed) {
-        m_changed.remove(owed.id);
-        const Lecture lecture = m_owed.take(owed.id).lecture.lock();
-        if (lecture) {
-            lecture->setRow(owed.row);
-            lecture->setLectureAudioPath(owed.recording);
-        }
-        const LectureList &shown = m_with.dayList.arrangedObjects();
-        now.isAny = true;
-        now.doesListLackOne =
-            now.doesListLackOne || std::ranges::find(shown, lecture) == shown.end();
-    };
-    m_with.left.storeOwed(stored, m_changed);
-    m_places.storeUnwritten(stored);
-    return now;
-}
-
-void LectureJournalKeeper::storeOwed()
-{
-    if (const StoredNow now = storeWhatCanBe(); now.isAny)
-        m_with.lecturesStored(now.doesListLackOne);
-    if (m_with.left.owed() > 0 || m_places.hasOccupied())
-        m_storeOwed.schedule(RetryInterval);
+    m_owed.add(journal(), lecture);
 }
 
 void LectureJournalKeeper::lectureClosed()

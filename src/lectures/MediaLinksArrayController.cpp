@@ -56,13 +56,13 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
           {services.dates.clock(), m_playback, m_dayList, m_viewChanges, services.alerts},
           {services.dates.clock(), services.database,
            [this](const store::LectureInfoItem &lecture, const QString &subject,
-                  const QString &notes) { m_journal.lectureChanged(lecture, subject, notes); },
-           [this](const store::LectureInfoItem &lecture) { return m_journal.owes(lecture); }},
+                  const QString &notes) { m_journal.owed().change(lecture, subject, notes); },
+           [this](const store::LectureInfoItem &lecture) { return m_journal.owed().has(lecture); }},
           {windows.mainOutlets(), windows.editLectureOutlets(), windows.lectureViewOutlets(),
            windows.editPlayerOutlets(), windows.popoverOutlets()})
     , m_deletion({services.database, m_dayList,
                   [this](const store::LectureInfoItem &lecture) {
-                      m_journal.lectureDeleted(lecture);
+                      m_journal.owed().remove(lecture);
                       m_editing.lectureWasDeleted(lecture);
                   },
                   [this](int row) { removeArrangedObject(row); }, [this] { reloadData(); },

@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         finishWhileLocked("Optics", true);
         const auto shown = lecture(0);
-        controller().journal().storeOwedSoon();
+        controller().journal().owed().storeSoon();
 
         m_program->clock.advance(20s);
 
@@ -228,11 +228,11 @@ private Q_SLOTS:
 
     void whatIsOwedIsKnown()
     {
-        QVERIFY(controller().journal().recordingsOwed().isEmpty());
+        QVERIFY(controller().journal().owed().recordings().isEmpty());
 
         finishWhileLocked("Optics", true);
 
-        QCOMPARE(controller().journal().recordingsOwed(),
+        QCOMPARE(controller().journal().owed().recordings(),
                  QStringList{lecture(0)->strLectureAudioPath()});
     }
 

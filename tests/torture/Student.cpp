@@ -164,7 +164,7 @@ public:
     {
         for (const auto &left : m_controller.leftLectures().undecided())
             m_controller.leftLectures().keep(left);
-        m_controller.journal().storeOwedSoon();
+        m_controller.journal().owed().storeSoon();
     }
 
     void discardOffered(const QString &subject)
