@@ -3,6 +3,7 @@
 #include "calendar/CKCalendarView.h"
 #include "lectures/DayList.h"
 #include "lectures/LectureTable.h"
+#include "lectures/RowLookup.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "widgets/ImageButton.h"
@@ -75,7 +76,7 @@ void LectureDeletion::onDelete(int row)
 
 void LectureDeletion::onDeleteItem(QWidget *sender)
 {
-    const int row = sender ? m_main.tblRecordSubjectList->rowForView(sender->parentWidget()) : -1;
+    const int row = rowOfSender(*m_main.tblRecordSubjectList, sender);
     const Lecture lecture = lectureAt(row);
     if (!lecture || !deleteLecture(lecture, row))
         return;

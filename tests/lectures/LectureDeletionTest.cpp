@@ -2,6 +2,7 @@
 
 #include "calendar/CalendarDouble.h"
 #include "lectures/CustomTableCellView.h"
+#include "lectures/DayList.h"
 #include "lectures/LectureRowHost.h"
 #include "lectures/RowSwipe.h"
 #include "store/Statement.h"
@@ -43,6 +44,25 @@ public:
 
 private:
     MediaLinksArrayController &m_controller;
+};
+
+// On the windows and the store of a program, and can go before them.
+struct DeletionAlone
+{
+    explicit DeletionAlone(LectureProgram &program)
+        : list(program.dates, program.database, program.windows.mainOutlets(), [] {})
+        , deletion(std::make_unique<LectureDeletion>(
+              LectureDeletion::Collaborators{program.database, list, [](const auto &) {},
+                                             [this](int row) { list.removeObject(row); }, [] {},
+                                             [] {}, pendingRow},
+              program.windows.mainOutlets(), program.windows.popoverOutlets()))
+    {
+        list.prepareViewForDate(program.today());
+    }
+
+    int pendingRow = -1;
+    DayList list;
+    std::unique_ptr<LectureDeletion> deletion;
 };
 
 // Tells of each row that changes in the file, as it does.
@@ -335,6 +355,16 @@ private Q_SLOTS:
         QCOMPARE(storedSubjects().size(), 3);
     }
 
+    void deletingAtOnceFromDeeperInsideARowDeletesNothing()
+    {
+        showThree();
+        QWidget deeper(viewOf(1)->btnDelete());
+
+        controller().onDeleteItem(&deeper);
+
+        QCOMPARE(storedSubjects().size(), 3);
+    }
+
     void theRowsDeleteButtonAsksUnderItself()
     {
         showThree();
@@ -579,27 +609,50 @@ private Q_SLOTS:
         QCOMPARE(viewOf(1)->x(), 0);
     }
 
-    void anActionThatOutlivesTheProgramDoesNothing()
+    void anActionThatOutlivesTheDeletionDoesNothing()
     {
         showThree();
-        const RowAction action = trailingAction();
-        m_host.reset();
-        m_program.reset();
+        DeletionAlone alone(*m_program);
+        const RowAction action =
+            alone.deletion->tableViewRowActionsForRowEdge(&table(), 0, RowActionEdge::Trailing)
+                .first();
+        alone.deletion.reset();
 
         action.handler(0);
 
-        QVERIFY(action.handler);
+        QCOMPARE(table().selectedRow(), -1);
+        QCOMPARE(alone.pendingRow, -1);
+        QCOMPARE(storedSubjects().size(), 3);
     }
 
-    void aProgramThatEndsWhileARowSlidesOutEndsInPeace()
+    void anActionThatOutlivesItsTableDoesNothing()
     {
         showThree();
-        controller().onDelete(0);
-        m_host.reset();
+        auto other = std::make_unique<LectureTable>();
+        const RowAction action =
+            controller()
+                .tableViewRowActionsForRowEdge(other.get(), 0, RowActionEdge::Trailing)
+                .first();
+        other.reset();
 
-        m_program.reset();
+        action.handler(0);
 
-        QVERIFY(!m_program);
+        QCOMPARE(m_program->pendingRow, -1);
+        QCOMPARE(storedSubjects().size(), 3);
+    }
+
+    void aDeletionThatIsGoneWhileARowSlidesOutShowsNothingMore()
+    {
+        showThree();
+        DeletionAlone alone(*m_program);
+        main().btnDeleteItem->show();
+        alone.deletion->onDelete(0);
+        alone.deletion.reset();
+
+        table().finishRemoval();
+
+        QCOMPARE(storedSubjects().size(), 2);
+        QVERIFY(!main().btnDeleteItem->isHidden());
     }
 
     void aRowThatSlidesOutCannotBeDeletedAgain()
