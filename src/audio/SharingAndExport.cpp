@@ -66,11 +66,15 @@ QString SharingAndExport::exportedPath(const QString &source) const
     return target.replace(QStringLiteral("Audio -"), QStringLiteral("Tarvelo -"));
 }
 
+QString SharingAndExport::exportedFrom(const store::LectureInfoItem &lecture)
+{
+    return QString(lecture.getLectureAudioPath())
+        .replace(QStringLiteral("//"), QStringLiteral("/"));
+}
+
 void SharingAndExport::onExportToiTunes(const store::LectureInfoItem &lecture)
 {
-    // Stored paths have two slashes before the file's name.
-    const QString source =
-        QString(lecture.getLectureAudioPath()).replace(QStringLiteral("//"), QStringLiteral("/"));
+    const QString source = exportedFrom(lecture);
     if (source.isEmpty())
         return;
     platform::createFolderIfMissing(m_musicExportFolder);

@@ -28,6 +28,9 @@ public:
     const QString &musicExportFolder() const { return m_musicExportFolder; }
     // Whether the music library takes the lecture's file: one with the extension "m4a" alone.
     static bool isSupportedIniTunes(const store::LectureInfoItem &lecture);
+    // The lecture's file as it is copied: stored paths have two slashes before the file's name.
+    // Empty without one.
+    static QString exportedFrom(const store::LectureInfoItem &lecture);
 
     void doSendMail(const store::LectureInfoItem &lecture);
     // Copies the file into the music library and opens the copy in the user's player; one from an
