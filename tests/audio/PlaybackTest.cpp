@@ -32,6 +32,8 @@ private Q_SLOTS:
 
     void playingEnablesThePauseButtonAlone()
     {
+        window().btnPauseLecture.setEnabled(false);
+
         play();
 
         QVERIFY(!window().btnPlayLecture.isEnabled());
@@ -59,6 +61,8 @@ private Q_SLOTS:
 
     void aFileThatIsNotThereOpensTheWindowAllTheSame()
     {
+        window().btnPauseLecture.setEnabled(false);
+
         playback().playLecture(m_stage->places.folder() + u"/missing.m4a"_s, u"Optics"_s);
 
         QVERIFY(!playback().hasPlayer());
@@ -72,11 +76,13 @@ private Q_SLOTS:
     void aFileThatIsNoSoundOpensTheWindowAllTheSame()
     {
         m_engine->makesPlayers = false;
+        window().btnPauseLecture.setEnabled(false);
 
         play();
 
         QVERIFY(!playback().isPlayerPlaying());
         QVERIFY(window().playAudioWindow.isVisible());
+        QVERIFY(!window().btnPlayLecture.isEnabled());
         QVERIFY(window().btnPauseLecture.isEnabled());
     }
 

@@ -395,6 +395,7 @@ private Q_SLOTS:
     {
         m_stage->start();
         pauseFor(3s);
+        m_engine->recordedSeconds = 12.5;
         control().startStopRecording(nullptr);
         m_engine->takeAsked();
 

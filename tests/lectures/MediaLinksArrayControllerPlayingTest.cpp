@@ -89,6 +89,7 @@ private Q_SLOTS:
     {
         showTwoLectures();
         QVERIFY(QFile::remove(controller().arrangedObjects().at(0)->getLectureAudioPath()));
+        player().btnPauseLecture->setEnabled(false);
 
         row(0).btnPlay()->click();
 

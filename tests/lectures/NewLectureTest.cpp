@@ -56,6 +56,8 @@ private Q_SLOTS:
     {
         QLineEdit &played = *m_program->windows.playAudioOutlets().txtSubjectName;
         played.setText(u"left over"_s);
+        played.setReadOnly(false);
+        played.show();
 
         controller().onAddItem(nullptr);
 
@@ -165,7 +167,6 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(controller().tempAudioSavePath()));
         QCOMPARE(rows[0]["recordDuration"_L1], u"01:02:05"_s);
         QCOMPARE(controller().recordingControl().floatRecordingDuration(), 0.0);
-        QCOMPARE(controller().recordingControl().durationPause(), 0);
     }
 
     void theSubjectIsTrimmedAndNeverEmpty_data()
@@ -297,6 +298,10 @@ private Q_SLOTS:
     {
         controller().onAddItem(nullptr);
         recording().btnStartRecord->click();
+        recording().btnPauseResumeRecording->click();
+        m_program->clock.advance(3s);
+        recording().btnPauseResumeRecording->click();
+        QCOMPARE(controller().recordingControl().durationPause(), 3);
         m_program->engine.recordedSeconds = 12;
         m_program->engine.takeAsked();
         recording().audioLevelMeter->setFloatValue(0.5F);
@@ -308,6 +313,7 @@ private Q_SLOTS:
         QCOMPARE(recording().audioLevelMeter->floatValue(), 0.0F);
         m_program->clock.advance(200ms);
         QCOMPARE(m_program->storedRows().value(0)["recordDuration"_L1], u"00:00:12"_s);
+        QCOMPARE(controller().recordingControl().durationPause(), 0);
     }
 
     void doneForgetsThatATakeWaitsOnlyAtTheNextCancel()

@@ -26,6 +26,10 @@ private Q_SLOTS:
 
     void expandingShowsAllThreePanes()
     {
+        m_changes->viewEditView();
+        QTRY_COMPARE(main().editPlayView->x(), 0);
+        moveCalendarAway();
+
         m_changes->onExpandView();
 
         QTRY_COMPARE(window().width(), 1234);
@@ -70,6 +74,7 @@ private Q_SLOTS:
         m_changes->viewEditView();
         QTRY_COMPARE(main().editPlayView->x(), 0);
         tarvelo::platform::setFrame(*main().editPlayView, {0, -20, 450, 489});
+        moveCalendarAway();
 
         m_changes->goToCalendarView();
 
@@ -122,6 +127,7 @@ private Q_SLOTS:
     {
         m_changes->viewEditView();
         QTRY_COMPARE(main().editPlayView->x(), 0);
+        moveCalendarAway();
 
         m_changes->endSingleEditView();
 
@@ -223,6 +229,11 @@ private:
         return m_program->windows.mainOutlets();
     }
     tarvelo::widgets::SlidingWindow &window() const { return m_program->windows.mainWindow(); }
+    // From where it always is.
+    void moveCalendarAway() const
+    {
+        tarvelo::platform::setFrame(*main().calendarView, {40, 30, 450, 489});
+    }
     void expectSlideButtons(bool isSlidIn) const
     {
         const auto &view = m_program->windows.lectureViewOutlets();
