@@ -2,8 +2,11 @@
 #include "app/TaskbarEntry.h"
 #include "app/WindowHints.h"
 #include "calendar/DateButton.h"
+#include "lectures/CustomTableCellView.h"
+#include "lectures/LectureTable.h"
 #include "platform/Texts.h"
 #include "platform/WindowLevel.h"
+#include "support/LectureBuilder.h"
 #include "support/TestCase.h"
 
 #include <QButtonGroup>
@@ -421,7 +424,30 @@ private Q_SLOTS:
         program.startRecording();
 
         QVERIFY(program.delegate.isRecordingNow());
+    }
+
+    void theControllerAnswersWhetherAConfirmationShows()
+    {
+        Application program;
         QVERIFY(!program.delegate.isConfirmDeleteShowing());
+
+        program.windows.popoverOutlets().btnConfirmYes->window()->show();
+
+        QVERIFY(program.delegate.isConfirmDeleteShowing());
+    }
+
+    void theControllerAnswersWhatTheMusicLibraryTakes()
+    {
+        Application program;
+        program.launch();
+        tests::aLecture()
+            .withAudio(QStringLiteral("/music//Audio - 1.m4a"))
+            .insertInto(program.database);
+        program.controller.prepareViewForDate(program.clock.now());
+        auto &table = *program.windows.mainOutlets().tblRecordSubjectList;
+
+        QVERIFY(
+            program.delegate.isSupportedIniTunes(table.viewAtColumnRowMakeIfNecessary(0, 0, true)));
         QVERIFY(!program.delegate.isSupportedIniTunes(nullptr));
     }
 

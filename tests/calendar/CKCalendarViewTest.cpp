@@ -449,6 +449,19 @@ private Q_SLOTS:
         QVERIFY(m_delegate.selected.isEmpty());
     }
 
+    // What counts as today's month begins on 20 February there, and so the layout shows a button
+    // back even today.
+    void theButtonThatLedBackIsHiddenWhateverTheLayoutShows()
+    {
+        makeCalendar("fa_IR");
+        auto *back = button("backToCurrentMonthButton");
+        QVERIFY(!back->isHidden());
+
+        back->performClick(back);
+
+        QVERIFY(back->isHidden());
+    }
+
     void theButtonsKnowTheirActionsAndImages()
     {
         const auto check = [this](const char *name, const char *action, const char *image) {

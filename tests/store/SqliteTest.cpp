@@ -293,6 +293,10 @@ private Q_SLOTS:
         QCOMPARE(rows->constFirst().value(u"a"_s), QVariant(1));
         QCOMPARE(rows->constFirst().value(u"literal"_s), QVariant(u"?"_s));
         QCOMPARE(rows->constFirst().value(u"b"_s), QVariant(2));
+
+        const auto second = m_memory->executeQuery(u"select '?' as literal, ?2 as b"_s, 1, 2);
+        QVERIFY(second);
+        QCOMPARE(second->constFirst().value(u"b"_s), QVariant(2));
     }
 
     void numberedAndNamedParametersTakeNoArgumentOfTheirOwn()
@@ -329,6 +333,7 @@ private Q_SLOTS:
         QVERIFY(first.beginDeferredTransaction());
 
         QVERIFY(second.executeQuery(u"select * from sqlite_master"_s));
+        QVERIFY(second.beginTransaction());
     }
 
     void theLastInsertedRowHasItsWholeNumber()

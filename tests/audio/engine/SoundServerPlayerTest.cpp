@@ -44,6 +44,7 @@ private Q_SLOTS:
         begin();
         const auto sound = tune(44100, 4);
         const auto player = playerOf(sound);
+        QCOMPARE(player->url(), QUrl()); // it has the bytes, not their file
 
         QVERIFY(player->prepareToPlay());
         QVERIFY(player->play());
