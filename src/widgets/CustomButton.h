@@ -15,8 +15,8 @@ class Image;
 namespace tarvelo::widgets {
 
 // A button that notices the mouse over it and knows two image names for it. It keeps the names but
-// never swaps the images: that its look stays the same under the mouse is wanted, so leave it; the
-// day cell of the calendar is the button that swaps.
+// never swaps the images, which is wanted, so leave it; the day cell of the calendar is the button
+// that swaps.
 class CustomButton : public ImageButton
 {
     Q_OBJECT
