@@ -1,6 +1,7 @@
 """docs/behaviours.md and the tests tell of each other: what a row names is there, and only once."""
 
 import collections
+import os
 import re
 import unittest
 
@@ -11,7 +12,7 @@ HEADER = "| operation | wanted | test |"
 CLASS = re.compile(r"\bclass\s+(\w+)\b[^;{}():]*:\s*public\s+(?:\w+::)*(\w+)[^;{]*\{")
 FUNCTION = re.compile(r"\bvoid\s+(\w+)\s*\(\s*\)")
 SLOTS = re.compile(r"\bprivate\s+(?:Q_SLOTS|slots)\s*:(.*?)(?=\b(?:private|protected|public)\b[^;(){}]*:|\Z)", re.DOTALL)
-NAMED = re.compile(r"`(\w+::\w+)`")
+NAMED = re.compile(r"`(\w+::\w+|\w+Test\.test_\w+)`")
 
 
 def body(code, start):
@@ -44,6 +45,12 @@ def tests(tree):
             for name, base, text, path in classes if base in bases]
 
 
+def python_tests(tree):
+    """The names of those that drive the built program from outside."""
+    return {f"{os.path.basename(path).removesuffix('.py')}.{function}" for path in tree.files("tests", ".py")
+            for function in re.findall(r"^    def (test_\w+)\(", tree.text(path), re.MULTILINE)}
+
+
 def rows(tree):
     lines = tree.text(DOCUMENT).splitlines()
     return [[cell.strip() for cell in re.split(r"(?<!\\)\|", line.strip().strip("|"))] for line in lines
@@ -56,7 +63,7 @@ def rows_are_whole(tree):
 
 
 def named_tests_exist(tree):
-    there = {f"{name}::{function}" for name, functions, _ in tests(tree) for function in functions}
+    there = {f"{name}::{function}" for name, functions, _ in tests(tree) for function in functions} | python_tests(tree)
     return [f"{DOCUMENT} names {test}, which is no test"
             for row in rows(tree) for test in NAMED.findall(row[-1]) if test not in there]
 
@@ -96,6 +103,12 @@ class BehavioursTest(RuleTest):
         files = {DOCUMENT: document("| `a` | b | `ATest::isHere`, `ATest::isGone` |"),
                  "tests/ATest.cpp": TEST.format("    void isHere() { if (true) { } }\n    // void isGone();")}
         self.assertComplains(named_tests_exist, files, "ATest::isGone")
+
+    def test_a_test_in_python_is_named_with_a_dot(self):
+        files = {DOCUMENT: document("| `a` | b | `ATest.test_c` |"), "tests/ATest.py": "class ATest:\n    def test_c(self):\n"}
+        self.assertAccepts(rows_are_whole, files)
+        self.assertAccepts(named_tests_exist, files)
+        self.assertComplains(named_tests_exist, files | {"tests/ATest.py": "    def test_d(self):\n"}, "ATest.test_c")
 
     def test_a_test_class_may_derive_from_a_fixture(self):
         files = {DOCUMENT: document("| `a` | b | `ATest::c` |"),
