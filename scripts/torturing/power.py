@@ -28,13 +28,14 @@ from .works import FAILING_INSERT, FAILING_NO_MORE
 EVENT = "power cut"
 PROMISE = "the last 3 s of sound; no notes older than 5 s; nothing once a window of a lecture that was Done is gone"
 MOST_LOST = 3.0
+MOST_AFTER_DONE = 0.05  # once the window was gone, or what was left was kept: the encoder's last two frames
 # Of the states of the disk.
 STARTED = 1.0
 STARTED_IN_SHORT = 0.25
 # In a process of its own, before which the layer stands too.
 EXECUTE = "import sqlite3, sys; database = sqlite3.connect(sys.argv[1]); database.execute(sys.argv[2]); database.close()"
 
-Lecture = collections.namedtuple("Lecture", "subject sound begin end saved deleted subjects typed")
+Lecture = collections.namedtuple("Lecture", "subject sound begin end gone saved deleted subjects typed")
 
 
 def run(tools, short):
@@ -57,7 +58,7 @@ def run(tools, short):
         tools.keep("broken.txt", "\n".join(cuts.broken) + "\n")
         tools.keep("log", story.log)
     return Result(not cuts.broken, f"{len(moments)} cuts, {cuts.states} states of the disk: at most {cuts.most:.2f} s lost and no notes older than {cuts.oldest:.1f} s, "
-                  f"every file readable; "
+                  f"{max(0, cuts.most_after_done):.2f} s of what was Done, every file readable; "
                   f"{starts.count} starts on them, {starts.offered} lectures offered and kept")
 
 
@@ -93,7 +94,7 @@ class Story:
             notes = sitting.hands.text(names.NEW_LECTURE_WINDOW, names.NOTES)
             gone = sitting.save(subject)
             typed.saw(gone, subject, notes, 0)  # nobody looks after it any more
-            self._add(subject, time.monotonic(), self._played.now(), time.monotonic(), typed)
+            self._add(subject, time.monotonic(), self._played.now(), gone, time.monotonic(), typed)
         self._rename(self.lectures[1], "Geometry")
         self._reset()
         deleting = time.monotonic()
@@ -107,8 +108,8 @@ class Story:
         typed.is_killed(killed)
         sitting.start(**self._layer)
         sitting.keep_left("Kepler")
-        self._add("Kepler", killed, heard, time.monotonic(), typed)
         self.last = time.monotonic()
+        self._add("Kepler", killed, heard, self.last, self.last, typed)
 
     def _begin(self, subject):
         self._sitting.begin(subject)
@@ -145,11 +146,12 @@ class Story:
         self._sitting.bring_back(lambda: len(student.lectures_of(self.home)) == count + 1)
         self.reset = (begin, time.monotonic() + MOST_LOST)
 
-    def _add(self, subject, ended, heard, saved, typed):
-        """It was recorded until the moment `ended`, of which the witness had heard so many seconds by then."""
+    def _add(self, subject, ended, heard, gone, saved, typed):
+        """It was recorded until the moment `ended`, of which the witness had heard so many seconds by then. Nobody looked after it
+        any more from the moment `gone` on."""
         samples = sound.samples(student.rows_of(self.home)[subject])
         begin, end = (ended - heard + moment for moment in self._played.span(samples, heard))
-        self.lectures.append(Lecture(subject, samples, begin, end, saved, None, {subject}, typed))
+        self.lectures.append(Lecture(subject, samples, begin, end, gone, saved, None, {subject}, typed))
 
 
 class Cuts:
@@ -169,6 +171,7 @@ class Cuts:
         self.starts = starts
         self.states = 0
         self.most = 0.0
+        self.most_after_done = 0.0
         self.oldest = 0.0
         self.broken = []
 
@@ -228,13 +231,16 @@ class Cuts:
         return [lecture for lecture in self._story.lectures if not lecture.deleted or moment < lecture.deleted]
 
     def _expect_sound(self, lecture, moment, sounds):
-        recorded = min(moment, lecture.end) - lecture.begin
         found = max((seconds_of(samples, lecture.sound) for samples in sounds), default=0)
-        lost = recorded - found
-        if recorded > 0:
-            self.most = max(self.most, lost)
-        if lost > MOST_LOST:
-            raise Failed(f"{lost:.2f} s of {lecture.subject!r} are lost, of {recorded:.2f} s")
+        if moment > lecture.gone:
+            recorded, most = len(lecture.sound) / sound.RATE, MOST_AFTER_DONE
+            self.most_after_done = max(self.most_after_done, recorded - found)
+        else:
+            recorded, most = min(moment, lecture.end) - lecture.begin, MOST_LOST
+            self.most = max(self.most, min(recorded, recorded - found))
+        if recorded - found > most:
+            when = f", {moment - lecture.gone:.2f} s after its window was gone" if moment > lecture.gone else ""
+            raise Failed(f"{recorded - found:.2f} s of {lecture.subject!r} are lost, of {recorded:.2f} s{when}")
 
     def _sound_of(self, path):
         content = student.content(path)
