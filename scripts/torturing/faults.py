@@ -16,7 +16,7 @@ from outside.waiting import Failed, wait_for
 
 from . import judged, student
 from .result import Result
-from .works import FAILING_NO_MORE, WORKS
+from .works import COMING_BACK, FAILING_NO_MORE, WORKS
 
 EVENT = "every write, sync, rename, open, allocation failing once (ENOSPC, EIO, EINTR, short write, ENOMEM), one step further each time"
 PROMISE = "nothing that was there before"
@@ -36,8 +36,6 @@ AT_A_TIME = 2
 IN_SHORT = 1  # of each work and kind
 # What the layer says when one of those does not look whether it got its memory.
 ENDED_BY_LIBRARY = "ended by a library"
-# Once more, without a fault: what waits is stored or offered then, and what is offered is kept.
-COMING_BACK = ("later", "keep", "later", "back", "later", "offered")
 
 
 def run(tools, short):

@@ -8,8 +8,7 @@ from outside.waiting import Failed
 
 from . import student
 
-UNSAFE = 0.3  # seconds at the end of a take that may not have come to the disk
-UNSAFE_LEFT = 0.05  # of one that was on the disk before: the encoder's last two frames
+UNSAFE = 0.05  # seconds that may be missing at the end of a take that was stopped, or was on the disk before: the encoder's last two frames
 NO_AUDIO = "No Audio"
 NO_SUBJECT = "Untitled"  # is called what is not wanted any more, when the disk keeps its recording alone
 _lengths = {}
@@ -25,17 +24,20 @@ class Judgement:
         self._sounds = {path: student.content(path) for path in student.sounds_of(home) if self._is_saved(path)}
         self._left = max((seconds_of(path) for path in student.sounds_of(home) if not self._is_saved(path)), default=0.0)
 
-    def expect_nothing_lost(self, recorded):
-        """As the program leaves the folder: what is not in the table is in a copy, and what is not saved waits to be."""
-        here = student.lectures_of(self._home)
-        self._expect_lectures(here + student.copied_lectures_of(self._home))
+    def expect_sound_kept(self, recorded):
+        """What was there is in the table or in a copy, and what was recorded somewhere. On a full disk there may be no more."""
+        self._expect_lectures(student.lectures_of(self._home) + student.copied_lectures_of(self._home))
         self._expect_sounds()
         if not self._work.new:
             return
         longest = max((seconds_of(path) for path in student.sounds_of(self._home) if path not in self._sounds), default=0.0)
         if longest < self._least(recorded):
             raise Failed(f"of the new recording {longest:.2f} s of {max(recorded, self._left):.2f} s are there")
-        for subject in self._work.new - {lecture.subject for lecture in here}:
+
+    def expect_nothing_lost(self, recorded):
+        """As the program leaves the folder: what is not saved waits to be, besides."""
+        self.expect_sound_kept(recorded)
+        for subject in self._work.new - {lecture.subject for lecture in student.lectures_of(self._home)}:
             if not self._waits(subject):
                 raise Failed(f"{subject!r} has no row, and does not wait for one")
 
@@ -97,7 +99,7 @@ class Judgement:
             raise Failed(f"{subject!r} has the recording {lecture.path!r} and the duration {lecture.duration!r}")
 
     def _least(self, recorded):
-        return max(recorded - UNSAFE, self._left - UNSAFE_LEFT)
+        return max(recorded, self._left) - UNSAFE
 
     def _waits(self, subject):
         """In a file beside the take. Whether that is any good, the next start shows."""

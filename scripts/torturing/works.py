@@ -7,6 +7,8 @@ RECORDED = (f"record:{OPTICS}:1", f"record:{WAVES}:1")
 FAILING_INSERT = "CREATE TRIGGER failure BEFORE INSERT ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
 FAILING_NO_MORE = "DROP TRIGGER IF EXISTS failure"
 FAILING_UPDATE = "CREATE TRIGGER failure BEFORE UPDATE ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
+# Once more, without a fault: what waits is stored or offered then, and what is offered is kept.
+COMING_BACK = ("later", "keep", "later", "back", "later", "offered")
 
 
 @dataclasses.dataclass(frozen=True)

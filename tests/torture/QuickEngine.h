@@ -80,10 +80,8 @@ public:
     void updateMeters() override {}
 
 private:
-    double time() const
-    {
-        return m_writer->isDiskFailing() ? std::min(m_writer->secondsInFile(), m_taken) : m_taken;
-    }
+    // As a take tells it: sound that waits counts where the reserve is for it.
+    double time() const { return std::min(m_writer->secondsSafe(), m_taken); }
 
     QuickEngine &m_engine;
     std::string m_path;
