@@ -1,4 +1,6 @@
-"""One call after the other fails, once: the second run has the second one fail, and so on until none is left."""
+"""One call after the other fails, once: the second run has the second one fail, and so on until none is left.
+
+Of the memory that is asked for, each piece that is asked for from somewhere else than all before, by its whole call stack."""
 
 import collections
 import concurrent.futures
@@ -28,14 +30,19 @@ ERRORS = {
     "sync": (errno.EIO, errno.ENOSPC, errno.EINTR),
     "rename": (errno.ENOSPC, errno.EIO),
     "open": (errno.ENOSPC, errno.EIO, errno.EINTR, errno.ENOMEM),
+    "read": (errno.EIO, errno.EINTR),
     "truncate": (errno.ENOSPC, errno.EIO, errno.EINTR),
     "unlink": (errno.ENOSPC, errno.EIO),
+    "list": (errno.EMFILE, errno.EACCES, errno.EIO),
+    "entry": (errno.EIO,),
     "memory": (errno.ENOMEM,),
 }
+Counts = collections.namedtuple("Counts", "calls places")  # by kind; and the numbers of those for memory that came from somewhere new
 AT_A_TIME = 2
 IN_SHORT = 1  # of each work and kind
 # What the layer says when one of those does not look whether it got its memory.
 ENDED_BY_LIBRARY = "ended by a library"
+LOST_BY_END = 1.0  # seconds of a recording that runs then
 
 
 def run(tools, short):
@@ -44,26 +51,41 @@ def run(tools, short):
         desks.put(Desk(tools, number))
     with concurrent.futures.ThreadPoolExecutor(AT_A_TIME) as pool:
         calls = dict(zip(WORKS, pool.map(lambda work: on_a_desk(desks, lambda desk: desk.counts(work)), WORKS)))
-        faults = list(all_faults(calls, tools.random, short))
-        lost = list(pool.map(lambda fault: on_a_desk(desks, lambda desk: desk.lost_by(*fault)), faults))
-    losses = [(fault, loss) for fault, loss in zip(faults, lost) if loss]
+        faults = list(all_faults(calls, tools.random, short, tools.all_memory))
+        tried = list(pool.map(lambda fault: on_a_desk(desks, lambda desk: desk.lost_by(*fault)), faults))
+    losses = [(fault, loss) for fault, (_, loss) in zip(faults, tried) if loss]
     for (name, loss), count in collections.Counter((fault[0].name, loss) for fault, loss in losses).most_common(20):
         tools.tell(f"{name}, {count} times: {loss}")
     if losses:
         tools.keep("losses.txt", "".join(f"{told(*fault)}: {loss}\n" for fault, loss in losses))
+    struck = [fault for fault, (has_struck, _) in zip(faults, tried) if has_struck]
+    refused = sum(1 for _, kind, _, _ in struck if kind == "memory")
+    tools.tell(f"{len(struck)} of {len(faults)} faults struck: {dict(collections.Counter(kind for _, kind, _, _ in struck))}")
     ended = sum(desk.ended_by_library for desk in desks.queue)
-    return Result(not losses, f"{len(faults)} faults in {len(WORKS)} works, and a start after each: {len(losses)} of them lost something, or left it twice"
+    return Result(not losses, f"{len(struck)} faults in {len(WORKS)} works, and a start after each: {len(losses)} of them lost something, or left it twice; "
+                  f"{refused} of them refused memory, {told_of_memory(calls)}"
+                  + (f"; {len(faults) - len(struck)} more did not come about, since their work went another way" if len(struck) < len(faults) else "")
                   + (f"; {ended} times a library did not look whether it got its memory, which ended the program and cost what a kill costs" if ended else ""))
 
 
-def all_faults(calls, random, short):
-    """Work, kind, error and number of the call."""
+def told_of_memory(calls):
+    asked = [counts for work, counts in calls.items() if asks_for_memory(work)]
+    return f"which is asked for {sum(counts.calls['memory'] for counts in asked)} times, from {sum(len(counts.places) for counts in asked)} places in the works"
+
+
+def asks_for_memory(work):
+    """The student's start asks the same of SQLite as the whole program's."""
+    return work.tasks is not None
+
+
+def all_faults(calls, random, short, all_memory):
+    """Work, kind, error and number of the call. Memory is refused to each place that asks for it once, else it would be days."""
     for work, counts in calls.items():
         for kind, errors in ERRORS.items():
-            # The student's start asks the same memory of SQLite.
-            if kind == "memory" and work.tasks is None:
+            if kind == "memory" and not asks_for_memory(work):
                 continue
-            found = [(work, kind, error, number) for error in errors for number in range(1, counts[kind] + 1)]
+            numbers = counts.places if kind == "memory" and not all_memory else range(1, counts.calls[kind] + 1)
+            found = [(work, kind, error, number) for error in errors for number in numbers]
             yield from random.sample(found, min(IN_SHORT, len(found))) if short else found
 
 
@@ -80,6 +102,13 @@ def on_a_desk(desks, act):
         desks.put(desk)
 
 
+def recorded_before(failure):
+    """How many seconds have to be there though the program ended before its time."""
+    said = getattr(failure, "said", [])
+    may_be_lost = 0.0 if "stopped" in said else LOST_BY_END - judged.UNSAFE
+    return max(0.0, student.recorded_of(said) - may_be_lost)
+
+
 class Desk:
     """A folder with lectures in it, made anew for every fault."""
 
@@ -93,16 +122,21 @@ class Desk:
         self.ended_by_library = 0
 
     def counts(self, work):
-        """How many calls there are of each kind."""
         self._perform(work, "")
-        return {kind: int(count) for kind, count in (line.split() for line in student.content(self._count).decode().splitlines())}
+        told = {kind: [int(number) for number in numbers] for kind, *numbers in map(str.split, self._told_by_layer())}
+        places = sorted(told.pop("places"))
+        return Counts({kind: count for kind, (count,) in told.items()}, places)
 
     def lost_by(self, work, kind, error, number):
-        """In words, or nothing."""
+        """Whether the call was made and failed; and what was lost in words, or nothing."""
+        lost = self._lost_by(work, f"{kind} {error} {number}")
+        return bool(self._told_by_layer()), lost
+
+    def _lost_by(self, work, fault):
         try:
-            recorded = self._perform(work, f"{kind} {error} {number}")
+            recorded = self._perform(work, fault)
         except Failed as failure:
-            lost = self._what_was_lost(work, 0.0)
+            lost = self._what_was_lost(work, recorded_before(failure))
             if ENDED_BY_LIBRARY in str(failure):
                 self.ended_by_library += 1
                 return lost
@@ -111,6 +145,9 @@ class Desk:
         if left not in self._judged:
             self._judged[left] = self._what_was_lost(work, recorded)
         return self._judged[left]
+
+    def _told_by_layer(self):
+        return student.content(self._count).decode().splitlines() if os.path.exists(self._count) else []
 
     def _what_was_lost(self, work, recorded):
         _, judgement = self._prepared[work]
@@ -158,6 +195,8 @@ class Desk:
     def _perform(self, work, fault):
         self._prepare(work)
         student.renew(self._folder, self._prepared[work][0])
+        with contextlib.suppress(FileNotFoundError):
+            os.remove(self._count)
         layer = {"LD_PRELOAD": self._tools.built("tests/torture/OneFault.so"), "TORTURE_FAULT": fault, "TORTURE_FOLDER": self._student.home,
                  "TORTURE_LIBRARIES": LIBRARIES, "TORTURE_COUNT": self._count}
         if not work.tasks or "begin" not in work.tasks:

@@ -23,6 +23,14 @@ COLUMNS = "subject, notes, recordingDate, audioFileFullPath, recordDuration"
 NOTHING = numpy.zeros(0)  # of sound
 
 
+class Ended(Failed):
+    """It was not meant to. `said` are the lines that it had said by then."""
+
+    def __init__(self, message, said):
+        super().__init__(message)
+        self.said = said
+
+
 class Student:
     """Works in one folder."""
 
@@ -44,14 +52,19 @@ class Student:
         return self._said(self.start(*tasks))
 
     def end(self, process, words=""):
-        return max((float(line.split()[1]) for line in self._said(process, words) if line.startswith("recorded")), default=0.0)
+        return recorded_of(self._said(process, words))
 
     @staticmethod
     def _said(process, words=""):
         said, errors = process.communicate(words, timeout=600)
         if process.returncode != 0 or errors:
-            raise Failed(f"it ended with {process.returncode} and said {errors.strip()[:300]!r}")
+            raise Ended(f"it ended with {process.returncode} and said {errors.strip()[:300]!r}", said.splitlines())
         return said.splitlines()
+
+
+def recorded_of(said):
+    """The seconds that the windows showed last, 0 without a recording."""
+    return next((float(line.split()[1]) for line in reversed(said) if line.startswith("recorded")), 0.0)
 
 
 def rows_of(home):

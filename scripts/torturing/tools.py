@@ -8,13 +8,15 @@ import tempfile
 
 
 class Tools:
-    """Of one row, used within a `with`. `random` gives the same again for the same seed, whichever rows run beside it."""
+    """Of one row, used within a `with`. `random` gives the same again for the same seed, whichever rows run beside it.
+    `all_memory` is whether every single piece of memory is to be refused, which takes a day."""
 
-    def __init__(self, build, reports, row, seed):
+    def __init__(self, build, reports, row, seed, all_memory=False):
         self._build = os.path.abspath(build)
         self._kept = os.path.join(os.path.abspath(reports), row)
         self._row = row
         self.random = random.Random(f"{seed} {row}")
+        self.all_memory = all_memory
         self.folder = None
 
     def __enter__(self):

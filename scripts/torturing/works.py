@@ -29,7 +29,7 @@ def _of(*subjects):
 
 
 WORKS = (
-    Work("recording and saving", tasks=("later", "begin", f"record:{KEPLER}:1"), new=_of(KEPLER)),
+    Work("recording and saving", tasks=("later", "begin", f"record:{KEPLER}:2"), new=_of(KEPLER)),
     Work("pausing and resuming", tasks=("later", "begin", f"interrupt:{KEPLER}:2"), new=_of(KEPLER)),
     Work("saving notes alone", tasks=("later", "begin", f"notes:{KEPLER}"), new=_of(KEPLER)),
     Work("cancelling", tasks=("later", "begin", f"cancel:{KEPLER}:1"), gone=_of(KEPLER)),
@@ -37,7 +37,7 @@ WORKS = (
     Work("deleting", tasks=("later", "begin", f"delete:{WAVES}"), gone=_of(WAVES)),
     Work("deleting several at once", before=((*RECORDED, f"notes:{ALGEBRA}", f"notes:{NEWTON}"),),
          tasks=("later", "begin", f"delete:{NEWTON}"), gone=_of(NEWTON)),
-    Work("saving what resets the table", spoiled=FAILING_INSERT, tasks=("later", "begin", f"record:{KEPLER}:1"), new=_of(KEPLER)),
+    Work("saving what resets the table", spoiled=FAILING_INSERT, tasks=("later", "begin", f"record:{KEPLER}:2"), new=_of(KEPLER)),
     Work("editing what resets the table", spoiled=FAILING_UPDATE, tasks=("later", "begin", f"edit:{OPTICS}:{LIGHT}"), changed=(OPTICS, LIGHT)),
     Work("bringing lectures back", before=((*RECORDED, f"notes:{ALGEBRA}", f"notes:{NEWTON}", f"delete:{NEWTON}"),),
          tasks=("begin", "back"), gone=_of(NEWTON)),
@@ -45,7 +45,7 @@ WORKS = (
     Work("discarding what was left", before=(RECORDED, (f"leave:{NEWTON}:1",), ("later", f"leave:{KEPLER}:2")),
          tasks=(f"discard:{NEWTON}", "later"), gone=_of(NEWTON), new=_of(KEPLER)),
     Work("storing what was done and not stored", before=(RECORDED, (f"done:{KEPLER}:1",)), tasks=("later",), new=_of(KEPLER)),
-    Work("saving what is refused", tasks=("later", "begin", f"refused:{KEPLER}:1"), new=_of(KEPLER)),
+    Work("saving what is refused", tasks=("later", "begin", f"refused:{KEPLER}:2"), new=_of(KEPLER)),
     Work("storing what was refused", before=(RECORDED, ("later", f"refused:{KEPLER}:1")), tasks=("later",), new=_of(KEPLER)),
     Work("starting"),
     Work("starting the whole program", tasks=None),

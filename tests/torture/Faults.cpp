@@ -1,5 +1,6 @@
 #include "torture/Faults.h"
 
+#include "torture/CallStacks.h"
 #include "torture/Layer.h"
 
 #include <algorithm>
@@ -13,7 +14,8 @@ namespace tarvelo::torture {
 
 namespace {
 
-constexpr std::array Kinds{"write", "sync", "rename", "open", "truncate", "unlink", "memory"};
+constexpr std::array Kinds{"write",    "sync",   "rename", "open",  "read",
+                           "truncate", "unlink", "list",   "entry", "memory"};
 
 std::atomic<bool> g_counts = false;
 std::array<std::atomic<long>, Kinds.size()> g_calls;
@@ -28,15 +30,28 @@ Fault wantedFault()
     return fault;
 }
 
+int countFile()
+{
+    return static_cast<int>(
+        ::syscall(SYS_open, setting("TORTURE_COUNT"), O_WRONLY | O_CREAT | O_TRUNC, 0600));
+}
+
+void tellStruck()
+{
+    const int file = countFile();
+    static_cast<void>(::syscall(SYS_write, file, "struck 1\n", 9));
+    ::syscall(SYS_close, file);
+}
+
 void writeCounts()
 {
     g_counts = false;
     if (fault().kind[0] != '\0')
         return;
-    const int file = static_cast<int>(
-        ::syscall(SYS_open, setting("TORTURE_COUNT"), O_WRONLY | O_CREAT | O_TRUNC, 0600));
+    const int file = countFile();
     for (std::size_t kind = 0; kind < Kinds.size(); ++kind)
         ::dprintf(file, "%s %ld\n", Kinds.at(kind), g_calls.at(kind).load());
+    writePlaces(file);
     ::syscall(SYS_close, file);
 }
 
@@ -67,14 +82,26 @@ bool isCounted(const char *kind)
     return g_counts && (fault().kind[0] == '\0' || std::strcmp(kind, fault().kind) == 0);
 }
 
-// Whether it is this call that fails.
-bool strikes(const char *kind)
+long count(const char *kind)
 {
     if (!isCounted(kind))
-        return false;
+        return 0;
     const auto *const at = std::ranges::find_if(
         Kinds, [kind](const char *known) { return std::strcmp(kind, known) == 0; });
-    return ++g_calls.at(static_cast<std::size_t>(at - Kinds.begin())) == fault().number;
+    return ++g_calls.at(static_cast<std::size_t>(at - Kinds.begin()));
+}
+
+bool isStruck(const char *kind, long number)
+{
+    if (number == 0 || number != fault().number || std::strcmp(kind, fault().kind) != 0)
+        return false;
+    tellStruck();
+    return true;
+}
+
+bool strikes(const char *kind)
+{
+    return isStruck(kind, count(kind));
 }
 
 extern "C" {

@@ -20,7 +20,13 @@ bool isCounting();
 // Whether calls of that kind are counted now.
 bool isCounted(const char *kind);
 
-// Counts a call. Whether it is this one that fails.
+// Counts a call and gives its number, from 1; 0 where it is not counted.
+long count(const char *kind);
+
+// Whether it is the call with that number that fails, and only then leaves a word of that.
+bool isStruck(const char *kind, long number);
+
+// Both.
 bool strikes(const char *kind);
 
 } // namespace tarvelo::torture

@@ -1,16 +1,19 @@
 // Put before a program with LD_PRELOAD: lets one call fail, once. TORTURE_FAULT says which: a kind
-// (write, sync, rename, open, truncate, unlink, memory), an errno or "short" for a write that
-// writes half, and the number of the call, from 1, or 0 for none. Files count when they lie below
-// TORTURE_FOLDER; memory counts when one of the libraries asks for it whose names TORTURE_LIBRARIES
-// holds. Counting begins at the start when TORTURE_BEGIN is set, else when the program calls
-// torture_begin(). Without TORTURE_FAULT nothing fails, and at the end the file that TORTURE_COUNT
-// names has a line for each kind: its name, and how many calls there were.
+// (write, sync, rename, open, read, truncate, unlink, list for opening a folder, entry for the next
+// name in it, memory), an errno or "short" for a write that writes half, and the number of the
+// call, from 1, or 0 for none. Files count when they lie below TORTURE_FOLDER; memory counts when
+// one of the libraries asks for it whose names TORTURE_LIBRARIES holds. Counting begins at the
+// start when TORTURE_BEGIN is set, else when the program calls torture_begin(). Once it has failed
+// the file that TORTURE_COUNT names says so. Without TORTURE_FAULT nothing fails, and at the end
+// that file has a line for each kind: its name, and how many calls there were; and one that tells
+// of which calls for memory none before came from the same place.
 
 #include "torture/Faults.h"
 #include "torture/Layer.h"
 
 #include <cerrno>
 #include <cstdarg>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/sendfile.h>
 
@@ -49,7 +52,23 @@ ssize_t writes(int file, size_t size, Write write)
 {
     if (!isOurFile(file) || !strikes("write"))
         return write(size);
-    return fault().isShort && size > 1 ? write(size / 2) : failure<ssize_t>();
+    return fault().isShort ? write((size + 1) / 2) : failure<ssize_t>();
+}
+
+template <typename Read>
+ssize_t reads(int file, Read read)
+{
+    return isOurFile(file) && strikes("read") ? failure<ssize_t>() : read();
+}
+
+template <typename Entry>
+Entry *nextOf(DIR *folder, const char *function)
+{
+    if (isOurFile(::dirfd(folder)) && strikes("entry")) {
+        errno = fault().error;
+        return nullptr;
+    }
+    return real<Entry *(DIR *)>(function)(folder);
 }
 
 int truncateTo(int file, off64_t size)
@@ -113,6 +132,43 @@ ssize_t pwrite64(int file, const void *data, size_t size, off64_t offset)
 ssize_t pwrite(int file, const void *data, size_t size, off_t offset)
 {
     return pwrite64(file, data, size, offset);
+}
+
+ssize_t read(int file, void *data, size_t size)
+{
+    static auto *const next = real<ssize_t(int, void *, size_t)>("read");
+    return reads(file, [&] { return next(file, data, size); });
+}
+
+ssize_t pread64(int file, void *data, size_t size, off64_t offset)
+{
+    static auto *const next = real<ssize_t(int, void *, size_t, off64_t)>("pread64");
+    return reads(file, [&] { return next(file, data, size, offset); });
+}
+
+ssize_t pread(int file, void *data, size_t size, off_t offset)
+{
+    return pread64(file, data, size, offset);
+}
+
+DIR *opendir(const char *path)
+{
+    static auto *const next = real<DIR *(const char *)>("opendir");
+    if (isCounting() && isOurs(path) && strikes("list")) {
+        errno = fault().error;
+        return nullptr;
+    }
+    return next(path);
+}
+
+dirent *readdir(DIR *folder)
+{
+    return nextOf<dirent>(folder, "readdir");
+}
+
+dirent64 *readdir64(DIR *folder)
+{
+    return nextOf<dirent64>(folder, "readdir64");
 }
 
 ssize_t sendfile64(int to, int from, off64_t *offset, size_t size) noexcept

@@ -1,6 +1,7 @@
 // The part of OneFault that refuses memory. Where one of our libraries does not look at what it got
 // and ends the program for it, that is said: "ended by a library", on stderr.
 
+#include "torture/CallStacks.h"
 #include "torture/Faults.h"
 #include "torture/Layer.h"
 
@@ -66,7 +67,12 @@ bool isOurs(const void *caller)
 
 bool isOutOfMemory(const void *caller)
 {
-    if (!isCounted("memory") || !isOurs(caller) || !strikes("memory"))
+    if (!isCounted("memory") || !isOurs(caller))
+        return false;
+    const long number = count("memory");
+    if (fault().kind[0] == '\0')
+        noteCallStack(number);
+    if (!isStruck("memory", number))
         return false;
     errno = ENOMEM;
     return true;

@@ -21,7 +21,8 @@
 //     wait                        for a line of input, and then for ten minutes of that clock
 //     begin                       from where on a layer counts that may stand before the C library
 //
-// What was recorded is told in seconds.
+// What was recorded is told in seconds, each half second, as the window shows it: that much a
+// student relies on. "stopped" is told when the recording was.
 
 #include "support/LectureProgram.h"
 #include "support/TestSound.h"
@@ -69,14 +70,11 @@ public:
         save();
     }
 
-    // Tells what the window shows: that much a student relies on.
     void listen(const QString &subject, double seconds)
     {
         write(subject);
         m_windows.recordingOutlets().btnStartRecord->click();
         hear(seconds);
-        std::printf("recorded %.3f\n", m_engine.time());
-        std::fflush(stdout);
     }
 
     void interrupt(const QString &subject, double seconds)
@@ -88,8 +86,6 @@ public:
         hear(seconds);
         m_windows.recordingOutlets().btnPauseResumeRecording->click();
         hear(seconds / 2);
-        std::printf("recorded %.3f\n", m_engine.time());
-        std::fflush(stdout);
         stop();
         save();
     }
@@ -122,6 +118,8 @@ public:
     {
         m_windows.recordingOutlets().btnStopRecord->click();
         m_clock.advance(500ms);
+        std::printf("stopped\n");
+        std::fflush(stdout);
     }
 
     void pressDone()
@@ -212,6 +210,8 @@ private:
             m_engine.hear(
                 std::span(sound).subspan(from, std::min<std::size_t>(22050, sound.size() - from)));
             m_clock.advance(500ms);
+            std::printf("recorded %.3f\n", m_engine.time());
+            std::fflush(stdout);
         }
     }
 
