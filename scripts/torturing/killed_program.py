@@ -1,6 +1,7 @@
 """The whole program, killed while a lecture is typed and recorded, or while its Done is carried out."""
 
 import json
+import math
 import os
 import re
 import shutil
@@ -65,25 +66,28 @@ class Trial:
         try:
             self._hands.point_at(WINDOW, names.START_RECORDING)
             killer = self._killer(how, moment)
-            pieces.append([killer.began, None])
+            pieces.append([killer.began, math.inf, None])
             xdotool("click", "1")
+            self._hands.control(WINDOW, names.PAUSE)
+            pieces[-1][1] = self._played.now()
             self._type_until_death(killer, typing, pieces, number % 2 == 0, number % 3 == 0)
         except Failed:
             if not killer or not killer.is_done and self._sitting.program.is_running():
                 raise
         killer.join()
-        pieces[-1][1] = pieces[-1][1] or killer.heard
+        pieces[-1][2] = pieces[-1][2] or killer.heard
         return self._judged(f"kill {number} of the program ({how.name} at {moment:.2f} s{', slow disk' if slow else ''})", how, lambda: (
-            killed.lost_of(self._played, self._take(), killer, pieces), typing.lost(self._notes_kept(), killer.ended)))
+            killed.lost_of(self._played, self._take(), killer, [killed.Piece(*piece) for piece in pieces]), typing.lost(self._notes_kept(), killer.ended)))
 
     def during_done(self, number, how, stops):
         """The same; once Done was seen to be taken both have to be nothing."""
         subject = f"Lecture {number}"
         slow = killed.slow_disk(self._tools, number)
         self._prepare(subject, **slow)
+        asked = self._played.now()
         self._hands.click(WINDOW, names.START_RECORDING)
         self._hands.control(WINDOW, names.PAUSE)
-        began = self._played.now()
+        runs = self._played.now()
         self._sitting.listen(self._tools.random.uniform(0.5, 2.5))
         stopped = self._played.now()
         if stops:
@@ -97,7 +101,7 @@ class Trial:
         xdotool("click", "1")
         is_taken = self._window_gone(killer)
         return self._judged(f"kill {number} of the program {killer.after:.2f} s after Done ({how.name}{', slow disk' if slow else ''})", how,
-                            lambda: self._after_done(subject, typing, killer, (began, until), stops, is_taken))
+                            lambda: self._after_done(subject, typing, killer, killed.Piece(asked, runs, until), stops, is_taken))
 
     def _prepare(self, subject, **environment):
         """A new lecture that does not record yet."""
@@ -117,17 +121,20 @@ class Trial:
         while not killer.is_done:
             count += 1
             if pauses and count in (5, 8):
-                xdotool("key", "ctrl+r")
-                self._hands.control(WINDOW, names.RESUME if count == 5 else names.PAUSE)
-                if count == 5:
-                    pieces[-1][1] = self._played.now()
-                else:
-                    pieces.append([self._played.now(), None])
+                self._pause_or_resume(pieces, count == 5)
             elif sets_tags and count % 4 == 0:
                 xdotool("key", "ctrl+t")
             else:
                 self._hands.type(f" word{count}")
             typing.look()
+
+    def _pause_or_resume(self, pieces, pauses):
+        asked = self._played.now()
+        if not pauses:
+            pieces.append([asked, math.inf, None])
+        xdotool("key", "ctrl+r")
+        self._hands.control(WINDOW, names.RESUME if pauses else names.PAUSE)
+        pieces[-1][2 if pauses else 1] = asked if pauses else self._played.now()
 
     @staticmethod
     def _window_gone(killer):
@@ -152,9 +159,9 @@ class Trial:
             lost, notes = judge()
         except Failed as failure:
             raise Failed(f"{words}: {failure}; see {self._tools.keep(words.split(' (')[0].replace(' ', '-'), self._sitting.home)}") from None
-        if lost.seconds > 1 or notes > 5:
+        if lost.seconds > 1 or lost.elsewhere > killed.MOST_ELSEWHERE or notes > 5:
             self._tools.tell(f"{words}: {lost.seconds:.2f} s of sound are lost, and it waited {lost.waited:.2f} s for a processor meanwhile; "
-                             f"{notes:.1f} s of notes are")
+                             f"{lost.elsewhere:.2f} s where it begins or beside a pause; {notes:.1f} s of notes are")
         return lost, notes
 
     def _after_done(self, subject, typing, killer, piece, stops, is_taken):

@@ -44,8 +44,9 @@ def lost_by(tools, played, kill):
         except Failed as failure:
             kept = tools.keep(os.path.basename(path), path) if os.path.exists(path) else "no file"
             raise Failed(f"{_words(kill, slow)}: {failure}; see {kept}") from None
-    if lost.seconds > 1:
-        tools.tell(f"{_words(kill, slow)}: {lost.seconds:.2f} s are lost, and it waited {lost.waited:.2f} s for a processor meanwhile")
+    if lost.seconds > 1 or lost.elsewhere > killed.MOST_ELSEWHERE:
+        tools.tell(f"{_words(kill, slow)}: {lost.seconds:.2f} s are lost, and it waited {lost.waited:.2f} s for a processor meanwhile; "
+                   f"{lost.elsewhere:.2f} s where it begins or beside a pause")
     return lost
 
 
@@ -75,10 +76,10 @@ def _judge(played, killer, told, take):
         if one.what in ("begin", "resume"):
             begin = one.heard
         elif one.what in ("pause", "stop"):
-            pieces.append((begin, one.heard))
+            pieces.append(killed.Piece(begin, begin, one.heard))
             begin = None
     if begin is not None:
-        pieces.append((begin, killer.heard))
+        pieces.append(killed.Piece(begin, begin, killer.heard))
     length = len(take) / sound.RATE
     if any(one.what == "stopped" for one in told) and recorded - length > MOST_AFTER_STOP:
         raise Failed(f"it was stopped, and {length:.2f} s of {recorded:.2f} s are there")

@@ -36,12 +36,13 @@ def run(tools, short):
     of_program = of_typing + of_done
     lost += [of_sound for of_sound, _ in of_program]
     notes = max(of_notes for _, of_notes in of_program)
-    held = all(one.seconds - one.waited <= MOST_LOST for one in lost)
+    elsewhere = max(one.elsewhere for one in lost)
+    held = all(one.seconds - one.waited <= MOST_LOST for one in lost) and elsewhere <= killed.MOST_ELSEWHERE
     starved = sum(1 for one in lost if one.seconds > MOST_LOST)
     without = f" ({starved} times more than {MOST_LOST} s, for which there was no processor)" if held and starved else ""
     return Result(held and notes <= NOTES_SAFE,
                   f"{len(lost)} kills, {len(of_program)} of them of the whole program, {len(of_done)} of these at Done: at most {max(lost).seconds:.2f} s of "
-                  f"sound, {_average(lost):.2f} s on average{without}; at most {notes:.1f} s of notes; no time tag; nothing that was Done")
+                  f"sound, {_average(lost):.2f} s on average{without}, {elsewhere:.2f} s where a take begins or beside a pause; at most {notes:.1f} s of notes; no time tag; nothing that was Done")
 
 
 def _average(lost):

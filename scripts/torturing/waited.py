@@ -9,9 +9,9 @@ INTERVAL = 0.05  # seconds between two looks
 
 
 @contextlib.contextmanager
-def watched(pid, now):
+def watched(pid, now, counts=lambda _: True):
     """Looks all the time meanwhile, with the moment that `now` gives."""
-    waited = Waited(pid)
+    waited = Waited(pid, counts)
     over = threading.Event()
 
     def watch():
@@ -28,10 +28,12 @@ def watched(pid, now):
 
 
 class Waited:
-    """Of one process, by looks at it from time to time. What it sleeps, or waits for a disk or a lock, is not counted."""
+    """Of one process, by looks at it from time to time. What it sleeps, or waits for a disk or a lock, is not counted.
+    Of its threads those are looked at whose folder in /proc `counts` says true to."""
 
-    def __init__(self, pid):
+    def __init__(self, pid, counts=lambda _: True):
         self._folder = f"/proc/{pid}/task"
+        self._counts = counts
         self._looks = []  # (moment, {thread: seconds})
         self._ready = {}  # thread: (its turns until now, since when it is known to be ready without another one)
 
@@ -45,8 +47,14 @@ class Waited:
             return
         for thread in there:
             with contextlib.suppress(OSError):  # it has ended
-                threads[thread] = self._of(thread, now)
+                if self._counts(os.path.join(self._folder, thread)):
+                    threads[thread] = self._of(thread, now)
         self._looks.append((moment, threads))
+
+    @property
+    def threads(self):
+        """All that were looked at."""
+        return {thread for _, threads in self._looks for thread in threads}
 
     def since(self, moment):
         """Of the thread that waited longest from the first look at or after the moment to the last one: at least so many seconds."""

@@ -31,6 +31,15 @@ class WaitedTest(unittest.TestCase):
 
         self.assertLessEqual(looks.waited.since(looks.count - 1), looks.waited.since(0))
 
+    def test_a_thread_that_is_not_asked_about_does_not_count(self):
+        process = self._asleep()
+        waited = Waited(process.pid, lambda thread: os.path.basename(thread) != str(process.pid))
+
+        waited.look(0)
+        waited.look(1)
+
+        self.assertEqual(waited.threads, set())
+
     def test_what_was_before_does_not_count(self):
         looks = Looks(self._asleep())
 
