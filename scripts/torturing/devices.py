@@ -17,7 +17,7 @@ from .spoken import Spoken
 EVENT = "microphone pulled out, sound server restarted, default device changed"
 PROMISE = "the gap itself; the recording goes on with what is there, or waits and goes on"
 SUBJECT = "Outages"
-MOST_LATE = 1.0  # seconds that may be missing once the microphone is back
+MOST_LATE = 0.5  # seconds that may be missing once the microphone is back, of a passage of three times that
 LONG_HANG = 35  # seconds, after which the sound library gives up a question
 LONG_ABSENCE = 10
 

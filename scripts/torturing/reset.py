@@ -24,6 +24,8 @@ INSERT = f"INSERT INTO audioData ({', '.join(COLUMNS)}) VALUES (?,?,?,?,?,?,?,?)
 FAILING_INSERT = "CREATE TRIGGER failure BEFORE INSERT ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
 FAILING_UPDATE = "CREATE TRIGGER failure BEFORE UPDATE ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
 
+NEWCOMER = "Newcomer"
+
 
 def run(tools, short):
     most = 50 if short else 1000
@@ -33,14 +35,15 @@ def run(tools, short):
         for trial in trials:
             lost.append(_Trial(tools, desktop, most).run(trial))
             shutil.rmtree(os.path.dirname(stored.path(desktop.data)))
-    return Result(sum(lost) == 0, f"{len(lost)} times {most} lectures: {sum(lost)} rows missing or changed after they were brought back")
+    return Result(sum(lost) == 0, f"{len(lost)} times {most} lectures: {sum(lost)} rows missing, changed or there twice after they were brought back")
 
 
 def _insert_resets(trial):
     trial.spoil(FAILING_INSERT)
     trial.hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)
-    trial.hands.write(names.NEW_LECTURE_WINDOW, names.SUBJECT, "Newcomer")
+    trial.hands.write(names.NEW_LECTURE_WINDOW, names.SUBJECT, NEWCOMER)
     trial.hands.click(names.NEW_LECTURE_WINDOW, names.DONE)
+    trial.added.add(NEWCOMER)
     trial.wait_for_loss(1)
 
 
@@ -70,9 +73,10 @@ class _Trial:
         self._before = [self._lecture(number, count) for number in range(count)]
         self.with_recording = sum(1 for lecture in self._before if lecture[6])
         self.shown = self._before[-1][0]
+        self.added = set()  # subjects
 
     def run(self, what):
-        """Gives how many rows are not there in the end as they were in the beginning."""
+        """Gives how many rows are not there in the end as they were in the beginning, or are there besides."""
         self._fill()
         try:
             self._program.start(what.__name__)
@@ -80,7 +84,8 @@ class _Trial:
             what(self)
             left = len(stored.lectures(self._desktop.data))
             self._bring_back()
-            missing = collections.Counter(self._before) - collections.Counter(self._rows())
+            before, rows = collections.Counter(self._before), collections.Counter(self._rows())
+            missing, besides = before - rows, rows - before
             self.hands.press(SHEET, "Escape")
             self.hands.row(names.MAIN_WINDOW, names.LECTURES, self.shown)
             self._program.quit()
@@ -91,8 +96,10 @@ class _Trial:
             raise
         finally:
             self._program.stop()
-        self._tools.tell(f"{what.__name__.strip('_').replace('_', ' ')}: {left} of {len(self._before)} rows left, then {sum(missing.values())} missing")
-        return sum(missing.values())
+        self._tools.tell(f"{what.__name__.strip('_').replace('_', ' ')}: {left} of {len(self._before)} rows left, then {sum(missing.values())} missing "
+                         f"and {sum(besides.values())} besides")
+        added = sorted(row[0] for row in besides.elements()) == sorted(self.added)
+        return sum(missing.values()) + (0 if added else sum(besides.values()))
 
     def spoil(self, statement):
         with sqlite3.connect(stored.path(self._desktop.data)) as database:
@@ -123,4 +130,4 @@ class _Trial:
     def _bring_back(self):
         open_bring_back_sheet(self.hands)
         self.hands.click(SHEET, BRING_BACK)
-        wait_for("the lectures", lambda: stored.count(self._desktop.data) >= len(self._before))
+        wait_for("the lectures", lambda: stored.count(self._desktop.data) >= len(self._before) + len(self.added))

@@ -35,7 +35,8 @@ def _record(tools, seconds):
     grown = float(facts["resident_most"]) - float(facts["resident_first"])
     tools.tell(f"{_hours(seconds)}: recorded in {facts['recorded_s']} s, finished in {facts['finished_s']} s, {facts['bytes']} bytes, "
                f"{facts['frames_played']} of {facts['frames_recorded']} samples, worst second {facts['worst_second']}, "
-               f"worst of {facts['jumps']} jumps {facts['worst_jump']}, memory grew by {grown:.2f} MiB")
+               f"worst of {facts['jumps']} jumps {facts['worst_jump']}, "
+               f"its length is off by {facts['off_s']} s, memory grew by {grown:.2f} MiB")
     return {"seconds": seconds, "whole": done.returncode == 0, "grown": grown, **facts}
 
 

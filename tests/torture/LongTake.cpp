@@ -27,6 +27,7 @@ namespace {
 constexpr int Rate = 44100;
 constexpr double Alike = 0.98;
 constexpr double AlikeInShort = 0.95; // over a tenth of a second
+constexpr double MostOff = 1e-5;      // seconds, in what file and player say of its length
 constexpr int Jumps = 200;
 constexpr double MostAhead = engine::Take::SecondsInRing / 2.0;
 constexpr int Patience = 600000; // milliseconds, for a machine that has other things to do
@@ -186,13 +187,11 @@ int main(int argc, char **argv)
     if (!facts || !source)
         return 1;
     const double length = static_cast<double>(frames) / Rate;
+    const double off =
+        std::max(std::abs(source->seconds() - length), std::abs(facts->seconds - length));
     std::printf("bytes %lld\nindexed %d\nframes_recorded %lld\nlength_s %.6f\noff_s %.6f\n",
                 static_cast<long long>(bytes.size()), facts->isFragmented ? 0 : 1,
-                static_cast<long long>(frames), length,
-                std::max(std::abs(source->seconds() - length), std::abs(facts->seconds - length)));
+                static_cast<long long>(frames), length, off);
     const bool isWhole = isComplete && !facts->isFragmented && isAllThere(*source, tune, frames);
-    return isWhole && isFoundByJumping(*source, tune, frames) &&
-                   std::abs(facts->seconds - length) < 1e-5
-               ? 0
-               : 1;
+    return isWhole && isFoundByJumping(*source, tune, frames) && off < MostOff ? 0 : 1;
 }
