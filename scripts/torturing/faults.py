@@ -20,7 +20,7 @@ from . import judged, student
 from .result import Result
 from .works import COMING_BACK, FAILING_NO_MORE, WORKS
 
-EVENT = "every write, sync, rename, open, allocation failing once (ENOSPC, EIO, EINTR, short write, ENOMEM), one step further each time"
+EVENT = "every write, sync, rename, open, read, look into a folder, allocation failing once (ENOSPC, EIO, EINTR, short write, ENOMEM), one step further each time"
 PROMISE = "nothing that was there before"
 # Of the libraries that are driven through C. Qt and the C++ library end a program that has no memory left, and so does
 # the sound server's: nobody can promise anything for those.

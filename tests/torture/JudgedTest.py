@@ -75,6 +75,22 @@ class JudgedTest(unittest.TestCase):
         self.execute("UPDATE audioData SET notes = '' WHERE subject = 'Kepler'")
         self.expect_failure("notes", lambda: judgement.expect_all_there(2, []))
 
+    def test_of_a_stopped_take_only_the_last_two_frames_may_be_missing(self):
+        judgement = Judgement(Work("a work", new=frozenset({"Kepler"})), self.home)
+
+        self.add("Kepler", 2)
+
+        judgement.expect_nothing_lost(2.04)
+        self.expect_failure("2.00 s of 2.10 s", lambda: judgement.expect_nothing_lost(2.1))
+        self.expect_failure("2.00 s of 2.10 s", lambda: judgement.expect_all_there(2.1, []))
+
+    def test_on_a_full_disk_a_row_need_not_wait_on_it(self):
+        judgement = Judgement(Work("a work", new=frozenset({"Kepler"})), self.home)
+
+        judgement.expect_sound_kept(0)
+        self.expect_failure("no row", lambda: judgement.expect_nothing_lost(0))
+        self.expect_failure("0.00 s of 2.00 s", lambda: judgement.expect_sound_kept(2))
+
     def test_a_new_lecture_without_a_row_waits_for_one(self):
         judgement = Judgement(Work("a work", new=frozenset({"Kepler"})), self.home)
 
