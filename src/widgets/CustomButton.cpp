@@ -27,12 +27,21 @@ void CustomButton::setMouseReady()
 
 void CustomButton::mouseEntered()
 {
+    m_isMouseNoticed = true;
     repaint();
 }
 
 void CustomButton::mouseExited()
 {
+    m_isMouseNoticed = false;
     repaint();
+}
+
+// A rectangle that was added under the mouse would not tell that it left.
+void CustomButton::leaveEvent(QEvent *event)
+{
+    m_isMouseNoticed = false;
+    ImageButton::leaveEvent(event);
 }
 
 QRectF CustomButton::imageRect(const platform::Image &image) const

@@ -43,11 +43,15 @@ public:
 protected:
     virtual void mouseEntered();
     virtual void mouseExited();
+    void leaveEvent(QEvent *event) override;
     QRectF imageRect(const platform::Image &image) const override;
+    // Only by a mouse that it noticed: one that is kept from it does not show either.
+    bool isTurnedTo() const override { return m_isMouseNoticed; }
 
 private:
     TrackingRects m_tracking;
     int m_trackingTag = 0;
+    bool m_isMouseNoticed = false;
     QString m_strNormalImage;
     QString m_strHoverImage;
     ImageScaling m_scaling = ImageScaling::ProportionallyDown;

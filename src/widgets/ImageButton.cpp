@@ -152,7 +152,7 @@ void ImageButton::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     if (!isEnabled())
         painter.setOpacity(0.35);
-    if (isEnabled() && (underMouse() || isDown()) && !alternate)
+    if (isEnabled() && (isTurnedTo() || isDown()) && !alternate)
         paintTinted(painter, shown);
     else
         shown.paint(painter, imageRect(shown));

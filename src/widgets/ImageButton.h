@@ -64,6 +64,8 @@ protected:
     virtual QRectF imageRect(const platform::Image &image) const;
     // What the focus ring goes around.
     virtual QRectF focusRect() const { return rect(); }
+    // Whether the mouse is on it, for what that changes of its look.
+    virtual bool isTurnedTo() const { return underMouse(); }
     void paintFocus(QPainter &painter) const;
 
 private:

@@ -24,6 +24,13 @@ public:
     }
 };
 
+// As the calendar keeps the mouse out while a lecture is recorded.
+class Refusal final : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override { return event->type() == QEvent::Enter; }
+};
+
 } // namespace
 
 class CustomButtonTest final : public tarvelo::tests::TestCase
@@ -121,6 +128,31 @@ private Q_SLOTS:
 
         QCoreApplication::sendEvent(&button, &leaving);
         QCOMPARE(drawings.count, 2);
+    }
+
+    void aMouseThatItIsNotToldOfDoesNotShowOnIt()
+    {
+        CustomButton button;
+        button.resize(40, 20);
+        button.setImage(imageNamed(QStringLiteral("arrowleft")));
+        button.setMouseReady();
+        const QImage atRest = drawn(button);
+        QEnterEvent entering({1, 1}, {1, 1}, {1, 1});
+        QEvent leaving(QEvent::Leave);
+
+        Refusal refusal;
+        button.installEventFilter(&refusal);
+        QCoreApplication::sendEvent(&button, &entering);
+        QCOMPARE(drawn(button), atRest);
+
+        button.removeEventFilter(&refusal);
+        QCoreApplication::sendEvent(&button, &entering);
+        QVERIFY(drawn(button) != atRest);
+
+        // Also when it was tracked anew in between.
+        button.setMouseReady();
+        QCoreApplication::sendEvent(&button, &leaving);
+        QCOMPARE(drawn(button), atRest);
     }
 
     void itsImageCanBeStretchedOrKeepItsShape()
