@@ -8,6 +8,7 @@
 #include "store/LectureInfoItem.h"
 #include "widgets/ImageButton.h"
 #include "widgets/ImageView.h"
+#include "widgets/PlainToolTip.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -125,7 +126,7 @@ void CustomTableCellView::setObjectValue(const Lecture &lecture)
     m_lecture = lecture;
     const QString subject = lecture ? lecture->strSubject() : QString();
     m_subject->setText(subject);
-    m_subject->setToolTip(subject.toHtmlEscaped());
+    m_subject->setToolTip(widgets::plainToolTip(subject));
     m_notes->setText(lecture ? beginningOf(lecture->strNotes()) : QString());
     m_duration->setText(lecture ? lecture->strRecordingDuration() : QString());
     QStringList name{subject, m_duration->text()};

@@ -1,5 +1,7 @@
 #include "lectures/PlayingTitle.h"
 
+#include "widgets/PlainToolTip.h"
+
 #include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>
@@ -53,7 +55,7 @@ private:
     void follow()
     {
         setText(window()->windowTitle());
-        setToolTip(text().toHtmlEscaped());
+        setToolTip(widgets::plainToolTip(text()));
         setVisible(m_subject.isHidden());
     }
 

@@ -116,7 +116,9 @@ private Q_SLOTS:
 
         QCOMPARE(label("lblSubject").textFormat(), Qt::PlainText);
         QCOMPARE(label("lblNotes").textFormat(), Qt::PlainText);
-        QVERIFY(!label("lblSubject").toolTip().contains(u'<'));
+        QCOMPARE(label("lblSubject").toolTip(), u"<qt>&lt;b&gt;bold&lt;/b&gt;</qt>"_s);
+        m_row->setObjectValue(lecture(u"Maths & Physics"_s, {}, {}));
+        QCOMPARE(label("lblSubject").toolTip(), u"Maths & Physics"_s);
     }
 
     void theMarkOfTheKeyboardCanBeDrawnAndTakenAway()
