@@ -21,7 +21,7 @@ struct Colours
     QColor chosen; // under dark texts
 };
 
-// As the desktop's palette wants them now.
+// As the desktop's palette wanted them when the windows were built.
 Colours colours();
 
 } // namespace tarvelo::lectures

@@ -13,6 +13,7 @@
 #include "platform/Dates.h"
 #include "platform/Fonts.h"
 #include "platform/Frames.h"
+#include "platform/HighContrast.h"
 #include "platform/Texts.h"
 #include "widgets/Accessibility.h"
 #include "widgets/CustomWindow.h"
@@ -205,6 +206,7 @@ void dressRecordingControls(const audio::RecordingOutlets &controls)
 
 LectureWindows::LectureWindows(platform::Dates &dates)
 {
+    platform::readContrast();
     widgets::installAccessibility();
     installTableAccessibility();
     buildMainWindow(dates);

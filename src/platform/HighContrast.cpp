@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace tarvelo::platform {
 
@@ -22,6 +23,12 @@ double luminance(const QColor &colour)
            0.0722 * linear(double(colour.blueF()));
 }
 
+std::optional<bool> &whatWasRead()
+{
+    static std::optional<bool> isHigh;
+    return isHigh;
+}
+
 } // namespace
 
 double contrastOf(const QColor &one, const QColor &other)
@@ -33,13 +40,22 @@ double contrastOf(const QColor &one, const QColor &other)
 
 bool isContrastHigh()
 {
+    if (!whatWasRead())
+        readContrast();
+    return whatWasRead().value_or(false);
+}
+
+void readContrast()
+{
     // Without a screen there is no palette either, not even to ask for.
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
-        return false;
+        return;
     const QPalette palette = QGuiApplication::palette();
-    return contrastOf(palette.color(QPalette::WindowText), palette.color(QPalette::Window)) >=
-               HighContrast &&
-           contrastOf(palette.color(QPalette::Text), palette.color(QPalette::Base)) >= HighContrast;
+    const auto isHigh = [&](QPalette::ColorRole ink, QPalette::ColorRole ground) {
+        return contrastOf(palette.color(ink), palette.color(ground)) >= HighContrast;
+    };
+    whatWasRead() =
+        isHigh(QPalette::WindowText, QPalette::Window) && isHigh(QPalette::Text, QPalette::Base);
 }
 
 } // namespace tarvelo::platform

@@ -9,6 +9,7 @@
 using tarvelo::lectures::Colours;
 using tarvelo::lectures::colours;
 using tarvelo::platform::contrastOf;
+using tarvelo::platform::readContrast;
 
 class ColoursTest final : public tarvelo::tests::TestCase
 {
@@ -33,6 +34,7 @@ private Q_SLOTS:
             palette.setColor(role, Qt::white);
         palette.setColor(QPalette::Base, Qt::black);
         QGuiApplication::setPalette(palette);
+        readContrast();
 
         const Colours strong = colours();
 
@@ -44,7 +46,11 @@ private Q_SLOTS:
 
 private:
     void prepare() override { m_before = QGuiApplication::palette(); }
-    void finish() override { QGuiApplication::setPalette(m_before); }
+    void finish() override
+    {
+        QGuiApplication::setPalette(m_before);
+        readContrast();
+    }
 
     QPalette m_before;
 };

@@ -1,5 +1,6 @@
 #include "lectures/LectureWindows.h"
 
+#include "lectures/Colours.h"
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
 #include "widgets/CustomTextView.h"
@@ -9,7 +10,10 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QGuiApplication>
 #include <QLayout>
+#include <QPalette>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 using tarvelo::tests::LectureProgram;
@@ -42,6 +46,28 @@ class LectureWindowsTest final : public tarvelo::tests::TestCase
 
 private Q_SLOTS:
     void initTestCase() { tarvelo::platform::installTexts(); }
+
+    void aDesktopThatAsksForHighContrastLaterIsHeardByTheNextWindows()
+    {
+        const QPalette usual = QGuiApplication::palette();
+        const auto restored = qScopeGuard([&] { QGuiApplication::setPalette(usual); });
+        const auto outline = [] { return tarvelo::lectures::colours().outline; };
+        const QColor before = outline();
+        QPalette strong(Qt::black);
+        for (const auto role : {QPalette::Window, QPalette::Base})
+            strong.setColor(role, Qt::white);
+        for (const auto role : {QPalette::WindowText, QPalette::Text})
+            strong.setColor(role, Qt::black);
+
+        QGuiApplication::setPalette(strong);
+        QCOMPARE(outline(), before);
+        m_program.reset();
+        m_program = std::make_unique<LectureProgram>();
+
+        QCOMPARE(outline(), QColor(Qt::black));
+        QVERIFY(outline() != before);
+        QCOMPARE(windows().mainWindow().palette().color(QPalette::Shadow), outline());
+    }
 
     void theMainWindowIsAsWideAsCalendarAndList()
     {

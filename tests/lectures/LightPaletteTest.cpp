@@ -1,5 +1,6 @@
 #include "lectures/LightPalette.h"
 
+#include "platform/HighContrast.h"
 #include "support/TestCase.h"
 
 #include <QApplication>
@@ -97,7 +98,7 @@ private Q_SLOTS:
 
     void theOutlinesOfControlsAreSeen()
     {
-        QApplication::setPalette(m_before);
+        dress(m_before);
         QWidget window;
 
         setLightPalette(window);
@@ -144,7 +145,7 @@ private Q_SLOTS:
 
     void aDesktopThatTurnsDarkLaterChangesNothing()
     {
-        QApplication::setPalette(m_before);
+        dress(m_before);
         QWidget window;
         setLightPalette(window);
         const QPalette light = window.palette();
@@ -159,9 +160,15 @@ private:
     void prepare() override
     {
         m_before = QApplication::palette();
-        QApplication::setPalette(darkDesktop());
+        dress(darkDesktop());
     }
-    void finish() override { QApplication::setPalette(m_before); }
+    void finish() override { dress(m_before); }
+
+    static void dress(const QPalette &palette)
+    {
+        QApplication::setPalette(palette);
+        tarvelo::platform::readContrast();
+    }
 
     QPalette m_before;
 };

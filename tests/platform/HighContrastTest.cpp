@@ -7,6 +7,7 @@
 
 using tarvelo::platform::contrastOf;
 using tarvelo::platform::isContrastHigh;
+using tarvelo::platform::readContrast;
 
 class HighContrastTest final : public tarvelo::tests::TestCase
 {
@@ -43,13 +44,33 @@ private Q_SLOTS:
             palette.setColor(role, ground);
 
         QGuiApplication::setPalette(palette);
+        readContrast();
 
         QCOMPARE(isContrastHigh(), high);
     }
 
+    void aDesktopThatAsksLaterIsHeardWhenItIsReadAnew()
+    {
+        readContrast();
+        QPalette palette(Qt::black, Qt::black);
+        for (const auto role : {QPalette::WindowText, QPalette::Text})
+            palette.setColor(role, Qt::white);
+        palette.setColor(QPalette::Base, Qt::black);
+
+        QGuiApplication::setPalette(palette);
+        QVERIFY(!isContrastHigh());
+        readContrast();
+
+        QVERIFY(isContrastHigh());
+    }
+
 private:
     void prepare() override { m_before = QGuiApplication::palette(); }
-    void finish() override { QGuiApplication::setPalette(m_before); }
+    void finish() override
+    {
+        QGuiApplication::setPalette(m_before);
+        readContrast();
+    }
 
     QPalette m_before;
 };

@@ -1,5 +1,6 @@
 #include "platform/Images.h"
 
+#include "platform/HighContrast.h"
 #include "support/TestCase.h"
 
 #include <QImage>
@@ -83,8 +84,10 @@ private Q_SLOTS:
         const QImage grey = drawn();
 
         QGuiApplication::setPalette(palette);
+        tarvelo::platform::readContrast();
         const QImage black = drawn();
         QGuiApplication::setPalette(usual);
+        tarvelo::platform::readContrast();
 
         QCOMPARE(grey.pixelColor(12, 12), QColor(0x60, 0x5c, 0x66));
         QCOMPARE(black.pixelColor(12, 12), QColor(Qt::black));
