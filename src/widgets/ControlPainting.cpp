@@ -46,11 +46,6 @@ QColor groundOf(const QStyleOption &option)
                                                                     : QPalette::Base);
 }
 
-bool hasKeyboard(const QStyleOption &option)
-{
-    return is(option, QStyle::State_HasFocus) && is(option, QStyle::State_KeyboardFocusChange);
-}
-
 // The middle of a line of one point that runs along the inside of `rect`.
 QRectF lineIn(const QRectF &rect)
 {
@@ -139,8 +134,6 @@ void paintCheckBox(QPainter &painter, const QStyleOption &option)
                                        box.topLeft() + QPointF(6.3, 10.6),
                                        box.topLeft() + QPointF(11.5, 4.6)});
     }
-    if (hasKeyboard(option))
-        paintKeyboardRing(painter, option, false);
 }
 
 void paintRadioButton(QPainter &painter, const QStyleOption &option)

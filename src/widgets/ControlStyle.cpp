@@ -31,6 +31,12 @@ bool isDefault(const QStyleOption &option)
     return button && button->features.testFlag(QStyleOptionButton::DefaultButton);
 }
 
+bool isWithoutWords(const QStyleOption &option)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return button && button->text.isEmpty() && button->icon.isNull();
+}
+
 bool isOnAccent(const QStyleOption &option)
 {
     return isDefault(option) && option.state.testFlag(QStyle::State_Enabled);
@@ -41,6 +47,15 @@ bool hasRoundFrame(const QWidget *widget)
 {
     const auto *area = qobject_cast<const QAbstractScrollArea *>(widget);
     return area && area->frameShape() == QFrame::StyledPanel;
+}
+
+// In the accent of the window, also on a list that marks its rows by a pale colour of its own.
+void paintRing(QPainter &painter, const QStyleOption &option, const QWidget *widget)
+{
+    QStyleOption ring(option);
+    if (widget)
+        ring.palette = widget->window()->palette();
+    paintKeyboardRing(painter, ring, false);
 }
 
 QRect sliderPart(const QStyleOptionSlider &option, QStyle::SubControl part)
@@ -55,7 +70,7 @@ QRect sliderPart(const QStyleOptionSlider &option, QStyle::SubControl part)
             SliderHandleSide};
 }
 
-// There are no buttons at its ends.
+// There are no buttons at its ends. One that lies begins where the words do.
 QRect scrollBarPart(const QStyleOptionSlider &option, QStyle::SubControl part)
 {
     const bool isAcross = option.orientation == Qt::Horizontal;
@@ -66,10 +81,11 @@ QRect scrollBarPart(const QStyleOptionSlider &option, QStyle::SubControl part)
     const int at = QStyle::sliderPositionFromValue(
         option.minimum, option.maximum, option.sliderPosition, length - handle, option.upsideDown);
     const auto along = [&](int from, int to) {
-        return isAcross ? QRect(option.rect.left() + from, option.rect.top(), to - from,
-                                option.rect.height())
-                        : QRect(option.rect.left(), option.rect.top() + from, option.rect.width(),
-                                to - from);
+        const QRect &bar = option.rect;
+        if (!isAcross)
+            return QRect(bar.left(), bar.top() + from, bar.width(), to - from);
+        return QStyle::visualRect(option.direction, bar,
+                                  {bar.left() + from, bar.top(), to - from, bar.height()});
     };
     switch (part) {
     case QStyle::SC_ScrollBarSlider:
@@ -101,7 +117,7 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         return paintButton(*painter, *option, isDefault(*option));
     case PE_FrameFocusRect:
         if (option->state.testFlag(State_KeyboardFocusChange))
-            paintKeyboardRing(*painter, *option, false);
+            paintRing(*painter, *option, widget);
         return;
     case PE_PanelLineEdit:
         if (frame && frame->lineWidth > 0)
@@ -140,6 +156,10 @@ void ControlStyle::drawControl(ControlElement element, const QStyleOption *optio
             return QProxyStyle::drawControl(element, &label, painter, widget);
         }
         break;
+    case CE_CheckBox:
+        if (isWithoutWords(*option))
+            return drawBox(*option, painter, widget);
+        break;
     case CE_HeaderSection:
     case CE_HeaderEmptyArea:
         return paintHeaderSection(*painter, *option);
@@ -147,6 +167,17 @@ void ControlStyle::drawControl(ControlElement element, const QStyleOption *optio
         break;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+// The ring lies around the box, and leaves a point between them.
+void ControlStyle::drawBox(const QStyleOption &option, QPainter *painter,
+                           const QWidget *widget) const
+{
+    QStyleOption box(option);
+    box.rect = subElementRect(SE_CheckBoxIndicator, &option, widget);
+    drawPrimitive(PE_IndicatorCheckBox, &box, painter, widget);
+    if (box.state.testFlag(State_HasFocus))
+        drawPrimitive(PE_FrameFocusRect, &box, painter, widget);
 }
 
 void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,

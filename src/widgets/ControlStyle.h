@@ -31,6 +31,10 @@ public:
                            const QWidget *widget = nullptr) const override;
     QIcon standardIcon(StandardPixmap standard, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
+
+private:
+    // A check box without words.
+    void drawBox(const QStyleOption &option, QPainter *painter, const QWidget *widget) const;
 };
 
 } // namespace tarvelo::widgets

@@ -1,11 +1,7 @@
 #include "widgets/MouseDownTextField.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QPalette>
-#include <QPen>
-#include <QRectF>
 #include <QWidget>
 
 namespace tarvelo::widgets {
@@ -43,6 +39,7 @@ void MouseDownTextField::setBordered(bool bordered)
     setFrame(bordered);
     const int margin = bordered ? BorderedMargin : -OwnMargin;
     setTextMargins(margin, 0, margin, 0);
+    Q_EMIT borderChanged();
 }
 
 void MouseDownTextField::setDrawsBackground(bool draws)
@@ -98,25 +95,6 @@ void MouseDownTextField::keyPressEvent(QKeyEvent *event)
         m_delegate->mouseDownTextFieldClicked(*this);
     if (isEditable() && event->key() != Qt::Key_F2)
         QLineEdit::keyPressEvent(event);
-}
-
-void MouseDownTextField::focusInEvent(QFocusEvent *event)
-{
-    const Qt::FocusReason reason = event->reason();
-    m_showsFocus = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                   reason == Qt::ShortcutFocusReason;
-    QLineEdit::focusInEvent(event);
-}
-
-void MouseDownTextField::paintEvent(QPaintEvent *event)
-{
-    QLineEdit::paintEvent(event);
-    if (!hasFocus() || !m_showsFocus || isEditable())
-        return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
 }
 
 } // namespace tarvelo::widgets

@@ -41,14 +41,15 @@ public:
     // What a press of the mouse does.
     void mouseDown(QMouseEvent *event);
 
+Q_SIGNALS:
+    void borderChanged();
+
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     bool isBeingEdited() const { return isEditable() && hasFocus(); }
@@ -56,8 +57,6 @@ private:
     MouseDownTextFieldDelegate *m_delegate = nullptr;
     bool m_drawsBackground = true;
     bool m_pressIsForTheText = false;
-    // A heading shows the keyboard to who came by it.
-    bool m_showsFocus = false;
 };
 
 } // namespace tarvelo::widgets

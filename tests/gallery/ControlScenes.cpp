@@ -1,12 +1,18 @@
 #include "gallery/ControlScenes.h"
 
+#include "calendar/DateButton.h"
 #include "lectures/CustomTableCellView.h"
 #include "lectures/LectureTable.h"
 #include "store/LectureInfoItem.h"
 #include "support/LectureBuilder.h"
+#include "widgets/CustomButton.h"
+#include "widgets/MouseDownTextField.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDialog>
+#include <QEnterEvent>
+#include <QEvent>
 #include <QFile>
 #include <QTest>
 
@@ -16,6 +22,26 @@ using namespace Qt::StringLiterals;
 namespace tarvelo::tests {
 
 namespace {
+
+// To one that paints what it noticed. Days do not take part: of a month of them one would see no
+// more than their frames.
+void bringMouse(widgets::CustomButton &button, bool isThere)
+{
+    if (qobject_cast<calendar::DateButton *>(&button))
+        return;
+    QEnterEvent entering({1, 1}, {1, 1}, {1, 1});
+    QEvent leaving(QEvent::Leave);
+    QCoreApplication::sendEvent(&button, isThere ? &entering : &leaving);
+}
+
+// No window becomes the active one while a pop-over is open.
+void activate(QWidget &window)
+{
+    while (QWidget *popOver = QApplication::activePopupWidget())
+        popOver->close();
+    window.activateWindow();
+    static_cast<void>(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }));
+}
 
 class Controls final
 {
@@ -91,6 +117,9 @@ void Controls::playing() const
     m_program.controller.openPlayEditWindow(firstRow().btnEdit());
     m_program.window().setFrameWidth(lectures::ExpandedWidth, false);
     look(u"lecture-with-audio"_s, m_program.window());
+    activate(m_program.window());
+    m_program.windows.lectureViewOutlets().tSubjectName->setFocus(Qt::TabFocusReason);
+    look(u"lecture-heading-keyboard"_s, m_program.window());
     m_program.window().setFrameWidth(app::AppDelegate::ListShownWidth, false);
 }
 
@@ -123,6 +152,10 @@ void Controls::controls() const
     lookAtKeyboard(u"main"_s, m_program.window());
     m_program.delegate.menus().action(app::Command::ShowPreferences)->trigger();
     lookAtControls(u"preferences"_s, preferences);
+    activate(preferences);
+    preferences.setAttribute(Qt::WA_KeyboardFocusChange);
+    preferences.findChild<QWidget *>(u"windowOnTop"_s)->setFocus(Qt::TabFocusReason);
+    look(u"preferences-keyboard"_s, preferences);
     preferences.hide();
 }
 
@@ -133,6 +166,8 @@ void Controls::lookAtControls(const QString &name, QWidget &window) const
     const auto setAll = [&](bool underMouse, bool down) {
         for (QAbstractButton *button : buttons) {
             button->setAttribute(Qt::WA_UnderMouse, underMouse && button->isEnabled());
+            if (auto *arrow = qobject_cast<widgets::CustomButton *>(button))
+                bringMouse(*arrow, underMouse && button->isEnabled());
             button->setDown(down && button->isEnabled());
         }
     };
@@ -145,8 +180,7 @@ void Controls::lookAtControls(const QString &name, QWidget &window) const
 
 void Controls::lookAtKeyboard(const QString &name, QWidget &window) const
 {
-    window.activateWindow();
-    static_cast<void>(QTest::qWaitForWindowActive(&window));
+    activate(window);
     window.setAttribute(Qt::WA_KeyboardFocusChange);
     for (int tabs = 0; tabs < 3; ++tabs)
         QTest::keyClick(&window, Qt::Key_Tab);

@@ -136,20 +136,48 @@ private Q_SLOTS:
         }
     }
 
+    void aBoxWithoutWordsShowsTheKeyboardAroundItself_data()
+    {
+        QTest::addColumn<bool>("isTicked");
+        QTest::newRow("empty") << false;
+        QTest::newRow("ticked") << true;
+    }
     void aBoxWithoutWordsShowsTheKeyboardAroundItself()
     {
+        QFETCH(const bool, isTicked);
         QCheckBox box(m_window.get());
-        m_window->show();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        m_window->setAttribute(Qt::WA_KeyboardFocusChange);
+        box.setChecked(isTicked);
+        show();
         m_window->setFocus();
         const QImage without = look(box);
 
         box.setFocus(Qt::TabFocusReason);
 
+        // One ring, white, and then the box as it was.
+        const QImage with = look(box);
+        const int middle = with.height() / 2;
+        for (const int ring : {0, 1})
+            QCOMPARE(with.pixelColor(ring, middle), Accent);
+        QCOMPARE(with.pixelColor(2, middle), QColor(Qt::white));
+        const QRect inside = with.rect().adjusted(3, 5, -3, -5); // but for the corners
+        QCOMPARE(with.copy(inside), without.copy(inside));
+    }
+
+    void onAListTheKeyboardIsSeenInTheAccentOfItsWindow()
+    {
+        QTreeWidget list(m_window.get());
+        QPalette pale = m_window->palette();
+        pale.setColor(QPalette::Highlight, QColor(253, 232, 234));
+        list.setPalette(pale);
+        list.setCurrentItem(new QTreeWidgetItem(&list, {u"Monday"_s}));
+        show();
+        m_window->setFocus();
+        const QImage without = look(list);
+
+        list.setFocus(Qt::TabFocusReason);
+
         QCOMPARE(pixelsOf(without, Accent), 0);
-        QVERIFY(pixelsOf(look(box), Accent) > 30);
+        QVERIFY(pixelsOf(look(list), Accent) > 60);
     }
 
     void aSliderIsFilledUpToItsHandleAlsoFromTheRight()
@@ -210,6 +238,22 @@ private Q_SLOTS:
         QCOMPARE(pixelsOf(look(bar), Outline), 0);
     }
 
+    void fromRightToLeftAScrollBarBeginsAtTheRight()
+    {
+        QScrollBar bar(Qt::Horizontal, m_window.get());
+        bar.setRange(0, 300);
+        bar.setPageStep(100);
+        bar.resize(200, 12);
+        bar.setLayoutDirection(Qt::RightToLeft);
+
+        const QImage image = look(bar);
+        QTest::mousePress(&bar, Qt::LeftButton, {}, {175, 6});
+
+        QCOMPARE(image.pixelColor(175, 6), Outline);
+        QCOMPARE(image.pixelColor(25, 6), QColor(Qt::white));
+        QVERIFY(bar.isSliderDown());
+    }
+
     void rowsOfAListAreHighEnoughToBeHit()
     {
         QTreeWidget list(m_window.get());
@@ -230,6 +274,15 @@ private Q_SLOTS:
     }
 
 private:
+    // For somebody who came by keyboard.
+    void show() const
+    {
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        m_window->setAttribute(Qt::WA_KeyboardFocusChange);
+    }
+
     void prepare() override
     {
         m_window = std::make_unique<QWidget>();

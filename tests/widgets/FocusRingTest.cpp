@@ -1,12 +1,14 @@
 #include "widgets/FocusRing.h"
 
 #include "support/TestCase.h"
+#include "widgets/MouseDownTextField.h"
 
 #include <QSlider>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
+using tarvelo::widgets::MouseDownTextField;
 using tarvelo::widgets::showFocusRing;
 
 class FocusRingTest final : public tarvelo::tests::TestCase
@@ -44,6 +46,33 @@ private Q_SLOTS:
 
         QTRY_COMPARE(m_text->width(), m_window->layout()->contentsRect().width());
         QCOMPARE(ringOf(*m_text)->size(), m_text->size());
+    }
+
+    void aHeadingsRingStandsClearOfItsLetters()
+    {
+        auto *heading = new MouseDownTextField(m_window.get());
+        heading->setText(u"Optics"_s);
+        heading->setEditable(false);
+        heading->setBordered(false);
+        m_window->layout()->addWidget(heading);
+        heading->show();
+        showFocusRing(*heading);
+        const auto *ring =
+            m_window->findChild<QWidget *>(u"focusRing"_s, Qt::FindDirectChildrenOnly);
+        QVERIFY(ring && ring->isHidden());
+
+        heading->setFocus(Qt::TabFocusReason);
+        QVERIFY(ring->isVisible());
+        // Two points of it are the ring's own line.
+        QVERIFY(ring->geometry().adjusted(5, 2, -5, -2).contains(heading->geometry()));
+
+        heading->setBordered(true);
+        QCOMPARE(ring->geometry(), heading->geometry());
+        m_window->resize(500, 400);
+        QTRY_COMPARE(heading->width(), m_window->layout()->contentsRect().width());
+        QCOMPARE(ring->geometry(), heading->geometry());
+        m_text->setFocus(Qt::TabFocusReason);
+        QVERIFY(ring->isHidden());
     }
 
 private:

@@ -171,15 +171,6 @@ private Q_SLOTS:
         QVERIFY(begin() >= ofHeading + 8);
     }
 
-    void aHeadingShowsThatTheKeyboardIsOnIt()
-    {
-        const QImage before = drawn(heading());
-
-        heading().setFocus(Qt::TabFocusReason);
-
-        QVERIFY(drawn(heading()) != before);
-    }
-
 private:
     // A heading, and another field that has the keyboard at first.
     struct Stage
