@@ -1,8 +1,8 @@
 #include "app/AppMenus.h"
 
 #include "app/Help.h"
-#include "lectures/LightPalette.h"
 #include "platform/Texts.h"
+#include "widgets/LightPalette.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -88,8 +88,8 @@ AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run,
     m_statusMenu.setObjectName(QStringLiteral("statusMenu"));
     m_mainMenu.setAccessibleName(text("MENU_MAIN"));
     // They belong to the windows, also in colour. The status menu is part of the desktop's bar.
-    lectures::setLightPalette(m_mainMenu);
-    lectures::setLightPalette(m_helpMenu);
+    widgets::setLightPalette(m_mainMenu);
+    widgets::setLightPalette(m_helpMenu);
     for (const Entry &entry : entries()) {
         const Command command = entry.command;
         QMenu &menu = command < Command::Open ? m_mainMenu : m_statusMenu;

@@ -1,13 +1,13 @@
 #include "app/BringBackSheet.h"
 
-#include "lectures/Colours.h"
-#include "lectures/LightPalette.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
 #include "platform/Texts.h"
 #include "store/DamagedFiles.h"
 #include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
+#include "widgets/Colours.h"
+#include "widgets/LightPalette.h"
 
 #include <QDialog>
 #include <QHBoxLayout>
@@ -75,7 +75,7 @@ void BringBackSheet::build()
     m_sheet->setObjectName(QStringLiteral("bringBackSheet"));
     m_sheet->setWindowTitle(text("TITLE_BRING_LECTURES_BACK"));
     // As white as the windows, whatever the desktop's theme.
-    lectures::setLightPalette(*m_sheet);
+    widgets::setLightPalette(*m_sheet);
 
     m_list = new QTreeWidget;
     dressList();
@@ -127,8 +127,8 @@ void BringBackSheet::dressList()
         m_list->headerItem()->setTextAlignment(column, Numbers);
     m_list->setMinimumHeight(ListHeight);
     QPalette palette = m_sheet->palette();
-    palette.setColor(QPalette::Highlight, lectures::colours().chosen);
-    palette.setColor(QPalette::HighlightedText, lectures::colours().ink);
+    palette.setColor(QPalette::Highlight, widgets::colours().chosen);
+    palette.setColor(QPalette::HighlightedText, widgets::colours().ink);
     m_list->setPalette(palette);
 }
 

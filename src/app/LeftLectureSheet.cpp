@@ -3,12 +3,12 @@
 #include "audio/DurationText.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
-#include "lectures/Colours.h"
-#include "lectures/LightPalette.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
 #include "platform/Texts.h"
 #include "store/LectureJournal.h"
+#include "widgets/Colours.h"
+#include "widgets/LightPalette.h"
 
 #include <QDateTime>
 #include <QDialog>
@@ -51,7 +51,7 @@ void addRow(QFormLayout &form, const char *key, QLabel &value)
 {
     auto *name = new QLabel(text(key));
     QPalette quiet = name->palette();
-    quiet.setColor(QPalette::WindowText, lectures::colours().faint);
+    quiet.setColor(QPalette::WindowText, widgets::colours().faint);
     name->setPalette(quiet);
     name->setBuddy(&value);
     form.addRow(name, &value);
@@ -100,7 +100,7 @@ void LeftLectureSheet::build()
     m_sheet->setObjectName(QStringLiteral("leftLectureSheet"));
     m_sheet->setWindowTitle(text("TITLE_LEFT_LECTURE"));
     // As white as the windows, whatever the desktop's theme.
-    lectures::setLightPalette(*m_sheet);
+    widgets::setLightPalette(*m_sheet);
 
     auto *explained = wrapped("explained");
     explained->setText(text("LEFT_LECTURE_EXPLAINED"));

@@ -1,11 +1,11 @@
 #include "app/Preferences.h"
 
 #include "app/WindowHints.h"
-#include "lectures/LightPalette.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/WindowLevel.h"
 #include "ui_Preferences.h"
+#include "widgets/LightPalette.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -44,7 +44,7 @@ Preferences::Preferences(platform::UserDefaults &defaults, QWidget &mainWindow, 
                                            Qt::WindowCloseButtonHint))
 {
     // As white as the windows, whatever the desktop's theme.
-    lectures::setLightPalette(*m_sheet);
+    widgets::setLightPalette(*m_sheet);
     m_ui->setupUi(m_sheet);
     const auto formats = formatButtons(*m_ui);
     for (std::size_t number = 0; number < formats.size(); ++number)

@@ -1,11 +1,11 @@
 #include "lectures/CustomTableCellView.h"
 
-#include "lectures/Colours.h"
 #include "lectures/LectureRowHost.h"
 #include "platform/Fonts.h"
 #include "platform/Images.h"
 #include "platform/Texts.h"
 #include "store/LectureInfoItem.h"
+#include "widgets/Colours.h"
 #include "widgets/ImageButton.h"
 #include "widgets/ImageView.h"
 #include "widgets/PlainToolTip.h"
@@ -72,9 +72,9 @@ CustomTableCellView::CustomTableCellView(QWidget *parent)
     , m_tracking(*this, {[this] { mouseEntered(); }, [this] { mouseExited(); }})
 {
     m_imageView->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_subject = makeLabel("lblSubject", 15, colours().ink);
-    m_notes = makeLabel("lblNotes", 12, colours().faint);
-    m_duration = makeLabel("lblDuration", 13, colours().faint);
+    m_subject = makeLabel("lblSubject", 15, widgets::colours().ink);
+    m_notes = makeLabel("lblNotes", 12, widgets::colours().faint);
+    m_duration = makeLabel("lblDuration", 13, widgets::colours().faint);
     m_btnPlay = makeButton("btnPlay", "play", "ROW_PLAY");
     m_btnPlay->setAlternateImage(platform::imageNamed(QStringLiteral("playH")));
     m_btnEdit = makeButton("btnEdit", "edit", "ROW_EDIT");
@@ -254,7 +254,8 @@ void CustomTableCellView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QRect line(TextX, height() - 1, width() - TextX, 1);
-    painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), colours().hairline);
+    painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line),
+                     widgets::colours().hairline);
     if (!m_isCurrent)
         return;
     painter.setRenderHint(QPainter::Antialiasing);

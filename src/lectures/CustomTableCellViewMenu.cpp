@@ -1,8 +1,8 @@
 #include "lectures/CustomTableCellView.h"
 
 #include "lectures/LectureRowHost.h"
-#include "lectures/LightPalette.h"
 #include "widgets/ImageButton.h"
+#include "widgets/LightPalette.h"
 
 #include <QAction>
 #include <QMenu>
@@ -56,7 +56,7 @@ QMenu *CustomTableCellView::newMenu()
 {
     closeMenu();
     m_menu = new QMenu(QStringLiteral("Contextual Menu"), this);
-    setLightPalette(*m_menu);
+    widgets::setLightPalette(*m_menu);
     // Its title shows nowhere. Who listens wants to know whose menu it is.
     m_menu->setAccessibleName(accessibleName());
     // The command that was chosen is sent after the menu has gone from the screen.

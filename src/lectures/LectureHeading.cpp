@@ -1,8 +1,8 @@
 #include "lectures/LectureHeading.h"
 
-#include "lectures/Colours.h"
 #include "platform/Fonts.h"
 #include "platform/Texts.h"
+#include "widgets/Colours.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -52,7 +52,7 @@ protected:
     void paintEvent(QPaintEvent *event) override
     {
         QLabel::paintEvent(event);
-        QPainter(this).fillRect(0, BandHeight, width(), 1, colours().hairline);
+        QPainter(this).fillRect(0, BandHeight, width(), 1, widgets::colours().hairline);
     }
 
 private:

@@ -2,12 +2,10 @@
 
 #include "audio/PlaySpeeds.h"
 #include "calendar/CKCalendarView.h"
-#include "lectures/Colours.h"
 #include "lectures/LectureHeading.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureTableAccess.h"
 #include "lectures/LectureViewMargins.h"
-#include "lectures/LightPalette.h"
 #include "lectures/PlayingTitle.h"
 #include "lectures/WindowWidths.h"
 #include "platform/Dates.h"
@@ -16,12 +14,14 @@
 #include "platform/HighContrast.h"
 #include "platform/Texts.h"
 #include "widgets/Accessibility.h"
+#include "widgets/Colours.h"
 #include "widgets/CustomWindow.h"
 #include "widgets/FieldFormatter.h"
 #include "widgets/FocusRing.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LayerView.h"
 #include "widgets/LevelIndicator.h"
+#include "widgets/LightPalette.h"
 #include "widgets/PopOver.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/SlidingWindow.h"
@@ -130,8 +130,8 @@ std::unique_ptr<widgets::PopOver> makePopover(const char *labelName)
     buttons->addStretch();
     layout->addLayout(buttons);
     auto popover = std::make_unique<widgets::PopOver>(std::move(content));
-    setLightPalette(*popover);
-    style(*label, 14, colours().ink);
+    widgets::setLightPalette(*popover);
+    style(*label, 14, widgets::colours().ink);
     return popover;
 }
 
@@ -235,7 +235,7 @@ audio::ClockOutlets LectureWindows::clockOutlets() const
 void LectureWindows::buildMainWindow(platform::Dates &dates)
 {
     m_mainWindow = std::make_unique<widgets::SlidingWindow>();
-    setLightPalette(*m_mainWindow);
+    widgets::setLightPalette(*m_mainWindow);
     Ui::MainWindow ui;
     ui.setupUi(m_mainWindow.get());
     m_mainWindow->setObjectName(QStringLiteral("mainWindow"));
@@ -254,18 +254,18 @@ void LectureWindows::buildMainWindow(platform::Dates &dates)
         {ui.tableListView, [table = ui.tblRecordSubjectList] { return table; }},
         {ui.editPlayView, [this] { return m_lectureView.tSubjectName; }},
     });
-    style(*ui.lblTarvelo, 18, colours().ink);
-    style(*ui.lblDateDisplay, 22, colours().ink);
+    style(*ui.lblTarvelo, 18, widgets::colours().ink);
+    style(*ui.lblDateDisplay, 22, widgets::colours().ink);
     // Their neighbours, the ordinal of the date and the calendar, have one size on every desktop.
     ui.lblTarvelo->setFont(platform::fontNamed(Face, 18));
     ui.lblDateDisplay->setFont(platform::fontNamed(Face, 22));
-    style(*ui.lblEmptyDayTitle, 17, colours().ink);
-    style(*ui.lblEmptyDayHint, 13, colours().faint);
-    fill(*ui.topHorizontalLine, colours().hairline);
-    fill(*ui.paneLine, colours().hairline);
-    fill(*ui.lectureLine, colours().hairline);
-    fill(*ui.listTopLine, colours().hairline);
-    fill(*ui.listBottomLine, colours().hairline);
+    style(*ui.lblEmptyDayTitle, 17, widgets::colours().ink);
+    style(*ui.lblEmptyDayHint, 13, widgets::colours().faint);
+    fill(*ui.topHorizontalLine, widgets::colours().hairline);
+    fill(*ui.paneLine, widgets::colours().hairline);
+    fill(*ui.lectureLine, widgets::colours().hairline);
+    fill(*ui.listTopLine, widgets::colours().hairline);
+    fill(*ui.listBottomLine, widgets::colours().hairline);
     fill(*ui.editPlayView, Qt::white);
     ui.imgEmptyDay->setPixmap(imageNamed(QStringLiteral("emptyDay")).icon().pixmap(96, 96));
     ui.btnMainMenu->setImage(imageNamed(QStringLiteral("menu")));
@@ -288,8 +288,8 @@ void LectureWindows::buildLectureView()
     giveMargins(*ui.tSubjectName, *ui.tViewNoteForEdit);
     for (QLabel *label :
          {ui.lblNotesForView, ui.tEditTime, ui.tEditDate, ui.tElapsedTime, ui.tRemainingTime})
-        style(*label, 13, colours().faint);
-    fill(*ui.editPlayerPanel, colours().panel);
+        style(*label, 13, widgets::colours().faint);
+    fill(*ui.editPlayerPanel, widgets::colours().panel);
     ui.bPlay->setImage(imageNamed(QStringLiteral("play")));
     ui.bPlay->setAlternateImage(imageNamed(QStringLiteral("playH")));
     ui.bPause->setImage(imageNamed(QStringLiteral("pause")));
@@ -310,7 +310,7 @@ void LectureWindows::buildLectureView()
 void LectureWindows::buildNewLectureWindow()
 {
     m_newNoteWindow = std::make_unique<QWidget>(nullptr, Qt::Window);
-    setLightPalette(*m_newNoteWindow);
+    widgets::setLightPalette(*m_newNoteWindow);
     Ui::NewLectureWindow ui;
     ui.setupUi(m_newNoteWindow.get());
     for (ImageButton *button :
@@ -330,16 +330,16 @@ void LectureWindows::buildNewLectureWindow()
 
     for (QLabel *label : {ui.textDate, ui.textTime, ui.lblNotesForAdd, ui.lblElapsedTimeTemp,
                           ui.lblRemainingTimeTemp})
-        style(*label, 13, colours().faint);
-    style(*ui.lblRecordingDuration, 24, colours().ink);
+        style(*label, 13, widgets::colours().faint);
+    style(*ui.lblRecordingDuration, 24, widgets::colours().ink);
     ui.lblRecordingDuration->setFont(platform::fontNamed(Face, 24));
-    style(*ui.lblRecordingWarning, 13, colours().warning);
+    style(*ui.lblRecordingWarning, 13, widgets::colours().warning);
     keepRoom(*ui.lblRecordingWarning);
     ui.lblRecordingWarning->hide();
     ui.txtSubjectForNewNote->setFont(platform::scaledFontNamed(Face, 16));
     limitSubject(*ui.txtSubjectForNewNote);
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
-    fill(*ui.recordingPanel, colours().panel);
+    fill(*ui.recordingPanel, widgets::colours().panel);
     ui.imgLevelIndicatorBG->setImage(imageNamed(QStringLiteral("levelBackground")));
     dressRecordingControls(m_recording);
     ui.BtnDoneOrClose->setTag(NewLectureOutlets::TagDone);
@@ -349,7 +349,7 @@ void LectureWindows::buildNewLectureWindow()
 void LectureWindows::buildEditLectureWindow()
 {
     m_windowEditLecture = std::make_unique<QWidget>(nullptr, Qt::Window);
-    setLightPalette(*m_windowEditLecture);
+    widgets::setLightPalette(*m_windowEditLecture);
     Ui::EditLectureWindow ui;
     ui.setupUi(m_windowEditLecture.get());
     limitSubject(*ui.txtSubjectForEdit);
@@ -359,7 +359,7 @@ void LectureWindows::buildEditLectureWindow()
                      ui.btnCancelEdit};
     ui.txtSubjectForEdit->setFont(platform::scaledFontNamed(Face, 16));
     for (QLabel *label : {ui.textEditTime, ui.textEditDate, ui.lblNotesForEdit})
-        style(*label, 13, colours().faint);
+        style(*label, 13, widgets::colours().faint);
 }
 
 void LectureWindows::buildPlayAudioWindow()
@@ -367,7 +367,7 @@ void LectureWindows::buildPlayAudioWindow()
     using widgets::CustomWindow;
     m_playAudioWindow = std::make_unique<CustomWindow>(PlayWindowContent, CustomWindow::Borderless,
                                                        CustomWindow::Buffered, false);
-    setLightPalette(*m_playAudioWindow);
+    widgets::setLightPalette(*m_playAudioWindow);
     Ui::PlayAudioWindow ui;
     ui.setupUi(m_playAudioWindow.get());
     m_playAudio = {m_playAudioWindow.get(), ui.txtSubjectName, ui.txtCourseName,
@@ -384,7 +384,7 @@ void LectureWindows::buildPlayAudioWindow()
         platform::text("BUTTON_CLOSE"),
         QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)));
     for (QLabel *label : {ui.txtElapsedTime, ui.txtRemainingTime, ui.lblSpeed})
-        style(*label, 13, colours().faint);
+        style(*label, 13, widgets::colours().faint);
     ui.btnPlayLecture->setImage(imageNamed(QStringLiteral("play")));
     ui.btnPlayLecture->setAlternateImage(imageNamed(QStringLiteral("playH")));
     ui.btnPlayLecture->setTag(audio::LecturePlayerOutlets::TagPlay);

@@ -8,7 +8,9 @@ class QStyleOptionSlider;
 
 namespace tarvelo::widgets {
 
-// How the controls of that style are drawn which all windows share. Lengths in points.
+// How the controls of that style are drawn which all windows share. Lengths in points. All colours
+// come from the palette, which setLightPalette() fills from colours(): the outline is its Shadow,
+// the line between two areas its Mid, what is turned to its Midlight, the accent its Highlight.
 
 constexpr double ControlRadius = 6;
 constexpr int SliderHandleSide = 16;

@@ -1,8 +1,8 @@
 #include "lectures/LectureWindows.h"
 
-#include "lectures/Colours.h"
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
+#include "widgets/Colours.h"
 #include "widgets/CustomTextView.h"
 #include "widgets/CustomWindow.h"
 #include "widgets/MouseDownTextField.h"
@@ -51,7 +51,7 @@ private Q_SLOTS:
     {
         const QPalette usual = QGuiApplication::palette();
         const auto restored = qScopeGuard([&] { QGuiApplication::setPalette(usual); });
-        const auto outline = [] { return tarvelo::lectures::colours().outline; };
+        const auto outline = [] { return tarvelo::widgets::colours().outline; };
         const QColor before = outline();
         QPalette strong(Qt::black);
         for (const auto role : {QPalette::Window, QPalette::Base})

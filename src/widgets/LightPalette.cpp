@@ -1,12 +1,12 @@
-#include "lectures/LightPalette.h"
+#include "widgets/LightPalette.h"
 
-#include "lectures/Colours.h"
+#include "widgets/Colours.h"
 
 #include <QColor>
 #include <QPalette>
 #include <QWidget>
 
-namespace tarvelo::lectures {
+namespace tarvelo::widgets {
 
 void setLightPalette(QWidget &window)
 {
@@ -35,4 +35,4 @@ void setLightPalette(QWidget &window)
     window.setPalette(palette);
 }
 
-} // namespace tarvelo::lectures
+} // namespace tarvelo::widgets

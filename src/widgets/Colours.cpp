@@ -1,8 +1,8 @@
-#include "lectures/Colours.h"
+#include "widgets/Colours.h"
 
 #include "platform/HighContrast.h"
 
-namespace tarvelo::lectures {
+namespace tarvelo::widgets {
 
 namespace {
 
@@ -37,4 +37,4 @@ Colours colours()
     return platform::isContrastHigh() ? Strong : Ordinary;
 }
 
-} // namespace tarvelo::lectures
+} // namespace tarvelo::widgets

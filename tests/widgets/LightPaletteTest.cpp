@@ -1,4 +1,4 @@
-#include "lectures/LightPalette.h"
+#include "widgets/LightPalette.h"
 
 #include "platform/HighContrast.h"
 #include "support/TestCase.h"
@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-using tarvelo::lectures::setLightPalette;
+using tarvelo::widgets::setLightPalette;
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-namespace tarvelo::lectures {
+namespace tarvelo::widgets {
 
 // The colours of the windows, which are white on every desktop. Where the desktop asks for high
 // contrast all that is grey is black.
@@ -24,4 +24,4 @@ struct Colours
 // As the desktop's palette wanted them when the windows were built.
 Colours colours();
 
-} // namespace tarvelo::lectures
+} // namespace tarvelo::widgets

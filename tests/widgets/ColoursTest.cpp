@@ -1,4 +1,4 @@
-#include "lectures/Colours.h"
+#include "widgets/Colours.h"
 
 #include "platform/HighContrast.h"
 #include "support/TestCase.h"
@@ -6,10 +6,10 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-using tarvelo::lectures::Colours;
-using tarvelo::lectures::colours;
 using tarvelo::platform::contrastOf;
 using tarvelo::platform::readContrast;
+using tarvelo::widgets::Colours;
+using tarvelo::widgets::colours;
 
 class ColoursTest final : public tarvelo::tests::TestCase
 {
