@@ -2,9 +2,13 @@
 
 #include "audio/PlaybackOutlets.h"
 #include "audio/RecordingOutlets.h"
+#include "lectures/EditLectureWindow.h"
 #include "lectures/LectureOutlets.h"
-
-#include <memory>
+#include "lectures/LectureView.h"
+#include "lectures/MainWindow.h"
+#include "lectures/NewLectureWindow.h"
+#include "lectures/PlayAudioWindow.h"
+#include "lectures/Popovers.h"
 
 namespace tarvelo::platform {
 class Dates;
@@ -12,8 +16,8 @@ class Dates;
 
 namespace tarvelo::lectures {
 
-// Builds the windows of the program from their layouts and holds them. It knows where things are,
-// not what they do.
+// Builds the windows of the program and holds them. It knows where things are, not what they do;
+// how a window is made from its layout stands with its builder.
 class LectureWindows final
 {
 public:
@@ -23,41 +27,28 @@ public:
     LectureWindows &operator=(const LectureWindows &) = delete;
     ~LectureWindows();
 
-    widgets::SlidingWindow &mainWindow() const { return *m_main.mainWindow; }
-    const MainWindowOutlets &mainOutlets() const { return m_main; }
-    const LectureViewOutlets &lectureViewOutlets() const { return m_lectureView; }
-    const NewLectureOutlets &newLectureOutlets() const { return m_newLecture; }
-    const audio::RecordingOutlets &recordingOutlets() const { return m_recording; }
-    const EditLectureOutlets &editLectureOutlets() const { return m_editLecture; }
-    const PlayAudioOutlets &playAudioOutlets() const { return m_playAudio; }
-    const audio::LecturePlayerOutlets &lecturePlayerOutlets() const { return m_lecturePlayer; }
-    const audio::EditPlayerOutlets &editPlayerOutlets() const { return m_editPlayer; }
-    const PopoverOutlets &popoverOutlets() const { return m_popovers; }
+    widgets::SlidingWindow &mainWindow() const { return *m_main.window; }
+    const MainWindowOutlets &mainOutlets() const { return m_main.outlets; }
+    const LectureViewOutlets &lectureViewOutlets() const { return m_lectureView.outlets; }
+    const NewLectureOutlets &newLectureOutlets() const { return m_newLecture.outlets; }
+    const audio::RecordingOutlets &recordingOutlets() const { return m_newLecture.recording; }
+    const EditLectureOutlets &editLectureOutlets() const { return m_editLecture.outlets; }
+    const PlayAudioOutlets &playAudioOutlets() const { return m_playAudio.outlets; }
+    const audio::LecturePlayerOutlets &lecturePlayerOutlets() const { return m_playAudio.player; }
+    const audio::EditPlayerOutlets &editPlayerOutlets() const { return m_lectureView.player; }
+    const PopoverOutlets &popoverOutlets() const { return m_popovers.outlets; }
     audio::ClockOutlets clockOutlets() const;
 
 private:
-    void buildMainWindow(platform::Dates &dates);
-    void buildLectureView();
-    void buildNewLectureWindow();
-    void buildEditLectureWindow();
-    void buildPlayAudioWindow();
-    void buildPopovers();
+    void setPanes();
+    void showFocusRings();
 
-    std::unique_ptr<widgets::SlidingWindow> m_mainWindow;
-    std::unique_ptr<QWidget> m_newNoteWindow;
-    std::unique_ptr<QWidget> m_windowEditLecture;
-    std::unique_ptr<QWidget> m_playAudioWindow;
-    std::unique_ptr<widgets::PopOver> m_popoverConfirmRecordDelete;
-    std::unique_ptr<widgets::PopOver> m_popoverAudioConfirmClose;
-    MainWindowOutlets m_main;
-    LectureViewOutlets m_lectureView;
-    NewLectureOutlets m_newLecture;
-    audio::RecordingOutlets m_recording;
-    EditLectureOutlets m_editLecture;
-    PlayAudioOutlets m_playAudio;
-    audio::LecturePlayerOutlets m_lecturePlayer;
-    audio::EditPlayerOutlets m_editPlayer;
-    PopoverOutlets m_popovers;
+    MainWindow m_main;
+    LectureView m_lectureView;
+    NewLectureWindow m_newLecture;
+    EditLectureWindow m_editLecture;
+    PlayAudioWindow m_playAudio;
+    Popovers m_popovers;
 };
 
 } // namespace tarvelo::lectures

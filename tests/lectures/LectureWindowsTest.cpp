@@ -4,14 +4,12 @@
 #include "support/TestCase.h"
 #include "widgets/Colours.h"
 #include "widgets/CustomTextView.h"
-#include "widgets/CustomWindow.h"
 #include "widgets/MouseDownTextField.h"
 #include "widgets/PopOver.h"
 
 #include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLayout>
 #include <QPalette>
 #include <QScopeGuard>
 
@@ -67,40 +65,6 @@ private Q_SLOTS:
         QCOMPARE(outline(), QColor(Qt::black));
         QVERIFY(outline() != before);
         QCOMPARE(windows().mainWindow().palette().color(QPalette::Shadow), outline());
-    }
-
-    void theMainWindowIsAsWideAsCalendarAndList()
-    {
-        QCOMPARE(windows().mainWindow().size(), QSize(833, 540));
-        QCOMPARE(windows().mainWindow().frameWidth(), 833);
-    }
-
-    void theListsHeaderStandsAsFarFromBothItsEdgesInEitherDirection()
-    {
-        const auto &main = windows().mainOutlets();
-        const QWidget &header = *main.btnAddItem->parentWidget();
-        main.lblDateDisplay->setText(u"5"_s);
-        const auto edges = [&](Qt::LayoutDirection direction) {
-            windows().mainWindow().setLayoutDirection(direction);
-            header.layout()->activate();
-            const QRect date = main.lblDateDisplay->geometry();
-            const QRect add = main.btnAddItem->geometry();
-            const int right = header.width() - 1;
-            return direction == Qt::LeftToRight ? QPoint(date.left(), right - add.right())
-                                                : QPoint(right - date.right(), add.left());
-        };
-
-        QCOMPARE(edges(Qt::LeftToRight), QPoint(16, 12));
-        QCOMPARE(edges(Qt::RightToLeft), QPoint(16, 12));
-    }
-
-    void theCalendarFillsItsPane()
-    {
-        const QRect calendar = windows().mainOutlets().calendarView->geometry();
-
-        QCOMPARE(calendar.x(), -2);
-        QCOMPARE(calendar.width(), 450);
-        QCOMPARE(calendar.y() + calendar.height(), 540);
     }
 
     void everyOutletHasTheNameOfItsControl()
@@ -174,79 +138,6 @@ private Q_SLOTS:
         }
     }
 
-    void aNewLectureBeginsWithTheStartButtonAlone()
-    {
-        const auto &recording = windows().recordingOutlets();
-
-        QVERIFY(!recording.btnStartRecord->isHidden());
-        QVERIFY(!recording.btnStopRecord->isHidden());
-        QVERIFY(recording.btnPauseResumeRecording->isHidden());
-        QVERIFY(recording.btnTimeTag->isHidden());
-        QVERIFY(recording.btnStartStopRecording->isHidden());
-        QVERIFY(recording.sliderPlayProgress2->isHidden());
-        QVERIFY(recording.btnPauseResumeRecording->isCheckable());
-    }
-
-    void doneAndCloseAreToldApartByTheirTags()
-    {
-        QCOMPARE(windows().newLectureOutlets().BtnDoneOrClose->tag(), 0);
-        QCOMPARE(windows().newLectureOutlets().btnCloseNewLecture->tag(), 1);
-    }
-
-    void theNewLectureWindowDoesNotJumpWhileATakeComesAndGoes()
-    {
-        m_program->start();
-        m_program->controller.onAddItem(nullptr);
-        const auto &recording = windows().recordingOutlets();
-        QVERIFY(QTest::qWaitForWindowExposed(recording.newNoteWindow));
-        const auto places = [&recording] {
-            return QList<QRect>{recording.newNoteWindow->rect(), recording.txtView->geometry(),
-                                recording.btnStopRecord->geometry(),
-                                recording.btnStopRecord->parentWidget()->geometry()};
-        };
-        const QList<QRect> idle = places();
-
-        recording.btnStartRecord->click();
-        QCoreApplication::processEvents();
-        QCOMPARE(places(), idle);
-        recording.btnPauseResumeRecording->click();
-        m_program->clock.advance(std::chrono::seconds(1));
-        QCoreApplication::processEvents();
-        QCOMPARE(places(), idle);
-        recording.btnStopRecord->click();
-        QCoreApplication::processEvents();
-        QCOMPARE(places(), idle);
-        recording.btnStopRecord->click();
-        QCoreApplication::processEvents();
-        QCOMPARE(places(), idle);
-    }
-
-    void aWarningMovesNothingInTheNewLectureWindow()
-    {
-        m_program->start();
-        m_program->controller.onAddItem(nullptr);
-        const QWidget &window = *windows().recordingOutlets().newNoteWindow;
-        QVERIFY(QTest::qWaitForWindowExposed(&const_cast<QWidget &>(window)));
-        windows().recordingOutlets().btnStartRecord->click();
-        // Until the length of the take is there.
-        m_program->clock.advance(std::chrono::seconds(1));
-        const auto places = [&window] {
-            QCoreApplication::processEvents();
-            QMap<QString, QRect> now{{u"window"_s, window.rect()}};
-            for (const QWidget *view : window.findChildren<QWidget *>())
-                if (!view->objectName().isEmpty() && view->objectName() != u"announcement")
-                    now.insert(view->objectName(), view->geometry());
-            return now;
-        };
-        const auto before = places();
-        QVERIFY(windows().recordingOutlets().lblRecordingWarning->isHidden());
-
-        m_program->clock.advance(std::chrono::seconds(10));
-
-        QVERIFY(windows().recordingOutlets().lblRecordingWarning->isVisible());
-        QCOMPARE(places(), before);
-    }
-
     void subjectsEndAt255Characters()
     {
         for (QLineEdit *field : subjects()) {
@@ -280,32 +171,6 @@ private Q_SLOTS:
             QVERIFY2(qobject_cast<tarvelo::widgets::CustomTextView *>(notes),
                      qPrintable(notes->objectName()));
         }
-    }
-
-    void thePlayWindowIsACardWithoutABorder()
-    {
-        QWidget &window = *windows().playAudioOutlets().playAudioWindow;
-        m_program->start();
-        window.show();
-
-        QVERIFY(qobject_cast<tarvelo::widgets::CustomWindow *>(&window));
-        QVERIFY(!window.mask().contains(QPoint(0, 0)));
-        QVERIFY(window.mask().contains(window.rect().center()));
-        QCOMPARE(window.findChild<QWidget *>(u"playPanel"_s)->size(), window.size());
-    }
-
-    void thePopOversHoldWhatTheyShow()
-    {
-        const auto &popovers = windows().popoverOutlets();
-
-        QCOMPARE(popovers.lblRecordDeleteConfirmation->window(),
-                 popovers.popoverConfirmRecordDelete);
-        QCOMPARE(popovers.btnConfirmNo->window(), popovers.popoverConfirmRecordDelete);
-        QCOMPARE(popovers.btnConfirmYes->window(), popovers.popoverConfirmRecordDelete);
-        QCOMPARE(popovers.lblPopoverNoAudio->window(), popovers.popoverAudioConfirmClose);
-        QCOMPARE(popovers.btnClosePopover->window(), popovers.popoverAudioConfirmClose);
-        QVERIFY(popovers.popoverConfirmRecordDelete->isHidden());
-        QVERIFY(popovers.popoverAudioConfirmClose->isHidden());
     }
 
     void theWindowsStayLightUnderADarkDesktop()

@@ -1,0 +1,94 @@
+#include "lectures/Dressing.h"
+
+#include "platform/Fonts.h"
+#include "platform/Images.h"
+#include "widgets/CustomTextFieldFormatter.h"
+#include "widgets/FieldFormatter.h"
+#include "widgets/ImageButton.h"
+
+#include <QColor>
+#include <QFont>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPalette>
+#include <QSize>
+#include <QSizePolicy>
+#include <QTextDocument>
+#include <QTextEdit>
+
+namespace tarvelo::lectures {
+
+using platform::imageNamed;
+using widgets::ImageButton;
+
+namespace {
+
+const QString Face = QStringLiteral("Helvetica Neue Medium");
+
+// Longer texts than this one cannot be typed as a subject.
+constexpr qint32 LongestSubject = 255;
+
+} // namespace
+
+QFont scaledFace(double size)
+{
+    return platform::scaledFontNamed(Face, size);
+}
+
+QFont fixedFace(double size)
+{
+    return platform::fontNamed(Face, size);
+}
+
+void style(QLabel &label, double size, const QColor &colour)
+{
+    label.setFont(scaledFace(size));
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, colour);
+    label.setPalette(palette);
+}
+
+void fill(QWidget &view, const QColor &colour)
+{
+    QPalette palette = view.palette();
+    palette.setColor(QPalette::Window, colour);
+    view.setPalette(palette);
+    view.setAutoFillBackground(true);
+}
+
+void keepRoom(QWidget &view)
+{
+    QSizePolicy policy = view.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    view.setSizePolicy(policy);
+}
+
+void giveMargins(QLineEdit &field, QTextEdit &notes)
+{
+    field.setTextMargins(6, 0, 6, 0);
+    notes.document()->setDocumentMargin(8);
+}
+
+void giveRoomToTitle(ImageButton &button)
+{
+    const QSize title = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
+    button.setMinimumSize(button.minimumSize().expandedTo(title + QSize(28, 8)));
+}
+
+void limitSubject(QLineEdit &field)
+{
+    widgets::CustomTextFieldFormatter formatter;
+    formatter.setMaximumLength(LongestSubject);
+    widgets::setFormatter(field, formatter);
+}
+
+void dressPlayPause(ImageButton &play, ImageButton &pause)
+{
+    play.setImage(imageNamed(QStringLiteral("play")));
+    play.setAlternateImage(imageNamed(QStringLiteral("playH")));
+    pause.setImage(imageNamed(QStringLiteral("pause")));
+    pause.setAlternateImage(imageNamed(QStringLiteral("pauseH")));
+}
+
+} // namespace tarvelo::lectures

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "lectures/LectureOutlets.h"
+
+#include <memory>
+
+class QWidget;
+
+namespace tarvelo::lectures {
+
+// The window in which a stored lecture is changed.
+struct EditLectureWindow
+{
+    std::unique_ptr<QWidget> window;
+    EditLectureOutlets outlets;
+};
+
+EditLectureWindow buildEditLectureWindow();
+
+} // namespace tarvelo::lectures

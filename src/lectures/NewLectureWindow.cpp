@@ -1,0 +1,109 @@
+#include "lectures/NewLectureWindow.h"
+
+#include "lectures/Dressing.h"
+#include "platform/Images.h"
+#include "widgets/Colours.h"
+#include "widgets/ImageButton.h"
+#include "widgets/LayerView.h"
+#include "widgets/LevelIndicator.h"
+#include "widgets/LightPalette.h"
+
+#include "ui_NewLectureWindow.h"
+
+namespace tarvelo::lectures {
+
+using platform::imageNamed;
+using widgets::ImageButton;
+
+namespace {
+
+NewLectureOutlets outletsOf(QWidget *window, const Ui::NewLectureWindow &ui)
+{
+    return {window,
+            ui.txtSubjectForNewNote,
+            ui.txtView,
+            ui.lblNotesForAdd,
+            ui.textTime,
+            ui.textDate,
+            ui.BtnDoneOrClose,
+            ui.btnCloseNewLecture,
+            ui.BtnCancelAddNewLecture,
+            ui.recordAnimationView};
+}
+
+audio::RecordingOutlets recordingOutletsOf(QWidget *window, const Ui::NewLectureWindow &ui)
+{
+    return {window,
+            ui.btnStartRecord,
+            ui.btnStopRecord,
+            ui.btnPauseResumeRecording,
+            ui.btnTimeTag,
+            ui.btnStartStopRecording,
+            ui.audioLevelMeter,
+            ui.imgLevelIndicatorBG,
+            ui.lblRecordingDuration,
+            ui.sliderPlayProgress2,
+            ui.lblElapsedTimeTemp,
+            ui.lblRemainingTimeTemp,
+            ui.txtView,
+            ui.lblRecordingWarning};
+}
+
+void dressTexts(const Ui::NewLectureWindow &ui)
+{
+    for (QLabel *label : {ui.textDate, ui.textTime, ui.lblNotesForAdd, ui.lblElapsedTimeTemp,
+                          ui.lblRemainingTimeTemp})
+        style(*label, 13, widgets::colours().faint);
+    style(*ui.lblRecordingDuration, 24, widgets::colours().ink);
+    ui.lblRecordingDuration->setFont(fixedFace(24));
+    style(*ui.lblRecordingWarning, 13, widgets::colours().warning);
+    ui.txtSubjectForNewNote->setFont(scaledFace(16));
+}
+
+// As they stand before a take.
+void dressRecordingControls(const audio::RecordingOutlets &controls)
+{
+    controls.btnStartRecord->setImage(imageNamed(QStringLiteral("record")));
+    controls.btnStartRecord->setAlternateImage(imageNamed(QStringLiteral("recordH")));
+    controls.btnPauseResumeRecording->setLook(QStringLiteral("BtnPause"),
+                                              QStringLiteral("BtnPauseH"), QStringLiteral("Pause"));
+    controls.btnStopRecord->setLook(QStringLiteral("stop"), QStringLiteral("stopH"),
+                                    QStringLiteral("Stop"));
+    controls.btnTimeTag->setImage(imageNamed(QStringLiteral("timetag")));
+    keepRoom(*controls.btnTimeTag);
+    controls.btnTimeTag->hide();
+    controls.btnPauseResumeRecording->hide();
+    controls.sliderPlayProgress2->hide();
+    controls.lblElapsedTimeTemp->hide();
+    controls.lblRemainingTimeTemp->hide();
+}
+
+} // namespace
+
+NewLectureWindow buildNewLectureWindow()
+{
+    NewLectureWindow built;
+    built.window = std::make_unique<QWidget>(nullptr, Qt::Window);
+    widgets::setLightPalette(*built.window);
+    Ui::NewLectureWindow ui;
+    ui.setupUi(built.window.get());
+    for (ImageButton *button :
+         {ui.BtnDoneOrClose, ui.btnCloseNewLecture, ui.BtnCancelAddNewLecture})
+        giveRoomToTitle(*button);
+    built.outlets = outletsOf(built.window.get(), ui);
+    built.recording = recordingOutletsOf(built.window.get(), ui);
+
+    dressTexts(ui);
+    keepRoom(*ui.lblRecordingWarning);
+    ui.lblRecordingWarning->hide();
+    limitSubject(*ui.txtSubjectForNewNote);
+    giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
+    fill(*ui.recordingPanel, widgets::colours().panel);
+    ui.imgLevelIndicatorBG->setImage(imageNamed(QStringLiteral("levelBackground")));
+    dressRecordingControls(built.recording);
+    ui.BtnDoneOrClose->setTag(NewLectureOutlets::TagDone);
+    ui.btnCloseNewLecture->setTag(NewLectureOutlets::TagClose);
+    return built;
+}
+
+} // namespace tarvelo::lectures

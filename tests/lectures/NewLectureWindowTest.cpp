@@ -1,0 +1,99 @@
+#include "lectures/NewLectureWindow.h"
+
+#include "support/LectureProgram.h"
+#include "support/TestCase.h"
+
+using namespace Qt::StringLiterals;
+using tarvelo::tests::LectureProgram;
+
+class NewLectureWindowTest final : public tarvelo::tests::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tarvelo::platform::installTexts(); }
+
+    void aNewLectureBeginsWithTheStartButtonAlone()
+    {
+        const auto &recording = windows().recordingOutlets();
+
+        QVERIFY(!recording.btnStartRecord->isHidden());
+        QVERIFY(!recording.btnStopRecord->isHidden());
+        QVERIFY(recording.btnPauseResumeRecording->isHidden());
+        QVERIFY(recording.btnTimeTag->isHidden());
+        QVERIFY(recording.btnStartStopRecording->isHidden());
+        QVERIFY(recording.sliderPlayProgress2->isHidden());
+        QVERIFY(recording.btnPauseResumeRecording->isCheckable());
+    }
+
+    void doneAndCloseAreToldApartByTheirTags()
+    {
+        QCOMPARE(windows().newLectureOutlets().BtnDoneOrClose->tag(), 0);
+        QCOMPARE(windows().newLectureOutlets().btnCloseNewLecture->tag(), 1);
+    }
+
+    void theNewLectureWindowDoesNotJumpWhileATakeComesAndGoes()
+    {
+        m_program->start();
+        m_program->controller.onAddItem(nullptr);
+        const auto &recording = windows().recordingOutlets();
+        QVERIFY(QTest::qWaitForWindowExposed(recording.newNoteWindow));
+        const auto places = [&recording] {
+            return QList<QRect>{recording.newNoteWindow->rect(), recording.txtView->geometry(),
+                                recording.btnStopRecord->geometry(),
+                                recording.btnStopRecord->parentWidget()->geometry()};
+        };
+        const QList<QRect> idle = places();
+
+        recording.btnStartRecord->click();
+        QCoreApplication::processEvents();
+        QCOMPARE(places(), idle);
+        recording.btnPauseResumeRecording->click();
+        m_program->clock.advance(std::chrono::seconds(1));
+        QCoreApplication::processEvents();
+        QCOMPARE(places(), idle);
+        recording.btnStopRecord->click();
+        QCoreApplication::processEvents();
+        QCOMPARE(places(), idle);
+        recording.btnStopRecord->click();
+        QCoreApplication::processEvents();
+        QCOMPARE(places(), idle);
+    }
+
+    void aWarningMovesNothingInTheNewLectureWindow()
+    {
+        m_program->start();
+        m_program->controller.onAddItem(nullptr);
+        const QWidget &window = *windows().recordingOutlets().newNoteWindow;
+        QVERIFY(QTest::qWaitForWindowExposed(&const_cast<QWidget &>(window)));
+        windows().recordingOutlets().btnStartRecord->click();
+        // Until the length of the take is there.
+        m_program->clock.advance(std::chrono::seconds(1));
+        const auto places = [&window] {
+            QCoreApplication::processEvents();
+            QMap<QString, QRect> now{{u"window"_s, window.rect()}};
+            for (const QWidget *view : window.findChildren<QWidget *>())
+                if (!view->objectName().isEmpty() && view->objectName() != u"announcement")
+                    now.insert(view->objectName(), view->geometry());
+            return now;
+        };
+        const auto before = places();
+        QVERIFY(windows().recordingOutlets().lblRecordingWarning->isHidden());
+
+        m_program->clock.advance(std::chrono::seconds(10));
+
+        QVERIFY(windows().recordingOutlets().lblRecordingWarning->isVisible());
+        QCOMPARE(places(), before);
+    }
+
+private:
+    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
+    void finish() override { m_program.reset(); }
+
+    const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
+
+    std::unique_ptr<LectureProgram> m_program;
+};
+
+QTEST_MAIN(NewLectureWindowTest)
+#include "NewLectureWindowTest.moc"
