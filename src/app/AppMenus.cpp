@@ -125,16 +125,6 @@ void AppMenus::addHelpMenu(const std::function<void(QAction *)> &showHelp)
     m_mainMenu.addMenu(&m_helpMenu);
 }
 
-// The action that bears `tag`, or none.
-QAction *AppMenus::helpAction(int tag) const
-{
-    for (QAction *action : m_helpMenu.actions()) {
-        if (!action->isSeparator() && Help::tagOf(action) == tag)
-            return action;
-    }
-    return nullptr;
-}
-
 void AppMenus::openWithF10(QWidget &button)
 {
     connect(new QShortcut(Qt::Key_F10, &button), &QShortcut::activated, this, [this, &button] {

@@ -47,7 +47,6 @@ public:
     // F10 in the window of `button` opens the main menu under it, at its first command.
     void openWithF10(QWidget &button);
 
-    QAction *helpAction(int tag) const;
     QMenu &mainMenu() { return m_mainMenu; }
     QMenu &helpMenu() { return m_helpMenu; }
     QMenu &statusMenu() { return m_statusMenu; }

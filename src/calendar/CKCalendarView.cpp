@@ -19,7 +19,6 @@ using platform::imageNamed;
 using widgets::CustomButton;
 using widgets::GradientView;
 using widgets::ImageView;
-using widgets::Layer;
 using widgets::LayerView;
 
 namespace {

@@ -53,7 +53,6 @@ public:
     // The views of the rows that show, from above to below.
     QList<CustomTableCellView *> shownRows() const;
     bool isSelected(const QWidget &rowView) const { return m_selection.has(rowForView(&rowView)); }
-    SelectionHighlightStyle selectionHighlightStyle() const { return m_highlightStyle; }
 
     // The model must outlive the table or be taken off it. Its resets reload the table.
     void setModel(QAbstractItemModel *model);

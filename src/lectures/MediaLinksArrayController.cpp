@@ -28,8 +28,6 @@ using namespace std::chrono_literals;
 
 namespace tarvelo::lectures {
 
-using widgets::ImageButton;
-
 namespace {
 
 constexpr auto StopAfterChange = 200ms;

@@ -96,16 +96,18 @@ private Q_SLOTS:
     void anEntryOfTheHelpMenuOpensWhatItsTagMeans()
     {
         Application program;
+        const QList<int> outside{app::Help::WebPage, app::Help::StorePage, app::Help::MorePrograms,
+                                 app::Help::AboutPage};
         QList<QUrl> wanted;
-
-        for (const int tag : {app::Help::WebPage, app::Help::StorePage, app::Help::MorePrograms,
-                              app::Help::AboutPage}) {
-            program.delegate.menus().helpAction(tag)->trigger();
+        for (const int tag : outside)
             wanted << QUrl(app::Help::addressFor(tag));
+
+        for (QAction *action : program.delegate.menus().helpMenu().actions()) {
+            if (!action->isSeparator() && outside.contains(app::Help::tagOf(action)))
+                action->trigger();
         }
 
         QCOMPARE(program.workspace.addresses, wanted);
-        QVERIFY(!program.delegate.menus().helpAction(2));
     }
 
     void f1OpensTheGuide()

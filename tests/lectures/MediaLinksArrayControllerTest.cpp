@@ -209,10 +209,15 @@ private Q_SLOTS:
 
     void selectedRowsAreNotHighlighted()
     {
-        controller().awakeFromNib();
+        aLecture().insertInto(m_program->database);
+        m_program->showDay(m_program->today());
+        table().clearFocus();
+        const QImage plain = table().grab().toImage();
 
-        QCOMPARE(table().selectionHighlightStyle(),
-                 tarvelo::lectures::LectureTable::SelectionHighlightStyle::None);
+        table().selectRow(0);
+
+        QCOMPARE(table().selectedRow(), 0);
+        QCOMPARE(table().grab().toImage(), plain);
     }
 
     void theInsertionPointsHaveTheirColours()
