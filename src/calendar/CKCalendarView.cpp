@@ -64,7 +64,7 @@ CKCalendarView::CKCalendarView(platform::Dates &dates, int startDay, const QRect
     : LayerView(parent)
     , m_dates(dates)
     , m_days(dates, startDay)
-    , m_input(std::make_unique<CalendarInput>(*this))
+    , m_input(std::make_unique<CalendarInput>())
     , m_postInit(dates.clock(), [this] { postInit(); })
 {
     platform::setFrame(*this, frame);
@@ -79,7 +79,7 @@ CKCalendarView::~CKCalendarView() = default;
 void CKCalendarView::build()
 {
     setLayer({6, 1, Qt::black, {2, 2}, 2, 0.4});
-    m_input->watch(*this);
+    connectInput();
     m_highlight = named(new LayerView(this), "highlight");
     m_highlight->setLayer({.cornerRadius = 6});
     m_dateButtonsBG = named(new ImageView(this), "dateButtonsBG");
@@ -101,6 +101,16 @@ void CKCalendarView::build()
     setMonthShowing(m_dates.now());
     setDefaultStyle();
     layoutSubviews();
+}
+
+void CKCalendarView::connectInput()
+{
+    m_input->watch(*this);
+    connect(m_input.get(), &CalendarInput::previousMonthWanted, this,
+            &CKCalendarView::moveCalendarToPreviousMonth);
+    connect(m_input.get(), &CalendarInput::nextMonthWanted, this,
+            &CKCalendarView::moveCalendarToNextMonth);
+    connect(m_input.get(), &CalendarInput::todayWanted, this, &CKCalendarView::goToToday);
 }
 
 void CKCalendarView::buildArrows()
@@ -181,7 +191,7 @@ void CKCalendarView::buildDayCells()
                          unlessRefused([this, cell](QWidget *) { dateButtonPressed(cell); })});
         cell->setFocusPolicy(Qt::ClickFocus);
         cell->hide();
-        m_input->watch(*cell);
+        m_input->watchDay(*cell);
         m_dateButtons.at(static_cast<size_t>(index)) = cell;
     }
 }
@@ -201,6 +211,7 @@ void CKCalendarView::buildWeekdayLetters()
 void CKCalendarView::setDelegate(CalendarDelegate *delegate)
 {
     m_delegate = delegate;
+    m_input->setDelegate(delegate);
     for (DateButton *cell : m_dateButtons)
         cell->setDelegate(delegate);
 }

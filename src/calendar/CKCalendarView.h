@@ -155,6 +155,7 @@ protected:
 
 private:
     void build();
+    void connectInput();
     QLabel *makeTextField(const QString &name, QWidget *parent);
     widgets::CustomButton *makeNavigationButton(const char *name, const char *image,
                                                 const QString &accessibleName);

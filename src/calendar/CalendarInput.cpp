@@ -1,6 +1,5 @@
 #include "calendar/CalendarInput.h"
 
-#include "calendar/CKCalendarView.h"
 #include "calendar/CalendarDelegate.h"
 #include "calendar/DateButton.h"
 
@@ -8,9 +7,6 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QWidget>
-
-#include <algorithm>
-#include <cstddef>
 
 namespace tarvelo::calendar {
 
@@ -60,19 +56,20 @@ int daysFor(int key)
 
 } // namespace
 
-CalendarInput::CalendarInput(CKCalendarView &view)
-    : m_view(view)
-{
-}
-
 bool CalendarInput::refuses() const
 {
-    return m_view.delegate() && m_view.delegate()->isRecordingNow();
+    return m_delegate && m_delegate->isRecordingNow();
 }
 
 void CalendarInput::watch(QWidget &part)
 {
     part.installEventFilter(this);
+}
+
+void CalendarInput::watchDay(DateButton &cell)
+{
+    watch(cell);
+    m_days.append(&cell);
 }
 
 void CalendarInput::setTabStop(DateButton &cell)
@@ -110,11 +107,11 @@ bool CalendarInput::keyPressed(QObject *watched, const QKeyEvent &key)
     if (isPressing(key.key()) && refuses())
         return true;
     if (key.key() == Qt::Key_PageUp)
-        m_view.moveCalendarToPreviousMonth();
+        Q_EMIT previousMonthWanted();
     else if (key.key() == Qt::Key_PageDown)
-        m_view.moveCalendarToNextMonth();
+        Q_EMIT nextMonthWanted();
     else if (key.key() == Qt::Key_Home)
-        m_view.goToToday();
+        Q_EMIT todayWanted();
     else
         return keyPressedOnButton(qobject_cast<QAbstractButton *>(watched), key.key());
     return true;
@@ -133,11 +130,9 @@ bool CalendarInput::keyPressedOnButton(QAbstractButton *button, int key)
 // Columns run from left to right in every language, and so do the keys.
 bool CalendarInput::moveFocus(DateButton &from, int days)
 {
-    const auto &cells = m_view.dateButtons();
-    const auto index = std::find(cells.begin(), cells.end(), &from) - cells.begin() + days;
-    if (index >= 0 && index < CKCalendarView::CellCount &&
-        !cells.at(static_cast<size_t>(index))->isHidden())
-        cells.at(static_cast<size_t>(index))->setFocus(Qt::TabFocusReason);
+    const qsizetype index = m_days.indexOf(&from) + days;
+    if (index >= 0 && index < m_days.size() && !m_days[index]->isHidden())
+        m_days[index]->setFocus(Qt::TabFocusReason);
     return true;
 }
 

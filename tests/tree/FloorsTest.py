@@ -26,32 +26,73 @@ OWNERS = [
     (re.compile(r"^.xcb/"), "the X11 client", "src/app"),
 ]
 GENERATED = re.compile(r'^"(ui_\w+\.h|\w+\.moc|moc_\w+\.cpp)$')
+LAYOUT_HEADER = re.compile(r"<header[^>]*>\s*([^<]*?)\s*</header>")
 
 
 def sources(tree):
     return tree.files("src", ".cpp", ".h")
 
 
+def own(tree, path):
+    """What a source or a layout includes of this program, named from the root of the sources, in whichever form."""
+    if path.endswith(".ui"):
+        return LAYOUT_HEADER.findall(tree.text(path))
+    return [name[1:] for name in tree.includes(path)
+            if not GENERATED.match(name) and (name.startswith('"') or tree.has("src/" + name[1:]))]
+
+
 def only_below(tree):
     complaints = []
-    for path in sources(tree):
+    for path in sources(tree) + tree.files("src", ".ui"):
         folder = os.path.dirname(path)
         if folder not in BELOW:
             complaints.append(f"{path}: {folder} has no floor in {os.path.basename(__file__)}")
             continue
-        own = folder.removeprefix("src/")
-        for name in tree.includes(path):
-            if not name.startswith('"') or GENERATED.match(name):
-                continue
-            if os.path.dirname(name[1:]) not in [own, *BELOW[folder]]:
-                complaints.append(f"{path} includes {name[1:]}, which does not stand below {own}")
+        floor = folder.removeprefix("src/")
+        complaints += [f"{path} includes {name}, which does not stand below {floor}" for name in own(tree, path)
+                       if os.path.dirname(name) not in [floor, *BELOW[folder]]]
     return complaints
 
 
 def named_from_the_root(tree):
-    return [f"{path} includes {name[1:]}, which is no path below src/"
-            for path in sources(tree) for name in tree.includes(path)
-            if name.startswith('"') and not GENERATED.match(name) and not tree.has("src/" + name[1:])]
+    strange = [f"{path} includes {name}, which is no path below src/"
+               for path in sources(tree) + tree.files("src", ".ui") for name in own(tree, path)
+               if not tree.has("src/" + name)]
+    return strange + [f"{path} includes {name[1:]}, which is this program's own, in angle brackets"
+                      for path in sources(tree) for name in tree.includes(path)
+                      if name.startswith("<") and tree.has("src/" + name[1:])]
+
+
+def circles(tree):
+    """A class' header, sources and layout are one; what it needs must not need it in turn."""
+    needs = {}
+    for path in sources(tree) + tree.files("src", ".ui"):
+        node = needs.setdefault(of_class(tree, path), set())
+        node |= {of_class(tree, "src/" + name) for name in own(tree, path) if tree.has("src/" + name)}
+    complaints, done = [], set()
+
+    def follow(node, way):
+        if node in way:
+            complaints.append("a circle: " + " - ".join([*way[way.index(node):], node]))
+        elif node not in done:
+            for other in sorted(needs.get(node, set()) - {node}):
+                follow(other, [*way, node])
+            done.add(node)
+
+    for node in sorted(needs):
+        follow(node, [])
+    return complaints
+
+
+def of_class(tree, path):
+    """The path without its ending, and that of the header where a source without one of its own begins with it."""
+    stem = os.path.splitext(path)[0]
+    if path.endswith(".cpp") and not tree.has(stem + ".h"):
+        first = next(iter(own(tree, path)), "")
+        header = os.path.splitext("src/" + first)[0]
+        if os.path.dirname(header) == os.path.dirname(stem) and stem.startswith(header):
+            return header
+    return stem
 
 
 def libraries_have_one_folder(tree):
@@ -67,8 +108,8 @@ def store_hides_sqlite(tree):
         if path in seen or not tree.has(path):
             return False
         seen.add(path)
-        return any("sqlite3" in name or (name.startswith('"') and reaches("src/" + name[1:], seen))
-                   for name in tree.includes(path))
+        return any("sqlite3" in name for name in tree.includes(path)) or \
+            any(reaches("src/" + name, seen) for name in own(tree, path))
 
     return [f"{path} comes to sqlite3.h" for path in sources(tree)
             if not path.startswith("src/store/") and reaches(path, set())]
@@ -84,6 +125,13 @@ class FloorsTest(RuleTest):
     def test_an_include_sideways_is_found(self):
         self.assertComplains(only_below, {"src/calendar/A.h": '#  include "audio/B.h"\n'}, "audio/B.h")
 
+    def test_angle_brackets_and_layouts_include_too(self):
+        header = {"src/app/B.h": ""}
+        self.assertComplains(only_below, header | {"src/store/A.cpp": "#include <app/B.h>\n"}, "store/A.cpp", "app/B.h")
+        layout = "<customwidget><header>app/B.h</header></customwidget>"
+        self.assertComplains(only_below, header | {"src/lectures/A.ui": layout}, "lectures/A.ui", "app/B.h")
+        self.assertAccepts(only_below, {"src/lectures/A.ui": "<header>widgets/B.h</header>", "src/app/C.h": "#include <map>\n"})
+
     def test_the_engine_is_a_floor_of_its_own(self):
         self.assertComplains(only_below, {"src/audio/engine/A.h": '#include "audio/B.h"\n'}, "audio/B.h")
         self.assertComplains(only_below, {"src/lectures/A.h": '#include "audio/engine/B.h"\n'}, "audio/engine/B.h")
@@ -98,6 +146,30 @@ class FloorsTest(RuleTest):
     def test_an_include_by_its_bare_name_is_found(self):
         files = {"src/store/A.cpp": '#include "B.h"\n#include "ui_Window.h"\n', "src/store/B.h": ""}
         self.assertComplains(named_from_the_root, files, "B.h")
+        self.assertComplains(named_from_the_root, {"src/app/A.ui": "<header>B.h</header>"}, "app/A.ui", "B.h")
+
+    def test_an_own_header_in_angle_brackets_is_found(self):
+        files = {"src/store/A.cpp": "#include <store/B.h>\n#include <vector>\n", "src/store/B.h": ""}
+        self.assertComplains(named_from_the_root, files, "store/B.h", "angle brackets")
+
+    def test_no_classes_need_each_other(self):
+        self.assertHolds(circles)
+
+    def test_a_circle_is_found(self):
+        files = {"src/store/A.h": "", "src/store/A.cpp": '#include "store/A.h"\n#include "store/B.h"\n',
+                 "src/store/B.h": '#include "store/C.h"\n', "src/store/C.h": "",
+                 "src/store/C.cpp": '#include "store/C.h"\n#include <store/A.h>\n'}
+        self.assertComplains(circles, files, "store/A - src/store/B - src/store/C - src/store/A")
+
+    def test_a_circle_through_a_second_source_of_a_class_is_found(self):
+        files = {"src/store/A.h": "", "src/store/AMore.cpp": '#include "store/A.h"\n#include "store/B.h"\n',
+                 "src/store/B.h": "", "src/store/B.cpp": '#include "store/B.h"\n#include "store/A.h"\n'}
+        self.assertComplains(circles, files, "store/A - src/store/B - src/store/A")
+
+    def test_a_class_may_need_its_own_header_and_two_may_need_a_third(self):
+        files = {"src/store/A.h": "", "src/store/A.cpp": '#include "store/A.h"\n#include "store/C.h"\n',
+                 "src/store/B.cpp": '#include "store/A.h"\n#include "store/C.h"\n', "src/store/C.h": ""}
+        self.assertAccepts(circles, files)
 
     def test_each_library_is_known_to_one_folder(self):
         self.assertHolds(libraries_have_one_folder)
