@@ -66,7 +66,7 @@ public:
     // Plays it from its start, and turns the stop button into its pause button. A take that cannot
     // be read plays nothing; the controls change all the same.
     void playRecordTemp(QWidget *sender);
-    // By the stop button's tag: 2 pauses, 1 plays on. Nothing happens without a player.
+    // By the stop button's tag: pauses what plays, and plays on. Nothing happens without a player.
     void pauseResumeRecordTemp(QWidget *sender);
 
     // -- The lecture view

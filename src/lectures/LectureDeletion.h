@@ -57,7 +57,7 @@ public:
     void onDeleteItem(QWidget *sender);
     // Asks for the confirmation, whether or not the sender lies in a row: wanted so.
     void onRemoveNotesRecord(QWidget *sender);
-    // A sender with tag 1 confirms.
+    // A sender with the tag PopoverOutlets::TagYes confirms.
     void onConfirmOrCancelRecordDeletion(QWidget *sender);
     QList<RowAction> tableViewRowActionsForRowEdge(LectureTable *table, int row,
                                                    RowActionEdge edge);

@@ -9,8 +9,8 @@ class LectureInfoItem;
 
 namespace tarvelo::lectures {
 
-// The lectures shown, in the order of the table's rows.
 using Lecture = std::shared_ptr<store::LectureInfoItem>;
+// Those that are shown, in the order of the table's rows.
 using LectureList = std::vector<Lecture>;
 
 } // namespace tarvelo::lectures

@@ -68,7 +68,7 @@ public:
     void setApplication(LectureApplication *application) { m_application = application; }
 
     void onAddItem(QWidget *sender);
-    // By the sender's tag: 0 is Done, 1 is Close, any other only resets the controls.
+    // By the sender's tag, TagDone or TagClose of its outlets; any other only resets the controls.
     void onDoneNewLectureOrCloseWindow(QWidget *sender);
     void onCancelAddNewLecture(QWidget *sender);
     void onCloseLectureWindow(QWidget *sender);
