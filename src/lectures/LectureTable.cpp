@@ -18,6 +18,7 @@ namespace tarvelo::lectures {
 
 LectureTable::LectureTable(QWidget *parent)
     : QAbstractScrollArea(parent)
+    , m_rows(*this, [this](CustomTableCellView *view) { Q_EMIT rowViewMade(view); })
     , m_slideUp(new RowSlideUp(this))
     , m_swipe(new RowSwipe(*viewport()))
 {
@@ -53,32 +54,14 @@ CustomTableCellView *LectureTable::viewAtColumnRowMakeIfNecessary(int column, in
 {
     if (column != 0 || row < 0 || row >= rowCount())
         return nullptr;
-    if (makeIfNecessary && !m_shown.contains(row))
+    if (makeIfNecessary && !m_rows.at(row))
         scrollRowToVisible(row);
-    const auto found = m_shown.find(row);
-    return found == m_shown.end() ? nullptr : found->second;
-}
-
-int LectureTable::rowForView(const QWidget *view) const
-{
-    const auto found = std::find_if(m_shown.cbegin(), m_shown.cend(), [view](const auto &shown) {
-        return shown.second == view || shown.second->isAncestorOf(view);
-    });
-    return found == m_shown.cend() ? -1 : found->first;
-}
-
-QList<CustomTableCellView *> LectureTable::shownRows() const
-{
-    QList<CustomTableCellView *> rows;
-    for (const auto &[row, view] : m_shown)
-        rows.append(view);
-    return rows;
+    return m_rows.at(row);
 }
 
 CustomTableCellView *LectureTable::keyboardRow() const
 {
-    const auto found = m_shown.find(selectedRow());
-    return found != m_shown.end() && hasKeyboard() ? found->second : nullptr;
+    return hasKeyboard() ? m_rows.at(selectedRow()) : nullptr;
 }
 
 void LectureTable::setModel(QAbstractItemModel *model)
@@ -89,15 +72,6 @@ void LectureTable::setModel(QAbstractItemModel *model)
     if (m_model)
         connect(m_model, &QAbstractItemModel::modelReset, this, &LectureTable::reloadData);
     reloadData();
-}
-
-void LectureTable::setRowHost(LectureRowHost *host)
-{
-    m_host = host;
-    for (const auto &[row, view] : m_shown)
-        view->setRowHost(host);
-    for (CustomTableCellView *view : m_spare)
-        view->setRowHost(host);
 }
 
 void LectureTable::setSelectionHighlightStyle(SelectionHighlightStyle style)
@@ -111,7 +85,7 @@ void LectureTable::reloadData()
     m_swipe->coverAtOnce();
     updateScrollBar();
     layoutRows();
-    for (const auto &[row, view] : m_shown)
+    for (const auto &[row, view] : m_rows.views())
         bind(*view, row);
     setSelection(selectedRowIndexes(), selectedRow());
     m_slideUp->finish();
@@ -163,14 +137,14 @@ void LectureTable::removeRow(int row, std::chrono::milliseconds duration,
     const int height = CustomTableCellView::RowHeight;
     const int top = row * height - verticalScrollBar()->value();
     const QPixmap picture =
-        m_shown.contains(row) ? viewport()->grab({0, top, viewport()->width(), height}) : QPixmap();
+        m_rows.at(row) ? viewport()->grab({0, top, viewport()->width(), height}) : QPixmap();
     m_swipe->coverAtOnce();
     forgetRow(row);
     m_slideUp->start(row, height, picture, duration, std::move(completion));
     updateScrollBar();
     layoutRows();
     // Where a slide was cut short, rows may have come in under their old numbers.
-    for (const auto &[index, view] : m_shown)
+    for (const auto &[index, view] : m_rows.views())
         bind(*view, index);
 }
 
@@ -182,15 +156,7 @@ void LectureTable::finishRemoval()
 // The rows below it, their views and their selection move up by one.
 void LectureTable::forgetRow(int row)
 {
-    if (const auto found = m_shown.find(row); found != m_shown.end())
-        putAway(*found->second);
-    std::map<int, CustomTableCellView *> shown;
-    for (const auto &[index, view] : m_shown) {
-        if (index != row)
-            shown[index > row ? index - 1 : index] = view;
-    }
-    m_shown = std::move(shown);
-
+    m_rows.forget(row);
     m_selection.removeRow(row, rowCount());
     // Also where the numbers are the same, as the rows are others.
     selectionHasChanged();
@@ -203,16 +169,6 @@ void LectureTable::updateScrollBar()
     verticalScrollBar()->setRange(0, std::max(0, content - viewport()->height()));
 }
 
-void LectureTable::putAway(CustomTableCellView &view)
-{
-    // The keyboard does not leave the table with the row.
-    if (view.isAncestorOf(window()->focusWidget()))
-        setFocus();
-    view.hide();
-    view.setObjectValue(nullptr);
-    m_spare.push_back(&view);
-}
-
 void LectureTable::layoutRows()
 {
     const int height = CustomTableCellView::RowHeight;
@@ -220,20 +176,11 @@ void LectureTable::layoutRows()
     const int first = std::max(0, offset - m_slideUp->gap()) / height;
     const int last = std::min(rowCount() - 1, (offset + viewport()->height() - 1) / height);
 
-    for (auto it = m_shown.begin(); it != m_shown.end();) {
-        if (it->first >= first && it->first <= last) {
-            ++it;
-            continue;
-        }
-        putAway(*it->second);
-        it = m_shown.erase(it);
-    }
+    m_rows.keepOnly(first, last);
     const int direction = layoutDirection() == Qt::RightToLeft ? 1 : -1;
     for (int row = first; row <= last; ++row) {
-        const bool isNew = !m_shown.contains(row);
-        if (isNew)
-            m_shown[row] = takeView();
-        CustomTableCellView &view = *m_shown[row];
+        const bool isNew = !m_rows.at(row);
+        CustomTableCellView &view = isNew ? m_rows.add(row) : *m_rows.at(row);
         const int aside = row == m_swipe->row() ? m_swipe->offset() * direction : 0;
         view.setGeometry(aside, row * height - offset + m_slideUp->gapAbove(row),
                          viewport()->width(), height);
@@ -261,22 +208,8 @@ void LectureTable::placeRowAction()
 void LectureTable::updateMouseOver()
 {
     const QPoint mouse = viewport()->mapFromGlobal(QCursor::pos());
-    for (const auto &[row, view] : m_shown)
+    for (const auto &[row, view] : m_rows.views())
         view->setMouseOver(viewport()->underMouse() && view->geometry().contains(mouse));
-}
-
-CustomTableCellView *LectureTable::takeView()
-{
-    if (!m_spare.empty()) {
-        CustomTableCellView *view = m_spare.back();
-        m_spare.pop_back();
-        return view;
-    }
-    auto *view = new CustomTableCellView(viewport());
-    view->setRowHost(m_host);
-    view->awakeFromNib();
-    Q_EMIT rowViewMade(view);
-    return view;
 }
 
 void LectureTable::bind(CustomTableCellView &view, int row) const
@@ -300,7 +233,7 @@ void LectureTable::scrollContentsBy(int, int)
 void LectureTable::showCurrentRow()
 {
     const bool has = hasKeyboard();
-    for (const auto &[row, view] : m_shown)
+    for (const auto &[row, view] : m_rows.views())
         view->setCurrent(has && row == selectedRow());
 }
 
@@ -324,7 +257,7 @@ void LectureTable::paintEvent(QPaintEvent *)
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
     if (m_highlightStyle == SelectionHighlightStyle::Regular) {
-        for (const auto &[row, view] : m_shown) {
+        for (const auto &[row, view] : m_rows.views()) {
             if (m_selection.has(row))
                 painter.fillRect(view->geometry(), palette().color(QPalette::Midlight));
         }

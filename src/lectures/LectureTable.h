@@ -3,6 +3,7 @@
 #include "lectures/LectureList.h"
 #include "lectures/RowAction.h"
 #include "lectures/RowSelection.h"
+#include "lectures/ShownRows.h"
 
 #include <QAbstractItemModel>
 #include <QAbstractScrollArea>
@@ -10,8 +11,6 @@
 
 #include <chrono>
 #include <functional>
-#include <map>
-#include <vector>
 
 namespace tarvelo::lectures {
 
@@ -42,8 +41,8 @@ public:
     // The row's view when it shows, else null; `makeIfNecessary` scrolls the row into view first.
     CustomTableCellView *viewAtColumnRowMakeIfNecessary(int column, int row, bool makeIfNecessary);
     // The row that `view` is, or lies in; -1 when it is none.
-    int rowForView(const QWidget *view) const;
-    int viewCount() const { return static_cast<int>(m_shown.size() + m_spare.size()); }
+    int rowForView(const QWidget *view) const { return m_rows.rowFor(view); }
+    int viewCount() const { return m_rows.viewCount(); }
     // The row that the keyboard is on; -1 for none.
     int selectedRow() const { return m_selection.current(); }
     // All of them, in ascending order.
@@ -51,13 +50,13 @@ public:
     // The view of the row that the keyboard is on, when both the row and the keyboard are here.
     CustomTableCellView *keyboardRow() const;
     // The views of the rows that show, from above to below.
-    QList<CustomTableCellView *> shownRows() const;
+    QList<CustomTableCellView *> shownRows() const { return m_rows.inOrder(); }
     bool isSelected(const QWidget &rowView) const { return m_selection.has(rowForView(&rowView)); }
 
     // The model must outlive the table or be taken off it. Its resets reload the table.
     void setModel(QAbstractItemModel *model);
     // Lets the rows ask their questions; null takes it back.
-    void setRowHost(LectureRowHost *host);
+    void setRowHost(LectureRowHost *host) { m_rows.setRowHost(host); }
     // Whether the selected row lies on a ground of its own. The mark of the row that the keyboard
     // is on shows under both styles.
     void setSelectionHighlightStyle(SelectionHighlightStyle style);
@@ -99,32 +98,24 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    int rowAt(const QPoint &position) const;
     bool hasKeyboard() const;
     bool moveByKey(int key);
     bool commandByKey(const QKeyEvent &event);
-    void command(CustomTableCellView &row, int key);
-    // With Ctrl that of the export, where there is one.
-    void showMenuOfSelectedRow(Qt::KeyboardModifiers modifiers);
-    bool swipe(const QWheelEvent &event);
+    CustomTableCellView *selectedView();
     void updateScrollBar();
-    void putAway(CustomTableCellView &view);
     void forgetRow(int row);
     void setSelection(const QList<int> &rows, int current);
     void selectionHasChanged();
     // Gives every row that shows its view, in its place, and takes the others' away.
     void layoutRows();
     void placeRowAction();
-    CustomTableCellView *takeView();
     void bind(CustomTableCellView &view, int row) const;
     void showCurrentRow();
     // Tells screen readers that the keyboard is on a row of the table, and not on the whole of it.
     void tellOfKeyboardRow();
 
     QPointer<QAbstractItemModel> m_model;
-    LectureRowHost *m_host = nullptr;
-    std::map<int, CustomTableCellView *> m_shown;
-    std::vector<CustomTableCellView *> m_spare;
+    ShownRows m_rows;
     RowActions m_rowActions;
     RowSlideUp *m_slideUp;
     RowSwipe *m_swipe;

@@ -9,11 +9,15 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPoint>
 #include <QRect>
 #include <QVariant>
+#include <QWheelEvent>
 #include <QWidget>
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 
 namespace tarvelo::lectures {
 
@@ -26,6 +30,21 @@ constexpr int TitleMargin = 22;
 constexpr int MoveMilliseconds = 200;
 // Fingers that rest so long are taken to have left, where the system does not say so.
 constexpr int RestMilliseconds = 250;
+
+// How far a swipe goes across, in points to the right.
+int acrossOf(const QWheelEvent &event)
+{
+    const QPoint delta = event.pixelDelta().isNull() ? event.angleDelta() : event.pixelDelta();
+    if (event.modifiers() & Qt::ShiftModifier)
+        return delta.x() != 0 ? delta.x() : delta.y();
+    return std::abs(delta.x()) > std::abs(delta.y()) ? delta.x() : 0;
+}
+
+// A wheel goes from notch to notch; a touchpad follows the fingers.
+bool hasNotches(const QWheelEvent &event)
+{
+    return event.pixelDelta().isNull() && event.angleDelta().manhattanLength() >= 120;
+}
 
 } // namespace
 
@@ -104,6 +123,30 @@ void RowSwipe::turnTo(int row, const RowAction &action)
     }
     m_button->setAction(action);
     qApp->installEventFilter(this);
+}
+
+// Fingers that go towards the leading edge uncover what lies at the trailing one.
+bool RowSwipe::swipe(const QWheelEvent &event, int row,
+                     const std::function<QList<RowAction>()> &actions)
+{
+    if (event.phase() == Qt::ScrollEnd && m_row >= 0) {
+        settle();
+        return true;
+    }
+    const int across = acrossOf(event);
+    if (across == 0)
+        return false;
+    const QList<RowAction> offered = actions();
+    if (offered.isEmpty()) {
+        cover();
+        return true;
+    }
+    const int points = m_viewport.layoutDirection() == Qt::RightToLeft ? across : -across;
+    if (hasNotches(event))
+        moveToEnd(row, offered.first(), points > 0);
+    else
+        moveBy(row, offered.first(), points);
+    return true;
 }
 
 void RowSwipe::moveBy(int row, const RowAction &action, int points)

@@ -3,10 +3,14 @@
 #include "lectures/RowAction.h"
 
 #include <QAbstractButton>
+#include <QList>
 #include <QObject>
 #include <QSize>
 #include <QVariantAnimation>
 
+#include <functional>
+
+class QWheelEvent;
 class QWidget;
 
 namespace tarvelo::lectures {
@@ -48,6 +52,9 @@ public:
     // There is one from the first swipe on.
     RowActionButton *button() const { return m_button; }
 
+    // What the wheel or two fingers do across `row`, which is -1 where none lies under them. Its
+    // actions are asked for when they go across; false, and nothing happens, when they do not.
+    bool swipe(const QWheelEvent &event, int row, const std::function<QList<RowAction>()> &actions);
     // Uncovers `action` of `row` by so many points more, less when negative, as fingers do.
     void moveBy(int row, const RowAction &action, int points);
     // Uncovers or covers it whole, as a wheel with notches does.
