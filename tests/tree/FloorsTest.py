@@ -85,13 +85,11 @@ def circles(tree):
 
 
 def of_class(tree, path):
-    """The path without its ending, and that of the header where a source without one of its own begins with it."""
+    """The path without its ending; of a source without a header of its own, that of the header whose name it begins with."""
     stem = os.path.splitext(path)[0]
     if path.endswith(".cpp") and not tree.has(stem + ".h"):
-        first = next(iter(own(tree, path)), "")
-        header = os.path.splitext("src/" + first)[0]
-        if os.path.dirname(header) == os.path.dirname(stem) and stem.startswith(header):
-            return header
+        headers = [os.path.splitext("src/" + name)[0] for name in own(tree, path)]
+        return max((header for header in headers if stem.startswith(header)), key=len, default=stem)
     return stem
 
 
