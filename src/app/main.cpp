@@ -95,6 +95,16 @@ struct Ground
     app::ProcessFlags &flags = app::ProcessFlags::ofProcess();
 };
 
+lectures::LectureServices servicesOn(Ground &ground)
+{
+    return {ground.dates,           ground.places,
+            ground.defaults,        ground.database,
+            *ground.sound,          ground.alerts,
+            ground.workspace,       ground.mail,
+            ground.sleep,           ground.flags.controllerIsAwake,
+            ground.flags.pendingRow};
+}
+
 // What somebody outside asks of the program that runs.
 void answerRequests(const app::SingleInstance &instance, const app::DesktopService &service,
                     app::AppDelegate &delegate)
@@ -126,11 +136,7 @@ int main(int argc, char **argv)
 
     Ground ground;
     const lectures::LectureWindows windows(ground.dates);
-    lectures::MediaLinksArrayController controller(
-        {ground.dates, ground.places, ground.defaults, ground.database, *ground.sound,
-         ground.alerts, ground.workspace, ground.mail, ground.sleep, ground.flags.controllerIsAwake,
-         ground.flags.pendingRow},
-        windows);
+    lectures::MediaLinksArrayController controller(servicesOn(ground), windows);
     app::AppDelegate delegate(
         {ground.dates, ground.defaults, ground.database, ground.alerts, windows, controller,
          app::LoginItem(app::LoginItem::standardFolder(), QApplication::applicationFilePath()),
