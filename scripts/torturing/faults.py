@@ -1,6 +1,6 @@
 """One call after the other fails, once: the second run has the second one fail, and so on until none is left.
 
-Of the memory that is asked for, each piece that is asked for from somewhere else than all before, by its whole call stack."""
+Of the memory that is asked for, each piece that is asked for from somewhere else than all before, by the innermost sixteen of its callers."""
 
 import collections
 import concurrent.futures
