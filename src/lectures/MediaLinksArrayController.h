@@ -25,8 +25,6 @@
 #include <QVariant>
 #include <QVariantList>
 
-#include <array>
-
 class QDateTime;
 class QModelIndex;
 class QWidget;
@@ -282,15 +280,8 @@ private:
     void watchTexts();
     void wireRow(CustomTableCellView &row);
     void connectEditing();
-    void connectEditingKeys();
     void wireEditing(CustomTableCellView &row);
-    std::array<QWidget *, 3> secondaryWindows() const;
-    void setBackgroundColors();
     void becomeDelegateOfWindows();
-    void dressPlayAudioWindow();
-    void setLabels();
-    void setTypingAttributes();
-    void setInsertionPointColors();
     void tagConfirmButtons();
     void reloadData();
     void lecturesStored(bool doesListLackOne);

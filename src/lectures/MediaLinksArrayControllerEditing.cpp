@@ -1,12 +1,11 @@
 #include "lectures/MediaLinksArrayController.h"
 
-#include "audio/PlaybackOutlets.h"
 #include "lectures/CustomTableCellView.h"
-#include "lectures/EditingKeys.h"
 #include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/RowLookup.h"
+#include "lectures/WindowKeys.h"
 #include "widgets/ImageButton.h"
 
 #include <QMenu>
@@ -37,28 +36,7 @@ void MediaLinksArrayController::connectEditing()
         if (const auto *cell = table.viewAtColumnRowMakeIfNecessary(0, row, true))
             openPlayEditWindow(cell->btnPlay());
     });
-    connectEditingKeys();
-}
-
-void MediaLinksArrayController::connectEditingKeys()
-{
-    const NewLectureOutlets &newLecture = m_windows.newLectureOutlets();
-    recordWithKeys(m_windows.recordingOutlets());
-    doneWithControlReturn(*newLecture.newNoteWindow, *newLecture.BtnDoneOrClose);
-    returnGoesOnToNotes(*newLecture.txtSubjectForNewNote, *newLecture.txtView);
-    escapeCloses(*newLecture.newNoteWindow);
-
-    const EditLectureOutlets &edit = m_windows.editLectureOutlets();
-    doneWithControlReturn(*edit.windowEditLecture, *edit.btnDoneEdit);
-    returnGoesOnToNotes(*edit.txtSubjectForEdit, *edit.txtViewNotesForEdit);
-    escapeCloses(*edit.windowEditLecture);
-
-    const LectureViewOutlets &view = m_windows.lectureViewOutlets();
-    QWidget &pane = *m_windows.mainOutlets().editPlayView;
-    doneWithControlReturn(pane, *view.btnDoneEditLecture);
-    returnGoesOnToNotes(*view.tSubjectName, *view.tViewNoteForEdit);
-    const audio::EditPlayerOutlets &player = m_windows.editPlayerOutlets();
-    playAndPauseWithF8(pane, *player.bPlay, *player.bPause);
+    connectEditingKeys(m_windows);
 }
 
 void MediaLinksArrayController::wireEditing(CustomTableCellView &row)

@@ -1,11 +1,11 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include "audio/PlaybackOutlets.h"
-#include "lectures/EditingKeys.h"
 #include "lectures/LectureList.h"
 #include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
+#include "lectures/WindowKeys.h"
 #include "platform/WindowLevel.h"
 #include "store/LectureInfoItem.h"
 #include "widgets/ImageButton.h"
@@ -13,21 +13,10 @@
 #include "widgets/SegmentedControl.h"
 #include "widgets/SlidingWindow.h"
 
-#include <QShortcut>
 #include <QSlider>
 #include <QWidget>
 
 namespace tarvelo::lectures {
-
-namespace {
-
-// The keys press whichever of the two buttons can be pressed.
-void pressInTurn(widgets::ImageButton &play, widgets::ImageButton &pause)
-{
-    (play.isEnabled() ? play : pause).performClick(nullptr);
-}
-
-} // namespace
 
 void MediaLinksArrayController::connectPlayer()
 {
@@ -39,10 +28,7 @@ void MediaLinksArrayController::connectPlayer()
         {"onPlaySpeedChanged", [this](QWidget *sender) { onPlaySpeedChanged(sender); }});
     connect(player.sliderPlayProgress, &QSlider::sliderReleased, this,
             [this, player] { onSetForwardOrBackward(player.sliderPlayProgress); });
-    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_F8})
-        connect(new QShortcut(key, player.playAudioWindow), &QShortcut::activated, this,
-                [player] { pressInTurn(*player.btnPlayLecture, *player.btnPauseLecture); });
-    escapeCloses(*player.playAudioWindow);
+    connectPlayingKeys(player);
     m_windows.playAudioOutlets().btnClosePlayAudio->setAction(
         {"performClose", [player](QWidget *) { player.playAudioWindow->close(); }});
 

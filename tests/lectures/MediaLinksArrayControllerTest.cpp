@@ -7,7 +7,6 @@
 #include "store/LectureInfoItem.h"
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
-#include "widgets/InsertionPoint.h"
 #include "widgets/LayerView.h"
 
 #include <QDir>
@@ -18,7 +17,6 @@ using namespace std::chrono_literals;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
-using tarvelo::widgets::insertionPointColor;
 
 class MediaLinksArrayControllerTest final : public tarvelo::tests::TestCase
 {
@@ -144,36 +142,6 @@ private Q_SLOTS:
         QCOMPARE(tarvelo::platform::windowLevel(m_program->windows.mainWindow()), 0);
     }
 
-    void startingWhitensTheSecondaryWindows()
-    {
-        for (QWidget *window : secondaryWindows()) {
-            window->setPalette(QPalette(Qt::blue));
-            window->setAutoFillBackground(false);
-        }
-
-        controller().awakeFromNib();
-
-        for (const QWidget *window : secondaryWindows()) {
-            QCOMPARE(window->palette().color(QPalette::Window), QColor(255, 255, 255));
-            QVERIFY(window->autoFillBackground());
-        }
-    }
-
-    void thePlayWindowIsNotOpaqueAndCanBeNeitherMinimisedNorZoomed()
-    {
-        QWidget &window = *m_program->windows.playAudioOutlets().playAudioWindow;
-        window.setAttribute(Qt::WA_TranslucentBackground, false);
-        tarvelo::platform::setWindowFlagInPlace(window, Qt::WindowMinMaxButtonsHint, true);
-        tarvelo::platform::setWindowFlagInPlace(window, Qt::CustomizeWindowHint, false);
-
-        controller().awakeFromNib();
-
-        QVERIFY(window.windowFlags() & Qt::CustomizeWindowHint);
-        QVERIFY(window.testAttribute(Qt::WA_TranslucentBackground));
-        QVERIFY(!(window.windowFlags() & Qt::WindowMinMaxButtonsHint));
-        QVERIFY(window.windowFlags() & Qt::WindowCloseButtonHint);
-    }
-
     void startingGuardsTheSecondaryWindowsFromThenOn()
     {
         QWidget &edit = *m_program->windows.editLectureOutlets().windowEditLecture;
@@ -184,27 +152,6 @@ private Q_SLOTS:
 
         QVERIFY(!edit.close());
         QVERIFY(edit.isVisible());
-    }
-
-    void startingWritesTheLabels()
-    {
-        const auto &popovers = m_program->windows.popoverOutlets();
-        for (QLabel *label : {m_program->windows.newLectureOutlets().lblNotesForAdd,
-                              m_program->windows.lectureViewOutlets().lblNotesForView,
-                              popovers.lblRecordDeleteConfirmation, popovers.lblPopoverNoAudio,
-                              m_program->windows.recordingOutlets().lblRecordingDuration})
-            label->setText(u"left over"_s);
-
-        controller().awakeFromNib();
-
-        const QString notes = tarvelo::platform::text("LABEL_NOTES");
-        QCOMPARE(m_program->windows.newLectureOutlets().lblNotesForAdd->text(), notes);
-        QCOMPARE(m_program->windows.lectureViewOutlets().lblNotesForView->text(), notes);
-        QCOMPARE(popovers.lblRecordDeleteConfirmation->text(),
-                 tarvelo::platform::text("LABEL_CONFIRM_RECORDDELETE"));
-        QCOMPARE(popovers.lblPopoverNoAudio->text(),
-                 tarvelo::platform::text("MSG_NO_AUDIO_FOR_LECTURE"));
-        QCOMPARE(m_program->windows.recordingOutlets().lblRecordingDuration->text(), QString());
     }
 
     void selectedRowsAreNotHighlighted()
@@ -218,25 +165,6 @@ private Q_SLOTS:
 
         QCOMPARE(table().selectedRow(), 0);
         QCOMPARE(table().grab().toImage(), plain);
-    }
-
-    void theInsertionPointsHaveTheirColours()
-    {
-        controller().awakeFromNib();
-
-        const auto &windows = m_program->windows;
-        for (const QLineEdit *field : std::initializer_list<const QLineEdit *>{
-                 windows.playAudioOutlets().txtSubjectName,
-                 windows.playAudioOutlets().txtCourseName,
-                 windows.playAudioOutlets().txtFieldForAudio,
-                 windows.editLectureOutlets().txtSubjectForEdit,
-                 windows.newLectureOutlets().txtSubjectForNewNote,
-                 windows.lectureViewOutlets().tSubjectName})
-            QCOMPARE(insertionPointColor(*field), QColor(Qt::lightGray));
-        QCOMPARE(insertionPointColor(*windows.newLectureOutlets().txtView), QColor(Qt::lightGray));
-        for (const QTextEdit *view : {windows.editLectureOutlets().txtViewNotesForEdit,
-                                      windows.lectureViewOutlets().tViewNoteForEdit})
-            QCOMPARE(insertionPointColor(*view), view->palette().color(QPalette::WindowText));
     }
 
     void theClockLabelsShowTimeAndDateOfTheStart()
@@ -266,26 +194,6 @@ private Q_SLOTS:
 
         QCOMPARE(m_program->windows.popoverOutlets().btnConfirmNo->tag(), 0);
         QCOMPARE(m_program->windows.popoverOutlets().btnConfirmYes->tag(), 1);
-    }
-
-    void titlesAreRedAndNotesAreWrittenInFifteenPoints()
-    {
-        controller().awakeFromNib();
-
-        const auto &windows = m_program->windows;
-        for (const QWidget *button :
-             {windows.newLectureOutlets().BtnDoneOrClose, windows.editLectureOutlets().btnDoneEdit,
-              windows.lectureViewOutlets().btnDoneEditLecture,
-              windows.lectureViewOutlets().btnSlidetoView,
-              windows.lectureViewOutlets().btnSlideToListView,
-              windows.newLectureOutlets().BtnCancelAddNewLecture})
-            QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(252, 39, 52));
-        for (const QTextEdit *view :
-             {windows.newLectureOutlets().txtView, windows.lectureViewOutlets().tViewNoteForEdit,
-              windows.editLectureOutlets().txtViewNotesForEdit}) {
-            QCOMPARE(view->font().pixelSize(), 15);
-            QCOMPARE(view->textColor(), view->palette().color(QPalette::WindowText));
-        }
     }
 
     // -- Lists
@@ -588,12 +496,6 @@ private:
     tarvelo::lectures::LectureTable &table() const
     {
         return *m_program->windows.mainOutlets().tblRecordSubjectList;
-    }
-    QList<QWidget *> secondaryWindows() const
-    {
-        return {m_program->windows.newLectureOutlets().newNoteWindow,
-                m_program->windows.editLectureOutlets().windowEditLecture,
-                m_program->windows.playAudioOutlets().playAudioWindow};
     }
 
     std::unique_ptr<LectureProgram> m_program;
