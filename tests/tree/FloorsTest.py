@@ -5,6 +5,7 @@ import re
 import unittest
 
 from RuleTest import RuleTest
+from tree import COMMENT_OR_TEXT
 
 BELOW = {
     "src/platform": [],
@@ -26,6 +27,10 @@ OWNERS = [
     (re.compile(r"^.xcb/"), "the X11 client", "src/app"),
 ]
 GENERATED = re.compile(r'^"(ui_\w+\.h|\w+\.moc|moc_\w+\.cpp)$')
+# Its table is none of the program's: it asks what a database of an older kind may have.
+STATEMENTS_OF_ITS_OWN = ["src/lectures/LectureRecordsHandler.cpp"]
+STATEMENT = re.compile(r"\baudioData\b|\b(INSERT\s+(OR\s+\w+\s+)?INTO|REPLACE\s+INTO|UPDATE\s+\w+\s+SET|DELETE\s+FROM|"
+                       r"SELECT\s)", re.IGNORECASE)
 LAYOUT_HEADER = re.compile(r"<header[^>]*>\s*([^<]*?)\s*</header>")
 
 
@@ -113,6 +118,14 @@ def store_hides_sqlite(tree):
             if not path.startswith("src/store/") and reaches(path, set())]
 
 
+def store_keeps_its_statements(tree):
+    """Nobody outside the store names its table or writes a statement."""
+    return [f"{path} has the statement {text[0]}, which belongs to the store"
+            for path in sources(tree) if not path.startswith("src/store/") and path not in STATEMENTS_OF_ITS_OWN
+            for text in COMMENT_OR_TEXT.finditer(tree.text(path))
+            if text[0].startswith('"') and STATEMENT.search(text[0])]
+
+
 class FloorsTest(RuleTest):
     def test_a_folder_includes_only_what_stands_below_it(self):
         self.assertHolds(only_below)
@@ -185,6 +198,20 @@ class FloorsTest(RuleTest):
         files = {"src/calendar/A.cpp": '#include "store/B.h"\n', "src/store/B.h": '#include "store/C.h"\n',
                  "src/store/C.h": "#include <sqlite3.h>\n"}
         self.assertComplains(store_hides_sqlite, files, "calendar/A.cpp")
+
+    def test_the_store_keeps_its_statements_to_itself(self):
+        self.assertHolds(store_keeps_its_statements)
+
+    def test_a_statement_outside_the_store_is_found(self):
+        for text in ("select ID from t where ID = ?", "INSERT OR IGNORE INTO t VALUES (1)", "UPDATE t SET a = ?",
+                     "DELETE FROM t", "audioData"):
+            files = {"src/audio/A.cpp": f'run(QStringLiteral("{text}"));\n'}
+            self.assertComplains(store_keeps_its_statements, files, "audio/A.cpp", text)
+
+    def test_words_that_are_no_statement_are_accepted(self):
+        lines = '// select it, or delete from audioData\nm_audioData = text("UPDATE_LECTURE") + "updated, deleted";\n'
+        self.assertAccepts(store_keeps_its_statements, {"src/audio/A.cpp": lines})
+        self.assertAccepts(store_keeps_its_statements, {"src/store/A.cpp": 'run("SELECT 1 FROM audioData");\n'})
 
 
 if __name__ == "__main__":
