@@ -74,6 +74,19 @@ QStringList beginning(const QString &begin, QStringList names)
     return names;
 }
 
+// Empty when it is none of them. One that the journal does not name is a stray of another format,
+// be it the only one: its own may be in its place already.
+QString takeOf(const LectureJournal &journal, const QStringList &takes)
+{
+    if (journal.take.isEmpty())
+        return takes.size() == 1 && !(journal.isDone && journal.target.isEmpty()) ? takes.first()
+                                                                                  : QString();
+    const auto own = std::ranges::find_if(takes, [&journal](const QString &take) {
+        return QFileInfo(take).suffix() == QFileInfo(journal.take).suffix();
+    });
+    return own == takes.end() ? QString() : *own;
+}
+
 bool isJournal(const QString &name)
 {
     return name.endsWith(JournalEnding);
@@ -118,20 +131,23 @@ bool LeftFiles::moveFrom(const QString &from) const
            moveLecture(from);
 }
 
-// What was put aside and can be read after all. Its recording may be a lecture by now; subject and
-// notes are offered all the same.
+// What was put aside and can be read after all. Its recording is a lecture by now, or nobody wants
+// it; its texts are offered as of one without a recording, and nothing is done unasked.
 bool LeftFiles::takeBackReadable(const QString &from) const
 {
     const auto names = namesIn(from);
     for (const QString &name : beginning(unreadBegin(), names.value_or(QStringList()))) {
         const QString path = from + u'/' + name;
-        if (store::readJournal(path).state != JournalFile::State::Read)
-            continue;
-        const QString was = baseOf(name.mid(unreadBegin().size()));
+        JournalFile file =
+            isJournal(name) ? store::readJournal(path) : JournalFile{JournalFile::State::Missing};
         const QString free =
-            was.startsWith(NameBegin) ? freeName(was, false) : freeName(momentName(), true);
-        if (!free.isEmpty())
-            moveJournal(path, pathOf(free + JournalEnding));
+            file.state == JournalFile::State::Read ? freeName(momentName(), true) : QString();
+        if (free.isEmpty())
+            continue;
+        file.journal.isDone = false;
+        file.journal.take = file.journal.target = file.journal.duration = QString();
+        if (SteadyFile(pathOf(free + JournalEnding)).replace(store::toBytes(file.journal)))
+            QFile::remove(path);
     }
     return names.has_value();
 }
@@ -231,20 +247,13 @@ bool LeftFiles::moveLecture(const QString &from) const
     if (!journal.isDone)
         takes.removeIf(
             [](const QString &take) { return holdsNothing(take) && QFile::remove(take); });
-    // One that the journal does not name is a stray of another format, be it the only one: its own
-    // may be in its place already.
-    const auto isOfJournal = [&takes, &journal](const QString &take) {
-        if (!journal.take.isEmpty())
-            return QFileInfo(journal.take).suffix() == QFileInfo(take).suffix();
-        return takes.size() == 1 && !(journal.isDone && journal.target.isEmpty());
-    };
-    const auto ofJournal = std::ranges::find_if(takes, isOfJournal);
-    const bool hasTake = hasJournal && ofJournal != takes.end();
+    const QString ofJournal = hasJournal ? takeOf(journal, takes) : QString();
+    const bool hasTake = !ofJournal.isEmpty();
     static const QRegularExpression isPlain(QStringLiteral("^[0-9T]+$"));
     const QString wish =
         isPlain.match(journal.id).hasMatch() ? NameBegin + journal.id : momentName();
     const QString name = freeName(wish, hasTake);
-    if (name.isEmpty() || !moveTakes(takes, hasTake ? *ofJournal : QString(), name))
+    if (name.isEmpty() || !moveTakes(takes, ofJournal, name))
         return false;
     if (!hasJournal)
         return true;

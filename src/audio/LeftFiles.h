@@ -41,7 +41,7 @@ public:
     // Moves here what stands in `from`, which may be the same folder, of lectures that are not open
     // any more, unless they were left on purpose. False when something of them stands there still;
     // to be tried again then. A journal that cannot be read keeps its recording back for a day;
-    // once it can be, it comes back.
+    // once it can be, its texts are offered.
     bool moveFrom(const QString &from) const;
     // Moves a take that was left on purpose from another folder, where no lecture would replace it,
     // to where the next one will. Not while something stands here; another time then.

@@ -194,8 +194,37 @@ private Q_SLOTS:
         QCOMPARE(
             std::ranges::count_if(all, [](const auto &left) { return !left.takePath.isEmpty(); }),
             1);
-        // It was moved under the moment of its opening before, and so it joins its recording again.
-        QCOMPARE(all.size(), isOutOfTheWay ? 1 : 2);
+        // The recording may be kept by now: the texts do not join it.
+        QCOMPARE(all.size(), 2);
+    }
+
+    // A lecture of it may be stored by now, or deleted.
+    void whatWasDoneAndPutAsideIsOfferedAndNotStoredUnasked()
+    {
+        LectureJournal journal = LeftStage::journal();
+        journal.isDone = true;
+        journal.target = m_stage->places.folder() + u"/Audio//gone.m4a"_s;
+        LeftStage::write(m_stage->file("unread-lecture.journal"), tarvelo::store::toBytes(journal));
+
+        QVERIFY(files().moveFrom(folder()));
+
+        const auto all = files().all().value();
+        QCOMPARE(all.size(), 1);
+        QCOMPARE(all[0].journal.journal.notes, u"Huygens"_s);
+        QVERIFY(!all[0].journal.journal.isDone);
+        QVERIFY(all[0].journal.journal.target.isEmpty());
+    }
+
+    // It is of a lecture whose journal was read without it.
+    void whatIsAheadAndWasPutAsideStaysThere()
+    {
+        LeftStage::write(m_stage->file("unread-lecture.latest"),
+                         tarvelo::store::toBytes(LeftStage::journal()));
+
+        QVERIFY(files().moveFrom(folder()));
+
+        QVERIFY(files().all()->isEmpty());
+        QVERIFY(QFile::exists(m_stage->file("unread-lecture.latest")));
     }
 
     // Nothing waits for it, and it may be read tomorrow.
