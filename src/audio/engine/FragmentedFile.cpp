@@ -158,6 +158,9 @@ void FragmentedFile::syncNowAndThen()
     m_synced = now;
     if (m_diskFails)
         putWaiting();
+    // The next time that the disk is full is not to find less.
+    if (!m_diskFails && m_taken > 0 && m_reserve.holdAgain())
+        m_taken = m_unused = 0;
     if (m_unsynced.empty() || !writeLostAgain())
         return;
     m_syncing = m_unsynced.size();

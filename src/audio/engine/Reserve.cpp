@@ -48,7 +48,7 @@ Reserve::Reserve(const std::string &take)
     const std::int64_t size =
         sizeOn(platform::roomOnDisk(decoded(folder.empty() ? "." : folder)).value_or(0));
     if (size > 0 && platform::holdRoom(decoded(m_path), size))
-        m_bytes = size;
+        m_bytes = m_wanted = size;
 }
 
 Reserve::~Reserve()
@@ -69,6 +69,17 @@ bool Reserve::giveBack(std::int64_t bytes)
         return false;
     m_bytes -= bytes;
     return true;
+}
+
+// A try that ends on the way leaves nothing.
+bool Reserve::holdAgain()
+{
+    const QString path = decoded(m_path);
+    if (m_bytes > 0 && platform::holdRoom(path, m_wanted))
+        m_bytes = m_wanted;
+    else if (!QFile::exists(path))
+        m_bytes = 0;
+    return m_bytes == m_wanted;
 }
 
 } // namespace tarvelo::engine

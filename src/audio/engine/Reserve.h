@@ -30,10 +30,13 @@ public:
     void giveBack();
     // So much of it; false when it cannot be had, or is not held.
     bool giveBack(std::int64_t bytes);
+    // As much as in the beginning, when there is room for that again.
+    bool holdAgain();
 
 private:
     std::string m_path;
     std::int64_t m_bytes = 0;
+    std::int64_t m_wanted = 0;
 };
 
 } // namespace tarvelo::engine

@@ -167,6 +167,28 @@ private Q_SLOTS:
         QVERIFY(std::abs(DecodedAudio::read(name())->seconds() - take->secondsInFile()) < 0.05);
     }
 
+    void roomThatComesBackIsHeldForTheNextTime()
+    {
+        SmallDisk disk(m_folder->path(), 16 * Kibibyte);
+        const auto take = FragmentedFile::create(OutputFile::create(path()),
+                                                 AacEncoder::create(ManyBits)->codec());
+        const QString reserve = m_folder->filePath(u".take.reserve"_s);
+        const qint64 held = QFileInfo(reserve).size();
+        disk.fill();
+        addUntil(*take, 10);
+        QVERIFY(!disk.isMounted() || QFileInfo(reserve).size() < held);
+
+        disk.emptyAgain();
+
+        const auto holdsAgain = [&] {
+            addNext(*take);
+            take->syncNowAndThen();
+            return QFileInfo(reserve).size() == held;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(holdsAgain(), 20000);
+        QVERIFY(!take->isDiskFailing());
+    }
+
     void roomThatComesBackIsUsedBeforeTheEnd()
     {
         SmallDisk disk(m_folder->path(), 8 * Kibibyte);

@@ -61,6 +61,19 @@ private Q_SLOTS:
         QCOMPARE(reserve.bytes(), Reserve::Most * 3 / 4);
     }
 
+    void whatWasGivenBackIsHeldAgain()
+    {
+        Reserve reserve(take());
+        QVERIFY(reserve.giveBack(Reserve::Most / 4));
+
+        QVERIFY(reserve.holdAgain());
+
+        QCOMPARE(reserve.bytes(), Reserve::Most);
+        struct stat status = {};
+        QCOMPARE(::stat(file().toStdString().c_str(), &status), 0);
+        QVERIFY(status.st_blocks * 512 >= Reserve::Most);
+    }
+
     void whatSomebodyTookAwayIsNotGivenBack()
     {
         Reserve reserve(take());
