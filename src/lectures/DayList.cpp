@@ -9,6 +9,7 @@
 #include "widgets/SlidingWindow.h"
 
 #include <QLabel>
+#include <QSet>
 #include <QVariantMap>
 #include <QWidget>
 
@@ -51,9 +52,7 @@ void DayList::prepareViewForDate(const QDateTime &date)
     const bool isOpen = isDayOpen(date);
     m_outlets.btnAddItem->setHidden(!isOpen);
     m_arrangedObjects.clear();
-    // The store is asked under a fixed locale, so that the user's calendar and digits never matter
-    // here.
-    fill(m_database.lecturesOfDay(m_dates.formatFixed(date, QStringLiteral("yyyy-MM-dd"))));
+    fill(rowsOfDay());
     enableDeleteItem();
     emptyDayPanel().setVisible(isOpen && m_arrangedObjects.empty());
     m_reload();
@@ -69,11 +68,10 @@ void DayList::showAllList(const QDateTime &date)
     m_outlets.mainWindow->setFrameWidth(ListShownWidth, true);
 }
 
-// The month alone counts, so this shows it of every year, in the order of the file: wanted so.
 void DayList::fillWithAll()
 {
     m_arrangedObjects.clear();
-    fill(m_database.lecturesOfMonth(m_dates.formatFixed(*m_month, QStringLiteral("MM"))));
+    fill(rowsOfMonth());
     m_reload();
     showWhetherEmpty();
 }
@@ -84,6 +82,37 @@ void DayList::showAgain()
         fillWithAll();
     else if (m_dateOfButtonClicked.isValid())
         prepareViewForDate(m_dateOfButtonClicked);
+}
+
+// The store is asked under a fixed locale, so that the user's calendar and digits never matter
+// here.
+std::optional<store::Rows> DayList::rowsOfDay() const
+{
+    return m_database.lecturesOfDay(
+        m_dates.formatFixed(m_dateOfButtonClicked, QStringLiteral("yyyy-MM-dd")));
+}
+
+// The month alone counts, so this shows it of every year, in the order of the file: wanted so.
+std::optional<store::Rows> DayList::rowsOfMonth() const
+{
+    return m_database.lecturesOfMonth(m_dates.formatFixed(*m_month, QStringLiteral("MM")));
+}
+
+void DayList::appendNewcomers()
+{
+    if (!m_month && !m_dateOfButtonClicked.isValid())
+        return;
+    QSet<qint64> shown;
+    for (const Lecture &lecture : m_arrangedObjects)
+        shown.insert(lecture->getRecordUniqueID());
+    auto rows = m_month ? rowsOfMonth() : rowsOfDay();
+    if (rows)
+        rows->removeIf([&shown](const QVariantMap &row) {
+            return shown.contains(row.value(QStringLiteral("ID")).toLongLong());
+        });
+    fill(rows);
+    m_reload();
+    showWhetherEmpty();
 }
 
 void DayList::append(const Lecture &lecture)

@@ -43,6 +43,8 @@ public:
     void showAllList(const QDateTime &date);
     // What shows, read from the store again. Nothing before the first.
     void showAgain();
+    // Those that came into the store since, behind the others: no row gets another place.
+    void appendNewcomers();
     // Stands last until the list is next built from the store, though the store gives the newest
     // first: wanted so.
     void append(const Lecture &lecture);
@@ -55,6 +57,8 @@ public:
 private:
     void fill(const std::optional<store::Rows> &rows);
     void fillWithAll();
+    std::optional<store::Rows> rowsOfDay() const;
+    std::optional<store::Rows> rowsOfMonth() const;
     void enableDeleteItem();
     // The panel that says that a day has no lectures lies two levels above its button.
     QWidget &emptyDayPanel() const;

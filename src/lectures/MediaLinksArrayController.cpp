@@ -277,13 +277,12 @@ void MediaLinksArrayController::showStoredLectures()
     m_dayList.showAgain();
 }
 
-// A list that has them already is left as it is.
+// Nobody asked for it just now: what is done to a row, or is about to be, stays with its lecture.
 void MediaLinksArrayController::lecturesStored(bool doesListLackOne)
 {
+    m_windows.mainOutlets().calendarView->layoutSubviews();
     if (doesListLackOne)
-        showStoredLectures();
-    else
-        m_windows.mainOutlets().calendarView->layoutSubviews();
+        m_dayList.appendNewcomers();
 }
 
 void MediaLinksArrayController::reloadData()

@@ -224,6 +224,28 @@ private Q_SLOTS:
         QCOMPARE(subjects(), QStringList({u"Second"_s, u"March"_s}));
     }
 
+    void newcomersStandBehindTheOthers()
+    {
+        m_list->appendNewcomers();
+        QCOMPARE(m_reloads, 0);
+        aLecture().named("first").on("2024-03-05").insertInto(m_program->database);
+        m_list->prepareViewForDate(m_program->today());
+        const auto first = m_list->arrangedObjects().at(0);
+        aLecture().named("second").on("2024-03-05").insertInto(m_program->database);
+        aLecture().named("another day").on("2024-03-04").insertInto(m_program->database);
+
+        m_list->appendNewcomers();
+        QCOMPARE(subjects(), QStringList({u"First"_s, u"Second"_s}));
+        QCOMPARE(m_list->arrangedObjects().at(0), first);
+        m_list->appendNewcomers();
+        QCOMPARE(subjects().size(), 2);
+
+        m_list->showAllList(m_program->today());
+        aLecture().named("third").on("2024-03-01").insertInto(m_program->database);
+        m_list->appendNewcomers();
+        QCOMPARE(subjects(), QStringList({u"First"_s, u"Second"_s, u"Another Day"_s, u"Third"_s}));
+    }
+
     void allListBringsTheWindowBackToTheListsWidth()
     {
         outlets().mainWindow->setFrameWidth(1234, false);

@@ -60,6 +60,21 @@ private Q_SLOTS:
         QCOMPARE(m_program->subjectsShown(), QStringList{u"Optics"_s});
     }
 
+    // The row of another lecture is about to be deleted.
+    void whatIsStoredMeanwhileMovesNoRow()
+    {
+        aLecture().named("earlier").insertInto(m_program->database);
+        finishWhileLocked("Optics", true);
+        controller().prepareViewForDate(m_program->today());
+        QCOMPARE(m_program->subjectsShown(), QStringList{u"Earlier"_s});
+        const auto earlier = lecture(0);
+
+        m_program->clock.advance(20s);
+
+        QCOMPARE(m_program->subjectsShown(), QStringList({u"Earlier"_s, u"Optics"_s}));
+        QCOMPARE(lecture(0), earlier);
+    }
+
     // Nothing moves under the hand of whoever works with it.
     void aListThatHasItIsNotMadeAnewWhenItIsStored()
     {
