@@ -103,13 +103,18 @@ void DayList::appendNewcomers()
     if (!m_month && !m_dateOfButtonClicked.isValid())
         return;
     QSet<qint64> shown;
+    // The ID of one that has gone may be a newcomer's.
     for (const Lecture &lecture : m_arrangedObjects)
-        shown.insert(lecture->getRecordUniqueID());
+        if (lecture->hasRow())
+            shown.insert(lecture->getRecordUniqueID());
     auto rows = m_month ? rowsOfMonth() : rowsOfDay();
     if (rows)
         rows->removeIf([&shown](const QVariantMap &row) {
             return shown.contains(row.value(QStringLiteral("ID")).toLongLong());
         });
+    // A past day without lectures stays without the panel.
+    if (!rows || rows->isEmpty())
+        return;
     fill(rows);
     m_reload();
     showWhetherEmpty();

@@ -1,5 +1,6 @@
 #include "lectures/DayList.h"
 
+#include "store/GoneLectures.h"
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
 
@@ -244,6 +245,32 @@ private Q_SLOTS:
         aLecture().named("third").on("2024-03-01").insertInto(m_program->database);
         m_list->appendNewcomers();
         QCOMPARE(subjects(), QStringList({u"First"_s, u"Second"_s, u"Another Day"_s, u"Third"_s}));
+    }
+
+    void withoutNewcomersAPastDayStaysWithoutThePanel()
+    {
+        m_list->prepareViewForDate(theDay("2024-03-04"));
+        aLecture().named("another day").on("2024-03-05").insertInto(m_program->database);
+
+        m_list->appendNewcomers();
+
+        QVERIFY(m_program->emptyDayPanel().isHidden());
+        QCOMPARE(m_reloads, 1);
+    }
+
+    void aNewcomerMayHaveTheIdOfOneThatHasGone()
+    {
+        aLecture().named("gone").on("2024-03-05").insertInto(m_program->database);
+        m_list->prepareViewForDate(m_program->today());
+        const auto gone = m_list->arrangedObjects().at(0);
+        tarvelo::store::GoneLectures{u"copy"_s}.mark(*gone);
+        QVERIFY(!gone->hasRow());
+        QVERIFY(m_program->database.connection()->executeNonQuery(
+            u"UPDATE audioData SET subject = 'new'"_s));
+
+        m_list->appendNewcomers();
+
+        QCOMPARE(subjects(), QStringList({u"Gone"_s, u"New"_s}));
     }
 
     void allListBringsTheWindowBackToTheListsWidth()
