@@ -69,8 +69,7 @@ private Q_SLOTS:
         SmallDisk disk(m_folder->path(), std::max(kibibytes, 4));
         if (kibibytes == 0 || !disk.isMounted())
             disk.fill();
-        const auto take = FragmentedFile::create(OutputFile::create(path()),
-                                                 AacEncoder::create(ManyBits)->codec());
+        const auto take = newTake();
         QVERIFY(take);
 
         const double added = addUntilFull(*take);
@@ -111,8 +110,7 @@ private Q_SLOTS:
     void theDiskOfAFinishedTakeHasRoomForItsLecture()
     {
         SmallDisk disk(m_folder->path(), 16 * Kibibyte);
-        const auto take = FragmentedFile::create(OutputFile::create(path()),
-                                                 AacEncoder::create(ManyBits)->codec());
+        const auto take = newTake();
         disk.fill();
 
         const double added = addUntilFull(*take);
@@ -131,8 +129,7 @@ private Q_SLOTS:
     void onADiskThatFillsUpTheSoundGoesOnIntoTheFile()
     {
         SmallDisk disk(m_folder->path(), 16 * Kibibyte);
-        const auto take = FragmentedFile::create(OutputFile::create(path()),
-                                                 AacEncoder::create(ManyBits)->codec());
+        const auto take = newTake();
         disk.fill();
         if (!disk.isMounted())
             return;
@@ -150,10 +147,8 @@ private Q_SLOTS:
     void whatIsNotHadOfTheReserveIsAskedForOnce()
     {
         SmallDisk disk(m_folder->path(), 16 * Kibibyte);
-        const auto take = FragmentedFile::create(OutputFile::create(path()),
-                                                 AacEncoder::create(ManyBits)->codec());
-        const QString reserve = m_folder->filePath(u".take.reserve"_s);
-        const qint64 held = QFileInfo(reserve).size();
+        const auto take = newTake();
+        const qint64 held = QFileInfo(reserve()).size();
         disk.fill();
 
         // Somebody takes all that becomes free, before the sound does.
@@ -162,7 +157,7 @@ private Q_SLOTS:
             disk.fill();
         }
 
-        QVERIFY(held - QFileInfo(reserve).size() <= 10 * 64 * Kibibyte);
+        QVERIFY(held - QFileInfo(reserve()).size() <= 10 * 64 * Kibibyte);
         take->finish();
         QVERIFY(std::abs(DecodedAudio::read(name())->seconds() - take->secondsInFile()) < 0.05);
     }
@@ -170,20 +165,18 @@ private Q_SLOTS:
     void roomThatComesBackIsHeldForTheNextTime()
     {
         SmallDisk disk(m_folder->path(), 16 * Kibibyte);
-        const auto take = FragmentedFile::create(OutputFile::create(path()),
-                                                 AacEncoder::create(ManyBits)->codec());
-        const QString reserve = m_folder->filePath(u".take.reserve"_s);
-        const qint64 held = QFileInfo(reserve).size();
+        const auto take = newTake();
+        const qint64 held = QFileInfo(reserve()).size();
         disk.fill();
         addUntil(*take, 10);
-        QVERIFY(!disk.isMounted() || QFileInfo(reserve).size() < held);
+        QVERIFY(!disk.isMounted() || QFileInfo(reserve()).size() < held);
 
         disk.emptyAgain();
 
         const auto holdsAgain = [&] {
             addNext(*take);
             take->syncNowAndThen();
-            return QFileInfo(reserve).size() == held;
+            return QFileInfo(reserve()).size() == held;
         };
         QTRY_VERIFY_WITH_TIMEOUT(holdsAgain(), 20000);
         QVERIFY(!take->isDiskFailing());
@@ -192,8 +185,7 @@ private Q_SLOTS:
     void roomThatComesBackIsUsedBeforeTheEnd()
     {
         SmallDisk disk(m_folder->path(), 8 * Kibibyte);
-        const auto take = FragmentedFile::create(OutputFile::create(path()),
-                                                 AacEncoder::create(ManyBits)->codec());
+        const auto take = newTake();
         disk.fill();
         const double added = addUntilFull(*take);
 
@@ -211,6 +203,12 @@ private:
         m_next = 0;
     }
 
+    std::unique_ptr<FragmentedFile> newTake() const
+    {
+        return FragmentedFile::create(OutputFile::create(path()),
+                                      AacEncoder::create(ManyBits)->codec());
+    }
+    QString reserve() const { return m_folder->filePath(u".take.reserve"_s); }
     QString name() const { return m_folder->filePath(u"take.m4a"_s); }
     std::string path() const { return name().toStdString(); }
     QStringList filesBesides() const
