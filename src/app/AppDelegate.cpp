@@ -5,6 +5,7 @@
 #include "calendar/CKCalendarView.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/MediaLinksArrayController.h"
+#include "lectures/WindowWidths.h"
 #include "platform/Alerts.h"
 #include "platform/Dates.h"
 #include "platform/Texts.h"
@@ -113,7 +114,7 @@ void AppDelegate::awakeFromNib()
     setFullSizeContent(m_window);
     setLabels();
     m_preferences.setUp();
-    m_window.setFrameWidth(ListShownWidth, false);
+    m_window.setFrameWidth(lectures::ListShownWidth, false);
     showDateHeader(m_services.dates.now());
     m_calendarView.setDelegate(this);
 
@@ -188,7 +189,7 @@ void AppDelegate::calendarDidSelectDate(calendar::CKCalendarView *, const QDateT
     m_dateOfButtonClicked = date.isValid() ? date : m_services.dates.now();
     showDateHeader(m_dateOfButtonClicked);
     m_mediaLinksArrayController.prepareViewForDate(m_dateOfButtonClicked);
-    m_window.setFrameWidth(ListShownWidth, true);
+    m_window.setFrameWidth(lectures::ListShownWidth, true);
 }
 
 void AppDelegate::setRecordingStateForButton(bool recording)
@@ -217,7 +218,7 @@ void AppDelegate::setRecordingStateForButton(bool recording)
 
 bool AppDelegate::isTarveloViewShowing() const
 {
-    return m_window.frameWidth() == ListShownWidth;
+    return m_window.frameWidth() == lectures::ListShownWidth;
 }
 
 bool AppDelegate::isRecordingNow() const
@@ -242,7 +243,7 @@ store::Sqlite *AppDelegate::getTheDB()
 
 void AppDelegate::foldupList()
 {
-    m_window.setFrameWidth(FoldedWidth, true);
+    m_window.setFrameWidth(lectures::FoldedWidth, true);
 }
 
 void AppDelegate::delayFoldupList()

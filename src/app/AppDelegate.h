@@ -14,7 +14,6 @@
 #include "calendar/CalendarDelegate.h"
 #include "lectures/LectureApplication.h"
 #include "lectures/LectureRowHost.h"
-#include "lectures/WindowWidths.h"
 #include "platform/DelayedCall.h"
 #include "platform/DetachedCommand.h"
 #include "widgets/ImageButton.h"
@@ -88,10 +87,7 @@ class AppDelegate final : public QObject,
     Q_OBJECT
 
 public:
-    // In points. The list shown is also what counts as the lecture view showing.
-    static constexpr int ListShownWidth = lectures::ListShownWidth;
-    static constexpr int FoldedWidth = 452;
-    static constexpr int SlideBy = 400;
+    static constexpr int SlideBy = 400; // points
     static constexpr std::chrono::milliseconds FirstWindowDelay{400};
     static constexpr std::chrono::seconds FoldDelay{30};
     // The window shows its first list by then.

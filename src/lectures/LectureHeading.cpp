@@ -1,5 +1,6 @@
 #include "lectures/LectureHeading.h"
 
+#include "lectures/WindowWidths.h"
 #include "platform/Fonts.h"
 #include "platform/Texts.h"
 #include "widgets/Colours.h"
@@ -15,8 +16,6 @@ namespace tarvelo::lectures {
 namespace {
 
 constexpr int Indent = 16;
-// As much of the view as shows beside the list, and alone.
-constexpr int WidthInSight = 400;
 // As high as the titles of the other panes.
 constexpr int BandHeight = 50;
 constexpr double Size = 18;
@@ -63,7 +62,8 @@ private:
         setContentsMargins(0, 0, 0, std::max(0, view.y() + 1 - BandHeight));
         // Beside the list a line stands at the view's edge.
         const int line = view.x() > 0 ? 1 : 0;
-        setGeometry(view.x() + line, 0, std::min(view.width() - line, WidthInSight), view.y() + 1);
+        setGeometry(view.x() + line, 0, std::min(view.width() - line, SingleViewWidth),
+                    view.y() + 1);
         setVisible(!view.isHidden() && view.y() > 0);
     }
 };

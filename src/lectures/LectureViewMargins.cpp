@@ -1,5 +1,7 @@
 #include "lectures/LectureViewMargins.h"
 
+#include "lectures/WindowWidths.h"
+
 #include <QEvent>
 #include <QLayout>
 #include <QMargins>
@@ -11,9 +13,6 @@
 namespace tarvelo::lectures {
 
 namespace {
-
-// As much of the view as shows beside the list, and alone.
-constexpr int WidthInSight = 400;
 
 class Margins final : public QObject
 {
@@ -29,7 +28,7 @@ public:
     {
         auto *view = qobject_cast<QWidget *>(watched);
         if (view && event->type() == QEvent::Resize) {
-            const int outOfSight = std::max(0, view->width() - WidthInSight);
+            const int outOfSight = std::max(0, view->width() - SingleViewWidth);
             view->layout()->setContentsMargins(m_margins + QMargins(0, 0, outOfSight, 0));
         }
         return QObject::eventFilter(watched, event);

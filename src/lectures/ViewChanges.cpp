@@ -21,8 +21,7 @@ using platform::setFrame;
 
 namespace {
 
-constexpr int SingleViewWidth = 400;
-constexpr double LectureViewX = 833;
+constexpr double LectureViewX = ListShownWidth;
 constexpr double LectureViewY = -50;
 constexpr double CalendarX = -2;
 constexpr auto SideBySideDuration = 600ms;

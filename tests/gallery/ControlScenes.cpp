@@ -3,6 +3,7 @@
 #include "calendar/DateButton.h"
 #include "lectures/CustomTableCellView.h"
 #include "lectures/LectureTable.h"
+#include "lectures/WindowWidths.h"
 #include "store/LectureInfoItem.h"
 #include "support/LectureBuilder.h"
 #include "widgets/CustomButton.h"
@@ -89,7 +90,7 @@ void Controls::showDay(int day) const
 void Controls::manyLectures() const
 {
     m_program.controller.goToCalendarView(nullptr);
-    m_program.window().setFrameWidth(app::AppDelegate::ListShownWidth, false);
+    m_program.window().setFrameWidth(lectures::ListShownWidth, false);
     for (int at = 1; at <= 12; ++at)
         aLecture().named("Linear algebra").on("2024-03-06").insertInto(m_program.database);
     showDay(6);
@@ -120,7 +121,7 @@ void Controls::playing() const
     activate(m_program.window());
     m_program.windows.lectureViewOutlets().tSubjectName->setFocus(Qt::TabFocusReason);
     look(u"lecture-heading-keyboard"_s, m_program.window());
-    m_program.window().setFrameWidth(app::AppDelegate::ListShownWidth, false);
+    m_program.window().setFrameWidth(lectures::ListShownWidth, false);
 }
 
 // After lectures went at once, there is a copy of them.

@@ -3,6 +3,7 @@
 #include "gallery/ControlScenes.h"
 #include "lectures/CustomTableCellView.h"
 #include "lectures/LectureTable.h"
+#include "lectures/WindowWidths.h"
 #include "platform/Alerts.h"
 #include "platform/Texts.h"
 #include "store/LectureJournal.h"
@@ -117,9 +118,9 @@ void Tour::main()
     lookAtMain("main-empty-day");
     fill();
     lookAtMain("main-list");
-    m_program.window().setFrameWidth(app::AppDelegate::FoldedWidth, false);
+    m_program.window().setFrameWidth(lectures::FoldedWidth, false);
     lookAtMain("main-folded");
-    m_program.window().setFrameWidth(app::AppDelegate::ListShownWidth, false);
+    m_program.window().setFrameWidth(lectures::ListShownWidth, false);
     m_program.delegate.menus().action(app::Command::AllList)->trigger();
     lookAtMain("main-all-list");
     m_program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 5));
