@@ -73,7 +73,8 @@ void giveMargins(QLineEdit &field, QTextEdit &notes)
 void giveRoomToTitle(ImageButton &button)
 {
     const QSize title = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
-    button.setMinimumSize(button.minimumSize().expandedTo(title + QSize(28, 8)));
+    const QSize room(title.width() + 28, button.sizeHint().height());
+    button.setMinimumSize(button.minimumSize().expandedTo(room));
 }
 
 void limitSubject(QLineEdit &field)

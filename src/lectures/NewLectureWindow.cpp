@@ -2,6 +2,7 @@
 
 #include "lectures/Dressing.h"
 #include "platform/Images.h"
+#include "platform/Texts.h"
 #include "widgets/Colours.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LayerView.h"
@@ -13,6 +14,7 @@
 namespace tarvelo::lectures {
 
 using platform::imageNamed;
+using platform::text;
 using widgets::ImageButton;
 
 namespace {
@@ -60,6 +62,17 @@ void dressTexts(const Ui::NewLectureWindow &ui)
     ui.txtSubjectForNewNote->setFont(scaledFace(16));
 }
 
+// Both of its lines have their place whether they show or not: the buttons of a take must not move
+// from under the mouse that is about to press them.
+void keepRoomForWarnings(QLabel &warnings)
+{
+    warnings.setText(text("RECORDING_HARDLY_ANY_ROOM") + u'\n' + text("RECORDING_NOTHING_HEARD"));
+    warnings.setMinimumHeight(warnings.sizeHint().height());
+    warnings.clear();
+    keepRoom(warnings);
+    warnings.hide();
+}
+
 // As they stand before a take.
 void dressRecordingControls(const audio::RecordingOutlets &controls)
 {
@@ -94,8 +107,7 @@ NewLectureWindow buildNewLectureWindow()
     built.recording = recordingOutletsOf(built.window.get(), ui);
 
     dressTexts(ui);
-    keepRoom(*ui.lblRecordingWarning);
-    ui.lblRecordingWarning->hide();
+    keepRoomForWarnings(*ui.lblRecordingWarning);
     limitSubject(*ui.txtSubjectForNewNote);
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
     fill(*ui.recordingPanel, widgets::colours().panel);

@@ -4,6 +4,7 @@
 #include "support/TestCase.h"
 
 using namespace Qt::StringLiterals;
+using tarvelo::platform::text;
 using tarvelo::tests::LectureProgram;
 
 class NewLectureWindowTest final : public tarvelo::tests::TestCase
@@ -62,21 +63,7 @@ private Q_SLOTS:
 
     void aWarningMovesNothingInTheNewLectureWindow()
     {
-        m_program->start();
-        m_program->controller.onAddItem(nullptr);
-        const QWidget &window = *windows().recordingOutlets().newNoteWindow;
-        QVERIFY(QTest::qWaitForWindowExposed(&const_cast<QWidget &>(window)));
-        windows().recordingOutlets().btnStartRecord->click();
-        // Until the length of the take is there.
-        m_program->clock.advance(std::chrono::seconds(1));
-        const auto places = [&window] {
-            QCoreApplication::processEvents();
-            QMap<QString, QRect> now{{u"window"_s, window.rect()}};
-            for (const QWidget *view : window.findChildren<QWidget *>())
-                if (!view->objectName().isEmpty() && view->objectName() != u"announcement")
-                    now.insert(view->objectName(), view->geometry());
-            return now;
-        };
+        beginTake();
         const auto before = places();
         QVERIFY(windows().recordingOutlets().lblRecordingWarning->isHidden());
 
@@ -86,11 +73,45 @@ private Q_SLOTS:
         QCOMPARE(places(), before);
     }
 
+    void twoWarningsMoveNothingEither()
+    {
+        beginTake();
+        const auto before = places();
+        QLabel &warnings = *windows().recordingOutlets().lblRecordingWarning;
+
+        warnings.setText(text("RECORDING_LITTLE_ROOM").arg(29) + u'\n' +
+                         text("RECORDING_NOTHING_HEARD"));
+        warnings.show();
+
+        QCOMPARE(places(), before);
+    }
+
 private:
     void prepare() override { m_program = std::make_unique<LectureProgram>(); }
     void finish() override { m_program.reset(); }
 
     const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
+
+    void beginTake()
+    {
+        m_program->start();
+        m_program->controller.onAddItem(nullptr);
+        QVERIFY(QTest::qWaitForWindowExposed(windows().recordingOutlets().newNoteWindow));
+        windows().recordingOutlets().btnStartRecord->click();
+        // Until the length of the take is there.
+        m_program->clock.advance(std::chrono::seconds(1));
+    }
+
+    QMap<QString, QRect> places() const
+    {
+        QCoreApplication::processEvents();
+        const QWidget &window = *windows().recordingOutlets().newNoteWindow;
+        QMap<QString, QRect> now{{u"window"_s, window.rect()}};
+        for (const QWidget *view : window.findChildren<QWidget *>())
+            if (!view->objectName().isEmpty() && view->objectName() != u"announcement")
+                now.insert(view->objectName(), view->geometry());
+        return now;
+    }
 
     std::unique_ptr<LectureProgram> m_program;
 };
