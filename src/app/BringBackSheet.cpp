@@ -1,5 +1,6 @@
 #include "app/BringBackSheet.h"
 
+#include "app/Sheet.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
 #include "platform/Texts.h"
@@ -7,7 +8,6 @@
 #include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
 #include "widgets/Colours.h"
-#include "widgets/LightPalette.h"
 
 #include <QDialog>
 #include <QHBoxLayout>
@@ -32,15 +32,7 @@ using platform::text;
 
 constexpr int Width = 460;
 constexpr int ListHeight = 190;
-constexpr int GapBetweenButtons = 8;
 constexpr Qt::Alignment Numbers = Qt::AlignRight | Qt::AlignVCenter;
-
-QLabel *wrapped(const QString &words)
-{
-    auto *label = new QLabel(words);
-    label->setWordWrap(true);
-    return label;
-}
 
 // Room for every word in every column, in large letters too.
 int widthOf(const QTreeWidget &list)
@@ -59,8 +51,7 @@ BringBackSheet::BringBackSheet(store::LectureDatabase &database, const platform:
     : m_database(database)
     , m_dates(dates)
     , m_recordings(database, dates, std::move(recordings))
-    , m_sheet(new QDialog(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                           Qt::WindowCloseButtonHint))
+    , m_sheet(makeSheet(mainWindow))
 {
     build();
 }
@@ -74,34 +65,30 @@ void BringBackSheet::build()
 {
     m_sheet->setObjectName(QStringLiteral("bringBackSheet"));
     m_sheet->setWindowTitle(text("TITLE_BRING_LECTURES_BACK"));
-    // As white as the windows, whatever the desktop's theme.
-    widgets::setLightPalette(*m_sheet);
 
     m_list = new QTreeWidget;
     dressList();
-    m_damaged = wrapped({});
-    m_damaged->setObjectName(QStringLiteral("damaged"));
-    m_outcome = wrapped({});
-    m_outcome->setObjectName(QStringLiteral("outcome"));
+    auto *explained = makeWrappedLabel("explained");
+    explained->setText(text("BRING_BACK_EXPLAINED"));
+    m_damaged = makeWrappedLabel("damaged");
+    m_outcome = makeWrappedLabel("outcome");
     m_bringBack = new QPushButton(text("BUTTON_BRING_BACK"));
     m_bringBack->setObjectName(QStringLiteral("bringBack"));
     m_bringBack->setDefault(true);
     auto *close = new QPushButton(text("BUTTON_CLOSE"));
     close->setObjectName(QStringLiteral("closeBringBack"));
 
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(GapBetweenButtons);
+    auto *buttons = makeButtonRow();
     buttons->addStretch();
     buttons->addWidget(close);
     buttons->addWidget(m_bringBack);
     auto *column = new QVBoxLayout(m_sheet);
-    column->addWidget(wrapped(text("BRING_BACK_EXPLAINED")));
+    column->addWidget(explained);
     column->addWidget(m_list);
     column->addWidget(m_damaged);
     column->addWidget(m_outcome);
     column->addLayout(buttons);
-    m_sheet->setMinimumWidth(Width);
-    m_sheet->resize(Width, m_sheet->height());
+    setSheetWidth(*m_sheet, Width);
 
     connect(&m_recordings, &audio::UnlistedRecordings::searched, this,
             &BringBackSheet::listRecordings);
@@ -138,7 +125,7 @@ void BringBackSheet::show()
     list();
     sayWhatCame(m_copies.isEmpty() ? text("BRING_BACK_NO_COPIES") : QString());
     sayWhatWasDamaged();
-    fit();
+    fitToTexts(*m_sheet);
     // Otherwise the sheet would open on the button of the last time.
     if (m_list->isEnabled())
         m_list->setFocus();
@@ -170,24 +157,14 @@ void BringBackSheet::showListOrNone()
     if (m_list->isHidden() == !isThere)
         return;
     m_list->setVisible(isThere);
-    fit();
+    fitToTexts(*m_sheet);
 }
 
 void BringBackSheet::sayWhatCame(const QString &words)
 {
     m_outcome->setText(words);
     m_outcome->setHidden(words.isEmpty());
-    fit();
-}
-
-// Wrapped texts need a height that depends on the width, which windows do not ask for.
-void BringBackSheet::fit()
-{
-    QLayout &column = *m_sheet->layout();
-    column.activate();
-    const int width = std::max(m_sheet->width(), column.totalMinimumSize().width());
-    m_sheet->setMinimumHeight(column.totalHeightForWidth(width));
-    m_sheet->resize(width, m_sheet->minimumHeight());
+    fitToTexts(*m_sheet);
 }
 
 void BringBackSheet::addEntry(const QString &name, int lectures, int missing)

@@ -50,7 +50,6 @@ private:
     void list();
     void showListOrNone();
     void sayWhatCame(const QString &words);
-    void fit();
     void addEntry(const QString &name, int lectures, int missing);
     void listRecordings();
     void sayWhatWasDamaged();

@@ -1,5 +1,6 @@
 #include "app/LeftLectureSheet.h"
 
+#include "app/Sheet.h"
 #include "audio/DurationText.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
@@ -8,7 +9,6 @@
 #include "platform/Texts.h"
 #include "store/LectureJournal.h"
 #include "widgets/Colours.h"
-#include "widgets/LightPalette.h"
 
 #include <QDateTime>
 #include <QDialog>
@@ -16,13 +16,11 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLayout>
 #include <QMetaObject>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include <algorithm>
 #include <utility>
 
 namespace tarvelo::app {
@@ -34,17 +32,6 @@ using platform::text;
 
 constexpr int Width = 420;
 constexpr int GapBetweenRows = 4;
-constexpr int GapBetweenButtons = 8;
-
-QLabel *wrapped(const char *name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(QLatin1StringView(name));
-    label->setWordWrap(true);
-    // What a student typed is shown as it is.
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
 
 // What a value is of is said quietly beside it.
 void addRow(QFormLayout &form, const char *key, QLabel &value)
@@ -84,8 +71,7 @@ LeftLectureSheet::LeftLectureSheet(audio::LeftLectures &left, const platform::Da
     , m_dates(dates)
     , m_engine(engine)
     , m_mainWindow(mainWindow)
-    , m_sheet(new QDialog(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                           Qt::WindowCloseButtonHint))
+    , m_sheet(makeSheet(mainWindow))
 {
     build();
 }
@@ -99,23 +85,20 @@ void LeftLectureSheet::build()
 {
     m_sheet->setObjectName(QStringLiteral("leftLectureSheet"));
     m_sheet->setWindowTitle(text("TITLE_LEFT_LECTURE"));
-    // As white as the windows, whatever the desktop's theme.
-    widgets::setLightPalette(*m_sheet);
 
-    auto *explained = wrapped("explained");
+    auto *explained = makeWrappedLabel("explained");
     explained->setText(text("LEFT_LECTURE_EXPLAINED"));
-    m_subject = wrapped("leftSubject");
-    m_day = wrapped("leftDay");
-    m_length = wrapped("leftLength");
-    m_outcome = wrapped("outcome");
+    m_subject = makeWrappedLabel("leftSubject");
+    m_day = makeWrappedLabel("leftDay");
+    m_length = makeWrappedLabel("leftLength");
+    m_outcome = makeWrappedLabel("outcome");
     m_outcome->hide();
 
     m_listen = button("listen", "BUTTON_LISTEN");
     auto *discarding = button("discard", "BUTTON_DISCARD_LECTURE");
     m_keep = button("keep", "BUTTON_KEEP_LECTURE");
     m_keep->setDefault(true);
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(GapBetweenButtons);
+    auto *buttons = makeButtonRow();
     buttons->addWidget(m_listen);
     buttons->addStretch();
     buttons->addWidget(discarding);
@@ -125,8 +108,7 @@ void LeftLectureSheet::build()
     column->addLayout(formOf(*m_subject, *m_day, *m_length));
     column->addWidget(m_outcome);
     column->addLayout(buttons);
-    m_sheet->setMinimumWidth(Width);
-    m_sheet->resize(Width, m_sheet->height());
+    setSheetWidth(*m_sheet, Width);
 
     connect(m_listen, &QPushButton::clicked, this, &LeftLectureSheet::listenOrPause);
     connect(discarding, &QPushButton::clicked, this, &LeftLectureSheet::discard);
@@ -173,17 +155,7 @@ void LeftLectureSheet::showFirst()
     m_sheet->setAccessibleDescription(text("LEFT_LECTURE_EXPLAINED") + u' ' + m_subject->text() +
                                       QStringLiteral(", ") + m_day->text() + QStringLiteral(", ") +
                                       m_length->text());
-    fit();
-}
-
-// Wrapped texts need a height that depends on the width, which windows do not ask for.
-void LeftLectureSheet::fit()
-{
-    QLayout &column = *m_sheet->layout();
-    column.activate();
-    const int width = std::max(m_sheet->width(), column.totalMinimumSize().width());
-    m_sheet->setMinimumHeight(column.totalHeightForWidth(width));
-    m_sheet->resize(width, m_sheet->minimumHeight());
+    fitToTexts(*m_sheet);
 }
 
 void LeftLectureSheet::goOn()
@@ -205,7 +177,7 @@ void LeftLectureSheet::keep()
     if (m_left.keep(m_waiting.first()) == audio::LeftLectures::Kept::Undecided) {
         m_outcome->setText(text("LEFT_LECTURE_NOT_NOW"));
         m_outcome->show();
-        fit();
+        fitToTexts(*m_sheet);
         platform::announce(*m_sheet, m_outcome->text());
         return;
     }

@@ -49,7 +49,6 @@ Q_SIGNALS:
 private:
     void build();
     void showFirst();
-    void fit();
     void goOn();
     void keep();
     void discard();

@@ -1,11 +1,11 @@
 #include "app/Preferences.h"
 
+#include "app/Sheet.h"
 #include "app/WindowHints.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/WindowLevel.h"
 #include "ui_Preferences.h"
-#include "widgets/LightPalette.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -40,11 +40,8 @@ Preferences::Preferences(platform::UserDefaults &defaults, QWidget &mainWindow, 
     , m_mainWindow(mainWindow)
     , m_loginItem(std::move(loginItem))
     , m_ui(std::make_unique<Ui::Preferences>())
-    , m_sheet(new QDialog(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                           Qt::WindowCloseButtonHint))
+    , m_sheet(makeSheet(mainWindow))
 {
-    // As white as the windows, whatever the desktop's theme.
-    widgets::setLightPalette(*m_sheet);
     m_ui->setupUi(m_sheet);
     const auto formats = formatButtons(*m_ui);
     for (std::size_t number = 0; number < formats.size(); ++number)
