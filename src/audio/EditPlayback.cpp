@@ -3,7 +3,6 @@
 #include "audio/PlayerDisplay.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
-#include "widgets/ImageButton.h"
 
 #include <QLabel>
 #include <QSlider>
@@ -42,36 +41,24 @@ void EditPlayback::discard()
 
 void EditPlayback::onPlayPauseLectureEdit(int tag)
 {
-    if (!m_editPlayer)
-        return;
-    const bool isPause = tag == EditPlayerOutlets::TagPause;
-    if (isPause)
-        m_editPlayer->pause();
-    else if (tag == EditPlayerOutlets::TagPlay)
-        m_editPlayer->play();
-    m_outlets.bPause->setEnabled(!isPause);
-    m_outlets.bPlay->setEnabled(isPause);
+    if (m_editPlayer)
+        m_outlets.buttons().pressed(tag, *m_editPlayer);
 }
 
 void EditPlayback::ended()
 {
-    m_outlets.bPlay->setEnabled(true);
-    m_outlets.bPause->setEnabled(false);
+    m_outlets.buttons().offerPlay();
 }
 
 void EditPlayback::updateTimeDisplay()
 {
-    if (m_isEditPlayerPlaying) {
-        m_outlets.tElapsedTime->setText(elapsedText(m_editPlayer.get()));
-        m_outlets.tRemainingTime->setText(remainingText(m_editPlayer.get()));
-        setSeconds(*m_outlets.sliderEditProgress, m_editPlayer->currentTime());
+    if (!m_isEditPlayerPlaying) {
+        showNothingToPlay(m_outlets);
         return;
     }
-    m_outlets.tElapsedTime->setText(QStringLiteral("0:00:00"));
-    m_outlets.tRemainingTime->setText(QStringLiteral("0:00:00"));
-    m_outlets.bPlay->setEnabled(false);
-    m_outlets.bPause->setEnabled(false);
-    m_outlets.sliderEditProgress->setEnabled(false);
+    m_outlets.tElapsedTime->setText(elapsedText(m_editPlayer.get()));
+    m_outlets.tRemainingTime->setText(remainingText(m_editPlayer.get()));
+    setSeconds(*m_outlets.sliderEditProgress, m_editPlayer->currentTime());
 }
 
 } // namespace tarvelo::audio

@@ -78,8 +78,7 @@ void Playback::playLecture(const QString &path, const QString &subject)
     }
     if (m_player)
         m_player->play();
-    m_lecture.btnPlayLecture->setEnabled(false);
-    m_lecture.btnPauseLecture->setEnabled(true);
+    m_lecture.buttons().offerPause();
     m_lecture.btnPauseLecture->setFocus(Qt::NoFocusReason);
 
     m_lecture.txtSubjectName->setText(subject);
@@ -91,16 +90,8 @@ void Playback::playLecture(const QString &path, const QString &subject)
 
 void Playback::onPlayPauseLecture(QWidget *sender)
 {
-    if (!m_player)
-        return;
-    const int tag = tagOf(sender);
-    const bool isPause = tag == LecturePlayerOutlets::TagPause;
-    if (isPause)
-        m_player->pause();
-    else if (tag == LecturePlayerOutlets::TagPlay)
-        m_player->play();
-    m_lecture.btnPauseLecture->setEnabled(!isPause);
-    m_lecture.btnPlayLecture->setEnabled(isPause);
+    if (m_player)
+        m_lecture.buttons().pressed(tagOf(sender), *m_player);
 }
 
 void Playback::onPlaySpeedChanged(QWidget *)
@@ -222,10 +213,9 @@ void Playback::lectureEnded(engine::AudioPlayer &player)
     m_lecture.txtRemainingTime->setText(QStringLiteral("0:00:00"));
     setSeconds(*m_lecture.sliderPlayProgress, 0);
     player.stop();
-    m_lecture.btnPlayLecture->setEnabled(true);
+    m_lecture.buttons().offerPlay();
     m_lecture.btnPlayLecture->setTag(LecturePlayerOutlets::TagPlay);
     showPlay(*m_lecture.btnPlayLecture);
-    m_lecture.btnPauseLecture->setEnabled(false);
     if (!m_recording.lblElapsedTimeTemp->isVisible())
         return;
     m_recording.btnStopRecord->setLook(QStringLiteral("play"), QStringLiteral("playH"),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/PlayPauseButtons.h"
+
 class QLabel;
 class QLineEdit;
 class QSlider;
@@ -27,6 +29,11 @@ struct LecturePlayerOutlets
     QLabel *txtElapsedTime = nullptr;
     QLabel *txtRemainingTime = nullptr;
     widgets::SegmentedControl *segPlaySpeed = nullptr;
+
+    PlayPauseButtons buttons() const
+    {
+        return {btnPlayLecture, btnPauseLecture, TagPlay, TagPause};
+    }
 };
 
 // The controls of the player in the lecture view. All of them exist.
@@ -41,6 +48,8 @@ struct EditPlayerOutlets
     QSlider *sliderEditProgress = nullptr;
     QLabel *tElapsedTime = nullptr;
     QLabel *tRemainingTime = nullptr;
+
+    PlayPauseButtons buttons() const { return {bPlay, bPause, TagPlay, TagPause}; }
 };
 
 } // namespace tarvelo::audio

@@ -1,8 +1,10 @@
 #include "audio/PlayerDisplay.h"
 
 #include "audio/DurationText.h"
+#include "audio/PlaybackOutlets.h"
 #include "audio/engine/AudioPlayer.h"
 
+#include <QLabel>
 #include <QSlider>
 
 #include <algorithm>
@@ -40,6 +42,14 @@ void setRange(QSlider &slider, const engine::AudioPlayer &player)
 void setSeconds(QSlider &slider, double seconds)
 {
     slider.setValue(milliseconds(seconds));
+}
+
+void showNothingToPlay(const EditPlayerOutlets &outlets)
+{
+    for (QLabel *time : {outlets.tElapsedTime, outlets.tRemainingTime})
+        time->setText(QStringLiteral("0:00:00"));
+    outlets.buttons().offerNothing();
+    outlets.sliderEditProgress->setEnabled(false);
 }
 
 } // namespace tarvelo::audio

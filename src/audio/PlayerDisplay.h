@@ -10,6 +10,8 @@ class AudioPlayer;
 
 namespace tarvelo::audio {
 
+struct EditPlayerOutlets;
+
 // What the controls of every player show: texts of whole seconds, cut and not rounded, and a slider
 // that counts milliseconds, so that it also moves through a short take.
 
@@ -21,5 +23,9 @@ QString remainingText(const engine::AudioPlayer *player);
 // From the beginning to the end of the sound.
 void setRange(QSlider &slider, const engine::AudioPlayer &player);
 void setSeconds(QSlider &slider, double seconds);
+
+// The lecture view without a player. Its times read "0:00:00" then, unlike those of the play
+// window, which read "00:00:00": wanted so.
+void showNothingToPlay(const EditPlayerOutlets &outlets);
 
 } // namespace tarvelo::audio

@@ -1,6 +1,7 @@
 #include "lectures/LectureEditing.h"
 
 #include "audio/Playback.h"
+#include "audio/PlayerDisplay.h"
 #include "lectures/DayList.h"
 #include "lectures/LectureTable.h"
 #include "lectures/RowLookup.h"
@@ -9,7 +10,6 @@
 #include "platform/Alerts.h"
 #include "platform/WindowLevel.h"
 #include "store/GoneLectures.h"
-#include "widgets/ImageButton.h"
 #include "widgets/MouseDownTextField.h"
 #include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
@@ -26,9 +26,6 @@ namespace tarvelo::lectures {
 namespace {
 
 constexpr auto StopAfterDone = 200ms;
-
-// Unlike the other player's, which says "00:00:00" when it is idle: wanted so.
-const QString NoTime = QStringLiteral("0:00:00");
 
 const platform::Alert BlankSubject{QStringLiteral("Subject name is blank"), QStringLiteral("Close"),
                                    QStringLiteral("Please provide subject name.")};
@@ -111,8 +108,7 @@ void LectureEditing::openWithAudio(const QString &path)
 {
     m_with.playback.openEditPlayer(path);
     //  A file that cannot be read leaves nothing to play, and the button as it is: wanted so.
-    m_outlets.player.bPlay->setEnabled(true);
-    m_outlets.player.bPause->setEnabled(false);
+    m_outlets.player.buttons().offerPlay();
     m_outlets.player.sliderEditProgress->setEnabled(true);
     m_outlets.main.mainWindow->setFrameWidth(ExpandedWidth, true);
     m_outlets.view.tSubjectName->setFocus(Qt::NoFocusReason);
@@ -125,11 +121,7 @@ void LectureEditing::showThatThereIsNoAudio(const QWidget &sender)
 {
     m_outlets.popovers.popoverAudioConfirmClose->showRelativeTo(
         sender.geometry(), *sender.parentWidget(), Qt::BottomEdge);
-    m_outlets.player.tElapsedTime->setText(NoTime);
-    m_outlets.player.tRemainingTime->setText(NoTime);
-    m_outlets.player.bPlay->setEnabled(false);
-    m_outlets.player.bPause->setEnabled(false);
-    m_outlets.player.sliderEditProgress->setEnabled(false);
+    audio::showNothingToPlay(m_outlets.player);
     m_outlets.main.mainWindow->setFrameWidth(ListShownWidth, true);
 }
 
