@@ -30,6 +30,13 @@ DayList::DayList(const Dates &dates, store::LectureDatabase &database,
 {
 }
 
+Lecture DayList::lectureAt(int row) const
+{
+    return row >= 0 && row < static_cast<int>(m_arrangedObjects.size())
+               ? m_arrangedObjects[static_cast<std::size_t>(row)]
+               : nullptr;
+}
+
 QWidget &DayList::emptyDayPanel() const
 {
     return *m_outlets.btnAddNewLecture2->parentWidget()->parentWidget();
@@ -128,7 +135,7 @@ void DayList::append(const Lecture &lecture)
 
 void DayList::removeObject(int row)
 {
-    if (row >= 0 && row < static_cast<int>(m_arrangedObjects.size()))
+    if (lectureAt(row))
         m_arrangedObjects.erase(m_arrangedObjects.begin() + row);
 }
 

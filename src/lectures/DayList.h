@@ -32,6 +32,8 @@ public:
     DayList &operator=(const DayList &) = delete;
 
     const LectureList &arrangedObjects() const { return m_arrangedObjects; }
+    // Rows count from 0; none for a row that is not there.
+    Lecture lectureAt(int row) const;
     // The day that the list was last shown for, under which new lectures are stored; invalid before
     // the first.
     const QDateTime &dateOfButtonClicked() const { return m_dateOfButtonClicked; }

@@ -14,7 +14,6 @@
 #include <QWidget>
 
 #include <chrono>
-#include <cstddef>
 
 using namespace std::chrono_literals;
 
@@ -42,14 +41,6 @@ bool LectureDeletion::isConfirmDeleteShowing() const
     return m_popovers.popoverConfirmRecordDelete->content().window()->isVisible();
 }
 
-Lecture LectureDeletion::lectureAt(int row) const
-{
-    const LectureList &lectures = m_with.dayList.arrangedObjects();
-    return row >= 0 && row < static_cast<int>(lectures.size())
-               ? lectures[static_cast<std::size_t>(row)]
-               : nullptr;
-}
-
 bool LectureDeletion::deleteLecture(const Lecture &lecture, int row)
 {
     if (!m_with.database.deleteVoiceData(*lecture))
@@ -64,7 +55,7 @@ bool LectureDeletion::deleteLecture(const Lecture &lecture, int row)
 
 void LectureDeletion::onDelete(int row)
 {
-    const Lecture lecture = lectureAt(row);
+    const Lecture lecture = m_with.dayList.lectureAt(row);
     if (!lecture || !deleteLecture(lecture, row))
         return;
     const QPointer<LectureDeletion> self(this);
@@ -77,7 +68,7 @@ void LectureDeletion::onDelete(int row)
 void LectureDeletion::onDeleteItem(QWidget *sender)
 {
     const int row = rowOfSender(*m_main.tblRecordSubjectList, sender);
-    const Lecture lecture = lectureAt(row);
+    const Lecture lecture = m_with.dayList.lectureAt(row);
     if (!lecture || !deleteLecture(lecture, row))
         return;
     m_with.reload();

@@ -63,7 +63,6 @@ public:
                                                    RowActionEdge edge);
 
 private:
-    Lecture lectureAt(int row) const;
     // False when its row stays, and then all of it does.
     bool deleteLecture(const Lecture &lecture, int row);
     void chooseRowAction(LectureTable &table, int row);

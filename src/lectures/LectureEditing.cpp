@@ -61,11 +61,10 @@ Lecture LectureEditing::selectedLectureOfSender(const QWidget *sender)
 {
     LectureTable &table = *m_outlets.main.tblRecordSubjectList;
     const int row = rowOfSender(table, sender);
-    const LectureList &lectures = m_with.dayList.arrangedObjects();
-    if (row < 0 || row >= static_cast<int>(lectures.size()))
+    const Lecture lecture = m_with.dayList.lectureAt(row);
+    if (!lecture)
         return nullptr;
     table.selectRow(row);
-    const Lecture &lecture = lectures[static_cast<std::size_t>(row)];
     m_saving.putUnsavedInto(*lecture);
     return lecture;
 }

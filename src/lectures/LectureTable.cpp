@@ -52,7 +52,7 @@ int LectureTable::rowCount() const
 CustomTableCellView *LectureTable::viewAtColumnRowMakeIfNecessary(int column, int row,
                                                                   bool makeIfNecessary)
 {
-    if (column != 0 || row < 0 || row >= rowCount())
+    if (column != 0 || !hasRow(row))
         return nullptr;
     if (makeIfNecessary && !m_rows.at(row))
         scrollRowToVisible(row);
@@ -93,7 +93,7 @@ void LectureTable::reloadData()
 
 void LectureTable::scrollRowToVisible(int row)
 {
-    if (row < 0 || row >= rowCount())
+    if (!hasRow(row))
         return;
     const int top = row * CustomTableCellView::RowHeight;
     const int bottom = top + CustomTableCellView::RowHeight;

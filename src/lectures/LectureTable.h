@@ -38,6 +38,7 @@ public:
     ~LectureTable() override;
 
     int rowCount() const;
+    bool hasRow(int row) const { return row >= 0 && row < rowCount(); }
     // The row's view when it shows, else null; `makeIfNecessary` scrolls the row into view first.
     CustomTableCellView *viewAtColumnRowMakeIfNecessary(int column, int row, bool makeIfNecessary);
     // The row that `view` is, or lies in; -1 when it is none.

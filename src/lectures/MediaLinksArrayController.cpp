@@ -22,7 +22,6 @@
 #include <QWidget>
 
 #include <chrono>
-#include <cstddef>
 
 using namespace std::chrono_literals;
 
@@ -129,12 +128,6 @@ void MediaLinksArrayController::updateToDoDatawithSqlStatementWithArguments(
 void MediaLinksArrayController::deleteVoiceData(const store::LectureInfoItem &lecture)
 {
     m_services.database.deleteVoiceData(lecture);
-}
-
-Lecture MediaLinksArrayController::tableViewObjectValueForTableColumnRow(int, int row) const
-{
-    const LectureList &lectures = arrangedObjects();
-    return row >= 0 && row < rowCount() ? lectures[static_cast<std::size_t>(row)] : nullptr;
 }
 
 int MediaLinksArrayController::rowCount(const QModelIndex &parent) const

@@ -129,7 +129,10 @@ public:
     const LectureList &selectedDownloads() const { return m_selectedDownloads; }
     int numberOfRowsInTableView() const { return rowCount(); }
     // None for a row that is not there.
-    Lecture tableViewObjectValueForTableColumnRow(int column, int row) const;
+    Lecture tableViewObjectValueForTableColumnRow(int, int row) const
+    {
+        return m_dayList.lectureAt(row);
+    }
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;

@@ -296,6 +296,20 @@ private Q_SLOTS:
         QCOMPARE(m_reloads, 2);
     }
 
+    void everyRowHasItsLectureAndNoOtherHasOne()
+    {
+        aLecture().named("first").insertInto(m_program->database);
+        aLecture().named("second").insertInto(m_program->database);
+        QVERIFY(!m_list->lectureAt(0));
+
+        m_list->prepareViewForDate(m_program->today());
+
+        QCOMPARE(m_list->lectureAt(0)->strSubject(), u"Second"_s);
+        QCOMPARE(m_list->lectureAt(1)->strSubject(), u"First"_s);
+        QVERIFY(!m_list->lectureAt(2));
+        QVERIFY(!m_list->lectureAt(-1));
+    }
+
     void aLectureThatIsRemovedIsTakenOutWithoutReloading()
     {
         aLecture().named("first").insertInto(m_program->database);
