@@ -37,9 +37,7 @@ constexpr int GapBetweenRows = 4;
 void addRow(QFormLayout &form, const char *key, QLabel &value)
 {
     auto *name = new QLabel(text(key));
-    QPalette quiet = name->palette();
-    quiet.setColor(QPalette::WindowText, widgets::colours().faint);
-    name->setPalette(quiet);
+    widgets::setColour(*name, QPalette::WindowText, widgets::colours().faint);
     name->setBuddy(&value);
     form.addRow(name, &value);
 }

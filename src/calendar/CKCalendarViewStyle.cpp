@@ -3,6 +3,7 @@
 #include "calendar/DateButton.h"
 #include "platform/Fonts.h"
 #include "platform/Images.h"
+#include "widgets/Colours.h"
 #include "widgets/CustomButton.h"
 #include "widgets/GradientView.h"
 
@@ -23,13 +24,6 @@ constexpr QColor Brown(153, 102, 51);
 QFont face(double size)
 {
     return platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), size);
-}
-
-void setTextColor(QLabel &label, const QColor &color)
-{
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, color);
-    label.setPalette(palette);
 }
 
 // Following the desktop's palette, not fixed to what it is now.
@@ -72,7 +66,7 @@ QColor CKCalendarView::titleColor() const
 
 void CKCalendarView::setTitleColor(const QColor &color)
 {
-    setTextColor(*m_titleLabel, color);
+    widgets::setColour(*m_titleLabel, QPalette::WindowText, color);
 }
 
 void CKCalendarView::setButtonColor(const QColor &color)
@@ -116,7 +110,7 @@ QColor CKCalendarView::dayOfWeekTextColor() const
 void CKCalendarView::setDayOfWeekTextColor(const QColor &color)
 {
     for (QLabel *letter : m_dayOfWeekLabels)
-        setTextColor(*letter, color);
+        widgets::setColour(*letter, QPalette::WindowText, color);
 }
 
 void CKCalendarView::setDayOfWeekBottomColorTopColor(const QColor &bottomColor,

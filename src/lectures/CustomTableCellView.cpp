@@ -1,7 +1,7 @@
 #include "lectures/CustomTableCellView.h"
 
+#include "lectures/Dressing.h"
 #include "lectures/LectureRowHost.h"
-#include "platform/Fonts.h"
 #include "platform/Images.h"
 #include "platform/Texts.h"
 #include "store/LectureInfoItem.h"
@@ -92,12 +92,9 @@ QLabel *CustomTableCellView::makeLabel(const char *name, double size, const QCol
     label->setObjectName(QString::fromLatin1(name));
     // Notes are the student's own words, never markup.
     label->setTextFormat(Qt::PlainText);
-    label->setFont(platform::scaledFontNamed(QStringLiteral("Helvetica Neue Medium"), size));
     // The table's rows lie on its base colour and would take the colour of its text.
     label->setForegroundRole(QPalette::WindowText);
-    QPalette colours = label->palette();
-    colours.setColor(QPalette::WindowText, colour);
-    label->setPalette(colours);
+    lectures::style(*label, size, colour);
     return label;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Fonts.h"
 #include "platform/Images.h"
+#include "widgets/Colours.h"
 #include "widgets/CustomTextFieldFormatter.h"
 #include "widgets/FieldFormatter.h"
 #include "widgets/ImageButton.h"
@@ -44,16 +45,12 @@ QFont fixedFace(double size)
 void style(QLabel &label, double size, const QColor &colour)
 {
     label.setFont(scaledFace(size));
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, colour);
-    label.setPalette(palette);
+    widgets::setColour(label, QPalette::WindowText, colour);
 }
 
 void fill(QWidget &view, const QColor &colour)
 {
-    QPalette palette = view.palette();
-    palette.setColor(QPalette::Window, colour);
-    view.setPalette(palette);
+    widgets::setColour(view, QPalette::Window, colour);
     view.setAutoFillBackground(true);
 }
 

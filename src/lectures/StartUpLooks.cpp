@@ -1,10 +1,12 @@
 #include "lectures/StartUpLooks.h"
 
+#include "lectures/Dressing.h"
 #include "lectures/LectureOutlets.h"
 #include "lectures/LectureWindows.h"
 #include "platform/Fonts.h"
 #include "platform/Texts.h"
 #include "platform/WindowLevel.h"
+#include "widgets/Colours.h"
 #include "widgets/ImageButton.h"
 #include "widgets/InsertionPoint.h"
 #include "widgets/MouseDownTextField.h"
@@ -38,13 +40,6 @@ QColor disabledControlTextColor(const QWidget &view)
     return view.palette().color(QPalette::Disabled, QPalette::Text);
 }
 
-void recolourTitle(ImageButton &button)
-{
-    QPalette palette = button.palette();
-    palette.setColor(QPalette::ButtonText, Accent);
-    button.setPalette(palette);
-}
-
 } // namespace
 
 std::array<QWidget *, 3> secondaryWindows(const LectureWindows &windows)
@@ -56,12 +51,8 @@ std::array<QWidget *, 3> secondaryWindows(const LectureWindows &windows)
 
 void setBackgroundColors(const LectureWindows &windows)
 {
-    for (QWidget *window : secondaryWindows(windows)) {
-        QPalette palette = window->palette();
-        palette.setColor(QPalette::Window, Qt::white);
-        window->setPalette(palette);
-        window->setAutoFillBackground(true);
-    }
+    for (QWidget *window : secondaryWindows(windows))
+        fill(*window, Qt::white);
 }
 
 void dressPlayAudioWindow(const LectureWindows &windows)
@@ -120,7 +111,7 @@ void setButtonTitleColor(const LectureWindows &windows)
          {windows.newLectureOutlets().BtnDoneOrClose, windows.editLectureOutlets().btnDoneEdit,
           lectureView.btnDoneEditLecture, lectureView.btnSlidetoView,
           lectureView.btnSlideToListView, windows.newLectureOutlets().BtnCancelAddNewLecture})
-        recolourTitle(*button);
+        widgets::setColour(*button, QPalette::ButtonText, Accent);
 }
 
 } // namespace tarvelo::lectures

@@ -2,6 +2,8 @@
 
 #include "platform/HighContrast.h"
 
+#include <QWidget>
+
 namespace tarvelo::widgets {
 
 namespace {
@@ -35,6 +37,13 @@ constexpr Colours Strong{.ink = {0, 0, 0},
 Colours colours()
 {
     return platform::isContrastHigh() ? Strong : Ordinary;
+}
+
+void setColour(QWidget &view, QPalette::ColorRole role, const QColor &colour)
+{
+    QPalette palette = view.palette();
+    palette.setColor(role, colour);
+    view.setPalette(palette);
 }
 
 } // namespace tarvelo::widgets

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
+
+class QWidget;
 
 namespace tarvelo::widgets {
 
@@ -23,5 +26,8 @@ struct Colours
 
 // As the desktop's palette wanted them when the windows were built.
 Colours colours();
+
+// Of that role alone; the others follow the window as before.
+void setColour(QWidget &view, QPalette::ColorRole role, const QColor &colour);
 
 } // namespace tarvelo::widgets

@@ -5,11 +5,13 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QWidget>
 
 using tarvelo::platform::contrastOf;
 using tarvelo::platform::readContrast;
 using tarvelo::widgets::Colours;
 using tarvelo::widgets::colours;
+using tarvelo::widgets::setColour;
 
 class ColoursTest final : public tarvelo::tests::TestCase
 {
@@ -42,6 +44,21 @@ private Q_SLOTS:
             QCOMPARE(colour, QColor(Qt::black));
         QVERIFY(contrastOf(strong.disabled, Qt::white) >= 7);
         QVERIFY(contrastOf(strong.accent, Qt::white) >= 7);
+    }
+
+    void aColourIsSetForItsRoleAlone()
+    {
+        QWidget window;
+        QWidget view(&window);
+
+        setColour(view, QPalette::WindowText, Qt::blue);
+        QPalette ofTheWindow = window.palette();
+        ofTheWindow.setColor(QPalette::Window, Qt::green);
+        ofTheWindow.setColor(QPalette::WindowText, Qt::black);
+        window.setPalette(ofTheWindow);
+
+        QCOMPARE(view.palette().color(QPalette::WindowText), QColor(Qt::blue));
+        QCOMPARE(view.palette().color(QPalette::Window), QColor(Qt::green));
     }
 
 private:
