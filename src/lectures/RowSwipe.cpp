@@ -1,6 +1,7 @@
 #include "lectures/RowSwipe.h"
 
 #include "platform/Fonts.h"
+#include "widgets/Colours.h"
 
 #include <QAbstractAnimation>
 #include <QApplication>
@@ -23,7 +24,6 @@ namespace tarvelo::lectures {
 
 namespace {
 
-const QColor Destructive(252, 39, 52);
 const QColor Regular(120, 116, 128);
 
 constexpr int TitleMargin = 22;
@@ -74,7 +74,7 @@ QSize RowActionButton::sizeHint() const
 void RowActionButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QColor ground = m_action.style == RowAction::Style::Destructive ? Destructive : Regular;
+    const QColor ground = m_action.style == RowAction::Style::Destructive ? widgets::Red : Regular;
     painter.fillRect(rect(), isDown() ? ground.darker(115) : ground);
     painter.setPen(Qt::white);
     QRect title(0, 0, sizeHint().width(), height());

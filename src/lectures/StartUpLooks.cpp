@@ -28,8 +28,6 @@ using widgets::ImageButton;
 
 namespace {
 
-const QColor Accent(252, 39, 52);
-
 QColor labelColor(const QWidget &view)
 {
     return view.palette().color(QPalette::WindowText);
@@ -111,7 +109,7 @@ void setButtonTitleColor(const LectureWindows &windows)
          {windows.newLectureOutlets().BtnDoneOrClose, windows.editLectureOutlets().btnDoneEdit,
           lectureView.btnDoneEditLecture, lectureView.btnSlidetoView,
           lectureView.btnSlideToListView, windows.newLectureOutlets().BtnCancelAddNewLecture})
-        widgets::setColour(*button, QPalette::ButtonText, Accent);
+        widgets::setColour(*button, QPalette::ButtonText, widgets::Red);
 }
 
 } // namespace tarvelo::lectures

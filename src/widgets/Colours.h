@@ -27,6 +27,9 @@ struct Colours
 // As the desktop's palette wanted them when the windows were built.
 Colours colours();
 
+// That of the drawings, in high contrast too.
+inline constexpr QColor Red(252, 39, 52);
+
 // Of that role alone; the others follow the window as before.
 void setColour(QWidget &view, QPalette::ColorRole role, const QColor &colour);
 
