@@ -13,10 +13,10 @@
 #include "support/FakeMailComposer.h"
 #include "support/FakeSleepInhibitor.h"
 #include "support/FakeWorkspace.h"
+#include "support/FileContent.h"
 #include "support/TemporaryPlaces.h"
 #include "widgets/SlidingWindow.h"
 
-#include <QFile>
 #include <QLabel>
 
 namespace tarvelo::tests {
@@ -60,11 +60,7 @@ struct Application
         defaults.setValue(QLatin1String(key), value);
         defaults.synchronize();
     }
-    QByteArray settings() const
-    {
-        QFile file(settingsFile);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray settings() const { return contentOf(settingsFile); }
 
     TemporaryPlaces home;
     FakeClock clock;

@@ -1,5 +1,6 @@
 #include "app/LoginItem.h"
 
+#include "support/FileContent.h"
 #include "support/Modes.h"
 #include "support/TestCase.h"
 
@@ -111,8 +112,7 @@ private Q_SLOTS:
 private:
     static QByteArray contentOf(const LoginItem &item)
     {
-        QFile entry(item.file());
-        return entry.open(QIODevice::ReadOnly) ? entry.readAll() : QByteArray();
+        return tarvelo::tests::contentOf(item.file());
     }
 };
 

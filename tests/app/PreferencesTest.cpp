@@ -4,6 +4,7 @@
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/WindowLevel.h"
+#include "support/FileContent.h"
 #include "support/TestCase.h"
 
 #include <QButtonGroup>
@@ -48,8 +49,7 @@ struct Run
     // file itself tells.
     QByteArray file() const
     {
-        QFile settings(folder + QStringLiteral("/Tarvelo.conf"));
-        return settings.open(QIODevice::ReadOnly) ? settings.readAll() : QByteArray();
+        return tarvelo::tests::contentOf(folder + QStringLiteral("/Tarvelo.conf"));
     }
 
     QString folder;

@@ -1,22 +1,17 @@
+#include "support/FileContent.h"
 #include "support/TestCase.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
+using tarvelo::tests::contentOf;
 using Texts = QMap<QString, QString>;
 
 namespace {
 
 const QString Root = QStringLiteral(TARVELO_SOURCE_DIR);
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QByteArray fileOf(const QString &language)
 {

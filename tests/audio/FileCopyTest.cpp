@@ -1,8 +1,9 @@
 #include "audio/FileCopy.h"
 
-#include "audio/engine/SmallDisk.h"
+#include "support/FileContent.h"
 #include "support/Modes.h"
 #include "support/OrdinaryUser.h"
+#include "support/SmallFiles.h"
 #include "support/TestCase.h"
 
 #include <QDir>
@@ -17,11 +18,13 @@
 using namespace Qt::StringLiterals;
 using tarvelo::audio::FileCopy;
 using tarvelo::tests::addUmasks;
+using tarvelo::tests::contentOf;
 using tarvelo::tests::modeOf;
 using tarvelo::tests::OrdinaryUser;
 using tarvelo::tests::setMode;
-using tarvelo::tests::SmallDisk;
+using tarvelo::tests::SmallFiles;
 using tarvelo::tests::Umask;
+using tarvelo::tests::writeContent;
 
 namespace {
 
@@ -36,12 +39,12 @@ class FileCopyTest final : public tarvelo::tests::TestCase
 private Q_SLOTS:
     void aSmallFileIsCopiedAtOnce()
     {
-        const QByteArray content = writeSource(1000);
+        writeSource(1000);
 
         copy().start();
 
         QCOMPARE(m_ends, 1);
-        QVERIFY(contentOf(m_target) == content);
+        QVERIFY(contentOf(m_target) == m_content);
     }
 
     void aCopyIsForItsUserAlone_data() { addUmasks(); }
@@ -70,7 +73,7 @@ private Q_SLOTS:
 
     void aLargeFileIsCopiedWhileTheProgramGoesOn()
     {
-        const QByteArray content = writeSource(SeveralPieces);
+        writeSource(SeveralPieces);
         int turns = 0;
         QTimer otherWork;
         connect(&otherWork, &QTimer::timeout, this, [&] { turns += m_ends == 0 ? 1 : 0; });
@@ -81,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(m_ends, 0);
         QTRY_COMPARE(m_ends, 1);
         QVERIFY(turns > 2);
-        QVERIFY(contentOf(m_target) == content);
+        QVERIFY(contentOf(m_target) == m_content);
     }
 
     void aCopyHasItsNameOnlyWhenItIsWhole()
@@ -103,7 +106,7 @@ private Q_SLOTS:
     void aFileThatIsThereStays()
     {
         writeSource(1000);
-        write(m_target, "earlier");
+        QVERIFY(writeContent(m_target, "earlier"));
 
         copy().start();
 
@@ -116,7 +119,7 @@ private Q_SLOTS:
         writeSource(SeveralPieces);
 
         copy().start();
-        write(m_target, "another's");
+        QVERIFY(writeContent(m_target, "another's"));
 
         QTRY_COMPARE(m_ends, 1);
         QCOMPARE(contentOf(m_target), QByteArray("another's"));
@@ -138,7 +141,7 @@ private Q_SLOTS:
     void aFullDiskLeavesNothing()
     {
         writeSource(SeveralPieces);
-        const SmallDisk disk(2 * FileCopy::PieceSize);
+        const SmallFiles disk(2 * FileCopy::PieceSize);
 
         copy().start();
 
@@ -198,23 +201,12 @@ private:
             source, m_target, [this] { ++m_ends; }, this);
     }
 
-    static void write(const QString &path, const QByteArray &content)
+    void writeSource(qsizetype size)
     {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-    QByteArray writeSource(qsizetype size)
-    {
-        QByteArray content(size, Qt::Uninitialized);
+        m_content.resize(size);
         for (qsizetype i = 0; i < size; ++i)
-            content[i] = static_cast<char>(i * 31 + i / 251);
-        write(m_source, content);
-        return content;
-    }
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+            m_content[i] = static_cast<char>(i * 31 + i / 251);
+        QVERIFY(writeContent(m_source, m_content));
     }
     QStringList namesInFolder() const
     {
@@ -224,6 +216,7 @@ private:
     std::optional<QTemporaryDir> m_dir;
     QString m_source;
     QString m_target;
+    QByteArray m_content; // of the source
     int m_ends = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "audio/LeftFiles.h"
 
 #include "audio/LeftStage.h"
+#include "support/FileContent.h"
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
@@ -8,6 +9,7 @@ using namespace Qt::StringLiterals;
 using tarvelo::audio::LeftFiles;
 using tarvelo::store::JournalFile;
 using tarvelo::store::LectureJournal;
+using tarvelo::tests::contentOf;
 using tarvelo::tests::LeftStage;
 using tarvelo::tests::refuse;
 using tarvelo::tests::RefusedInTurn;
@@ -162,7 +164,7 @@ private Q_SLOTS:
         QVERIFY(all[0].journal.state == JournalFile::State::Missing);
         const QStringList unread = m_stage->names().filter(u"unread-"_s);
         QCOMPARE(unread.size(), 1);
-        QVERIFY(read(folder() + u'/' + unread[0]).contains("Huygens"));
+        QVERIFY(contentOf(folder() + u'/' + unread[0]).contains("Huygens"));
     }
 
     void whatWasPutAsideIsOfferedWhenItCanBeRead_data()
@@ -278,8 +280,8 @@ private Q_SLOTS:
         QVERIFY(files().moveFrom(folder()));
         tarvelo::tests::refuseNothing();
 
-        QCOMPARE(read(m_stage->file("unread-lecture.latest")), QByteArray("another"));
-        QVERIFY(read(m_stage->file("unread-lecture.latest-2")).contains("Fresnel"));
+        QCOMPARE(contentOf(m_stage->file("unread-lecture.latest")), QByteArray("another"));
+        QVERIFY(contentOf(m_stage->file("unread-lecture.latest-2")).contains("Fresnel"));
     }
 
     // A take of another format stands there as well.
@@ -404,7 +406,7 @@ private Q_SLOTS:
         refuse("rename", which.constData());
         files().moveClosedFrom(other);
 
-        QCOMPARE(read(other + u"/tempAudioFile.m4a"_s), LeftStage::takeBytes());
+        QCOMPARE(contentOf(other + u"/tempAudioFile.m4a"_s), LeftStage::takeBytes());
         QVERIFY(!QFile::exists(m_stage->file("tempAudioFile.m4a")));
     }
 
@@ -439,11 +441,6 @@ private:
         LeftStage::write(other + u"/tempAudioFile.m4a"_s, LeftStage::takeBytes());
         LeftStage::write(other + u"/lecture.closed"_s, "");
         return other;
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     LeftFiles files() const { return {folder(), u"tempAudioFile"_s, m_stage->dates}; }
     void expectOneLecture() const

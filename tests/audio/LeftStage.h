@@ -9,6 +9,7 @@
 #include "store/Statements.h"
 #include "support/DecodedAudio.h"
 #include "support/FakeClock.h"
+#include "support/FileContent.h"
 #include "support/TemporaryPlaces.h"
 #include "support/TestSound.h"
 
@@ -58,9 +59,7 @@ public:
     }
     static void write(const QString &path, const QByteArray &content)
     {
-        QFile written(path);
-        if (written.open(QIODevice::WriteOnly))
-            written.write(content);
+        QVERIFY(writeContent(path, content));
     }
     void leaveTake() const { write(takePath(), takeBytes()); }
     void leaveJournal(const store::LectureJournal &written = journal()) const

@@ -5,6 +5,7 @@
 #include "support/EnvironmentVariable.h"
 #include "support/FakeMailComposer.h"
 #include "support/FakeWorkspace.h"
+#include "support/FileContent.h"
 #include "support/Modes.h"
 #include "support/StandInPlayers.h"
 #include "support/TestCase.h"
@@ -22,11 +23,13 @@ using tarvelo::platform::plainText;
 using tarvelo::platform::StyledText;
 using tarvelo::store::LectureInfoItem;
 using tarvelo::tests::addUmasks;
+using tarvelo::tests::contentOf;
 using tarvelo::tests::FakeMailComposer;
 using tarvelo::tests::FakeWorkspace;
 using tarvelo::tests::modeOf;
 using tarvelo::tests::setMode;
 using tarvelo::tests::Umask;
+using tarvelo::tests::writeContent;
 
 class SharingAndExportTest final : public tarvelo::tests::TestCase
 {
@@ -199,7 +202,7 @@ private Q_SLOTS:
 
     void whatStandsInTheFoldersPlaceStays()
     {
-        QVERIFY(write(m_dir->filePath(u"Music"_s), "a file"));
+        QVERIFY(writeContent(m_dir->filePath(u"Music"_s), "a file"));
 
         m_sharing->onExportToiTunes(lectureAt(writeRecording(u"Audio - 1.m4a"_s, "sound")));
 
@@ -294,21 +297,11 @@ private:
         return item;
     }
 
-    static bool write(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-    }
     // Gives the path as it is stored, with two slashes before the name.
     QString writeRecording(const QString &name, const QByteArray &content) const
     {
         const QString path = m_dir->filePath(u"Audio//"_s) + name;
-        return write(path, content) ? path : QString();
-    }
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+        return writeContent(path, content) ? path : QString();
     }
     QString exported(const QString &name) const
     {

@@ -1,11 +1,13 @@
 #include "audio/engine/DecodedSource.h"
 #include "fuzz/SoundFileFuzz.h"
+#include "support/FileContent.h"
 #include "support/StderrCatcher.h"
 #include "support/TestCase.h"
 
 #include <QDir>
 
 using namespace tarvelo;
+using tarvelo::tests::contentOf;
 
 // The files from which the fuzzer starts, and those that it found trouble with.
 class CorpusTest final : public tests::TestCase
@@ -19,7 +21,7 @@ private Q_SLOTS:
         const QDir folder(QStringLiteral(CORPUS));
         const auto names = folder.entryList(QDir::Files);
         for (const QString &name : names)
-            QTest::newRow(qPrintable(name)) << bytesOf(folder.filePath(name));
+            QTest::newRow(qPrintable(name)) << contentOf(folder.filePath(name));
         QVERIFY(names.size() > 30);
     }
     void everyFileIsOpenedAndReadWithoutHarm()
@@ -50,17 +52,10 @@ private Q_SLOTS:
     {
         QFETCH(bool, plays);
         const QByteArray bytes =
-            bytesOf(QStringLiteral(CORPUS "/") + QLatin1String(QTest::currentDataTag()));
+            contentOf(QStringLiteral(CORPUS "/") + QLatin1String(QTest::currentDataTag()));
 
         QVERIFY(!bytes.isEmpty());
         QCOMPARE(engine::DecodedSource::open(bytes) != nullptr, plays);
-    }
-
-private:
-    static QByteArray bytesOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 };
 

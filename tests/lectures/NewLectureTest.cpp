@@ -1,6 +1,7 @@
 #include "lectures/NewLecture.h"
 
 #include "support/AnimationClock.h"
+#include "support/FileContent.h"
 #include "support/LectureProgram.h"
 #include "support/TestCase.h"
 
@@ -13,6 +14,7 @@ using tarvelo::tests::aLecture;
 using tarvelo::tests::AnimationClock;
 using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
+using tarvelo::tests::writeContent;
 
 class NewLectureTest final : public tarvelo::tests::TestCase
 {
@@ -441,7 +443,7 @@ private Q_SLOTS:
         finishLecture();
         const QDateTime momentOfSaving = m_program->clock.now();
         const QString path = controller().arrangedObjects().at(0)->strLectureAudioPath();
-        writeFile(path, "the earlier take");
+        QVERIFY(writeContent(path, "the earlier take"));
         m_program->recordNewLecture(4);
         m_program->clock.set(momentOfSaving.addMSecs(-200));
 
@@ -502,7 +504,7 @@ private Q_SLOTS:
         m_program->recordNewLecture(3);
         // A file where the folder should be.
         QVERIFY(QDir(controller().getAudioFolderPath()).removeRecursively());
-        writeFile(m_program->places.folder() + u"/Audio"_s, "in the way");
+        QVERIFY(writeContent(m_program->places.folder() + u"/Audio"_s, "in the way"));
 
         finishLecture();
 
@@ -595,12 +597,6 @@ private:
         QDir().mkpath(program->places.databaseFile());
         program->showDay(program->today());
         return program;
-    }
-    static void writeFile(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
     }
 
     void finishLecture() { m_program->finishNewLecture(); }

@@ -2,6 +2,7 @@
 // it is lost, and nothing of what comes next.
 
 #include "platform/FolderOwner.h"
+#include "support/FileContent.h"
 #include "support/LectureProgram.h"
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
@@ -11,10 +12,12 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::store::LectureJournal;
+using tarvelo::tests::contentOf;
 using tarvelo::tests::LectureProgram;
 using tarvelo::tests::refuse;
 using tarvelo::tests::RefusedInTurn;
 using tarvelo::tests::refuseNothing;
+using tarvelo::tests::writeContent;
 
 class OccupiedPlaceTest final : public tarvelo::tests::TestCase
 {
@@ -85,7 +88,7 @@ private Q_SLOTS:
             prepare();
             m_program->showDay(m_program->today());
             m_program->recordNewLecture(3);
-            write(controller().tempAudioSavePath(), takeBytes());
+            QVERIFY(writeContent(controller().tempAudioSavePath(), takeBytes()));
             subject().setText(u"Acoustics"_s);
             controller().journal().flush();
             calls.refuse();
@@ -243,7 +246,7 @@ private Q_SLOTS:
     {
         m_program->showDay(m_program->today());
         m_program->recordNewLecture(3);
-        write(controller().tempAudioSavePath(), takeBytes());
+        QVERIFY(writeContent(controller().tempAudioSavePath(), takeBytes()));
         m_program->windows.newLectureOutlets().BtnDoneOrClose->click();
         refuse("access", "/tempAudioFile.m4a");
         m_program->clock.advance(200ms);
@@ -330,17 +333,6 @@ private:
 
     // Too large to be taken for one in which nothing can be heard.
     static QByteArray takeBytes() { return QByteArray(100'000, 's'); }
-    static void write(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly))
-            file.write(content);
-    }
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     bool foundInHome(const QByteArray &content) const
     {
         QDirIterator files(m_program->places.folder(), QDir::Files, QDirIterator::Subdirectories);
@@ -363,13 +355,13 @@ private:
     static void leaveTakeAndJournal(const QString &folder)
     {
         QDir().mkpath(folder);
-        write(folder + u"/tempAudioFile.m4a"_s, takeBytes());
+        QVERIFY(writeContent(folder + u"/tempAudioFile.m4a"_s, takeBytes()));
         LectureJournal journal;
         journal.id = u"20240304T080000000"_s;
         journal.subject = u"wave optics"_s;
         journal.day = u"2024-02-29"_s;
         journal.take = folder + u"/tempAudioFile.m4a"_s;
-        write(folder + u"/lecture.journal"_s, tarvelo::store::toBytes(journal));
+        QVERIFY(writeContent(folder + u"/lecture.journal"_s, tarvelo::store::toBytes(journal)));
     }
     void expectLeftLecture()
     {

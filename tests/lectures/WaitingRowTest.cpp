@@ -1,5 +1,6 @@
 #include "lectures/NewLecture.h"
 #include "store/FullDisk.h"
+#include "support/FileContent.h"
 #include "support/LectureProgram.h"
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
@@ -10,8 +11,10 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::lectures::Lecture;
 using tarvelo::tests::aLecture;
+using tarvelo::tests::contentOf;
 using tarvelo::tests::LectureProgram;
 using tarvelo::tests::SmallDisk;
+using tarvelo::tests::writeContent;
 
 // A lecture that is in the list while its row, or its recording, waits for better times.
 class WaitingRowTest final : public tarvelo::tests::TestCase
@@ -184,8 +187,8 @@ private Q_SLOTS:
         m_program->finishNewLecture();
         tarvelo::store::LectureJournal journal{.id = u"20240305T080000000"_s, .isDone = true};
         journal.target = lecture(0)->strLectureAudioPath();
-        write(folder() + u"/leftover-20240305T080000000.journal"_s,
-              tarvelo::store::toBytes(journal));
+        QVERIFY(writeContent(folder() + u"/leftover-20240305T080000000.journal"_s,
+                             tarvelo::store::toBytes(journal)));
 
         controller().onDelete(0);
 
@@ -231,14 +234,14 @@ private Q_SLOTS:
         finishWhileLocked("Optics", true);
         const QString wished = lecture(0)->strLectureAudioPath();
         QVERIFY(inTheWay.remove() && QDir().mkpath(audio()));
-        write(wished, "another take");
+        QVERIFY(writeContent(wished, "another take"));
 
         m_program->clock.advance(20s);
 
         const QString path = lecture(0)->strLectureAudioPath();
         QVERIFY(path != wished && QFile::exists(path));
         QCOMPARE(m_program->storedRows().value(0)["audioFileFullPath"_L1].toString(), path);
-        QCOMPARE(read(wished), QByteArray("another take"));
+        QCOMPARE(contentOf(wished), QByteArray("another take"));
     }
 
     void whatIsOwedIsKnown()
@@ -286,21 +289,21 @@ private Q_SLOTS:
         m_program->finishNewLecture();
         const QDateTime moment = m_program->clock.now();
         const QString path = lecture(0)->strLectureAudioPath();
-        write(path, "the earlier take");
+        QVERIFY(writeContent(path, "the earlier take"));
         m_program->recordNewLecture(4);
         const QByteArray take = QByteArray("the later take").repeated(3000);
-        write(controller().tempAudioSavePath(), take);
+        QVERIFY(writeContent(controller().tempAudioSavePath(), take));
         m_program->clock.set(moment.addMSecs(-200));
 
         disk.fill();
         m_program->finishNewLecture();
-        QCOMPARE(read(path), QByteArray("the earlier take"));
+        QCOMPARE(contentOf(path), QByteArray("the earlier take"));
         disk.emptyAgain();
         m_program->clock.advance(20s);
 
         QByteArrayList takes;
         for (const QString &name : filesIn(audio()))
-            takes.append(read(audio() + u'/' + name));
+            takes.append(contentOf(audio() + u'/' + name));
         QVERIFY(takes.contains("the earlier take") && takes.contains(take));
         QCOMPARE(filesIn(folder()), QStringList{u".owner"_s});
     }
@@ -355,16 +358,6 @@ private:
     static QStringList filesIn(const QString &folder)
     {
         return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-    static void write(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     std::unique_ptr<LectureProgram> m_program;

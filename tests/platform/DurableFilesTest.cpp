@@ -1,5 +1,6 @@
 #include "platform/DurableFiles.h"
 
+#include "support/FileContent.h"
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
@@ -13,7 +14,9 @@
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::platform;
+using tarvelo::tests::contentOf;
 using tarvelo::tests::RefusedInTurn;
+using tarvelo::tests::writeContent;
 
 class DurableFilesTest final : public tarvelo::tests::TestCase
 {
@@ -22,8 +25,8 @@ class DurableFilesTest final : public tarvelo::tests::TestCase
 private Q_SLOTS:
     void aFileTakesTheOtherNameAndThePlaceOfWhatHadIt()
     {
-        write(u"half"_s, "new");
-        write(u"whole"_s, "old");
+        QVERIFY(writeContent(path(u"half"_s), "new"));
+        QVERIFY(writeContent(path(u"whole"_s), "old"));
 
         QVERIFY(renameDurably(path(u"half"_s), path(u"whole"_s)));
 
@@ -37,7 +40,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(path(u"left"_s)) && QDir().mkpath(path(u"entered"_s)));
         RefusedInTurn calls("/left");
         while (calls.areLeft()) {
-            write(u"left/file"_s, "content");
+            QVERIFY(writeContent(path(u"left/file"_s), "content"));
 
             calls.refuse();
             const bool isMoved = renameDurably(path(u"left/file"_s), path(u"entered/file"_s));
@@ -51,7 +54,7 @@ private Q_SLOTS:
 
     void whatIsNotThereTakesNoName()
     {
-        write(u"whole"_s, "old");
+        QVERIFY(writeContent(path(u"whole"_s), "old"));
 
         QVERIFY(!renameDurably(path(u"half"_s), path(u"whole"_s)));
         QVERIFY(!renameDurably(path(u"whole"_s), path(u"no folder/whole"_s)));
@@ -107,16 +110,7 @@ private:
     }
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    void write(const QString &name, const QByteArray &content) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-    QByteArray read(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray read(const QString &name) const { return contentOf(path(name)); }
 
     QTemporaryDir m_folder;
 };

@@ -1,7 +1,8 @@
 #include "platform/DurableMove.h"
 
-#include "store/FullDisk.h"
+#include "support/FileContent.h"
 #include "support/OtherDisk.h"
+#include "support/SmallFiles.h"
 #include "support/TestCase.h"
 
 #include <QDir>
@@ -11,8 +12,10 @@
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::platform;
+using tarvelo::tests::contentOf;
 using tarvelo::tests::foldersAreDisks;
-using tarvelo::tests::NoRoomForFiles;
+using tarvelo::tests::SmallFiles;
+using tarvelo::tests::writeContent;
 
 class DurableMoveTest final : public tarvelo::tests::TestCase
 {
@@ -31,12 +34,12 @@ private Q_SLOTS:
         QFETCH(bool, onOtherDisk);
         foldersAreDisks = onOtherDisk;
         const QByteArray sound = QByteArray("sound").repeated(700'000);
-        write(m_from, sound);
-        write(m_to, "an earlier one");
+        QVERIFY(writeContent(m_from, sound));
+        QVERIFY(writeContent(m_to, "an earlier one"));
 
         QVERIFY(moveDurably(m_from, m_to));
 
-        QCOMPARE(read(m_to), sound);
+        QCOMPARE(contentOf(m_to), sound);
         QVERIFY(!QFileInfo::exists(m_from));
         QCOMPARE(filesThere(), QStringList(u"saved"_s));
     }
@@ -44,7 +47,7 @@ private Q_SLOTS:
     void aCopyOnAnotherDiskIsForItsUserAlone()
     {
         foldersAreDisks = true;
-        write(m_from, "sound");
+        QVERIFY(writeContent(m_from, "sound"));
 
         QVERIFY(moveDurably(m_from, m_to));
 
@@ -54,39 +57,39 @@ private Q_SLOTS:
     void whatIsLeftOfAnEarlierTryIsWrittenAnew()
     {
         foldersAreDisks = true;
-        write(m_from, "sound");
-        write(QFileInfo(m_to).path() + u"/.saved.moved"_s, "half of another sound");
+        QVERIFY(writeContent(m_from, "sound"));
+        QVERIFY(writeContent(QFileInfo(m_to).path() + u"/.saved.moved"_s, "half of another sound"));
 
         QVERIFY(moveDurably(m_from, m_to));
 
-        QCOMPARE(read(m_to), QByteArray("sound"));
+        QCOMPARE(contentOf(m_to), QByteArray("sound"));
         QCOMPARE(filesThere(), QStringList(u"saved"_s));
     }
 
     void onAnotherDiskThatIsFullBothFilesStay()
     {
         foldersAreDisks = true;
-        write(m_from, "sound");
-        write(m_to, "an earlier one");
+        QVERIFY(writeContent(m_from, "sound"));
+        QVERIFY(writeContent(m_to, "an earlier one"));
         {
-            const NoRoomForFiles noRoom;
+            const SmallFiles noRoom(0);
             QVERIFY(!moveDurably(m_from, m_to));
         }
 
-        QCOMPARE(read(m_from), QByteArray("sound"));
-        QCOMPARE(read(m_to), QByteArray("an earlier one"));
+        QCOMPARE(contentOf(m_from), QByteArray("sound"));
+        QCOMPARE(contentOf(m_to), QByteArray("an earlier one"));
         QCOMPARE(filesThere(), QStringList(u"saved"_s));
     }
 
     void aCopyIsKnownByItsBytes()
     {
         const QByteArray sound = QByteArray("sound").repeated(700'000);
-        write(m_from, sound);
+        QVERIFY(writeContent(m_from, sound));
         for (const auto &[content, isCopy] :
              {std::pair(sound, true), std::pair(sound.chopped(1), false),
               std::pair(sound + 's', false), std::pair(sound.chopped(1) + 'x', false),
               std::pair(QByteArray(), false)}) {
-            write(m_to, content);
+            QVERIFY(writeContent(m_to, content));
             QCOMPARE(isCopyOf(m_to, m_from), isCopy);
             QCOMPARE(isCopyOf(m_from, m_to), isCopy);
         }
@@ -95,12 +98,12 @@ private Q_SLOTS:
 
     void whatCannotBeMovedStaysWhereItIs()
     {
-        write(m_from, "sound");
+        QVERIFY(writeContent(m_from, "sound"));
 
         QVERIFY(!moveDurably(m_from, m_dir.filePath(u"no folder/saved"_s)));
         QVERIFY(!moveDurably(m_dir.filePath(u"take/none"_s), m_to));
 
-        QCOMPARE(read(m_from), QByteArray("sound"));
+        QCOMPARE(contentOf(m_from), QByteArray("sound"));
         QVERIFY(filesThere().isEmpty());
     }
 
@@ -118,16 +121,6 @@ private:
         QVERIFY(QDir(m_dir.filePath(u"audio"_s)).removeRecursively());
     }
 
-    static void write(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     QStringList filesThere() const
     {
         return QDir(QFileInfo(m_to).path()).entryList(QDir::Files | QDir::Hidden);

@@ -1,46 +1,20 @@
 #include "platform/SteadyFile.h"
 
+#include "support/FileContent.h"
 #include "support/RefusedCalls.h"
+#include "support/SmallFiles.h"
 #include "support/TestCase.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using tarvelo::platform::SteadyFile;
-
-namespace {
-
-// While one lives no file of this process can grow: a disk that is full.
-class FullDisk final
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit full{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &full);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
-
-} // namespace
+using tarvelo::tests::contentOf;
+using tarvelo::tests::SmallFiles;
 
 class SteadyFileTest final : public tarvelo::tests::TestCase
 {
@@ -99,7 +73,7 @@ private Q_SLOTS:
         SteadyFile file(path());
         QVERIFY(file.replace("first"));
         {
-            const FullDisk full(16 << 10);
+            const SmallFiles full(16 << 10);
             QVERIFY(!file.replace(QByteArray(40'000, 'n')));
         }
         QCOMPARE(read().trimmed(), QByteArray("first"));
@@ -112,7 +86,7 @@ private Q_SLOTS:
     void withHalfTheRoomItWishesForItIsContent()
     {
         SteadyFile file(path());
-        const FullDisk full(30'000);
+        const SmallFiles full(30'000);
 
         QVERIFY(file.replace(QByteArray(20'000, 'n')));
 
@@ -204,11 +178,7 @@ private:
     {
         return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
-    QByteArray read() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray read() const { return contentOf(path()); }
     qint64 blocks() const
     {
         qint64 sum = 0;

@@ -1,14 +1,15 @@
 #include "platform/SureReading.h"
 
+#include "support/FileContent.h"
 #include "support/RefusedCalls.h"
 #include "support/TestCase.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::platform;
 using tarvelo::tests::refuse;
+using tarvelo::tests::writeContent;
 using State = WholeFile::State;
 
 class SureReadingTest final : public tarvelo::tests::TestCase
@@ -18,8 +19,8 @@ class SureReadingTest final : public tarvelo::tests::TestCase
 private Q_SLOTS:
     void aFolderHasItsNamesInOrderHiddenOnesToo()
     {
-        write("b", "");
-        write(".a", "");
+        QVERIFY(writeContent(path("b"), ""));
+        QVERIFY(writeContent(path(".a"), ""));
 
         QCOMPARE(namesIn(m_folder->path()).value(), QStringList({u".a"_s, u"b"_s}));
     }
@@ -33,7 +34,7 @@ private Q_SLOTS:
 
     void whetherAFileIsThereIsKnownByItsFolderAlone()
     {
-        write("a", "");
+        QVERIFY(writeContent(path("a"), ""));
 
         QVERIFY(isThere(path("a")) == true);
         QVERIFY(isThere(path("b")) == false);
@@ -43,7 +44,7 @@ private Q_SLOTS:
     void aFileIsReadWhole()
     {
         const QByteArray bytes(200'000, 'n');
-        write("a", bytes);
+        QVERIFY(writeContent(path("a"), bytes));
 
         const WholeFile file = readWhole(path("a"), bytes.size());
 
@@ -54,7 +55,7 @@ private Q_SLOTS:
 
     void whatCannotBeReadIsNotTakenForMissingOrEmpty()
     {
-        write("a", "content");
+        QVERIFY(writeContent(path("a"), "content"));
         refuse("read", "/a");
 
         QVERIFY(readWhole(path("a"), 100).state == State::Unreadable);
@@ -72,12 +73,6 @@ protected:
 
 private:
     QString path(const char *name) const { return m_folder->filePath(QLatin1StringView(name)); }
-    void write(const char *name, const QByteArray &content) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };

@@ -1,25 +1,12 @@
 #pragma once
 
+#include "support/FileContent.h"
 #include "support/LectureBuilder.h"
 #include "support/TemporaryPlaces.h"
-
-#include <QFile>
 
 namespace tarvelo::tests {
 
 constexpr qsizetype DatabasePage = 4096; // bytes
-
-inline QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-inline bool writeContent(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
 
 // The bytes of a sound database with so many lectures, on about a page for each seven.
 inline QByteArray databaseOf(int lectures)

@@ -2,25 +2,10 @@
 
 #include <QFile>
 
-#include <csignal>
 #include <sched.h>
 #include <sys/mount.h>
 
 namespace tarvelo::tests {
-
-NoRoomForFiles::NoRoomForFiles()
-{
-    // Else the first write would end the process.
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &m_before);
-    const rlimit none{0, m_before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &none);
-}
-
-NoRoomForFiles::~NoRoomForFiles()
-{
-    setrlimit(RLIMIT_FSIZE, &m_before);
-}
 
 SmallDisk::SmallDisk(QString folder, int kibibytes)
     : m_folder(std::move(folder))
@@ -42,7 +27,7 @@ SmallDisk::~SmallDisk()
 void SmallDisk::fill()
 {
     if (!m_mounted) {
-        m_instead = std::make_unique<NoRoomForFiles>();
+        m_instead.emplace(0);
         return;
     }
     QFile filler(m_folder + QStringLiteral("/filler"));

@@ -1,28 +1,15 @@
 #pragma once
 
+#include "support/SmallFiles.h"
+
 #include <QString>
 
-#include <memory>
-#include <sys/resource.h>
+#include <optional>
 
 namespace tarvelo::tests {
 
-// While one lives, no file of this process can be written: what a disk without room does, for
-// everyone and everywhere.
-class NoRoomForFiles final
-{
-public:
-    NoRoomForFiles();
-    NoRoomForFiles(const NoRoomForFiles &) = delete;
-    NoRoomForFiles &operator=(const NoRoomForFiles &) = delete;
-    ~NoRoomForFiles();
-
-private:
-    rlimit m_before = {};
-};
-
 // A small disk, mounted at `folder` as long as it lives, visible to this process alone. Where
-// mounting is not allowed, fill() falls back on NoRoomForFiles until emptyAgain().
+// mounting is not allowed, fill() lets no file grow until emptyAgain().
 class SmallDisk final
 {
 public:
@@ -40,7 +27,7 @@ public:
 private:
     QString m_folder;
     bool m_mounted = false;
-    std::unique_ptr<NoRoomForFiles> m_instead;
+    std::optional<SmallFiles> m_instead;
 };
 
 } // namespace tarvelo::tests

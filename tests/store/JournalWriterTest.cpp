@@ -1,6 +1,7 @@
 #include "store/JournalWriter.h"
 
 #include "store/LectureJournal.h"
+#include "support/FileContent.h"
 #include "support/TestCase.h"
 
 #include <QDir>
@@ -147,8 +148,7 @@ private:
     QString other() const { return m_folder->filePath(u"lecture.closed"_s); }
     static QByteArray read(const QString &path)
     {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+        return tarvelo::tests::contentOf(path).trimmed();
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;

@@ -5,6 +5,7 @@
 #include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
 #include "support/OrdinaryUser.h"
+#include "support/SmallFiles.h"
 #include "support/StderrCatcher.h"
 #include "support/TemporaryPlaces.h"
 #include "support/TestCase.h"
@@ -263,7 +264,7 @@ private Q_SLOTS:
     {
         aLecture().named("kept").insertInto(*m_database);
         {
-            const NoRoomForFiles noRoom;
+            const tarvelo::tests::SmallFiles noRoom(0);
             writeEverything(*m_database);
         }
 

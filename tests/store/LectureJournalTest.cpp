@@ -1,5 +1,6 @@
 #include "store/LectureJournal.h"
 
+#include "support/FileContent.h"
 #include "support/TestCase.h"
 
 #include <QFile>
@@ -9,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::store;
+using tarvelo::tests::writeContent;
 using State = LectureJournal::State;
 
 class LectureJournalTest final : public tarvelo::tests::TestCase
@@ -74,10 +76,10 @@ private Q_SLOTS:
         using Found = JournalFile::State;
         QVERIFY(readJournal(path).state == Found::Missing);
 
-        write(path, QByteArray(4096, '\0'));
+        QVERIFY(writeContent(path, QByteArray(4096, '\0')));
         QVERIFY(readJournal(path).state == Found::Worthless);
 
-        write(path, toBytes(full()) + QByteArray(100, ' '));
+        QVERIFY(writeContent(path, toBytes(full()) + QByteArray(100, ' ')));
         QVERIFY(readJournal(path).state == Found::Read);
         QCOMPARE(readJournal(path).journal.subject, u"wave optics"_s);
         QVERIFY(readJournal(folder.path()).state == Found::Unreadable);
@@ -93,7 +95,7 @@ private Q_SLOTS:
 
         QVERIFY(tarvelo::store::writeLatest(path, toBytes(journal)));
         QVERIFY(tarvelo::store::readLatest(path).isAhead); // there is no journal yet
-        write(path, toBytes(journal));
+        QVERIFY(writeContent(path, toBytes(journal)));
         QVERIFY(!tarvelo::store::readLatest(path).isAhead);
 
         journal.version = 8;
@@ -114,7 +116,7 @@ private Q_SLOTS:
         const QString path = folder.filePath(u"lecture.journal"_s);
         LectureJournal journal = full();
         journal.version = 7;
-        write(path, toBytes(journal));
+        QVERIFY(writeContent(path, toBytes(journal)));
         journal.notes = u"Huygens "_s.repeated(600);
         journal.version = 8;
         const QByteArray before = toBytes(journal);
@@ -124,13 +126,15 @@ private Q_SLOTS:
         QCOMPARE(before.size(), bytes.size());
 
         for (qsizetype end = 0; end <= bytes.size(); end += end + 64 < bytes.size() ? 64 : 1) {
-            write(tarvelo::store::latestOf(path), bytes.first(end));
+            QVERIFY(writeContent(tarvelo::store::latestOf(path), bytes.first(end)));
             // The last is a line's end.
             QCOMPARE(tarvelo::store::readLatest(path).isAhead, end >= bytes.size() - 1);
         }
-        write(tarvelo::store::latestOf(path), bytes.first(2048) + before.sliced(2048));
+        QVERIFY(
+            writeContent(tarvelo::store::latestOf(path), bytes.first(2048) + before.sliced(2048)));
         QVERIFY(!tarvelo::store::readLatest(path).isAhead);
-        write(tarvelo::store::latestOf(path), before.first(2048) + bytes.sliced(2048));
+        QVERIFY(
+            writeContent(tarvelo::store::latestOf(path), before.first(2048) + bytes.sliced(2048)));
         QVERIFY(!tarvelo::store::readLatest(path).isAhead);
     }
 
@@ -187,12 +191,6 @@ private Q_SLOTS:
     }
 
 private:
-    static void write(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
     static LectureJournal full()
     {
         return {.id = u"20240305T090000000"_s,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Process.h"
+#include "support/FileContent.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,11 +30,7 @@ public:
         if (file.open(QIODevice::WriteOnly))
             file.write(content);
     }
-    QByteArray readDatabaseFile() const
-    {
-        QFile file(databaseFile());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray readDatabaseFile() const { return contentOf(databaseFile()); }
 
 private:
     QTemporaryDir m_dir;

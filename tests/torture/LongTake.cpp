@@ -7,6 +7,7 @@
 #include "audio/engine/Recordings.h"
 #include "audio/engine/Take.h"
 #include "support/DecodedAudio.h"
+#include "support/FileContent.h"
 #include "support/TestSound.h"
 
 #include <QCoreApplication>
@@ -151,12 +152,6 @@ bool record(engine::Take &take, const LongTune &tune, std::int64_t frames, int r
     return std::abs(take.seconds() - static_cast<double>(frames) / Rate) < 1e-6;
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -182,7 +177,7 @@ int main(int argc, char **argv)
     std::printf("finished_s %.2f\nresident_after %.2f\n", secondsSince(end), residentMebibytes());
 
     const auto facts = tests::MovieFacts::read(path);
-    const QByteArray bytes = contentOf(path);
+    const QByteArray bytes = tests::contentOf(path);
     const auto source = engine::DecodedSource::open(bytes);
     if (!facts || !source)
         return 1;

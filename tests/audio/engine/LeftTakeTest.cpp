@@ -3,6 +3,7 @@
 #include "audio/engine/BadPlace.h"
 #include "audio/engine/Recordings.h"
 #include "support/DecodedAudio.h"
+#include "support/FileContent.h"
 #include "support/TestCase.h"
 #include "support/TestSound.h"
 
@@ -197,11 +198,7 @@ private:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(bytes);
     }
-    QByteArray read() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray read() const { return contentOf(path()); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };

@@ -1,6 +1,7 @@
 #include "audio/engine/OutputFile.h"
-#include "audio/engine/SmallDisk.h"
+#include "support/FileContent.h"
 #include "support/OrdinaryUser.h"
+#include "support/SmallFiles.h"
 #include "support/TestCase.h"
 
 #include <QFile>
@@ -67,7 +68,7 @@ private Q_SLOTS:
     {
         const auto file = OutputFile::create(path());
         {
-            const SmallDisk disk(5);
+            const SmallFiles disk(5);
             QVERIFY(file->append(bytes(3, 'a')));
 
             QVERIFY(!file->append(bytes(3, 'b')));
@@ -108,11 +109,7 @@ private:
     }
 
     std::string path() const { return m_folder->filePath(QStringLiteral("take")).toStdString(); }
-    QByteArray content() const
-    {
-        QFile file(QString::fromStdString(path()));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray content() const { return contentOf(QString::fromStdString(path())); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };

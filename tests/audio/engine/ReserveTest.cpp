@@ -1,7 +1,7 @@
 #include "audio/engine/Reserve.h"
 
 #include "audio/engine/FragmentedFile.h"
-#include "audio/engine/SmallDisk.h"
+#include "support/SmallFiles.h"
 #include "support/TestCase.h"
 
 #include <QDir>
@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::engine;
-using tarvelo::tests::SmallDisk;
+using tarvelo::tests::SmallFiles;
 
 class ReserveTest final : public tarvelo::tests::TestCase
 {
@@ -135,7 +135,7 @@ private Q_SLOTS:
 
     void whereThereIsNoRoomNoneIsHeld()
     {
-        const SmallDisk disk(1000);
+        const SmallFiles disk(1000);
         const Reserve reserve(take());
 
         QCOMPARE(reserve.bytes(), 0);

@@ -1,7 +1,7 @@
 #include "audio/engine/Take.h"
 #include "audio/engine/RecorderSettings.h"
-#include "audio/engine/SmallDisk.h"
 #include "support/DecodedAudio.h"
+#include "support/SmallFiles.h"
 #include "support/TestCase.h"
 #include "support/TestSound.h"
 
@@ -81,7 +81,7 @@ private Q_SLOTS:
     void onAFullDiskOnlyWhatIsSafeCounts()
     {
         const auto take = Take::start(path(), Mono, {});
-        const SmallDisk disk(30000);
+        const SmallFiles disk(30000);
 
         take->put(tune(44100, 12));
         QTRY_VERIFY_WITH_TIMEOUT(take->seconds() < 6, 60000);

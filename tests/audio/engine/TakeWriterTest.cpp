@@ -1,8 +1,8 @@
 #include "audio/engine/TakeWriter.h"
 #include "audio/engine/PcmFormat.h"
-#include "audio/engine/SmallDisk.h"
 #include "support/DecodedAudio.h"
 #include "support/OrdinaryUser.h"
+#include "support/SmallFiles.h"
 #include "support/StderrCatcher.h"
 #include "support/TestCase.h"
 #include "support/TestSound.h"
@@ -180,7 +180,7 @@ private Q_SLOTS:
     {
         const auto sound = tune(44100, 10);
         const auto writer = TakeWriter::create(path(), Mono, {});
-        const SmallDisk disk(30000);
+        const SmallFiles disk(30000);
 
         writeInBlocks(*writer, sound);
         QVERIFY(writer->isDiskFailing());
@@ -196,7 +196,7 @@ private Q_SLOTS:
 
     void aDiskThatIsFullFromTheFirstMomentIsBornWithPatience()
     {
-        const SmallDisk disk(0);
+        const SmallFiles disk(0);
         const auto writer = TakeWriter::create(path(), Mono, {});
         QVERIFY(writer);
 
@@ -211,7 +211,7 @@ private Q_SLOTS:
         const auto sound = tune(44100, 9);
         const auto writer = TakeWriter::create(path(), Mono, {});
         {
-            const SmallDisk disk(30000);
+            const SmallFiles disk(30000);
             writeInBlocks(*writer, std::span(sound).first(6 * 44100));
             QVERIFY(writer->isDiskFailing());
         }
@@ -227,7 +227,7 @@ private Q_SLOTS:
     {
         const auto sound = tune(44100, 10);
         const auto writer = TakeWriter::create(path(), Mono, {});
-        const SmallDisk disk(30000);
+        const SmallFiles disk(30000);
 
         int taken = 0;
         while (taken < 60 && writer->write(sound))
@@ -271,7 +271,7 @@ private Q_SLOTS:
         const StderrCatcher catcher;
         auto writer = TakeWriter::create(path(), Mono, {});
         {
-            const SmallDisk disk(20000);
+            const SmallFiles disk(20000);
             writeInBlocks(*writer, tune(44100, 5));
         }
         writer.reset();

@@ -1,6 +1,6 @@
 #include "audio/engine/RecordingCase.h"
-#include "audio/engine/SmallDisk.h"
 #include "support/OrdinaryUser.h"
+#include "support/SmallFiles.h"
 #include "support/StderrCatcher.h"
 
 #include <QLocalServer>
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QVERIFY(speak(played));
         const StderrCatcher catcher;
         const auto recorder = recording();
-        const SmallDisk disk(30000);
+        const SmallFiles disk(30000);
 
         // On a full disk the time steps back to what is safe.
         double before = 0;
