@@ -1,19 +1,12 @@
 #include "audio/EditPlayback.h"
 
-#include "support/FakeAudioEngine.h"
-#include "support/RecordingStage.h"
-#include "support/TestCase.h"
-
-#include <optional>
+#include "audio/StageCase.h"
 
 using namespace Qt::StringLiterals;
-using tarvelo::tests::FakeAudioEngine;
 using tarvelo::tests::inOrder;
-using tarvelo::tests::RecordingStage;
-using tarvelo::tests::RecordingWindow;
 
 // The player of the lecture view, through the one face that all players have.
-class EditPlaybackTest final : public tarvelo::tests::TestCase
+class EditPlaybackTest final : public tarvelo::tests::StageCase
 {
     Q_OBJECT
 
@@ -178,19 +171,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_engine.emplace();
-        m_stage.emplace(*m_engine);
-    }
-    void finish() override
-    {
-        m_stage.reset();
-        m_engine.reset();
-    }
-
-    RecordingWindow &window() { return m_stage->window; }
-    tarvelo::audio::Playback &playback() { return m_stage->playback; }
     QList<QWidget *> controls()
     {
         return {&window().bPlay, &window().bPause, &window().sliderEditProgress};
@@ -200,9 +180,6 @@ private:
         m_stage->writeTake("a lecture");
         return playback().openEditPlayer(m_stage->takePath());
     }
-
-    std::optional<FakeAudioEngine> m_engine;
-    std::optional<RecordingStage> m_stage;
 };
 
 QTEST_MAIN(EditPlaybackTest)

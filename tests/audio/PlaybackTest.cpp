@@ -1,17 +1,11 @@
-#include "support/FakeAudioEngine.h"
-#include "support/RecordingStage.h"
-#include "support/TestCase.h"
-
-#include <optional>
+#include "audio/StageCase.h"
 
 using namespace Qt::StringLiterals;
-using tarvelo::tests::FakeAudioEngine;
 using tarvelo::tests::inOrder;
-using tarvelo::tests::RecordingStage;
 using tarvelo::tests::RecordingWindow;
 
 // The lecture of the play window.
-class PlaybackTest final : public tarvelo::tests::TestCase
+class PlaybackTest final : public tarvelo::tests::StageCase
 {
     Q_OBJECT
 
@@ -471,19 +465,11 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_engine.emplace();
-        m_stage.emplace(*m_engine);
+        StageCase::prepare();
         playback().resetRate();
         window().lblElapsedTimeTemp.hide();
     }
-    void finish() override
-    {
-        m_stage.reset();
-        m_engine.reset();
-    }
 
-    RecordingWindow &window() { return m_stage->window; }
-    tarvelo::audio::Playback &playback() { return m_stage->playback; }
     static QString imagesOf(const tarvelo::widgets::ImageButton &button)
     {
         return button.image().name() + u'/' + button.alternateImage().name();
@@ -498,9 +484,6 @@ private:
         window().segPlaySpeed.setSelectedSegment(segment);
         playback().onPlaySpeedChanged(&window().segPlaySpeed);
     }
-
-    std::optional<FakeAudioEngine> m_engine;
-    std::optional<RecordingStage> m_stage;
 };
 
 QTEST_MAIN(PlaybackTest)

@@ -1,16 +1,9 @@
-#include "support/FakeAudioEngine.h"
-#include "support/RecordingStage.h"
-#include "support/TestCase.h"
-
-#include <optional>
+#include "audio/StageCase.h"
 
 using namespace std::chrono_literals;
 
-using tarvelo::audio::RecordingControl;
-using tarvelo::tests::FakeAudioEngine;
 using tarvelo::tests::inOrder;
 using tarvelo::tests::lookOf;
-using tarvelo::tests::RecordingStage;
 
 namespace {
 
@@ -22,7 +15,7 @@ const auto LookOfPlay = QStringLiteral("play/playH/Play");
 } // namespace
 
 // One take from the press of the start button on, with a recorder that only notes what it is asked.
-class RecordingControlTest final : public tarvelo::tests::TestCase
+class RecordingControlTest final : public tarvelo::tests::StageCase
 {
     Q_OBJECT
 
@@ -515,20 +508,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_engine.emplace();
-        m_stage.emplace(*m_engine);
-    }
-    void finish() override
-    {
-        m_stage.reset();
-        m_engine.reset();
-    }
-
-    RecordingControl &control() { return m_stage->control; }
-    tarvelo::tests::RecordingWindow &window() { return m_stage->window; }
-
     void pauseFor(std::chrono::milliseconds time)
     {
         m_stage->pressPauseResume();
@@ -550,9 +529,6 @@ private:
         QVERIFY(window().btnPauseResumeRecording.isVisible());
         QCOMPARE(window().lblRecordingDuration.text(), QStringLiteral("00:01:05"));
     }
-
-    std::optional<FakeAudioEngine> m_engine;
-    std::optional<RecordingStage> m_stage;
 };
 
 QTEST_MAIN(RecordingControlTest)

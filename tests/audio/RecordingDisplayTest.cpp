@@ -1,15 +1,11 @@
-#include "support/FakeAudioEngine.h"
-#include "support/RecordingStage.h"
-#include "support/TestCase.h"
+#include "audio/StageCase.h"
 
 #include <optional>
 
 using namespace std::chrono_literals;
 
 using tarvelo::audio::RecordingDisplay;
-using tarvelo::tests::FakeAudioEngine;
 using tarvelo::tests::lookOf;
-using tarvelo::tests::RecordingStage;
 
 namespace {
 
@@ -22,7 +18,7 @@ QDateTime at(const char *isoText)
 
 // The looks of a take's controls, what recording shows once a second, and the time tag in the
 // notes.
-class RecordingDisplayTest final : public tarvelo::tests::TestCase
+class RecordingDisplayTest final : public tarvelo::tests::StageCase
 {
     Q_OBJECT
 
@@ -269,19 +265,16 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_engine.emplace();
-        m_stage.emplace(*m_engine);
+        StageCase::prepare();
         m_display.emplace(m_stage->dates, window().outlets(), window().clockOutlets());
     }
     void finish() override
     {
         m_display.reset();
-        m_stage.reset();
-        m_engine.reset();
+        StageCase::finish();
     }
 
     RecordingDisplay &display() { return *m_display; }
-    tarvelo::tests::RecordingWindow &window() { return m_stage->window; }
     QString partsShown()
     {
         const std::pair<QWidget *, QString> parts[] = {
@@ -322,8 +315,6 @@ private:
         m_stage->control.onSetTimeTag(&m_stage->window.btnTimeTag);
     }
 
-    std::optional<FakeAudioEngine> m_engine;
-    std::optional<RecordingStage> m_stage;
     std::optional<RecordingDisplay> m_display;
 };
 

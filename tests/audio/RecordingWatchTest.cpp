@@ -1,12 +1,10 @@
 #include "audio/RecordingWatch.h"
 
+#include "audio/StageCase.h"
 #include "audio/engine/PcmFormat.h"
 #include "audio/engine/Reserve.h"
 #include "audio/engine/TakeWriter.h"
 #include "platform/Texts.h"
-#include "support/FakeAudioEngine.h"
-#include "support/RecordingStage.h"
-#include "support/TestCase.h"
 #include "support/TestSound.h"
 
 #include <optional>
@@ -16,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 using tarvelo::audio::RecordingWatch;
 using tarvelo::engine::Reserve;
-using tarvelo::tests::FakeAudioEngine;
-using tarvelo::tests::RecordingStage;
 
 namespace {
 
@@ -37,7 +33,7 @@ QString hardlyAny(int minutes)
 
 } // namespace
 
-class RecordingWatchTest final : public tarvelo::tests::TestCase
+class RecordingWatchTest final : public tarvelo::tests::StageCase
 {
     Q_OBJECT
 
@@ -401,8 +397,7 @@ private:
     {
         m_room = 1000 * Minute;
         m_looks = 0;
-        m_engine.emplace();
-        m_stage.emplace(*m_engine);
+        StageCase::prepare();
         m_stage->window.window.hide();
         m_watch = std::make_unique<RecordingWatch>(
             m_stage->clock, m_stage->control, m_stage->window.outlets(),
@@ -416,8 +411,7 @@ private:
     void finish() override
     {
         m_watch.reset();
-        m_stage.reset();
-        m_engine.reset();
+        StageCase::finish();
     }
 
     // With a take that runs.
@@ -465,8 +459,6 @@ private:
     std::optional<qint64> m_room;
     QString m_folder;
     int m_looks = 0;
-    std::optional<FakeAudioEngine> m_engine;
-    std::optional<RecordingStage> m_stage;
     std::unique_ptr<RecordingWatch> m_watch;
 };
 

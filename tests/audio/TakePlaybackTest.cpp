@@ -1,16 +1,10 @@
-#include "support/FakeAudioEngine.h"
-#include "support/RecordingStage.h"
-#include "support/TestCase.h"
+#include "audio/StageCase.h"
 
-#include <optional>
-
-using tarvelo::tests::FakeAudioEngine;
 using tarvelo::tests::inOrder;
 using tarvelo::tests::lookOf;
-using tarvelo::tests::RecordingStage;
 
 // The finished take that waits to be saved, listened to.
-class TakePlaybackTest final : public tarvelo::tests::TestCase
+class TakePlaybackTest final : public tarvelo::tests::StageCase
 {
     Q_OBJECT
 
@@ -209,26 +203,12 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_engine.emplace();
-        m_stage.emplace(*m_engine);
-    }
-    void finish() override
-    {
-        m_stage.reset();
-        m_engine.reset();
-    }
-
     tarvelo::widgets::ImageButton &stopButton() { return m_stage->window.btnStopRecord; }
     void play()
     {
         m_stage->writeTake("a take");
         m_stage->playback.playRecordTemp(&stopButton());
     }
-
-    std::optional<FakeAudioEngine> m_engine;
-    std::optional<RecordingStage> m_stage;
 };
 
 QTEST_MAIN(TakePlaybackTest)

@@ -2,13 +2,10 @@
 
 #include "audio/engine/Recordings.h"
 #include "platform/Dates.h"
-#include "store/LectureDatabase.h"
+#include "store/DatabaseCase.h"
 #include "store/LectureJournal.h"
-#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
 #include "support/RefusedCalls.h"
-#include "support/TemporaryPlaces.h"
-#include "support/TestCase.h"
 #include "support/TestSound.h"
 
 #include <QSignalSpy>
@@ -20,7 +17,7 @@ using namespace tarvelo::audio;
 using namespace tarvelo::store;
 using namespace tarvelo::tests;
 
-class UnlistedRecordingsTest final : public TestCase
+class UnlistedRecordingsTest final : public DatabaseCase
 {
     Q_OBJECT
 
@@ -284,8 +281,7 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+        DatabaseCase::prepare();
         m_dates = std::make_unique<tarvelo::platform::Dates>(
             m_clock, tarvelo::platform::Region{"en_US", u"UTC"_s});
         m_recordings = std::make_unique<UnlistedRecordings>(
@@ -298,8 +294,7 @@ private:
     {
         m_recordings.reset();
         m_dates.reset();
-        m_database.reset();
-        m_places.reset();
+        DatabaseCase::finish();
         m_promised.clear();
     }
 
@@ -339,9 +334,6 @@ private:
 
     QByteArray m_sound;
     QByteArray m_cutOff;
-    FakeClock m_clock;
-    std::unique_ptr<TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
     std::unique_ptr<tarvelo::platform::Dates> m_dates;
     QStringList m_promised;
     std::unique_ptr<UnlistedRecordings> m_recordings;

@@ -1,19 +1,10 @@
 #include "audio/RecordingControl.h"
-
-#include "support/FakeAudioEngine.h"
-#include "support/RecordingStage.h"
-#include "support/TestCase.h"
-
-#include <optional>
+#include "audio/StageCase.h"
 
 using namespace std::chrono_literals;
 
-using tarvelo::audio::RecordingControl;
-using tarvelo::tests::FakeAudioEngine;
-using tarvelo::tests::RecordingStage;
-
 // While a take is open the computer stays awake, and not a moment longer.
-class WakefulRecordingTest final : public tarvelo::tests::TestCase
+class WakefulRecordingTest final : public tarvelo::tests::StageCase
 {
     Q_OBJECT
 
@@ -134,22 +125,7 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_engine.emplace();
-        m_stage.emplace(*m_engine);
-    }
-    void finish() override
-    {
-        m_stage.reset();
-        m_engine.reset();
-    }
-
-    RecordingControl &control() { return m_stage->control; }
     bool isAwake() const { return m_stage->sleep.isHeld; }
-
-    std::optional<FakeAudioEngine> m_engine;
-    std::optional<RecordingStage> m_stage;
 };
 
 QTEST_MAIN(WakefulRecordingTest)

@@ -1,8 +1,7 @@
 #include "store/DailyCheck.h"
 
 #include "store/DamagedDatabases.h"
-#include "support/FakeClock.h"
-#include "support/TestCase.h"
+#include "store/DatabaseCase.h"
 
 #include <memory>
 
@@ -11,7 +10,7 @@ using namespace std::chrono_literals;
 using namespace tarvelo::store;
 using namespace tarvelo::tests;
 
-class DailyCheckTest final : public TestCase
+class DailyCheckTest final : public DatabaseCase
 {
     Q_OBJECT
 
@@ -102,14 +101,12 @@ private:
     void prepare() override
     {
         m_clock.set(QDateTime(QDate(2024, 3, 5), QTime(9, 0)));
-        m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+        DatabaseCase::prepare();
     }
     void finish() override
     {
         m_check.reset();
-        m_database.reset();
-        m_places.reset();
+        DatabaseCase::finish();
     }
 
     void start(const QByteArray &content)
@@ -129,9 +126,6 @@ private:
     }
     QByteArray remembered() const { return contentOf(m_places->folder() + u"/Backups/.checked"_s); }
 
-    FakeClock m_clock;
-    std::unique_ptr<TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
     std::unique_ptr<DailyCheck> m_check;
 };
 

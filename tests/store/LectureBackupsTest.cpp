@@ -1,26 +1,22 @@
 #include "store/LectureBackups.h"
 
-#include "store/LectureDatabase.h"
+#include "store/DamagedDatabases.h"
+#include "store/DatabaseCase.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
-#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
-#include "support/TemporaryPlaces.h"
-#include "support/TestCase.h"
 
 #include <QFileInfo>
 
-#include <memory>
 #include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::store;
 using tarvelo::tests::aLecture;
-using tarvelo::tests::FakeClock;
 using tarvelo::tests::LectureBuilder;
-using tarvelo::tests::TemporaryPlaces;
+using tarvelo::tests::subjectsIn;
 
-class LectureBackupsTest final : public tarvelo::tests::TestCase
+class LectureBackupsTest final : public tarvelo::tests::DatabaseCase
 {
     Q_OBJECT
 
@@ -451,17 +447,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
-    }
-    void finish() override
-    {
-        m_database.reset();
-        m_places.reset();
-    }
-
     QString folder() const { return m_places->folder() + u"/Backups"_s; }
     qint64 roomSize() const { return QFileInfo(folder() + u"/.room"_s).size(); }
     const LectureBackups &backups() const { return m_database->backups(); }
@@ -498,14 +483,6 @@ private:
             statements::Update, {subject, QString(), QString::number(id)});
     }
 
-    static QStringList subjectsIn(Sqlite &database)
-    {
-        QStringList subjects;
-        const auto rows = database.executeQuery(u"select subject from audioData order by ID"_s);
-        for (const Row &row : rows.value_or(Rows()))
-            subjects << row.value(u"subject"_s).toString();
-        return subjects;
-    }
     // Of every lecture.
     QString everything() const
     {
@@ -516,10 +493,6 @@ private:
             lectures << row.value(u"ID"_s).toString() + u' ' + row.value(u"subject"_s).toString();
         return lectures.join(u", "_s);
     }
-
-    FakeClock m_clock;
-    std::unique_ptr<TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
 };
 
 QTEST_GUILESS_MAIN(LectureBackupsTest)

@@ -1,26 +1,21 @@
 #include "store/LectureDatabase.h"
 
+#include "store/DatabaseCase.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
-#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
 #include "support/Modes.h"
-#include "support/TemporaryPlaces.h"
-#include "support/TestCase.h"
 
 #include <QFileInfo>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::store;
 using tarvelo::tests::addUmasks;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::modeOf;
-using tarvelo::tests::TemporaryPlaces;
 using tarvelo::tests::Umask;
 
-class LectureDatabaseTest final : public tarvelo::tests::TestCase
+class LectureDatabaseTest final : public tarvelo::tests::DatabaseCase
 {
     Q_OBJECT
 
@@ -309,17 +304,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
-    }
-    void finish() override
-    {
-        m_database.reset();
-        m_places.reset();
-    }
-
     static QStringList subjects(const std::optional<Rows> &rows)
     {
         QStringList subjects;
@@ -344,10 +328,6 @@ private:
         lecture.setLectureAudioPath(path);
         return lecture;
     }
-
-    tarvelo::tests::FakeClock m_clock;
-    std::unique_ptr<TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
 };
 
 QTEST_GUILESS_MAIN(LectureDatabaseTest)

@@ -1,21 +1,15 @@
-#include "store/LectureDatabase.h"
+#include "store/DatabaseCase.h"
 #include "store/Statements.h"
-#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
-#include "support/TemporaryPlaces.h"
-#include "support/TestCase.h"
 
 #include <QFileInfo>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::store;
 using tarvelo::tests::aLecture;
-using tarvelo::tests::TemporaryPlaces;
 
 // The indexes make the two queries fast, and must be noticed in no other way.
-class LectureIndexesTest final : public tarvelo::tests::TestCase
+class LectureIndexesTest final : public tarvelo::tests::DatabaseCase
 {
     Q_OBJECT
 
@@ -150,17 +144,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
-    }
-    void finish() override
-    {
-        m_database.reset();
-        m_places.reset();
-    }
-
     static QStringList bothIndexes() { return {u"audioDataByDay"_s, u"audioDataByMonth"_s}; }
 
     // Those with a text of their own: SQLite makes another for "UNIQUE", which has none.
@@ -214,10 +197,6 @@ private:
             text += row.value(u"detail"_s).toString() + u'\n';
         return text;
     }
-
-    tarvelo::tests::FakeClock m_clock;
-    std::unique_ptr<TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
 };
 
 QTEST_GUILESS_MAIN(LectureIndexesTest)

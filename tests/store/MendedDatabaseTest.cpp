@@ -1,22 +1,19 @@
 #include "store/LectureDatabase.h"
 
 #include "store/DamagedDatabases.h"
+#include "store/DatabaseCase.h"
 #include "store/FullDisk.h"
 #include "store/LectureInfoItem.h"
 #include "store/LectureJournal.h"
 #include "store/Soundness.h"
 #include "store/Statements.h"
-#include "support/FakeClock.h"
-#include "support/TestCase.h"
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::store;
 using namespace tarvelo::tests;
 
 // What the database does with a file that is damaged.
-class MendedDatabaseTest final : public TestCase
+class MendedDatabaseTest final : public DatabaseCase
 {
     Q_OBJECT
 
@@ -208,17 +205,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
-    }
-    void finish() override
-    {
-        m_database.reset();
-        m_places.reset();
-    }
-
     bool insertLater()
     {
         return m_database->insertIntoDbwithSqlStatementWithArguments(
@@ -252,9 +238,6 @@ private:
     }
 
     QByteArray m_sound;
-    FakeClock m_clock;
-    std::unique_ptr<TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
 };
 
 QTEST_GUILESS_MAIN(MendedDatabaseTest)
