@@ -1,6 +1,6 @@
 #include "platform/HighContrast.h"
 
-#include "support/TestCase.h"
+#include "support/PaletteCase.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -9,7 +9,7 @@ using tarvelo::platform::contrastOf;
 using tarvelo::platform::isContrastHigh;
 using tarvelo::platform::readContrast;
 
-class HighContrastTest final : public tarvelo::tests::TestCase
+class HighContrastTest final : public tarvelo::tests::PaletteCase
 {
     Q_OBJECT
 
@@ -63,16 +63,6 @@ private Q_SLOTS:
 
         QVERIFY(isContrastHigh());
     }
-
-private:
-    void prepare() override { m_before = QGuiApplication::palette(); }
-    void finish() override
-    {
-        QGuiApplication::setPalette(m_before);
-        readContrast();
-    }
-
-    QPalette m_before;
 };
 
 QTEST_MAIN(HighContrastTest)

@@ -1,18 +1,15 @@
 #include "platform/MailComposer.h"
 
+#include "platform/DesktopCase.h"
+#include "support/FileContent.h"
 #include "support/HostileTexts.h"
-#include "support/PrivateBus.h"
-#include "support/StandInCommands.h"
 #include "support/StandInServices.h"
 #include "support/StderrCatcher.h"
-#include "support/TestCase.h"
 
 #include <QRandomGenerator>
 #include <QScopeGuard>
 #include <QUrl>
 #include <QUrlQuery>
-
-#include <optional>
 
 #include <sys/stat.h>
 
@@ -22,11 +19,11 @@ using tarvelo::platform::DesktopMailComposer;
 using tarvelo::platform::StyledText;
 using tarvelo::tests::addHostileTexts;
 using tarvelo::tests::hasAnythingRun;
-using tarvelo::tests::PrivateBus;
 using tarvelo::tests::StandInCommands;
 using tarvelo::tests::StandInPortal;
 using tarvelo::tests::StandInService;
 using tarvelo::tests::StderrCatcher;
+using tarvelo::tests::writeContent;
 
 using Manner = StandInService::Manner;
 
@@ -50,23 +47,22 @@ QString bodyOf(const QString &address)
 
 } // namespace
 
-class MailComposerTest final : public tarvelo::tests::TestCase
+class MailComposerTest final : public tarvelo::tests::DesktopCase
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase()
+public:
+    MailComposerTest()
+        : DesktopCase(Command)
     {
-        m_bus.emplace();
-        QVERIFY(m_bus->isRunning());
     }
-    void cleanupTestCase() { m_bus.reset(); }
 
+private Q_SLOTS:
     // -- The portal
 
     void thePortalGetsTheWordsAndNothingElseThatWasNotGiven()
     {
-        const StandInPortal portal(m_bus->address());
+        const StandInPortal portal(m_bus.address());
         QVERIFY(portal.isThere());
 
         m_composer.compose({{u"Optics"_s, QFont()}, {u"\n\nLenses"_s}}, QUrl());
@@ -78,7 +74,7 @@ private Q_SLOTS:
 
     void thePortalGetsTheFileAsADescriptor()
     {
-        const StandInPortal portal(m_bus->address());
+        const StandInPortal portal(m_bus.address());
         const QString path = writeFile(u"Audio - 1.m4a"_s, 3'000'001);
 
         m_composer.compose(words(u"Optics"_s), QUrl::fromLocalFile(path));
@@ -93,7 +89,7 @@ private Q_SLOTS:
     void hostileWordsAndNamesReachThePortalUnchanged()
     {
         QFETCH(const QString, text);
-        const StandInPortal portal(m_bus->address());
+        const StandInPortal portal(m_bus.address());
         const QString path = writeFile(text, 100);
 
         m_composer.compose(words(text), QUrl::fromLocalFile(path));
@@ -107,7 +103,7 @@ private Q_SLOTS:
 
     void thePortalIsNotWaitedFor()
     {
-        const StandInPortal portal(m_bus->address());
+        const StandInPortal portal(m_bus.address());
 
         m_composer.compose(words(u"Optics"_s), QUrl());
 
@@ -117,7 +113,7 @@ private Q_SLOTS:
 
     void aFileThatIsGoneLeavesTheWordsToThePortal()
     {
-        const StandInPortal portal(m_bus->address());
+        const StandInPortal portal(m_bus.address());
 
         m_composer.compose(words(u"Optics"_s), QUrl::fromLocalFile(inFolder(u"gone.m4a"_s)));
 
@@ -127,7 +123,7 @@ private Q_SLOTS:
 
     void whatIsNoFileIsNotAttachedAndKeepsNobodyWaiting()
     {
-        const StandInPortal portal(m_bus->address());
+        const StandInPortal portal(m_bus.address());
         const QString pipe = inFolder(u"pipe"_s);
         QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
 
@@ -155,7 +151,7 @@ private Q_SLOTS:
 
     void aPortalWithoutMailsLeavesThemToTheCommand()
     {
-        const StandInPortal portal(m_bus->address(), Manner::Refuses);
+        const StandInPortal portal(m_bus.address(), Manner::Refuses);
 
         m_composer.compose(words(u"Optics"_s), QUrl());
 
@@ -166,7 +162,7 @@ private Q_SLOTS:
 
     void aPortalThatKeepsSilentIsGivenUp()
     {
-        const StandInPortal portal(m_bus->address(), Manner::KeepsSilent);
+        const StandInPortal portal(m_bus.address(), Manner::KeepsSilent);
         DesktopMailComposer impatient(50ms);
 
         impatient.compose(words(u"Optics"_s), QUrl());
@@ -176,8 +172,8 @@ private Q_SLOTS:
 
     void aPortalThatCannotBeStartedLeavesMailsToTheCommand()
     {
-        QVERIFY(m_bus->setActivatable(PortalName, u"/bin/false"_s));
-        const auto undo = qScopeGuard([this] { m_bus->setActivatable(PortalName, QString()); });
+        QVERIFY(m_bus.setActivatable(PortalName, u"/bin/false"_s));
+        const auto undo = qScopeGuard([this] { m_bus.setActivatable(PortalName, QString()); });
 
         m_composer.compose(words(u"Optics"_s), QUrl());
 
@@ -246,7 +242,7 @@ private Q_SLOTS:
     {
         m_commands.reset();
         m_commands.emplace(QStringList(), StandInCommands::Path::NothingBehind);
-        const StandInPortal portal(m_bus->address(), Manner::Refuses);
+        const StandInPortal portal(m_bus.address(), Manner::Refuses);
         const StderrCatcher catcher;
 
         m_composer.compose(words(u"Optics"_s), QUrl());
@@ -259,19 +255,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_folder.emplace();
-        QDir::setCurrent(m_folder->path());
-        m_commands.emplace(QStringList{Command});
-    }
-    void finish() override
-    {
-        m_commands.reset();
-        QDir::setCurrent(QDir::rootPath());
-        m_folder.reset();
-    }
-
     QString inFolder(const QString &name) const { return m_folder->filePath(name); }
     // Gives the path of a new file of `size` bytes, which are in m_written.
     QString writeFile(const QString &name, qsizetype size)
@@ -279,14 +262,9 @@ private:
         m_written.resize(size);
         for (char &byte : m_written)
             byte = static_cast<char>(QRandomGenerator::global()->bounded(256));
-        QFile file(inFolder(name));
-        return file.open(QIODevice::WriteOnly) && file.write(m_written) == size ? file.fileName()
-                                                                                : QString();
+        return writeContent(inFolder(name), m_written) ? inFolder(name) : QString();
     }
 
-    std::optional<PrivateBus> m_bus;
-    std::optional<QTemporaryDir> m_folder;
-    std::optional<StandInCommands> m_commands;
     DesktopMailComposer m_composer;
     QByteArray m_written;
 };

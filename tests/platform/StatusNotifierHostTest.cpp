@@ -9,7 +9,6 @@
 #include <QTemporaryDir>
 
 #include <csignal>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 using tarvelo::platform::StatusNotifierHost;
@@ -58,13 +57,6 @@ class StatusNotifierHostTest final : public tarvelo::tests::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        m_bus = std::make_unique<PrivateBus>();
-        QVERIFY(m_bus->isRunning());
-    }
-    void cleanupTestCase() { m_bus.reset(); }
-
     void aBarThatIsThereIsToldOf()
     {
         const Bar bar;
@@ -117,7 +109,9 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<PrivateBus> m_bus;
+    void prepare() override { QVERIFY(m_bus.isRunning()); }
+
+    PrivateBus m_bus;
 };
 
 QTEST_GUILESS_MAIN(StatusNotifierHostTest)

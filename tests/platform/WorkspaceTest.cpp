@@ -1,16 +1,13 @@
 #include "platform/Workspace.h"
 
+#include "platform/DesktopCase.h"
+#include "support/FileContent.h"
 #include "support/HostileTexts.h"
 #include "support/Modes.h"
 #include "support/OrdinaryUser.h"
-#include "support/PrivateBus.h"
-#include "support/StandInCommands.h"
 #include "support/StandInPlayers.h"
 #include "support/StandInServices.h"
 #include "support/StderrCatcher.h"
-#include "support/TestCase.h"
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -19,13 +16,13 @@ using tarvelo::tests::addHostileTexts;
 using tarvelo::tests::hasAnythingRun;
 using tarvelo::tests::modeOf;
 using tarvelo::tests::OrdinaryUser;
-using tarvelo::tests::PrivateBus;
 using tarvelo::tests::setMode;
 using tarvelo::tests::StandInCommands;
 using tarvelo::tests::StandInFileManager;
 using tarvelo::tests::StandInPlayers;
 using tarvelo::tests::StandInService;
 using tarvelo::tests::StderrCatcher;
+using tarvelo::tests::writeContent;
 
 using Manner = StandInService::Manner;
 
@@ -42,23 +39,22 @@ QList<QStringList> oneCallWith(const QString &argument)
 
 } // namespace
 
-class WorkspaceTest final : public tarvelo::tests::TestCase
+class WorkspaceTest final : public tarvelo::tests::DesktopCase
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase()
+public:
+    WorkspaceTest()
+        : DesktopCase(Command)
     {
-        m_bus.emplace();
-        QVERIFY(m_bus->isRunning());
     }
-    void cleanupTestCase() { m_bus.reset(); }
 
+private Q_SLOTS:
     // -- Showing files
 
     void theFileManagerSelectsTheFiles()
     {
-        const StandInFileManager manager(m_bus->address());
+        const StandInFileManager manager(m_bus.address());
         QVERIFY(manager.isThere());
 
         m_workspace.activateFileViewerSelectingURLs(
@@ -73,7 +69,7 @@ private Q_SLOTS:
 
     void theFileManagerIsNotWaitedFor()
     {
-        const StandInFileManager manager(m_bus->address());
+        const StandInFileManager manager(m_bus.address());
 
         m_workspace.activateFileViewerSelectingURLs({QUrl(u"file:///music/1.m4a"_s)});
 
@@ -83,7 +79,7 @@ private Q_SLOTS:
 
     void aDoubledSlashIsOneForTheFileManager()
     {
-        const StandInFileManager manager(m_bus->address());
+        const StandInFileManager manager(m_bus.address());
 
         m_workspace.activateFileViewerSelectingURLs(
             {QUrl::fromLocalFile(u"/home/Audio//Audio - 1.m4a"_s)});
@@ -97,7 +93,7 @@ private Q_SLOTS:
     void hostileNamesReachTheFileManagerUnchanged()
     {
         QFETCH(const QString, text);
-        const StandInFileManager manager(m_bus->address());
+        const StandInFileManager manager(m_bus.address());
         const QString path = writeFile(text);
 
         m_workspace.activateFileViewerSelectingURLs({QUrl::fromLocalFile(path)});
@@ -147,7 +143,7 @@ private Q_SLOTS:
 
     void aFileManagerThatRefusesLeavesTheFolder()
     {
-        const StandInFileManager manager(m_bus->address(), Manner::Refuses);
+        const StandInFileManager manager(m_bus.address(), Manner::Refuses);
 
         m_workspace.activateFileViewerSelectingURLs({QUrl(u"file:///music/1.m4a"_s)});
 
@@ -156,7 +152,7 @@ private Q_SLOTS:
 
     void aFileManagerThatKeepsSilentIsGivenUp()
     {
-        const StandInFileManager manager(m_bus->address(), Manner::KeepsSilent);
+        const StandInFileManager manager(m_bus.address(), Manner::KeepsSilent);
         DesktopWorkspace impatient(50ms);
 
         impatient.activateFileViewerSelectingURLs({QUrl(u"file:///music/1.m4a"_s)});
@@ -166,7 +162,7 @@ private Q_SLOTS:
 
     void whatIsNoFileIsNotShown()
     {
-        const StandInFileManager manager(m_bus->address());
+        const StandInFileManager manager(m_bus.address());
 
         m_workspace.activateFileViewerSelectingURLs({});
         m_workspace.activateFileViewerSelectingURLs({QUrl::fromLocalFile(QString())});
@@ -215,7 +211,7 @@ private Q_SLOTS:
 
     void aFileThatCannotBeReadIsShownAllTheSame()
     {
-        const StandInFileManager manager(m_bus->address());
+        const StandInFileManager manager(m_bus.address());
         const QString path = writeFile(u"Audio - 1.m4a"_s);
         QVERIFY(setMode(path, 0000));
         const OrdinaryUser user;
@@ -326,19 +322,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_folder.emplace();
-        QDir::setCurrent(m_folder->path());
-        m_commands.emplace(QStringList{Command});
-    }
-    void finish() override
-    {
-        m_commands.reset();
-        QDir::setCurrent(QDir::rootPath());
-        m_folder.reset();
-    }
-
     // The beginning of an MPEG-4 file of the given brand.
     static QByteArray fileType(const char *brand)
     {
@@ -350,15 +333,10 @@ private:
     // Gives the path of the new file.
     QString writeFile(const QString &name, const QByteArray &content = "sound")
     {
-        QFile file(m_folder->filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
-                   ? file.fileName()
-                   : QString();
+        const QString path = m_folder->filePath(name);
+        return writeContent(path, content) ? path : QString();
     }
 
-    std::optional<PrivateBus> m_bus;
-    std::optional<QTemporaryDir> m_folder;
-    std::optional<StandInCommands> m_commands;
     DesktopWorkspace m_workspace;
 };
 

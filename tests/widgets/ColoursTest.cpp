@@ -1,7 +1,7 @@
 #include "widgets/Colours.h"
 
 #include "platform/HighContrast.h"
-#include "support/TestCase.h"
+#include "support/PaletteCase.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -13,7 +13,7 @@ using tarvelo::widgets::Colours;
 using tarvelo::widgets::colours;
 using tarvelo::widgets::setColour;
 
-class ColoursTest final : public tarvelo::tests::TestCase
+class ColoursTest final : public tarvelo::tests::PaletteCase
 {
     Q_OBJECT
 
@@ -60,16 +60,6 @@ private Q_SLOTS:
         QCOMPARE(view.palette().color(QPalette::WindowText), QColor(Qt::blue));
         QCOMPARE(view.palette().color(QPalette::Window), QColor(Qt::green));
     }
-
-private:
-    void prepare() override { m_before = QGuiApplication::palette(); }
-    void finish() override
-    {
-        QGuiApplication::setPalette(m_before);
-        readContrast();
-    }
-
-    QPalette m_before;
 };
 
 QTEST_MAIN(ColoursTest)
