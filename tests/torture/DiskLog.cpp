@@ -5,16 +5,15 @@
 // A record is a line "operation seconds offset length length-of-path length-of-other-path", then
 // the path, the other path, and `length` bytes where the operation is "write".
 
+#include "torture/Aliases.h"
 #include "torture/Layer.h"
 
 #include <cerrno>
-#include <cstdarg>
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
 #include <fcntl.h>
 #include <mutex>
-#include <sys/sendfile.h>
 #include <sys/syscall.h>
 #include <sys/uio.h>
 #include <vector>
@@ -72,6 +71,27 @@ auto noted(bool isOurs, Do act, auto tell)
     return result;
 }
 
+int syncWith(const char *function, int file)
+{
+    const auto next = real<int(int)>(function);
+    const std::string path = pathOf(file);
+    return noted(
+        isOurs(path.c_str()), [&] { return next(file); }, [&](int) { note("sync", path); });
+}
+
+// What has come to stand between two places of a file in another way than by writing.
+void noteContent(int file, const std::string &path, off64_t from, ssize_t size)
+{
+    std::vector<char> content(static_cast<std::size_t>(size));
+    const std::string name = "/proc/self/fd/" + std::to_string(file);
+    const int reading = static_cast<int>(::syscall(SYS_open, name.c_str(), O_RDONLY | O_CLOEXEC));
+    static_cast<void>(::pread64(reading, content.data(), content.size(), from));
+    ::syscall(SYS_close, reading);
+    note("write", path, {}, from, content.size(), content.data());
+}
+
+} // namespace
+
 int openAt(int folder, const char *path, int flags, mode_t mode)
 {
     static auto *const next = real<int(int, const char *, int, ...)>("openat");
@@ -101,6 +121,15 @@ ssize_t writeAt(int file, const void *data, std::size_t size, off64_t offset)
         });
 }
 
+ssize_t copyTo(int to, int from, off64_t *offset, size_t size)
+{
+    static auto *const next = real<ssize_t(int, int, off64_t *, size_t)>("sendfile64");
+    const std::string path = pathOf(to);
+    return noted(
+        isOurs(path.c_str()), [&] { return next(to, from, offset, size); },
+        [&](ssize_t done) { noteContent(to, path, ::lseek64(to, 0, SEEK_CUR) - done, done); });
+}
+
 int truncateTo(int file, off64_t size)
 {
     static auto *const next = real<int(int, off64_t)>("ftruncate64");
@@ -110,64 +139,19 @@ int truncateTo(int file, off64_t size)
         [&](int) { note("truncate", path, {}, size); });
 }
 
-int syncWith(const char *function, int file)
+int allocateAt(int file, off64_t offset, off64_t size)
 {
-    const auto next = real<int(int)>(function);
+    static auto *const next = real<int(int, off_t, off_t)>("posix_fallocate");
     const std::string path = pathOf(file);
     return noted(
-        isOurs(path.c_str()), [&] { return next(file); }, [&](int) { note("sync", path); });
+        isOurs(path.c_str()), [&] { return next(file, offset, size); },
+        [&](int error) {
+            if (error == 0)
+                note("allocate", path, {}, offset + size);
+        });
 }
-
-// What has come to stand between two places of a file in another way than by writing.
-void noteContent(int file, const std::string &path, off64_t from, ssize_t size)
-{
-    std::vector<char> content(static_cast<std::size_t>(size));
-    const std::string name = "/proc/self/fd/" + std::to_string(file);
-    const int reading = static_cast<int>(::syscall(SYS_open, name.c_str(), O_RDONLY | O_CLOEXEC));
-    static_cast<void>(::pread64(reading, content.data(), content.size(), from));
-    ::syscall(SYS_close, reading);
-    note("write", path, {}, from, content.size(), content.data());
-}
-
-} // namespace
 
 extern "C" {
-
-int open(const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = va_arg(rest, mode_t);
-    va_end(rest);
-    return openAt(AT_FDCWD, path, flags, mode);
-}
-
-int open64(const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = va_arg(rest, mode_t);
-    va_end(rest);
-    return openAt(AT_FDCWD, path, flags, mode);
-}
-
-int openat(int folder, const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = va_arg(rest, mode_t);
-    va_end(rest);
-    return openAt(folder, path, flags, mode);
-}
-
-int openat64(int folder, const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = va_arg(rest, mode_t);
-    va_end(rest);
-    return openAt(folder, path, flags, mode);
-}
 
 ssize_t write(int file, const void *data, size_t size)
 {
@@ -181,26 +165,6 @@ ssize_t write(int file, const void *data, size_t size)
         });
 }
 
-ssize_t pwrite(int file, const void *data, size_t size, off_t offset)
-{
-    return writeAt(file, data, size, offset);
-}
-
-ssize_t pwrite64(int file, const void *data, size_t size, off64_t offset)
-{
-    return writeAt(file, data, size, offset);
-}
-
-int ftruncate(int file, off_t size) noexcept
-{
-    return truncateTo(file, size);
-}
-
-int ftruncate64(int file, off64_t size) noexcept
-{
-    return truncateTo(file, size);
-}
-
 int fsync(int file)
 {
     return syncWith("fsync", file);
@@ -211,41 +175,10 @@ int fdatasync(int file)
     return syncWith("fdatasync", file);
 }
 
-int posix_fallocate(int file, off_t offset, off_t size)
-{
-    static auto *const next = real<int(int, off_t, off_t)>("posix_fallocate");
-    const std::string path = pathOf(file);
-    return noted(
-        isOurs(path.c_str()), [&] { return next(file, offset, size); },
-        [&](int error) {
-            if (error == 0)
-                note("allocate", path, {}, offset + size);
-        });
-}
-
-int posix_fallocate64(int file, off64_t offset, off64_t size)
-{
-    return posix_fallocate(file, offset, size);
-}
-
 int fallocate64(int, int, off64_t, off64_t)
 {
     errno = EOPNOTSUPP;
     return -1;
-}
-
-ssize_t sendfile64(int to, int from, off64_t *offset, size_t size) noexcept
-{
-    static auto *const next = real<ssize_t(int, int, off64_t *, size_t)>("sendfile64");
-    const std::string path = pathOf(to);
-    return noted(
-        isOurs(path.c_str()), [&] { return next(to, from, offset, size); },
-        [&](ssize_t done) { noteContent(to, path, ::lseek64(to, 0, SEEK_CUR) - done, done); });
-}
-
-ssize_t sendfile(int to, int from, off_t *offset, size_t size) noexcept
-{
-    return sendfile64(to, from, offset, size);
 }
 
 int rename(const char *from, const char *to) noexcept

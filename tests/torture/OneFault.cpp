@@ -8,14 +8,13 @@
 // that file has a line for each kind: its name, and how many calls there were; and one that tells
 // of which calls for memory none before came from the same place.
 
+#include "torture/Aliases.h"
 #include "torture/Faults.h"
 #include "torture/Layer.h"
 
 #include <cerrno>
-#include <cstdarg>
 #include <dirent.h>
 #include <fcntl.h>
-#include <sys/sendfile.h>
 
 namespace tarvelo::torture {
 
@@ -36,14 +35,6 @@ bool isOurFile(int descriptor)
     const bool is = isOurs(pathOf(descriptor).c_str());
     errno = before;
     return is;
-}
-
-int openAt(int folder, const char *path, int flags, mode_t mode)
-{
-    static auto *const next = real<int(int, const char *, int, ...)>("openat");
-    if (isCounting() && isOurs(whole(folder, path).c_str()) && strikes("open"))
-        return failure<int>();
-    return next(folder, path, flags, mode);
 }
 
 // Only what would have been written to a file is held back.
@@ -71,67 +62,46 @@ Entry *nextOf(DIR *folder, const char *function)
     return real<Entry *(DIR *)>(function)(folder);
 }
 
+} // namespace
+
+int openAt(int folder, const char *path, int flags, mode_t mode)
+{
+    static auto *const next = real<int(int, const char *, int, ...)>("openat");
+    if (isCounting() && isOurs(whole(folder, path).c_str()) && strikes("open"))
+        return failure<int>();
+    return next(folder, path, flags, mode);
+}
+
+ssize_t writeAt(int file, const void *data, size_t size, off64_t offset)
+{
+    static auto *const next = real<ssize_t(int, const void *, size_t, off64_t)>("pwrite64");
+    return writes(file, size, [&](size_t length) { return next(file, data, length, offset); });
+}
+
+ssize_t copyTo(int to, int from, off64_t *offset, size_t size)
+{
+    static auto *const next = real<ssize_t(int, int, off64_t *, size_t)>("sendfile64");
+    return writes(to, size, [&](size_t length) { return next(to, from, offset, length); });
+}
+
 int truncateTo(int file, off64_t size)
 {
     static auto *const next = real<int(int, off64_t)>("ftruncate64");
     return isOurFile(file) && strikes("truncate") ? failure<int>() : next(file, size);
 }
 
-} // namespace
+int allocateAt(int file, off64_t offset, off64_t size)
+{
+    static auto *const next = real<int(int, off_t, off_t)>("posix_fallocate");
+    return isOurFile(file) && strikes("truncate") ? fault().error : next(file, offset, size);
+}
 
 extern "C" {
-
-int open(const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = va_arg(rest, mode_t);
-    va_end(rest);
-    return openAt(AT_FDCWD, path, flags, mode);
-}
-
-int open64(const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = va_arg(rest, mode_t);
-    va_end(rest);
-    return openAt(AT_FDCWD, path, flags, mode);
-}
-
-int openat(int folder, const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = va_arg(rest, mode_t);
-    va_end(rest);
-    return openAt(folder, path, flags, mode);
-}
-
-int openat64(int folder, const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = va_arg(rest, mode_t);
-    va_end(rest);
-    return openAt(folder, path, flags, mode);
-}
 
 ssize_t write(int file, const void *data, size_t size)
 {
     static auto *const next = real<ssize_t(int, const void *, size_t)>("write");
     return writes(file, size, [&](size_t length) { return next(file, data, length); });
-}
-
-ssize_t pwrite64(int file, const void *data, size_t size, off64_t offset)
-{
-    static auto *const next = real<ssize_t(int, const void *, size_t, off64_t)>("pwrite64");
-    return writes(file, size, [&](size_t length) { return next(file, data, length, offset); });
-}
-
-ssize_t pwrite(int file, const void *data, size_t size, off_t offset)
-{
-    return pwrite64(file, data, size, offset);
 }
 
 ssize_t read(int file, void *data, size_t size)
@@ -169,38 +139,6 @@ dirent *readdir(DIR *folder)
 dirent64 *readdir64(DIR *folder)
 {
     return nextOf<dirent64>(folder, "readdir64");
-}
-
-ssize_t sendfile64(int to, int from, off64_t *offset, size_t size) noexcept
-{
-    static auto *const next = real<ssize_t(int, int, off64_t *, size_t)>("sendfile64");
-    return writes(to, size, [&](size_t length) { return next(to, from, offset, length); });
-}
-
-ssize_t sendfile(int to, int from, off_t *offset, size_t size) noexcept
-{
-    return sendfile64(to, from, offset, size);
-}
-
-int ftruncate(int file, off_t size) noexcept
-{
-    return truncateTo(file, size);
-}
-
-int ftruncate64(int file, off64_t size) noexcept
-{
-    return truncateTo(file, size);
-}
-
-int posix_fallocate(int file, off_t offset, off_t size)
-{
-    static auto *const next = real<int(int, off_t, off_t)>("posix_fallocate");
-    return isOurFile(file) && strikes("truncate") ? fault().error : next(file, offset, size);
-}
-
-int posix_fallocate64(int file, off64_t offset, off64_t size)
-{
-    return posix_fallocate(file, offset, size);
 }
 
 int fsync(int file)
