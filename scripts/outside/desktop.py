@@ -6,7 +6,7 @@ import subprocess
 import tempfile
 import time
 
-from .waiting import Children, wait_for
+from .waiting import Children, Entered, wait_for
 
 SCREEN = "1440x900x24"
 EVENING = 21  # o'clock: what begins later may end on another day
@@ -18,7 +18,7 @@ def zone():
     return MORNING_ZONE if time.gmtime().tm_hour >= EVENING else "UTC"
 
 
-class Desktop:
+class Desktop(Entered):
     """Within it, os.environ is the environment of a fresh user who sits before a virtual screen."""
 
     def __init__(self, folder, *of_screen):
@@ -31,18 +31,13 @@ class Desktop:
         self._runtime = tempfile.mkdtemp(prefix="tarvelo-")
         self._before = dict(os.environ)
 
-    def __enter__(self):
-        try:
-            self._set_environment()
-            self._start_screen()
-            self._start_bus()
-            self._start_window_manager()
-        except BaseException:
-            self.__exit__()
-            raise
-        return self
+    def enter(self):
+        self._set_environment()
+        self._start_screen()
+        self._start_bus()
+        self._start_window_manager()
 
-    def __exit__(self, *_):
+    def leave(self):
         self._children.stop()
         shutil.rmtree(self._runtime, ignore_errors=True)
         os.environ.clear()

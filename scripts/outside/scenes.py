@@ -2,11 +2,10 @@
 
 import datetime
 import os
-import sqlite3
 import subprocess
 import tempfile
 
-from . import names, sound
+from . import home, names, sound
 from .hands import Atspi, Hands
 from .program import Program
 from .waiting import wait_for
@@ -19,8 +18,6 @@ WHITE_CORNERS = ("-bordercolor", "black", "-border", "1", "-fuzz", "25%", "-fill
                  "-fuzz", "0", "-shave", "1x1")
 # Where nothing is that the mouse could be on.
 OUTSIDE = ("2900", "1450")
-TABLE = """CREATE TABLE audioData (ID INTEGER PRIMARY KEY, subject TEXT, course TEXT, notes TEXT, recordingDate DATETIME,
-           lectureStartTime TEXT, lectureEndTime TEXT, audioFileFullPath TEXT, recordDuration TEXT)"""
 OPTICS = ("Geometric optics", "Lenses bend light. Ask about Fermat.\n\n00:12:40\nSnell: n1 sin a = n2 sin b\n\n"
           "00:31:05\nTotal reflection, fibres\n\n01:02:18\nWorksheet 5, due Monday", 5232)
 TODAY = [("History of science", "Kepler and the ellipse", 2691),
@@ -75,20 +72,15 @@ class Scenes:
     # -- The month
 
     def _fill(self, today):
-        home = os.path.join(self._desktop.data, "Tarvelo")
-        os.makedirs(os.path.join(home, "Audio"))
-        self._long = os.path.join(home, "Audio", "Audio - optics.m4a")
-        subprocess.run(["ffmpeg", "-nostdin", "-v", "error", "-f", "lavfi", "-i",
-                        f"sine=frequency=220:sample_rate=16000:duration={OPTICS[2]}", "-c:a", "aac", "-b:a", "16k",
-                        self._long], check=True)
-        database = sqlite3.connect(os.path.join(home, "TarveloInfo.db"))
-        database.execute(TABLE)
+        self._long = home.recording(self._desktop.data, "Audio - optics.m4a")
         days = [(today.replace(day=day), EARLIER.get(today.replace(day=day).weekday(), [])) for day in range(1, today.day)]
-        for day, lectures in [*days, (today, TODAY)]:
-            for subject, notes, seconds in lectures:
-                self._add(database, day, subject, notes, seconds)
-        database.commit()
-        database.close()
+        with home.made(self._desktop.data) as database:
+            subprocess.run(["ffmpeg", "-nostdin", "-v", "error", "-f", "lavfi", "-i",
+                            f"sine=frequency=220:sample_rate=16000:duration={OPTICS[2]}", "-c:a", "aac", "-b:a", "16k",
+                            self._long], check=True)
+            for day, lectures in [*days, (today, TODAY)]:
+                for subject, notes, seconds in lectures:
+                    self._add(database, day, subject, notes, seconds)
 
     def _add(self, database, day, subject, notes, seconds):
         length = str(datetime.timedelta(seconds=seconds)).zfill(8)

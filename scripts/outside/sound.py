@@ -6,7 +6,7 @@ import subprocess
 
 import numpy
 
-from .waiting import Children, Failed, wait_for
+from .waiting import Children, Entered, Failed, wait_for
 
 RATE = 44100
 CONFIGURATION = """\
@@ -19,7 +19,7 @@ set-default-source microphone
 """
 
 
-class SoundServer:
+class SoundServer(Entered):
     """Starts in the environment that stands then, and puts its own address into it."""
 
     def __init__(self):
@@ -27,7 +27,7 @@ class SoundServer:
         self._children = Children()
         self._folder = os.environ["XDG_RUNTIME_DIR"]
 
-    def __enter__(self):
+    def enter(self):
         socket = os.path.join(self._folder, "sound")
         script = os.path.join(self._folder, "sound.pa")
         with open(script, "w", encoding="utf-8") as file:
@@ -38,15 +38,10 @@ class SoundServer:
         self.process = self._children.start(
             "pulseaudio", "-n", "-F", script, "--daemonize=no", "--system=no", "--use-pid-file=no",
             "--exit-idle-time=-1", "--disable-shm=yes", "--realtime=no", "--high-priority=no")
-        try:
-            wait_for("the sound server", self._is_ready)
-            self._keep_awake()
-        except BaseException:
-            self.__exit__()
-            raise
-        return self
+        wait_for("the sound server", self._is_ready)
+        self._keep_awake()
 
-    def __exit__(self, *_):
+    def leave(self):
         self._children.stop()
 
     @staticmethod

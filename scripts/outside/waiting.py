@@ -25,6 +25,21 @@ def wait_for(what, ask, seconds=30):
         time.sleep(0.05)  # the pause between two questions, not a guess at how long something takes
 
 
+class Entered:
+    """Used within a `with`: `enter` begins it, `leave` ends it, also when it has begun in part only."""
+
+    def __enter__(self):
+        try:
+            self.enter()
+        except BaseException:
+            self.leave()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        self.leave()
+
+
 def _die_with_parent():
     LIBC.prctl(PR_SET_PDEATHSIG, signal.SIGTERM)
 

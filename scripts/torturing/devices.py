@@ -28,7 +28,7 @@ class Microphone(sound.SoundServer):
     def kill(self):
         self.process.kill()
         self.process.wait()
-        self.__exit__()
+        self.leave()
 
     def restart(self):
         self.__enter__()

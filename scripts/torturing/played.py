@@ -7,7 +7,7 @@ import threading
 import numpy
 
 from outside.sound import RATE
-from outside.waiting import Children, Failed, wait_for
+from outside.waiting import Children, Entered, Failed, wait_for
 
 SECONDS = 60  # then it begins anew
 BLOCK = 4096  # samples that are compared at a time, 93 ms
@@ -26,7 +26,7 @@ def murmur(random):
     return (sound / numpy.abs(sound).max() * 0.9).astype(numpy.float32)
 
 
-class Played:
+class Played(Entered):
     """Plays a murmur into the microphone as long as it lives, and has a witness listen at the microphone too.
 
     Takes are compared with what the witness heard, so that a player which stumbles on a busy machine is no matter."""
@@ -36,15 +36,14 @@ class Played:
         self._path = os.path.join(folder, "witness.raw")
         self._children = Children()
 
-    def __enter__(self):
+    def enter(self):
         speaker = self._children.start("pacat", "--playback", "-d", "mic", "--latency-msec=500", *SHAPE, stdin=subprocess.PIPE)
         threading.Thread(target=self._speak, args=(speaker.stdin,), daemon=True).start()
         with open(self._path, "wb") as heard:
             self._children.start("pacat", "--record", "-d", "microphone", "--latency-msec=20", *SHAPE, stdout=heard)
         wait_for("the murmur in the microphone", lambda: os.path.getsize(self._path) > 4 * RATE)
-        return self
 
-    def __exit__(self, *_):
+    def leave(self):
         self._children.stop()
 
     def now(self):

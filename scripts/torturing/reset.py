@@ -14,15 +14,13 @@ from outside.waiting import Failed, wait_for
 from . import stored
 from .result import Result
 from .sitting import BRING_BACK, SHEET, open_bring_back_sheet
+from .works import FAILING_INSERT, FAILING_UPDATE
 
 EVENT = "the table reset, a delete that takes several rows"
 PROMISE = "nothing: the copy in `Backups/` brings every row back"
 COLUMNS = ("subject", "course", "notes", "recordingDate", "lectureStartTime", "lectureEndTime", "audioFileFullPath", "recordDuration")
 TABLE = f"CREATE TABLE audioData (ID INTEGER PRIMARY KEY, {', '.join(f'{column} TEXT' for column in COLUMNS)})"
 INSERT = f"INSERT INTO audioData ({', '.join(COLUMNS)}) VALUES (?,?,?,?,?,?,?,?)"
-# Something that only the very next statement runs into, and that goes with the table.
-FAILING_INSERT = "CREATE TRIGGER failure BEFORE INSERT ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
-FAILING_UPDATE = "CREATE TRIGGER failure BEFORE UPDATE ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
 
 NEWCOMER = "Newcomer"
 

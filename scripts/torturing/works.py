@@ -4,6 +4,7 @@ import dataclasses
 
 OPTICS, WAVES, ALGEBRA, LIGHT, KEPLER, NEWTON = "Optics", "Waves", "Algebra", "Light", "Kepler", "Newton"
 RECORDED = (f"record:{OPTICS}:1", f"record:{WAVES}:1")
+# Something that only the very next statement runs into, and that goes with the table.
 FAILING_INSERT = "CREATE TRIGGER failure BEFORE INSERT ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"
 FAILING_NO_MORE = "DROP TRIGGER IF EXISTS failure"
 FAILING_UPDATE = "CREATE TRIGGER failure BEFORE UPDATE ON audioData BEGIN SELECT RAISE(ABORT, 'no'); END"

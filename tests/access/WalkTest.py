@@ -2,23 +2,19 @@
 
 import datetime
 import os
-import sqlite3
 import subprocess
 import sys
-import tempfile
 import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
 
 from checker import faults, focused, unreached  # noqa: E402  (beside this file)
-from outside import names, sound  # noqa: E402  (found by the path set above)
-from outside.desktop import Desktop  # noqa: E402
+from outside import home, names  # noqa: E402  (found by the path set above)
+from outside.case import SoundTest  # noqa: E402
 from outside.waiting import wait_for  # noqa: E402
 
 PROGRAM = os.path.abspath(sys.argv.pop(1))
-TABLE = """CREATE TABLE audioData (ID INTEGER PRIMARY KEY, subject TEXT, course TEXT, notes TEXT, recordingDate DATETIME,
-           lectureStartTime TEXT, lectureEndTime TEXT, audioFileFullPath TEXT, recordDuration TEXT)"""
 MOST_STOPS = 60
 
 
@@ -26,42 +22,28 @@ def keys(*pressed):
     subprocess.run(["xdotool", "key", *pressed], check=True, stdin=subprocess.DEVNULL)
 
 
-class WalkTest(unittest.TestCase):
+class WalkTest(SoundTest):
     maxDiff = None
 
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.desktop = Desktop(folder.name)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
-        server = sound.SoundServer()
-        server.__enter__()
-        self.addCleanup(server.__exit__)
+        super().setUp()
         self.add_lectures()
         self.start()
 
     def add_lectures(self):
         """Two that can be heard, and one that cannot."""
-        home = os.path.join(self.desktop.data, "Tarvelo")
-        os.makedirs(os.path.join(home, "Audio"))
-        database = sqlite3.connect(os.path.join(home, "TarveloInfo.db"))
-        database.execute(TABLE)
-        for number, subject in enumerate(("Silence", "Optics", "Waves")):
-            path = f"{home}/Audio//Audio - {number}.m4a"
-            subprocess.run(["ffmpeg", "-nostdin", "-v", "error", "-f", "lavfi", "-i", "sine=frequency=300:duration=60",
-                            "-c:a", "aac", path], check=True)
-            database.execute("INSERT INTO audioData VALUES (?, ?, 'test course', ?, ?, '10.00 AM', '11.30 AM', ?, '00:01:00')",
-                             (number, subject, "Notes", datetime.date.today().isoformat(), path if number else ""))
-        database.commit()
-        database.close()
+        with home.made(self.desktop.data) as database:
+            for number, subject in enumerate(("Silence", "Optics", "Waves")):
+                path = home.recording(self.desktop.data, f"Audio - {number}.m4a")
+                subprocess.run(["ffmpeg", "-nostdin", "-v", "error", "-f", "lavfi", "-i", "sine=frequency=300:duration=60",
+                                "-c:a", "aac", path], check=True)
+                database.execute("INSERT INTO audioData VALUES (?, ?, 'test course', ?, ?, '10.00 AM', '11.30 AM', ?, '00:01:00')",
+                                 (number, subject, "Notes", datetime.date.today().isoformat(), path if number else ""))
 
     def start(self):
         from listener import Listener  # finds its bus in the environment, which stands only now
-        from outside.program import Program
 
-        self.program = Program(PROGRAM, self.desktop)
-        self.addCleanup(self.program.stop)
+        self.program = self.new_program(PROGRAM)
         self.program.start("first")
         self.ears = Listener(names.APPLICATION)
         self.program.hands.row(names.MAIN_WINDOW, names.LECTURES, "Waves")

@@ -4,29 +4,21 @@ import os
 import signal
 import subprocess
 import sys
-import tempfile
 import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
 
-from outside import names, sound  # noqa: E402  (found by the path set above)
-from outside.desktop import Desktop  # noqa: E402
+from outside import names  # noqa: E402  (found by the path set above)
+from outside.case import SoundTest  # noqa: E402
 from outside.waiting import Children  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
 
 
-class AwakeTest(unittest.TestCase):
+class AwakeTest(SoundTest):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.desktop = Desktop(folder.name)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
-        server = sound.SoundServer()
-        server.__enter__()
-        self.addCleanup(server.__exit__)
+        super().setUp()
         self.children = Children()
         self.addCleanup(self.children.stop)
         self.start_system()
@@ -44,10 +36,7 @@ class AwakeTest(unittest.TestCase):
         self.assertEqual(self.login.stdout.readline().strip(), line)
 
     def test_a_recording_and_its_end(self):
-        from outside.program import Program  # finds its bus in the environment, which stands only now
-
-        program = Program(PROGRAM, self.desktop)
-        self.addCleanup(program.stop)
+        program = self.new_program(PROGRAM)
         program.start("first")
         hands, window = program.hands, names.NEW_LECTURE_WINDOW
         hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)

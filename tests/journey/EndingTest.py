@@ -4,21 +4,17 @@ import os
 import signal
 import subprocess
 import sys
-import tempfile
 import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
 
 from outside import names, sound  # noqa: E402  (found by the path set above)
-from outside.desktop import Desktop  # noqa: E402
+from outside.case import SentenceTest  # noqa: E402
 from outside.waiting import wait_for  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
 SESSION_MANAGER = sys.argv.pop(1)
-SENTENCE = "Whatever happens now, this sentence must not be lost."
-# What the coder costs is below this.
-HEARD = 0.98
 # In samples: what the sound server had heard and not yet handed on when the program ended.
 ON_ITS_WAY = sound.RATE // 5
 MOVIE_BOXES = ("ftyp", "moov", "mdat", "free")
@@ -56,32 +52,16 @@ def boxes(path):
     return found
 
 
-class EndingTest(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.desktop = Desktop(folder.name)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
-        server = sound.SoundServer()
-        server.__enter__()
-        self.addCleanup(server.__exit__)
-        self.server = server
-        self.sentence = os.path.join(folder.name, "sentence.wav")
-        sound.write_speech(SENTENCE, self.sentence)
-
+class EndingTest(SentenceTest):
     def record(self):
         """Starts the program and a recording, in which the sentence is spoken."""
-        from outside.program import Program  # finds its bus in the environment, which stands only now
-
-        self.program = Program(PROGRAM, self.desktop)
-        self.addCleanup(self.program.stop)
+        self.program = self.new_program(PROGRAM)
         self.program.start("first")
         hands = self.program.hands
         hands.click(names.MAIN_WINDOW, names.NEW_LECTURE)
         hands.click(names.NEW_LECTURE_WINDOW, names.START_RECORDING)
         hands.control(names.NEW_LECTURE_WINDOW, names.PAUSE)
-        self.server.speak(self.sentence)
+        self.speak()
 
     def take(self):
         folder = os.path.join(self.desktop.data, "Tarvelo")
@@ -91,9 +71,7 @@ class EndingTest(unittest.TestCase):
         return takes[0]
 
     def expect_sentence(self):
-        spoken = sound.samples(self.sentence)[:-ON_ITS_WAY]
-        agreement, _ = sound.correlation(sound.samples(self.take()), spoken)
-        self.assertGreater(agreement, HEARD)
+        self.expect_heard(self.take(), lost=ON_ITS_WAY)
 
     def expect_closed_file(self):
         self.assertLessEqual(set(boxes(self.take())), set(MOVIE_BOXES))
@@ -121,7 +99,7 @@ class EndingTest(unittest.TestCase):
         manager.expect("cancelled")
         self.program.hands.window(names.RECORDING_ON_PROCESS)
         self.assertTrue(self.program.is_running())
-        self.server.speak(self.sentence)
+        self.speak()
         self.program.send(signal.SIGTERM)
         self.program.expect_end()
         self.expect_sentence()

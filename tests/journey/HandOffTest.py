@@ -3,18 +3,16 @@
 import datetime
 import json
 import os
-import sqlite3
 import subprocess
 import sys
-import tempfile
 import unittest
 import urllib.parse
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
 
-from outside import names  # noqa: E402  (found by the path set above)
-from outside.desktop import Desktop  # noqa: E402
+from outside import home, names  # noqa: E402  (found by the path set above)
+from outside.case import DesktopTest  # noqa: E402
 from outside.waiting import wait_for  # noqa: E402
 
 PROGRAM = os.path.abspath(sys.argv.pop(1))
@@ -23,36 +21,22 @@ SUBJECT = 'Optics: "it\'s" $(touch Ran)'
 NOTES = "--help\n$(touch RAN); 'touch' \"RAN\" `touch RAN`\n\\cos x, 100 % 📚 عربي"
 NAME = "Audio - 1 $(touch RAN) 'it'.m4a"
 SOUND = bytes(range(256)) * 4099
-TABLE = """CREATE TABLE audioData (ID INTEGER PRIMARY KEY, subject TEXT, course TEXT, notes TEXT, recordingDate DATETIME,
-           lectureStartTime TEXT, lectureEndTime TEXT, audioFileFullPath TEXT, recordDuration TEXT)"""
 
 
-class HandOffTest(unittest.TestCase):
+class HandOffTest(DesktopTest):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.folder = folder.name
-        self.desktop = Desktop(folder.name)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
+        super().setUp()
         self.addCleanup(os.chdir, os.getcwd())
         os.chdir(self.folder)  # what runs by mistake leaves its mark here
-        self.home = os.path.join(self.desktop.data, "Tarvelo")
         self.add_lecture()
         self.start_services()
 
     def add_lecture(self):
-        """As the program stores one: with two slashes before the file's name."""
-        os.makedirs(os.path.join(self.home, "Audio"))
-        path = f"{self.home}/Audio//{NAME}"
-        with open(path, "wb") as file:
+        path = home.recording(self.desktop.data, NAME)
+        with home.made(self.desktop.data) as database, open(path, "wb") as file:
             file.write(SOUND)
-        database = sqlite3.connect(os.path.join(self.home, "TarveloInfo.db"))
-        database.execute(TABLE)
-        database.execute("INSERT INTO audioData VALUES (1, ?, 'test course', ?, ?, '10.00 AM', '11.30 AM', ?, '00:45:00')",
-                         (SUBJECT, NOTES, datetime.date.today().isoformat(), path))
-        database.commit()
-        database.close()
+            database.execute("INSERT INTO audioData VALUES (1, ?, 'test course', ?, ?, '10.00 AM', '11.30 AM', ?, '00:45:00')",
+                             (SUBJECT, NOTES, datetime.date.today().isoformat(), path))
 
     def start_services(self):
         self.records = os.path.join(self.folder, "records")
@@ -79,11 +63,8 @@ class HandOffTest(unittest.TestCase):
         os.environ["PATH"] = self.folder + os.pathsep + os.environ["PATH"]
 
     def test_a_row_is_mailed_and_shown_and_the_guide_too(self):
-        from outside.program import Program  # finds its bus in the environment, which stands only now
-
         self.stand_in_for_the_viewer()
-        program = Program(PROGRAM, self.desktop)
-        self.addCleanup(program.stop)
+        program = self.new_program(PROGRAM)
         program.start("first")
 
         program.hands.choose(names.MAIN_WINDOW, names.LECTURES, SUBJECT, names.SHARE_KEYS)
@@ -98,7 +79,7 @@ class HandOffTest(unittest.TestCase):
         with open(mail["attached"][0], "rb") as file:
             self.assertEqual(file.read(), SOUND)
         addresses = [urllib.parse.unquote(address) for address in shown["addresses"]]
-        self.assertEqual(addresses, [f"file://{self.home}/Audio/{NAME}"])
+        self.assertEqual(addresses, [f"file://{self.desktop.data}/Tarvelo/Audio/{NAME}"])
         self.assertFalse(os.path.exists("RAN"))
         self.assertEqual(guide, [os.path.normpath(os.path.join(PROGRAM, "../../share/Tarvelo/Guide.pdf"))])
         self.assertTrue(os.path.isfile(guide[0]))

@@ -5,40 +5,24 @@ import fcntl
 import os
 import signal
 import sys
-import tempfile
 import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
 
-from outside import names, proof, sound  # noqa: E402  (found by the path set above)
-from outside.desktop import Desktop  # noqa: E402
+from outside import names, proof  # noqa: E402  (found by the path set above)
+from outside.case import SentenceTest  # noqa: E402
 from outside.waiting import wait_for  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
-SENTENCE = "Whatever happens now, this sentence must not be lost."
 SUBJECT = "Wave Optics"
 NOTES = "Huygens and his wavelets."
-HEARD = 0.98
 
 
-class LeftLectureTest(unittest.TestCase):
+class LeftLectureTest(SentenceTest):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.desktop = Desktop(folder.name)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
-        server = sound.SoundServer()
-        server.__enter__()
-        self.addCleanup(server.__exit__)
-        self.server = server
-        self.sentence = os.path.join(folder.name, "sentence.wav")
-        sound.write_speech(SENTENCE, self.sentence)
-        from outside.program import Program  # finds its bus in the environment, which stands only now
-
-        self.program = Program(PROGRAM, self.desktop)
-        self.addCleanup(self.program.stop)
+        super().setUp()
+        self.program = self.new_program(PROGRAM)
         self.hands = self.program.hands
         self.temporary = os.path.join(self.desktop.data, "Tarvelo", "temp")
 
@@ -55,9 +39,9 @@ class LeftLectureTest(unittest.TestCase):
         self.hands.write(names.NEW_LECTURE_WINDOW, names.NOTES, NOTES)
         self.hands.click(names.NEW_LECTURE_WINDOW, names.START_RECORDING)
         self.hands.control(names.NEW_LECTURE_WINDOW, names.PAUSE)
-        self.server.speak(self.sentence)
+        self.speak()
         # What follows may be lost, the sentence not.
-        self.server.speak(self.sentence)
+        self.speak()
 
     def kill(self):
         self.program.send(signal.SIGKILL)
@@ -65,8 +49,7 @@ class LeftLectureTest(unittest.TestCase):
 
     def expect_sentence_in(self, subject, others=0):
         row = proof.lecture(self.desktop.data, subject, NOTES, datetime.date.today().isoformat(), others)
-        agreement, _ = sound.correlation(sound.samples(row["audioFileFullPath"]), sound.samples(self.sentence))
-        self.assertGreater(agreement, HEARD)
+        self.expect_heard(row["audioFileFullPath"])
 
     def test_a_killed_lecture_is_kept(self):
         self.record("first")

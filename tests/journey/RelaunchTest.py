@@ -5,14 +5,13 @@ import shutil
 import signal
 import subprocess
 import sys
-import tempfile
 import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
 
 from outside import names  # noqa: E402  (found by the path set above)
-from outside.desktop import Desktop  # noqa: E402
+from outside.case import DesktopTest  # noqa: E402
 from outside.waiting import wait_for  # noqa: E402
 
 PROGRAM = os.path.abspath(sys.argv.pop(1))
@@ -59,22 +58,11 @@ def is_skipped(window):
     return SKIPPED in state.stdout
 
 
-class RelaunchTest(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.folder = os.path.realpath(folder.name)
-        self.desktop = Desktop(self.folder)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
-
+class RelaunchTest(DesktopTest):
     def start(self, path):
-        from outside.program import Program  # finds its bus in the environment, which stands only now
-
         self.path = os.path.realpath(path)
-        self.program = Program(path, self.desktop)
         self.addCleanup(self.end_all)
-        self.addCleanup(self.program.stop)
+        self.program = self.new_program(path)
         self.program.start("first")
         self.first = next(iter(self.processes()))
 

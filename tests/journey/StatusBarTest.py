@@ -12,7 +12,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
 
 from outside import names  # noqa: E402  (found by the path set above)
-from outside.desktop import Desktop  # noqa: E402
+from outside.case import DesktopTest  # noqa: E402
 from outside.waiting import Children, wait_for  # noqa: E402
 
 PROGRAM = os.path.abspath(sys.argv.pop(1))
@@ -82,22 +82,14 @@ class Item:
         return answer.unpack()
 
 
-class StatusBarTest(unittest.TestCase):
+class StatusBarTest(DesktopTest):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.folder = folder.name
-        self.desktop = Desktop(folder.name)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
+        super().setUp()
         self.children = Children()
         self.addCleanup(self.children.stop)
 
     def start(self):
-        from outside.program import Program  # finds its bus in the environment, which stands only now
-
-        self.program = Program(PROGRAM, self.desktop)
-        self.addCleanup(self.program.stop)
+        self.program = self.new_program(PROGRAM)
         self.program.start("first")
         self.hands = self.program.hands
 
