@@ -163,11 +163,10 @@ std::optional<LecturesBack> LectureBackups::bringBack(const QString &copyPath,
 
 void LectureBackups::fillIn(QList<QVariantList> &rows, Sqlite &database) const
 {
-    constexpr qsizetype Path = 6;
     QHash<QString, QVariantList *> unknown;
     QStringList recordings;
     for (QVariantList &row : rows) {
-        const QString path = row.at(Path).toString();
+        const QString path = row.at(RecordingColumn).toString();
         unknown.insert(QDir::cleanPath(path), &row);
         recordings.append(QFileInfo(path).fileName());
     }
@@ -176,7 +175,8 @@ void LectureBackups::fillIn(QList<QVariantList> &rows, Sqlite &database) const
     for (const QString &name : std::as_const(names)) {
         const AttachedCopy copy(database, pathOf(name));
         for (const QVariantList &known : copy.lecturesWith(recordings))
-            if (QVariantList *const row = unknown.take(QDir::cleanPath(known.at(Path).toString())))
+            if (QVariantList *const row =
+                    unknown.take(QDir::cleanPath(known.at(RecordingColumn).toString())))
                 *row = known;
     }
 }

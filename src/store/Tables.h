@@ -14,6 +14,9 @@ inline const QString LectureColumns =
     QStringLiteral("subject, course, notes, recordingDate, lectureStartTime, lectureEndTime, "
                    "audioFileFullPath, recordDuration");
 
+// Where the path of the recording stands among them.
+constexpr qsizetype RecordingColumn = 6;
+
 // The first column of the first row; null when there is none.
 std::optional<int> numberFrom(Sqlite &database, const QString &sql,
                               const QVariantList &arguments = {});

@@ -27,7 +27,7 @@ public:
     // Between the beginnings of two; sooner as a disk takes longer, so that what is not certain yet
     // is never older than this or than twice what a sync takes.
     static constexpr std::chrono::milliseconds SyncInterval{2000};
-    // About 100 seconds of sound. As much is written at most into the room that was held.
+    // 93 seconds of sound. As much is written at most into the room that was held.
     static constexpr std::size_t MostBytesWaiting = std::size_t{1} << 20;
 
     // Takes the track as the encoder has it, one tick a sample. Null when it cannot be written.

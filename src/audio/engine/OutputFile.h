@@ -8,7 +8,8 @@
 namespace tarvelo::engine {
 
 // A regular file of this user's own (mode 0600) that is open for writing. Every operation says
-// whether it worked; a short write is one that did not.
+// whether it worked; a short write is one that did not. `sync()` may run on another thread than the
+// rest.
 class OutputFile final
 {
 public:
