@@ -4,6 +4,7 @@
 #include "audio/PlaySpeeds.h"
 #include "audio/PlayerDisplay.h"
 #include "audio/RecordingDisplay.h"
+#include "audio/StopButton.h"
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
 #include "platform/Images.h"
@@ -159,8 +160,7 @@ void Playback::playRecordTemp(QWidget *)
         m_player->prepareToPlay();
         m_player->play();
     }
-    m_recording.btnStopRecord->setLook(QStringLiteral("pause"), QStringLiteral("pauseH"),
-                                       QStringLiteral("Pause"));
+    lookLikePause(*m_recording.btnStopRecord);
     m_recording.btnStopRecord->setAction(
         {"pauseResumeRecordTemp", [this](QWidget *sender) { pauseResumeRecordTemp(sender); }});
     m_recording.btnStopRecord->setTag(TagPlaying);
@@ -175,11 +175,11 @@ void Playback::pauseResumeRecordTemp(QWidget *)
     ImageButton &button = *m_recording.btnStopRecord;
     if (button.tag() == TagPlaying) {
         m_player->pause();
-        button.setLook(QStringLiteral("play"), QStringLiteral("playH"), QStringLiteral("Play"));
+        lookLikePlay(button);
         button.setTag(TagPaused);
     } else if (button.tag() == TagPaused) {
         m_player->play();
-        button.setLook(QStringLiteral("pause"), QStringLiteral("pauseH"), QStringLiteral("Pause"));
+        lookLikePause(button);
         button.setTag(TagPlaying);
     }
 }
@@ -218,8 +218,7 @@ void Playback::lectureEnded(engine::AudioPlayer &player)
     showPlay(*m_lecture.btnPlayLecture);
     if (!m_recording.lblElapsedTimeTemp->isVisible())
         return;
-    m_recording.btnStopRecord->setLook(QStringLiteral("play"), QStringLiteral("playH"),
-                                       QStringLiteral("Play"));
+    lookLikePlay(*m_recording.btnStopRecord);
     m_recording.btnStopRecord->setTag(TagPaused);
 }
 

@@ -1,6 +1,7 @@
 #include "audio/RecordingDisplay.h"
 
 #include "audio/DurationText.h"
+#include "audio/StopButton.h"
 #include "platform/Dates.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LevelIndicator.h"
@@ -28,12 +29,6 @@ void lookPause(ImageButton &button)
 void lookResume(ImageButton &button)
 {
     button.setLook(QStringLiteral("record"), QStringLiteral("recordH"), QStringLiteral("Resume"));
-}
-
-void showStopImage(ImageButton &button, const QString &name)
-{
-    button.setImage(platform::imageNamed(name));
-    button.setAlternateImage(platform::imageNamed(name + u'H'));
 }
 
 void showEither(const RecordingOutlets &outlets, bool isLevel)
@@ -74,8 +69,7 @@ bool RecordingDisplay::isPauseOn() const
 void RecordingDisplay::takeStarts()
 {
     showLevel(m_outlets);
-    m_outlets.btnStopRecord->setLook(QStringLiteral("stopRed"), QStringLiteral("stopRedH"),
-                                     QStringLiteral("Stop"));
+    lookLikeRedStop(*m_outlets.btnStopRecord);
     m_outlets.btnStopRecord->setEnabled(true);
     m_outlets.btnTimeTag->show();
 }
@@ -101,7 +95,7 @@ void RecordingDisplay::offerPause(QWidget *pressed)
 void RecordingDisplay::takePauses()
 {
     lookResume(*m_outlets.btnPauseResumeRecording);
-    showStopImage(*m_outlets.btnStopRecord, QStringLiteral("stop"));
+    lookLikeStop(*m_outlets.btnStopRecord);
     m_outlets.audioLevelMeter->setFloatValue(0);
     m_outlets.btnTimeTag->hide();
 }
@@ -109,7 +103,7 @@ void RecordingDisplay::takePauses()
 void RecordingDisplay::takeGoesOn()
 {
     lookPause(*m_outlets.btnPauseResumeRecording);
-    showStopImage(*m_outlets.btnStopRecord, QStringLiteral("stopRed"));
+    lookLikeRedStop(*m_outlets.btnStopRecord);
     m_outlets.btnTimeTag->show();
 }
 
@@ -120,8 +114,7 @@ void RecordingDisplay::takeStops()
     // Out and in again: the start button stays hidden, as is wanted.
     m_outlets.btnStartRecord->setHidden(false);
     m_outlets.btnStartRecord->setHidden(true);
-    m_outlets.btnStopRecord->setLook(QStringLiteral("play"), QStringLiteral("playH"),
-                                     QStringLiteral("Play"));
+    lookLikePlay(*m_outlets.btnStopRecord);
     m_outlets.btnTimeTag->hide();
 }
 

@@ -5,6 +5,7 @@
 #include "audio/Playback.h"
 #include "audio/RecordingControl.h"
 #include "audio/RecordingDisplay.h"
+#include "audio/StopButton.h"
 #include "calendar/CKCalendarView.h"
 #include "lectures/DayList.h"
 #include "lectures/LectureApplication.h"
@@ -229,7 +230,7 @@ void NewLecture::resetControls(const QString &stopAlternate)
 {
     const audio::RecordingOutlets &controls = m_outlets.recording;
     audio::showLevel(controls);
-    controls.btnStopRecord->setLook(QStringLiteral("stop"), stopAlternate, QStringLiteral("Stop"));
+    audio::lookLikeStop(*controls.btnStopRecord, stopAlternate);
     controls.btnStopRecord->setAction(
         {"stopRecording", [this](QWidget *sender) { m_with.recording.stopRecording(sender); }});
 }

@@ -1,5 +1,6 @@
 #include "lectures/NewLectureWindow.h"
 
+#include "audio/StopButton.h"
 #include "lectures/Dressing.h"
 #include "platform/Images.h"
 #include "platform/Texts.h"
@@ -80,8 +81,7 @@ void dressRecordingControls(const audio::RecordingOutlets &controls)
     controls.btnStartRecord->setAlternateImage(imageNamed(QStringLiteral("recordH")));
     controls.btnPauseResumeRecording->setLook(QStringLiteral("BtnPause"),
                                               QStringLiteral("BtnPauseH"), QStringLiteral("Pause"));
-    controls.btnStopRecord->setLook(QStringLiteral("stop"), QStringLiteral("stopH"),
-                                    QStringLiteral("Stop"));
+    audio::lookLikeStop(*controls.btnStopRecord);
     controls.btnTimeTag->setImage(imageNamed(QStringLiteral("timetag")));
     keepRoom(*controls.btnTimeTag);
     controls.btnTimeTag->hide();
