@@ -6,7 +6,6 @@
 #include "store/FileBytes.h"
 #include "store/RescuedLectures.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -15,10 +14,6 @@
 namespace tarvelo::store {
 
 namespace {
-
-// Names sort by the time, and are not those of copies.
-const QString NameFormat = QStringLiteral("'TarveloInfo damaged' yyyy-MM-dd HH.mm.ss.zzz'.db'");
-const QString NameFilter = QStringLiteral("TarveloInfo damaged *.db");
 
 bool copyDurably(const QString &from, const QString &to, const QString &half)
 {
@@ -30,30 +25,30 @@ bool copyDurably(const QString &from, const QString &to, const QString &half)
 } // namespace
 
 DamagedFiles::DamagedFiles(QString folder, const platform::Clock &clock)
-    : m_folder(std::move(folder))
+    : m_files(std::move(folder), QStringLiteral("TarveloInfo damaged"))
     , m_clock(clock)
 {
 }
 
 std::optional<DamagedFiles::Aside> DamagedFiles::putAside(const QString &file) const
 {
-    for (const QString &name : names())
-        if (haveSameBytes(file, pathOf(name)))
-            return Aside{pathOf(name), QDateTime::fromString(name, NameFormat)};
-    platform::createFolderIfMissing(m_folder);
+    for (const QString &name : m_files.names())
+        if (haveSameBytes(file, m_files.pathOf(name)))
+            return Aside{m_files.pathOf(name), m_files.madeAt(name)};
+    platform::createFolderIfMissing(m_files.folder());
     const auto aside = copyAside(file);
     // What is held for the next copy is held for this.
-    return aside || !QFile::remove(pathOf(QStringLiteral(".room"))) ? aside : copyAside(file);
+    return aside || !QFile::remove(m_files.roomPath()) ? aside : copyAside(file);
 }
 
 // The file's own name comes last: who has that has the journal too.
 std::optional<DamagedFiles::Aside> DamagedFiles::copyAside(const QString &file) const
 {
     QDateTime made = m_clock.now().toLocalTime();
-    while (QFileInfo::exists(pathOf(made.toString(NameFormat))))
+    while (QFileInfo::exists(m_files.pathOf(m_files.nameOf(made))))
         made = made.addMSecs(1);
-    const Aside aside{pathOf(made.toString(NameFormat)), made, true};
-    const QString half = pathOf(QStringLiteral(".damaged"));
+    const Aside aside{m_files.pathOf(m_files.nameOf(made)), made, true};
+    const QString half = m_files.pathOf(QStringLiteral(".damaged"));
     const QString journal = journalOf(file);
     if ((!QFileInfo::exists(journal) || copyDurably(journal, journalOf(aside.filePath), half)) &&
         copyDurably(file, aside.filePath, half))
@@ -70,16 +65,16 @@ void DamagedFiles::remove(const Aside &aside) const
 
 std::optional<DamagedFiles::Aside> DamagedFiles::newest() const
 {
-    const QStringList all = names();
+    const QStringList all = m_files.names();
     if (all.isEmpty())
         return std::nullopt;
-    return Aside{pathOf(all.last()), QDateTime::fromString(all.last(), NameFormat)};
+    return Aside{m_files.pathOf(all.last()), m_files.madeAt(all.last())};
 }
 
 bool DamagedFiles::replaceWithSound(const QString &file) const
 {
     const auto aside = putAside(file);
-    const QString sound = pathOf(QStringLiteral(".sound"));
+    const QString sound = m_files.pathOf(QStringLiteral(".sound"));
     if (!aside || !rescueLectures(aside->filePath, sound))
         return false;
     // An old journal would be taken for that of the sound file, and written over it.
@@ -88,16 +83,6 @@ bool DamagedFiles::replaceWithSound(const QString &file) const
                             platform::renameDurably(sound, file);
     QFile::remove(sound);
     return isReplaced;
-}
-
-// Oldest first.
-QStringList DamagedFiles::names() const
-{
-    QStringList names = QDir(m_folder).entryList({NameFilter}, QDir::Files);
-    names.removeIf(
-        [](const QString &name) { return !QDateTime::fromString(name, NameFormat).isValid(); });
-    names.sort();
-    return names;
 }
 
 } // namespace tarvelo::store

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "store/DatedFiles.h"
+
 #include <QDateTime>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -41,10 +42,8 @@ public:
 
 private:
     std::optional<Aside> copyAside(const QString &file) const;
-    QStringList names() const;
-    QString pathOf(const QString &name) const { return m_folder + u'/' + name; }
 
-    QString m_folder;
+    DatedFiles m_files;
     const platform::Clock &m_clock;
 };
 

@@ -22,10 +22,7 @@ namespace tarvelo::store {
 
 namespace {
 
-// Names sort by the time.
-const QString NameFormat = QStringLiteral("'TarveloInfo' yyyy-MM-dd HH.mm.ss.zzz'.db'");
 const QString GoingLectures = QStringLiteral("goingLectures");
-const QString NameFilter = QStringLiteral("TarveloInfo *.db");
 
 // Beside the size of the database: for a journal and for what the file system itself needs.
 constexpr qint64 RoomForTheRest = 128 << 10; // bytes
@@ -50,7 +47,7 @@ bool marks(const QString &copyPath, const QString &going)
 } // namespace
 
 LectureBackups::LectureBackups(QString folder, const platform::Clock &clock)
-    : m_folder(std::move(folder))
+    : m_files(std::move(folder), QStringLiteral("TarveloInfo"))
     , m_clock(clock)
 {
 }
@@ -63,17 +60,18 @@ std::optional<QString> LectureBackups::keep(Sqlite &database, const QString &goi
     const bool areKnown = leaving && database.errorCode() == 0;
     if (isThere && (!*isThere || (areKnown && leaving->isEmpty())))
         return QString();
-    platform::createFolderIfMissing(m_folder);
-    QString path = pathOf(nameAfter(namesOfCopies()));
+    platform::createFolderIfMissing(folder());
+    QString path = m_files.pathOf(nameAfter(m_files.names()));
     if (writesCopy(database, going, path))
         return path;
-    return QFile::remove(roomPath()) && writesCopy(database, going, path) ? std::optional(path)
-                                                                          : std::nullopt;
+    return QFile::remove(m_files.roomPath()) && writesCopy(database, going, path)
+               ? std::optional(path)
+               : std::nullopt;
 }
 
 bool LectureBackups::writesCopy(Sqlite &database, const QString &going, const QString &path) const
 {
-    const QString half = pathOf(QStringLiteral(".copy"));
+    const QString half = m_files.pathOf(QStringLiteral(".copy"));
     const bool isWritten = (vacuumsInto(database, half) && marks(half, going)) ||
                            copyWithJournal(database.filePath(), half);
     const bool isKept = isWritten && renameWithJournalDurably(half, path);
@@ -87,9 +85,9 @@ void LectureBackups::settle(Sqlite &database, const QString &copyPath)
         return;
     if (isOfNoUse(database, copyPath))
         removeWithJournal(copyPath);
-    const QStringList names = namesOfCopies();
+    const QStringList names = m_files.names();
     for (qsizetype at = 0; at < names.size() - Kept; ++at)
-        removeWithJournal(pathOf(names.at(at)));
+        removeWithJournal(m_files.pathOf(names.at(at)));
 }
 
 bool LectureBackups::change(const QString &copyPath, const QString &sql,
@@ -116,10 +114,10 @@ bool LectureBackups::isOfNoUse(Sqlite &database, const QString &copyPath) const
             // One that lectures cannot be counted in is not known to be of no use.
             return copy.missing() == 0 && copy.lectures().value_or(0) > 0;
     }
-    const QStringList names = namesOfCopies();
+    const QStringList names = m_files.names();
     if (names.size() < 2)
         return false;
-    const QString before = pathOf(names.at(names.size() - 2));
+    const QString before = m_files.pathOf(names.at(names.size() - 2));
     const bool hasJournal = QFile::exists(journalOf(copyPath));
     return haveSameBytes(copyPath, before) &&
            (hasJournal ? haveSameBytes(journalOf(copyPath), journalOf(before))
@@ -129,11 +127,10 @@ bool LectureBackups::isOfNoUse(Sqlite &database, const QString &copyPath) const
 QList<LectureBackups::Copy> LectureBackups::copies(Sqlite &database) const
 {
     QList<Copy> copies;
-    for (const QString &name : namesOfCopies()) {
-        const AttachedCopy copy(database, pathOf(name));
+    for (const QString &name : m_files.names()) {
+        const AttachedCopy copy(database, m_files.pathOf(name));
         if (copy.isReadable())
-            copies.prepend({pathOf(name), QDateTime::fromString(name, NameFormat),
-                            copy.lectures().value_or(0),
+            copies.prepend({m_files.pathOf(name), m_files.madeAt(name), copy.lectures().value_or(0),
                             copy.missing().value_or(copy.lectures().value_or(0))});
     }
     return copies;
@@ -170,10 +167,10 @@ void LectureBackups::fillIn(QList<QVariantList> &rows, Sqlite &database) const
         unknown.insert(QDir::cleanPath(path), &row);
         recordings.append(QFileInfo(path).fileName());
     }
-    QStringList names = namesOfCopies();
+    QStringList names = m_files.names();
     std::reverse(names.begin(), names.end());
     for (const QString &name : std::as_const(names)) {
-        const AttachedCopy copy(database, pathOf(name));
+        const AttachedCopy copy(database, m_files.pathOf(name));
         for (const QVariantList &known : copy.lecturesWith(recordings))
             if (QVariantList *const row =
                     unknown.take(QDir::cleanPath(known.at(RecordingColumn).toString())))
@@ -186,18 +183,8 @@ void LectureBackups::holdRoom(const Sqlite &database) const
     const qint64 size = QFileInfo(database.filePath()).size();
     if (size == 0)
         return;
-    platform::createFolderIfMissing(m_folder);
-    platform::holdRoom(roomPath(), size + RoomForTheRest);
-}
-
-// Oldest first.
-QStringList LectureBackups::namesOfCopies() const
-{
-    QStringList names = QDir(m_folder).entryList({NameFilter}, QDir::Files);
-    names.removeIf(
-        [](const QString &name) { return !QDateTime::fromString(name, NameFormat).isValid(); });
-    names.sort();
-    return names;
+    platform::createFolderIfMissing(folder());
+    platform::holdRoom(m_files.roomPath(), size + RoomForTheRest);
 }
 
 // Behind all that there are, also when the clock was put back: the oldest are the ones that go.
@@ -205,18 +192,8 @@ QString LectureBackups::nameAfter(const QStringList &names) const
 {
     QDateTime made = m_clock.now().toLocalTime();
     if (!names.isEmpty())
-        made = std::max(made, QDateTime::fromString(names.last(), NameFormat).addMSecs(1));
-    return made.toString(NameFormat);
-}
-
-QString LectureBackups::pathOf(const QString &name) const
-{
-    return m_folder + u'/' + name;
-}
-
-QString LectureBackups::roomPath() const
-{
-    return pathOf(QStringLiteral(".room"));
+        made = std::max(made, m_files.madeAt(names.last()).addMSecs(1));
+    return m_files.nameOf(made);
 }
 
 } // namespace tarvelo::store

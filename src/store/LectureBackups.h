@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/DatedFiles.h"
+
 #include <QDateTime>
 #include <QList>
 #include <QStringList>
@@ -36,7 +38,7 @@ public:
     // `folder` is made with the first copy.
     LectureBackups(QString folder, const platform::Clock &clock);
 
-    const QString &folder() const { return m_folder; }
+    const QString &folder() const { return m_files.folder(); }
 
     // `going` is a query for the "ID" of every lecture that is about to go. Gives the copy's path,
     // an empty text when nothing goes. Null when none could be made, and then nothing may go.
@@ -66,12 +68,9 @@ public:
 private:
     bool writesCopy(Sqlite &database, const QString &going, const QString &path) const;
     bool isOfNoUse(Sqlite &database, const QString &copyPath) const;
-    QStringList namesOfCopies() const;
     QString nameAfter(const QStringList &names) const;
-    QString pathOf(const QString &name) const;
-    QString roomPath() const;
 
-    QString m_folder;
+    DatedFiles m_files;
     const platform::Clock &m_clock;
 };
 

@@ -32,7 +32,7 @@ QSet<qint64> idsIn(const Rows &rows, const LectureInfoItem *chosen)
 LectureDatabase::LectureDatabase(const platform::Places &places, const platform::Clock &clock)
     : m_folder(platform::expandingTilde(places.applicationSupport) + u'/' + places.processName)
     , m_backups(m_folder + QStringLiteral("/Backups"), clock)
-    , m_damagedFiles(m_folder + QStringLiteral("/Backups"), clock)
+    , m_damagedFiles(m_backups.folder(), clock)
 {
 }
 
