@@ -16,7 +16,6 @@
 namespace tarvelo::audio {
 
 using platform::createFolderIfMissing;
-using platform::expandingTilde;
 
 namespace {
 
@@ -50,9 +49,7 @@ QString AudioFileLocations::extensionByFormat() const
 
 QString AudioFileLocations::getAudioFolderPath() const
 {
-    // The product's folder, whatever name the process runs under.
-    const QString folder =
-        expandingTilde(m_places.applicationSupport + QStringLiteral("/Tarvelo/Audio"));
+    const QString folder = m_places.productFolder() + QStringLiteral("/Audio");
     createFolderIfMissing(folder);
     return folder + u'/';
 }
@@ -97,16 +94,15 @@ bool AudioFileLocations::makeWayAt(const QString &path)
 
 void AudioFileLocations::createFolders()
 {
-    const QString own = m_places.applicationSupport + u'/' + m_places.processName;
-    for (const QString &folder : {own, m_places.applicationSupport + QStringLiteral("/Tarvelo")})
-        platform::keepFolderPrivate(expandingTilde(folder));
-    m_temporaryFolder = expandingTilde(own + QStringLiteral("/temp"));
+    const QString own = m_places.processFolder();
+    for (const QString &folder : {own, m_places.productFolder()})
+        platform::keepFolderPrivate(folder);
+    m_temporaryFolder = own + QStringLiteral("/temp");
     createFolderIfMissing(m_temporaryFolder);
     m_temporaryBasePath = m_temporaryFolder + u'/' + m_temporaryBasePath;
     m_usualBasePath = m_temporaryBasePath;
-    // Made but not written to: saved files go to the product's folder. The two are one when the
-    // program runs under its own name, and both are wanted.
-    createFolderIfMissing(expandingTilde(own + QStringLiteral("/Audio")));
+    // Made but not written to: saved files go to the product's folder.
+    createFolderIfMissing(own + QStringLiteral("/Audio"));
 }
 
 void AudioFileLocations::removeReserveLeft() const

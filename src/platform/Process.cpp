@@ -9,6 +9,14 @@ namespace tarvelo::platform {
 
 namespace {
 
+// The home folder in the place of a leading tilde.
+QString expandingTilde(const QString &path)
+{
+    if (path == u"~" || path.startsWith(u"~/"))
+        return QDir::homePath() + path.mid(1);
+    return path;
+}
+
 // A variable of the environment is a closer wish than the desktop's settings. As in those, only a
 // whole path is one.
 QString musicFolder()
@@ -35,17 +43,20 @@ Places Places::ofProcess()
             resourcesFolder()};
 }
 
+QString Places::processFolder() const
+{
+    return expandingTilde(applicationSupport + u'/' + processName);
+}
+
+QString Places::productFolder() const
+{
+    return expandingTilde(applicationSupport + QStringLiteral("/Tarvelo"));
+}
+
 QString pathForResource(const QString &resources, const QString &name, const QString &type)
 {
     const QFileInfo file(QStringLiteral("%1/%2.%3").arg(resources, name, type));
     return file.isFile() ? file.absoluteFilePath() : QString();
-}
-
-QString expandingTilde(const QString &path)
-{
-    if (path == u"~" || path.startsWith(u"~/"))
-        return QDir::homePath() + path.mid(1);
-    return path;
 }
 
 } // namespace tarvelo::platform

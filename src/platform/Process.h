@@ -13,10 +13,13 @@ struct Places
     QString resources = {};     // files that were installed with the executable
 
     static Places ofProcess();
-};
 
-// `path` with a leading tilde replaced by the home folder.
-QString expandingTilde(const QString &path);
+    // Below the one what is this process's lies, below the other what is the product's, whatever
+    // name the process runs under. The two are one when the program runs under its own name, and
+    // both are wanted.
+    QString processFolder() const;
+    QString productFolder() const;
+};
 
 // The file `name`.`type` of the program's resources, or nothing when it is not there.
 QString pathForResource(const QString &resources, const QString &name, const QString &type);

@@ -30,7 +30,7 @@ QSet<qint64> idsIn(const Rows &rows, const LectureInfoItem *chosen)
 } // namespace
 
 LectureDatabase::LectureDatabase(const platform::Places &places, const platform::Clock &clock)
-    : m_folder(platform::expandingTilde(places.applicationSupport) + u'/' + places.processName)
+    : m_folder(places.processFolder())
     , m_backups(m_folder + QStringLiteral("/Backups"), clock)
     , m_damagedFiles(m_backups.folder(), clock)
 {

@@ -51,6 +51,24 @@ private Q_SLOTS:
         QCOMPARE(Places::ofProcess().music, m_home->filePath(u"Music"_s));
     }
 
+    void theProcessHasItsFolderAndTheProductHasOne()
+    {
+        const Places places{u"/data"_s, u"Other"_s};
+        const Places usual{u"/data"_s, u"Tarvelo"_s};
+
+        QCOMPARE(places.processFolder(), u"/data/Other"_s);
+        QCOMPARE(places.productFolder(), u"/data/Tarvelo"_s);
+        QCOMPARE(usual.processFolder(), usual.productFolder());
+    }
+
+    void dataBelowATildeLieInTheHome()
+    {
+        const Places places{u"~/data"_s, u"Other"_s};
+
+        QCOMPARE(places.processFolder(), m_home->filePath(u"data/Other"_s));
+        QCOMPARE(places.productFolder(), m_home->filePath(u"data/Tarvelo"_s));
+    }
+
     void whatWasInstalledWithTheProgramLiesBesideItsFolder()
     {
         const QDir prefix(QCoreApplication::applicationDirPath() + u"/.."_s);
