@@ -140,7 +140,7 @@ bool LeftLectureSheet::eventFilter(QObject *watched, QEvent *event)
 void LeftLectureSheet::showFirst()
 {
     const audio::LeftLectures::Left &left = m_waiting.first();
-    const QDateTime day = m_dates.parse(left.journal.day, QStringLiteral("yyyy-MM-dd"));
+    const QDateTime day = m_dates.readStoredDay(left.journal.day);
     m_subject->setText(store::subjectToStore(left.journal.subject));
     // One that another calendar wrote is shown as it wrote it.
     m_day->setText(day.isValid() ? m_dates.format(day, Dates::Style::Full, Dates::Style::None)

@@ -27,12 +27,6 @@ namespace tarvelo::audio {
 using store::JournalFile;
 using store::LectureJournal;
 
-namespace {
-
-const QString DayFormat = QStringLiteral("yyyy-MM-dd");
-
-} // namespace
-
 LeftLectures::LeftLectures(const AudioFileLocations &locations, const platform::Dates &dates,
                            store::LectureDatabase &database)
     : m_locations(locations)
@@ -79,7 +73,7 @@ QList<LeftLectures::Left> LeftLectures::undecided() const
         // calendar.
         const QDateTime end = QFileInfo(left.takePath).lastModified();
         if (left.journal.day.isEmpty())
-            left.journal.day = left.journal.date = m_dates.formatFixed(end, DayFormat);
+            left.journal.day = left.journal.date = m_dates.askedDay(end);
     }
     return lectures;
 }
@@ -116,7 +110,7 @@ bool LeftLectures::decide(Left &left)
     left.journal.isDone = true;
     left.journal.lastRow = lastRow();
     if (left.journal.day.isEmpty())
-        left.journal.day = m_dates.formatFixed(m_dates.now(), DayFormat);
+        left.journal.day = m_dates.askedDay(m_dates.now());
     // One that nobody else has: no two files have one name, and a name may have been another's.
     left.journal.id = QFileInfo(left.journalPath).completeBaseName();
     while (m_rowOfJournal.contains(left.journal.id) || m_goneJournals.contains(left.journal.id))

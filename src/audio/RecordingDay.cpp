@@ -60,7 +60,7 @@ QString dayOfRecording(const QString &path, const QDateTime &modified, const pla
     QDateTime moment = canBe(modified, dates.now()) ? modified : momentInName(path, dates);
     if (!moment.isValid())
         moment = dates.now();
-    return dates.formatFixed(moment, QStringLiteral("yyyy-MM-dd"));
+    return dates.askedDay(moment);
 }
 
 } // namespace tarvelo::audio

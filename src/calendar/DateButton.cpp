@@ -86,7 +86,7 @@ qsizetype DateButton::numberOfLectures() const
     store::Sqlite *database = m_delegate ? m_delegate->getTheDB() : nullptr;
     if (!database)
         return 0;
-    const QString day = m_dates.formatFixed(m_date, QStringLiteral("yyyy-MM-dd"));
+    const QString day = m_dates.askedDay(m_date);
     const auto rows = database->executeQueryArguments(store::statements::DayQuery, {day});
     return rows ? rows->size() : 0;
 }

@@ -91,15 +91,13 @@ void DayList::showAgain()
         prepareViewForDate(m_dateOfButtonClicked);
 }
 
-// The store is asked under a fixed locale, so that the user's calendar and digits never matter
-// here.
 std::optional<store::Rows> DayList::rowsOfDay() const
 {
-    return m_database.lecturesOfDay(
-        m_dates.formatFixed(m_dateOfButtonClicked, QStringLiteral("yyyy-MM-dd")));
+    return m_database.lecturesOfDay(m_dates.askedDay(m_dateOfButtonClicked));
 }
 
-// The month alone counts, so this shows it of every year, in the order of the file: wanted so.
+// Under the fixed locale, as for a day. The month alone counts, so this shows it of every year, in
+// the order of the file: wanted so.
 std::optional<store::Rows> DayList::rowsOfMonth() const
 {
     return m_database.lecturesOfMonth(m_dates.formatFixed(*m_month, QStringLiteral("MM")));

@@ -139,8 +139,8 @@ store::LectureJournal LectureJournalKeeper::journal() const
     journal.notes = widgets::wholeText(*m_outlets.txtView);
     journal.seconds = m_with.recording.recordedSeconds();
     const QDateTime &day = m_with.dayList.dateOfButtonClicked();
-    journal.day = m_with.dates.format(day, QStringLiteral("yyyy-MM-dd"));
-    journal.date = m_with.dates.formatFixed(day, QStringLiteral("yyyy-MM-dd"));
+    journal.day = m_with.dates.storedDay(day);
+    journal.date = m_with.dates.askedDay(day);
     return journal;
 }
 

@@ -68,7 +68,7 @@ void LectureRecordsHandler::prepareList()
     const auto rows = m_database.connection()->executeQueryArguments(
         QStringLiteral("select * from TblToDoList WHERE (strftime('%Y-%m-%d', ToDoDate)) = ? ORDER "
                        "BY ID DESC"),
-        {m_dates.format(m_dateOfDisplay, QStringLiteral("yyyy-MM-dd"))});
+        {m_dates.storedDay(m_dateOfDisplay)});
     if (rows)
         m_nsmArrLectureRecords = *rows;
 }

@@ -134,11 +134,7 @@ void NewLecture::doSaveNewAudioInfos()
     const Audio audio = takeAudioToItsPlace();
     m_with.recording.takeWasSaved();
 
-    // The user's own calendar and digits, unlike the query that looks for the day. Under another
-    // calendar than the Gregorian one the lecture is not found under its day; this difference is
-    // wanted as it is.
-    const QString day =
-        m_with.dates.format(m_with.dayList.dateOfButtonClicked(), QStringLiteral("yyyy-MM-dd"));
+    const QString day = m_with.dates.storedDay(m_with.dayList.dateOfButtonClicked());
     const QString subject = store::subjectToStore(m_outlets.window.txtSubjectForNewNote->text());
     const QString notes = widgets::wholeText(*m_outlets.window.txtView);
     const bool isStored = m_with.database.insertIntoDbwithSqlStatementWithArguments(

@@ -19,6 +19,8 @@ struct CloseFormatter
 };
 using Formatter = std::shared_ptr<UDateFormat>;
 
+const QString DayPattern = QStringLiteral("yyyy-MM-dd");
+
 UDateFormatStyle styleOf(Dates::Style style)
 {
     switch (style) {
@@ -200,6 +202,21 @@ QDateTime Dates::parse(const QString &text, const QString &pattern) const
 QDateTime Dates::parse(const QString &text, Style date, Style time) const
 {
     return platform::parse(m_formatters->ofStyles(m_region, date, time), text);
+}
+
+QString Dates::storedDay(const QDateTime &moment) const
+{
+    return format(moment, DayPattern);
+}
+
+QString Dates::askedDay(const QDateTime &moment) const
+{
+    return formatFixed(moment, DayPattern);
+}
+
+QDateTime Dates::readStoredDay(const QString &day) const
+{
+    return parse(day, DayPattern);
 }
 
 QStringList Dates::shortWeekdaySymbols() const

@@ -49,6 +49,15 @@ public:
     QDateTime parse(const QString &text, const QString &pattern) const;
     QDateTime parse(const QString &text, Style date, Style time) const;
 
+    // -- The days of lectures. A row stores the day of the user's own calendar, in its digits; a
+    // day is looked for as ISO 8601 has it, whatever the user's settings. Under another calendar
+    // than the Gregorian one a lecture is not found under its day: this difference is wanted as it
+    // is.
+    QString storedDay(const QDateTime &moment) const;
+    QString askedDay(const QDateTime &moment) const;
+    // Invalid for what is no day of the user's calendar.
+    QDateTime readStoredDay(const QString &day) const;
+
     // The user's short weekday names, Sunday first: always seven.
     QStringList shortWeekdaySymbols() const;
 

@@ -88,6 +88,28 @@ private Q_SLOTS:
             QStringLiteral("2024-03-05"));
     }
 
+    void aDayIsStoredAsTheUserWritesItAndAskedForAsIsoDoes_data() { addLocales(); }
+    void aDayIsStoredAsTheUserWritesItAndAskedForAsIsoDoes()
+    {
+        QFETCH(QByteArray, locale);
+        const Dates users = dates(locale.constData(), "Europe/Berlin");
+        const QDateTime moment = at("2024-03-05T23:30:00Z");
+
+        QCOMPARE(users.storedDay(moment), users.format(moment, QStringLiteral("yyyy-MM-dd")));
+        QCOMPARE(users.askedDay(moment), QStringLiteral("2024-03-06"));
+        QCOMPARE(users.readStoredDay(users.storedDay(moment)), at("2024-03-05T23:00:00Z"));
+    }
+
+    void onlyWhereTheCalendarIsGregorianAndTheDigitsAreLatinBothAreOne()
+    {
+        const QDateTime moment = at("2024-03-05T09:00:00Z");
+
+        QCOMPARE(dates("de_DE").storedDay(moment), dates("de_DE").askedDay(moment));
+        QCOMPARE(dates("th_TH").storedDay(moment), QStringLiteral("2567-03-05"));
+        QCOMPARE(dates("ar_EG").storedDay(moment), QStringLiteral("٢٠٢٤-٠٣-٠٥"));
+        QVERIFY(!dates("de_DE").readStoredDay(QStringLiteral("2024-31-03")).isValid());
+    }
+
     void theYearOfTheWeekIsNotTheYearAtYearEnds_data()
     {
         QTest::addColumn<QByteArray>("locale");
