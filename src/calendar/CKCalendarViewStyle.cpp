@@ -1,10 +1,10 @@
 #include "calendar/CKCalendarView.h"
 
 #include "calendar/DateButton.h"
-#include "platform/Fonts.h"
 #include "platform/Images.h"
 #include "widgets/Colours.h"
 #include "widgets/CustomButton.h"
+#include "widgets/Faces.h"
 #include "widgets/GradientView.h"
 
 #include <QColor>
@@ -21,11 +21,6 @@ namespace {
 constexpr QColor LightGrey(170, 170, 170);
 constexpr QColor Brown(153, 102, 51);
 
-QFont face(double size)
-{
-    return platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), size);
-}
-
 // Following the desktop's palette, not fixed to what it is now.
 void setLabelColor(QLabel &label)
 {
@@ -37,11 +32,11 @@ void setLabelColor(QLabel &label)
 void CKCalendarView::setDefaultStyle()
 {
     setLabelColor(*m_titleLabel);
-    setTitleFont(face(18));
-    setDayOfWeekFont(face(15));
+    setTitleFont(widgets::fixedFace(18));
+    setDayOfWeekFont(widgets::fixedFace(15));
     for (QLabel *letter : m_dayOfWeekLabels)
         setLabelColor(*letter);
-    setDateFont(face(14));
+    setDateFont(widgets::fixedFace(14));
     setDateTextColor(palette().color(QPalette::WindowText));
     setSelectedDateTextColor(palette().color(QPalette::Disabled, QPalette::WindowText));
     setSelectedDateBackgroundColor(LightGrey);

@@ -1,9 +1,9 @@
 #include "lectures/Dressing.h"
 
-#include "platform/Fonts.h"
 #include "platform/Images.h"
 #include "widgets/Colours.h"
 #include "widgets/CustomTextFieldFormatter.h"
+#include "widgets/Faces.h"
 #include "widgets/FieldFormatter.h"
 #include "widgets/ImageButton.h"
 
@@ -25,26 +25,14 @@ using widgets::ImageButton;
 
 namespace {
 
-const QString Face = QStringLiteral("Helvetica Neue Medium");
-
 // Longer texts than this one cannot be typed as a subject.
 constexpr qint32 LongestSubject = 255;
 
 } // namespace
 
-QFont scaledFace(double size)
-{
-    return platform::scaledFontNamed(Face, size);
-}
-
-QFont fixedFace(double size)
-{
-    return platform::fontNamed(Face, size);
-}
-
 void style(QLabel &label, double size, const QColor &colour)
 {
-    label.setFont(scaledFace(size));
+    label.setFont(widgets::scaledFace(size));
     widgets::setColour(label, QPalette::WindowText, colour);
 }
 

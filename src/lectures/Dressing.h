@@ -1,7 +1,6 @@
 #pragma once
 
 class QColor;
-class QFont;
 class QLabel;
 class QLineEdit;
 class QTextEdit;
@@ -13,11 +12,7 @@ class ImageButton;
 
 namespace tarvelo::lectures {
 
-// The face of the windows, in a size that follows the desktop's.
-QFont scaledFace(double size);
-// The same in one size on every desktop.
-QFont fixedFace(double size);
-
+// In the face of the windows, and in a size that follows the desktop's.
 void style(QLabel &label, double size, const QColor &colour);
 void fill(QWidget &view, const QColor &colour);
 // A hidden control keeps its room, so that nothing moves when it comes back.

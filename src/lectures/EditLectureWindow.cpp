@@ -2,6 +2,7 @@
 
 #include "lectures/Dressing.h"
 #include "widgets/Colours.h"
+#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LightPalette.h"
 
@@ -21,7 +22,7 @@ EditLectureWindow buildEditLectureWindow()
     built.outlets = {built.window.get(), ui.txtSubjectForEdit, ui.txtViewNotesForEdit,
                      ui.textEditTime,    ui.textEditDate,      ui.btnDoneEdit,
                      ui.btnCancelEdit};
-    ui.txtSubjectForEdit->setFont(scaledFace(16));
+    ui.txtSubjectForEdit->setFont(widgets::scaledFace(16));
     for (QLabel *label : {ui.textEditTime, ui.textEditDate, ui.lblNotesForEdit})
         style(*label, 13, widgets::colours().faint);
     return built;

@@ -1,9 +1,9 @@
 #include "lectures/LectureHeading.h"
 
 #include "lectures/WindowWidths.h"
-#include "platform/Fonts.h"
 #include "platform/Texts.h"
 #include "widgets/Colours.h"
+#include "widgets/Faces.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -29,7 +29,7 @@ public:
         setObjectName(QStringLiteral("lectureHeading"));
         setText(platform::text("TITLE_PLAY_LECTURE"));
         setTextFormat(Qt::PlainText);
-        setFont(platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), Size));
+        setFont(widgets::fixedFace(Size));
         setIndent(Indent);
         setAutoFillBackground(true);
         setAttribute(Qt::WA_TransparentForMouseEvents);

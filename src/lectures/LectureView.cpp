@@ -4,6 +4,7 @@
 #include "lectures/LectureHeading.h"
 #include "lectures/LectureViewMargins.h"
 #include "widgets/Colours.h"
+#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/MouseDownTextField.h"
 
@@ -58,7 +59,7 @@ LectureView buildLectureView(QWidget &pane)
     fill(*ui.editPlayerPanel, widgets::colours().panel);
     dressPlayPause(*ui.bPlay, *ui.bPause);
     // A heading until someone wants to change it.
-    ui.tSubjectName->setFont(scaledFace(18));
+    ui.tSubjectName->setFont(widgets::scaledFace(18));
     ui.tSubjectName->setEditable(false);
     ui.tSubjectName->setBordered(false);
     ui.tSubjectName->setDrawsBackground(false);

@@ -8,6 +8,7 @@
 #include "platform/Images.h"
 #include "platform/Texts.h"
 #include "widgets/Colours.h"
+#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LightPalette.h"
 #include "widgets/SlidingWindow.h"
@@ -50,8 +51,8 @@ void dressTexts(const Ui::MainWindow &ui)
     style(*ui.lblTarvelo, 18, widgets::colours().ink);
     style(*ui.lblDateDisplay, 22, widgets::colours().ink);
     // Their neighbours, the ordinal of the date and the calendar, have one size on every desktop.
-    ui.lblTarvelo->setFont(fixedFace(18));
-    ui.lblDateDisplay->setFont(fixedFace(22));
+    ui.lblTarvelo->setFont(widgets::fixedFace(18));
+    ui.lblDateDisplay->setFont(widgets::fixedFace(22));
     style(*ui.lblEmptyDayTitle, 17, widgets::colours().ink);
     style(*ui.lblEmptyDayHint, 13, widgets::colours().faint);
 }

@@ -5,6 +5,7 @@
 #include "platform/Images.h"
 #include "platform/Texts.h"
 #include "widgets/Colours.h"
+#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LayerView.h"
 #include "widgets/LevelIndicator.h"
@@ -58,9 +59,9 @@ void dressTexts(const Ui::NewLectureWindow &ui)
                           ui.lblRemainingTimeTemp})
         style(*label, 13, widgets::colours().faint);
     style(*ui.lblRecordingDuration, 24, widgets::colours().ink);
-    ui.lblRecordingDuration->setFont(fixedFace(24));
+    ui.lblRecordingDuration->setFont(widgets::fixedFace(24));
     style(*ui.lblRecordingWarning, 13, widgets::colours().warning);
-    ui.txtSubjectForNewNote->setFont(scaledFace(16));
+    ui.txtSubjectForNewNote->setFont(widgets::scaledFace(16));
 }
 
 // Both of its lines have their place whether they show or not: the buttons of a take must not move

@@ -7,6 +7,7 @@
 #include "platform/Texts.h"
 #include "widgets/Colours.h"
 #include "widgets/CustomWindow.h"
+#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LightPalette.h"
 #include "widgets/SegmentedControl.h"
@@ -44,7 +45,7 @@ PlayAudioWindow buildPlayAudioWindow()
                     ui.btnPauseLecture,  ui.sliderPlayProgress, ui.txtElapsedTime,
                     ui.txtRemainingTime, ui.segPlaySpeed};
 
-    ui.txtSubjectName->setFont(scaledFace(18));
+    ui.txtSubjectName->setFont(widgets::scaledFace(18));
     ui.txtSubjectName->setMaxLength(std::numeric_limits<int>::max());
     keepTitleInSight(*ui.txtSubjectName);
     ui.btnClosePlayAudio->setImage(imageNamed(QStringLiteral("close")));

@@ -3,6 +3,7 @@
 #include "lectures/Dressing.h"
 #include "platform/Texts.h"
 #include "widgets/Colours.h"
+#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LightPalette.h"
 #include "widgets/PopOver.h"
@@ -44,7 +45,7 @@ ImageButton *addButton(QWidget &popoverContent, const char *name, const char *te
     auto *button = new ImageButton(&popoverContent);
     button->setObjectName(QString::fromLatin1(name));
     button->setText(platform::text(textKey));
-    button->setFont(scaledFace(14));
+    button->setFont(widgets::scaledFace(14));
     // Return presses the button that has the keyboard.
     button->setAutoDefault(true);
     popoverContent.layout()->itemAt(1)->layout()->addWidget(button);

@@ -1,7 +1,7 @@
 #include "lectures/RowSwipe.h"
 
-#include "platform/Fonts.h"
 #include "widgets/Colours.h"
+#include "widgets/Faces.h"
 
 #include <QAbstractAnimation>
 #include <QApplication>
@@ -52,7 +52,7 @@ RowActionButton::RowActionButton(QWidget *parent)
     : QAbstractButton(parent)
 {
     setObjectName(QStringLiteral("rowActionButton"));
-    setFont(platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), 14));
+    setFont(widgets::fixedFace(14));
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
     hide();

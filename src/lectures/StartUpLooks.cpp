@@ -3,10 +3,10 @@
 #include "lectures/Dressing.h"
 #include "lectures/LectureOutlets.h"
 #include "lectures/LectureWindows.h"
-#include "platform/Fonts.h"
 #include "platform/Texts.h"
 #include "platform/WindowLevel.h"
 #include "widgets/Colours.h"
+#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/InsertionPoint.h"
 #include "widgets/MouseDownTextField.h"
@@ -97,7 +97,7 @@ void setInsertionPointColors(const LectureWindows &windows)
 
 void setButtonTitleColor(const LectureWindows &windows)
 {
-    const QFont font = platform::fontNamed(QStringLiteral("Helvetica Neue Medium"), 15);
+    const QFont font = widgets::fixedFace(15);
     for (QTextEdit *view :
          {windows.newLectureOutlets().txtView, windows.lectureViewOutlets().tViewNoteForEdit,
           windows.editLectureOutlets().txtViewNotesForEdit}) {

@@ -1,6 +1,7 @@
 #include "lectures/Dressing.h"
 
 #include "support/TestCase.h"
+#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 
 #include <QLabel>
@@ -23,7 +24,7 @@ private Q_SLOTS:
 
         tarvelo::lectures::style(label, 13, Qt::red);
 
-        QCOMPARE(label.font(), tarvelo::lectures::scaledFace(13));
+        QCOMPARE(label.font(), tarvelo::widgets::scaledFace(13));
         QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
     }
 
