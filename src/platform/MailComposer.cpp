@@ -35,20 +35,14 @@ QDBusUnixFileDescriptor opened(const QString &path)
     return isFile ? descriptor : QDBusUnixFileDescriptor();
 }
 
-QDBusMessage portalCall(const QString &body, const QDBusUnixFileDescriptor &file)
+QDBusMessage callWith(const QString &body, const QDBusUnixFileDescriptor &file)
 {
     QVariantMap options{{QStringLiteral("body"), body}};
     if (file.isValid()) {
         qDBusRegisterMetaType<Descriptors>();
         options[QStringLiteral("attachment_fds")] = QVariant::fromValue(Descriptors{file});
     }
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"),
-        QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.Email"), QStringLiteral("ComposeEmail"));
-    const QString noParentWindow;
-    call.setArguments({noParentWindow, options});
-    return call;
+    return portalCall(QStringLiteral("Email"), QStringLiteral("ComposeEmail"), {options});
 }
 
 // The body stands in an address, percent-encoded: the command is a script, and an echo of its
@@ -78,7 +72,7 @@ void DesktopMailComposer::compose(const StyledText &text, const QUrl &attachment
     const QString body = plainText(text);
     const QString path = attachment.toLocalFile();
     const QDBusUnixFileDescriptor file = opened(path);
-    callSessionService(portalCall(body, file), m_patience,
+    callSessionService(callWith(body, file), m_patience,
                        [body, readablePath = file.isValid() ? path : QString()] {
                            runMailCommand(body, readablePath);
                        });

@@ -1,8 +1,10 @@
 #include "platform/SessionService.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QObject>
+#include <QString>
 
 #include <utility>
 
@@ -24,6 +26,22 @@ void callSessionService(const QDBusMessage &call, std::chrono::milliseconds pati
                          if (watcher->isError())
                              instead();
                      });
+}
+
+QString portalService()
+{
+    return QStringLiteral("org.freedesktop.portal.Desktop");
+}
+
+QDBusMessage portalCall(const QString &interface, const QString &method,
+                        const QVariantList &arguments)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        portalService(), QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.portal.") + interface, method);
+    const QString noParentWindow;
+    call.setArguments(QVariantList{noParentWindow} + arguments);
+    return call;
 }
 
 } // namespace tarvelo::platform

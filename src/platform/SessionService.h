@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QVariantList>
+
 #include <chrono>
 #include <functional>
 
 class QDBusMessage;
+class QString;
 
 namespace tarvelo::platform {
 
@@ -15,5 +18,11 @@ inline constexpr std::chrono::milliseconds PatienceWithServices = std::chrono::s
 // when there is no bus, no such service, or no good answer in time.
 void callSessionService(const QDBusMessage &call, std::chrono::milliseconds patience,
                         std::function<void()> otherwise);
+
+// The portal of the desktop: its name on the session bus, and a call of one of its interfaces, for
+// no window of ours.
+QString portalService();
+QDBusMessage portalCall(const QString &interface, const QString &method,
+                        const QVariantList &arguments);
 
 } // namespace tarvelo::platform

@@ -1,5 +1,7 @@
 #include "platform/SleepInhibitor.h"
 
+#include "platform/SessionService.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -18,7 +20,6 @@ namespace tarvelo::platform {
 namespace {
 
 const QString SystemBus = QStringLiteral("tarvelo-sleep");
-const QString Portal = QStringLiteral("org.freedesktop.portal.Desktop");
 constexpr std::chrono::milliseconds EndOfConnecting{1000};
 
 // A user's rights may leave out the lid.
@@ -34,23 +35,19 @@ QDBusMessage loginCall(const QString &kinds, const QString &reason)
     return call;
 }
 
-QDBusMessage portalCall(const QString &reason)
+QDBusMessage inhibitCall(const QString &reason)
 {
     constexpr uint SuspendAndIdle = 4 | 8;
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        Portal, QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.Inhibit"), QStringLiteral("Inhibit"));
-    const QString noParentWindow;
-    call.setArguments(
-        {noParentWindow, SuspendAndIdle, QVariantMap{{QStringLiteral("reason"), reason}}});
-    return call;
+    return portalCall(QStringLiteral("Inhibit"), QStringLiteral("Inhibit"),
+                      {SuspendAndIdle, QVariantMap{{QStringLiteral("reason"), reason}}});
 }
 
 // Sent and forgotten. A portal that has gone has let go, and need not be started for this.
 void closeRequest(const QString &path)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
-        Portal, path, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Close"));
+        portalService(), path, QStringLiteral("org.freedesktop.portal.Request"),
+        QStringLiteral("Close"));
     call.setAutoStartService(false);
     QDBusConnection::sessionBus().send(call);
 }
@@ -123,7 +120,7 @@ void DesktopSleepInhibitor::Hold::askPortal()
     if (!session.isConnected())
         return;
     constexpr int WithoutEnd = std::numeric_limits<int>::max();
-    whenAnswered(session.asyncCall(portalCall(m_reason), WithoutEnd),
+    whenAnswered(session.asyncCall(inhibitCall(m_reason), WithoutEnd),
                  [weak = weak_from_this()](const QDBusPendingCall &call) {
                      const QDBusPendingReply<QDBusObjectPath> answer = call;
                      if (answer.isError())

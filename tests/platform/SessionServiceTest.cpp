@@ -9,6 +9,8 @@
 using namespace Qt::StringLiterals;
 using tarvelo::platform::callSessionService;
 using tarvelo::platform::PatienceWithServices;
+using tarvelo::platform::portalCall;
+using tarvelo::platform::portalService;
 using tarvelo::tests::EnvironmentVariable;
 using tarvelo::tests::StderrCatcher;
 
@@ -31,6 +33,17 @@ private Q_SLOTS:
 
         QCOMPARE(others, 1);
         QCOMPARE(catcher.caught(), QByteArray());
+    }
+
+    void aCallOfThePortalComesFromNoWindow()
+    {
+        const QDBusMessage call = portalCall(u"Email"_s, u"ComposeEmail"_s, {QVariantMap()});
+
+        QCOMPARE(call.service(), portalService());
+        QCOMPARE(call.path(), u"/org/freedesktop/portal/desktop"_s);
+        QCOMPARE(call.interface(), u"org.freedesktop.portal.Email"_s);
+        QCOMPARE(call.member(), u"ComposeEmail"_s);
+        QCOMPARE(call.arguments(), QVariantList({QString(), QVariantMap()}));
     }
 };
 
