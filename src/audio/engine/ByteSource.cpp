@@ -1,9 +1,10 @@
 #include "audio/engine/ByteSource.h"
 
+#include "platform/Descriptor.h"
+
 #include <QFile>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -73,19 +74,11 @@ qint64 ByteSource::read(qint64 at, char *bytes, qint64 count)
 
 qint64 ByteSource::readFile(qint64 at, char *bytes, qint64 count)
 {
-    qint64 done = 0;
-    while (done < count) {
-        const ssize_t now =
-            ::pread(m_file, bytes + done, static_cast<std::size_t>(count - done), at + done);
-        if (now < 0 && errno == EINTR)
-            continue;
-        if (now <= 0) {
-            m_hasFailed = true;
-            break;
-        }
-        done += now;
-    }
-    return done;
+    const auto known = platform::inFull(count, [&](qint64 done, std::size_t rest) {
+        return ::pread(m_file, bytes + done, rest, at + done);
+    });
+    m_hasFailed = m_hasFailed || known.size < count;
+    return known.size;
 }
 
 QByteArray ByteSource::piece(qint64 at, qint64 count)

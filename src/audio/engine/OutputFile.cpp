@@ -1,5 +1,6 @@
 #include "audio/engine/OutputFile.h"
 
+#include "platform/Descriptor.h"
 #include "platform/DurableFiles.h"
 
 #include <QFile>
@@ -56,17 +57,13 @@ bool OutputFile::append(std::span<const std::uint8_t> bytes)
 
 bool OutputFile::writeAt(std::int64_t offset, std::span<const std::uint8_t> bytes)
 {
-    while (!bytes.empty()) {
-        const ssize_t written = ::pwrite(m_descriptor, bytes.data(), bytes.size(), offset);
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        offset += written;
-        m_size = std::max(m_size, offset);
-        bytes = bytes.subspan(static_cast<std::size_t>(written));
-    }
-    return true;
+    const auto size = static_cast<std::int64_t>(bytes.size());
+    const auto written = platform::inFull(size, [&](std::int64_t done, std::size_t rest) {
+        return ::pwrite(m_descriptor, bytes.data() + done, rest, offset + done);
+    });
+    if (written.size > 0)
+        m_size = std::max<std::int64_t>(m_size, offset + written.size);
+    return written.size == size;
 }
 
 bool OutputFile::sync()
