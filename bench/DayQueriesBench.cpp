@@ -2,37 +2,21 @@
 // for the day's count, once for its badge), by the number of lectures kept and with or without the
 // indexes.
 
-#include "store/LectureDatabase.h"
-#include "store/Statements.h"
+#include "MonthOfLectures.h"
 
-#include <QDate>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 #include <map>
 #include <memory>
 
+using namespace tarvelo;
 using namespace tarvelo::store;
 
 namespace {
 
-const QDate LastDay(2024, 3, 31);
-constexpr int LecturesADay = 4;
-
-QVariantList lecture(int number)
-{
-    return {QStringLiteral("Optics %1").arg(number),
-            QStringLiteral("test course"),
-            QStringLiteral("Lenses and mirrors, and what they have in common. ").repeated(4),
-            LastDay.addDays(-(number / LecturesADay)).toString(Qt::ISODate),
-            QStringLiteral("10.00 AM"),
-            QStringLiteral("11.30 AM"),
-            QStringLiteral("/home/student/.local/share/Tarvelo/Audio/%1.aac").arg(number),
-            QStringLiteral("00:45:00")};
-}
-
-// A file with as many lectures, backwards from the last day of the month, the way an older run left
-// it: without indexes. Made once a size and kept for the run.
+// A file with as many lectures, the way an older run left it: without indexes. Made once a size and
+// kept for the run.
 QString fileWith(int lectures)
 {
     static const QTemporaryDir folder;
@@ -42,10 +26,7 @@ QString fileWith(int lectures)
         file = folder.filePath(QString::number(lectures));
         Sqlite database(file);
         database.executeNonQuery(statements::CreateAfterInsert);
-        database.beginTransaction();
-        for (int i = lectures - 1; i >= 0; --i)
-            database.executeNonQueryArguments(statements::Insert, lecture(i));
-        database.commit();
+        bench::fill(database, lectures);
     }
     return file;
 }
@@ -66,7 +47,7 @@ qint64 askMonth(Sqlite &database)
 {
     qint64 found = 0;
     for (int ask = 0; ask < 62; ++ask) {
-        const QString day = LastDay.addDays(-(ask / 2)).toString(Qt::ISODate);
+        const QString day = bench::LastDay.addDays(-(ask / 2)).toString(Qt::ISODate);
         found += database.executeQueryArguments(statements::DayQuery, {day})->size();
     }
     return found;

@@ -2,10 +2,9 @@
 // every day's lectures, and the painting of all cells, each of which asks again; by the number of
 // lectures kept and with or without the indexes. With them the time must not depend on the number.
 
+#include "MonthOfLectures.h"
 #include "calendar/CKCalendarView.h"
 #include "calendar/CalendarDelegate.h"
-#include "store/Sqlite.h"
-#include "store/Statements.h"
 
 #include <QApplication>
 #include <QImage>
@@ -19,13 +18,10 @@ using store::Sqlite;
 
 namespace {
 
-const QDate LastDay(2024, 3, 31);
-constexpr int LecturesADay = 4;
-
 class StandingClock final : public platform::Clock
 {
 public:
-    QDateTime now() const override { return {LastDay.addDays(-26), QTime(9, 0), Qt::UTC}; }
+    QDateTime now() const override { return {bench::LastDay.addDays(-26), QTime(9, 0), Qt::UTC}; }
     std::unique_ptr<Pending> callAfter(std::chrono::milliseconds, std::function<void()>) override
     {
         return nullptr;
@@ -52,19 +48,7 @@ private:
     Sqlite &m_database;
 };
 
-QVariantList lecture(int number)
-{
-    return {QStringLiteral("Optics %1").arg(number),
-            QStringLiteral("test course"),
-            QStringLiteral("Lenses and mirrors, and what they have in common. ").repeated(4),
-            LastDay.addDays(-(number / LecturesADay)).toString(Qt::ISODate),
-            QStringLiteral("10.00 AM"),
-            QStringLiteral("11.30 AM"),
-            QStringLiteral("/home/student/.local/share/Tarvelo/Audio/%1.aac").arg(number),
-            QStringLiteral("00:45:00")};
-}
-
-// Backwards from the last day of the month, so that the month is full from 124 lectures on.
+// Made once a kind and kept for the run.
 QString fileWith(int lectures, bool indexes)
 {
     static const QTemporaryDir folder;
@@ -76,10 +60,7 @@ QString fileWith(int lectures, bool indexes)
         database.executeNonQuery(store::statements::CreateAfterInsert);
         if (indexes)
             database.executeNonQuery(store::statements::IndexByDay);
-        database.beginTransaction();
-        for (int i = lectures - 1; i >= 0; --i)
-            database.executeNonQueryArguments(store::statements::Insert, lecture(i));
-        database.commit();
+        bench::fill(database, lectures);
     }
     return file;
 }

@@ -30,35 +30,30 @@ double percentOfACore(const QStringList &command)
 
 QStringList ffplay(const QString &file, double rate)
 {
-    QStringList command{QStringLiteral("ffplay"), QStringLiteral("-nodisp"), QStringLiteral("-v"),
-                        QStringLiteral("quiet")};
+    QStringList slowing;
     if (rate != 1)
-        command += {QStringLiteral("-af"), QStringLiteral("rubberband=tempo=%1").arg(rate)};
-    return command + QStringList{file};
+        slowing = {QStringLiteral("-af"), QStringLiteral("rubberband=tempo=%1").arg(rate)};
+    return bench::ffplay(file, slowing);
+}
+
+bool compare(const QString &folder)
+{
+    const QString file = bench::lectureOf(5, folder);
+    std::printf("%-10s %18s %18s\n", "rate", "a player, % of a core", "ffplay, %");
+    bool isAsWanted = true;
+    for (const double rate : {1.0, 0.5, 1.0 / 3, 0.25, 0.2}) {
+        const double ours = percentOfACore(bench::ourPlayer(file, rate));
+        std::printf("%-10.3f %18.2f %18.2f\n", rate, ours, percentOfACore(ffplay(file, rate)));
+        std::fflush(stdout);
+        isAsWanted = isAsWanted && ours >= 0 && ours < Most;
+    }
+    std::printf("(below %.0f %% wanted)\n", Most);
+    return isAsWanted;
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc == 4) // --play FILE RATE
-        return bench::play(argc, argv);
-    const QCoreApplication application(argc, argv);
-    const QTemporaryDir folder;
-    tests::PrivateSoundServer server;
-    const QString file = bench::lectureOf(5, folder.path());
-    if (!server.start())
-        return 2;
-    qputenv("SDL_AUDIODRIVER", "pulseaudio");
-    std::printf("%-10s %18s %18s\n", "rate", "a player, % of a core", "ffplay, %");
-    bool isAsWanted = true;
-    for (const double rate : {1.0, 0.5, 1.0 / 3, 0.25, 0.2}) {
-        const double ours = percentOfACore({QCoreApplication::applicationFilePath(),
-                                            QStringLiteral("--play"), file, QString::number(rate)});
-        std::printf("%-10.3f %18.2f %18.2f\n", rate, ours, percentOfACore(ffplay(file, rate)));
-        std::fflush(stdout);
-        isAsWanted = isAsWanted && ours >= 0 && ours < Most;
-    }
-    std::printf("(below %.0f %% wanted)\n", Most);
-    return isAsWanted ? 0 : 1;
+    return bench::comparePlayers(argc, argv, compare);
 }

@@ -29,35 +29,30 @@ Memory memoryOf(const QStringList &command)
     return {playing.mebibytes("VmRSS"), playing.mebibytes("VmHWM")};
 }
 
-} // namespace
-
-int main(int argc, char **argv)
+bool compare(const QString &folder)
 {
-    if (argc == 4) // --play FILE RATE
-        return bench::play(argc, argv);
-    const QCoreApplication application(argc, argv);
-    const QTemporaryDir folder;
-    tests::PrivateSoundServer server;
-    if (!server.start())
-        return 2;
-    qputenv("SDL_AUDIODRIVER", "pulseaudio");
     std::printf("%-24s %8s %10s %10s %10s\n", "memory while playing", "lecture", "file MiB",
                 "now MiB", "most MiB");
     bool isAsWanted = true;
     for (const int minutes : {1, 180}) {
-        const QString file = bench::lectureOf(minutes, folder.path());
+        const QString file = bench::lectureOf(minutes, folder);
         const double size = static_cast<double>(QFileInfo(file).size()) / (1 << 20);
         const auto print = [&](const char *what, const Memory &memory) {
             std::printf("%-24s %4d min %10.1f %10.1f %10.1f\n", what, minutes, size, memory.now,
                         memory.most);
         };
-        const Memory ours = memoryOf({QCoreApplication::applicationFilePath(),
-                                      QStringLiteral("--play"), file, QStringLiteral("0.2")});
+        const Memory ours = memoryOf(bench::ourPlayer(file, 0.2));
         print("a player, rate 0.2", ours);
-        print("ffplay", memoryOf({QStringLiteral("ffplay"), QStringLiteral("-nodisp"),
-                                  QStringLiteral("-v"), QStringLiteral("quiet"), file}));
+        print("ffplay", memoryOf(bench::ffplay(file)));
         isAsWanted = isAsWanted && ours.now > 0 && ours.now <= size + MostBesides;
     }
     std::printf("(at most the file and %.0f MiB wanted)\n", MostBesides);
-    return isAsWanted ? 0 : 1;
+    return isAsWanted;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    return bench::comparePlayers(argc, argv, compare);
 }

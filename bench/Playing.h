@@ -4,9 +4,11 @@
 #include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
 #include "audio/engine/SpeakerRecording.h"
+#include "support/PrivateSoundServer.h"
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include <chrono>
 #include <cstdio>
@@ -36,6 +38,34 @@ inline int play(int argc, char **argv)
     if (const float rate = arguments.at(3).toFloat(); rate != 1.0F)
         player->setRate(rate);
     return QCoreApplication::exec();
+}
+
+// The commands that play the file: this program, and what is laid beside it.
+inline QStringList ourPlayer(const QString &file, double rate = 1)
+{
+    return {QCoreApplication::applicationFilePath(), QStringLiteral("--play"), file,
+            QString::number(rate)};
+}
+inline QStringList ffplay(const QString &file, const QStringList &options = {})
+{
+    return QStringList{QStringLiteral("ffplay"), QStringLiteral("-nodisp"), QStringLiteral("-v"),
+                       QStringLiteral("quiet")} +
+           options + QStringList{file};
+}
+
+// The whole of a program that compares players. `compare` has a sound server, and a folder for
+// lectures; it says whether the result is as wanted.
+inline int comparePlayers(int argc, char **argv, bool (*compare)(const QString &folder))
+{
+    if (argc == 4) // --play FILE RATE
+        return play(argc, argv);
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir folder;
+    tests::PrivateSoundServer server;
+    if (!server.start())
+        return 2;
+    qputenv("SDL_AUDIODRIVER", "pulseaudio");
+    return compare(folder.path()) ? 0 : 1;
 }
 
 // A player as a process of its own, from its start to the end of this object.

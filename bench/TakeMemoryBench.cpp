@@ -4,30 +4,15 @@
 
 #include "audio/engine/PcmFormat.h"
 #include "audio/engine/TakeWriter.h"
+#include "support/ResidentMemory.h"
 #include "support/TestSound.h"
 
 #include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
-#include <unistd.h>
 
 using namespace tarvelo;
-
-namespace {
-
-double residentMebibytes()
-{
-    long pages = 0;
-    long resident = 0;
-    std::FILE *statistics = std::fopen("/proc/self/statm", "r");
-    if (!statistics || std::fscanf(statistics, "%ld %ld", &pages, &resident) != 2)
-        return -1;
-    std::fclose(statistics);
-    return static_cast<double>(resident * sysconf(_SC_PAGESIZE)) / (1 << 20);
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {
@@ -42,9 +27,9 @@ int main(int argc, char **argv)
             if (!writer->write(std::span(minute).subspan(at, 2205)))
                 return 2;
         if (minutes == 0)
-            first = residentMebibytes();
+            first = tests::residentMebibytes();
     }
-    const double last = residentMebibytes();
+    const double last = tests::residentMebibytes();
     std::printf("%-34s %10s\n", "memory of a take in the making", "MiB");
     std::printf("%-34s %10.2f\n", "after one minute", first);
     std::printf("after %-4.1f hours %30.2f\n", hours, last);

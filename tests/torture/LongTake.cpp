@@ -8,6 +8,7 @@
 #include "audio/engine/Take.h"
 #include "support/DecodedAudio.h"
 #include "support/FileContent.h"
+#include "support/ResidentMemory.h"
 #include "support/TestSound.h"
 
 #include <QCoreApplication>
@@ -19,7 +20,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <random>
-#include <unistd.h>
 
 using namespace tarvelo;
 
@@ -55,17 +55,6 @@ private:
     std::vector<float> m_one = tests::tune(Rate, 61.0, 1);
     std::vector<float> m_other = tests::tune(Rate, 59.003, 2);
 };
-
-double residentMebibytes()
-{
-    long pages = 0;
-    long resident = 0;
-    std::FILE *statistics = std::fopen("/proc/self/statm", "r");
-    if (!statistics || std::fscanf(statistics, "%ld %ld", &pages, &resident) != 2)
-        return -1;
-    std::fclose(statistics);
-    return static_cast<double>(resident * sysconf(_SC_PAGESIZE)) / (1 << 20);
-}
 
 double secondsSince(std::chrono::steady_clock::time_point start)
 {
@@ -139,15 +128,15 @@ bool record(engine::Take &take, const LongTune &tune, std::int64_t frames, int r
             return false;
         take.put(onBothSides(tune.piece(at, std::min<std::int64_t>(Rate, frames - at))));
         if (at == std::min<std::int64_t>(60, frames / Rate / 2) * Rate)
-            first = residentMebibytes();
+            first = tests::residentMebibytes();
         if (at > 0 && at % interval < Rate) {
-            most = std::max(most, residentMebibytes());
+            most = std::max(most, tests::residentMebibytes());
             std::printf("resident %.2f h %.2f MiB\n", static_cast<double>(at) / Rate / 3600,
-                        residentMebibytes());
+                        tests::residentMebibytes());
             std::fflush(stdout);
         }
     }
-    most = std::max(most, residentMebibytes());
+    most = std::max(most, tests::residentMebibytes());
     std::printf("resident_first %.2f\nresident_most %.2f\n", first, most);
     return std::abs(take.seconds() - static_cast<double>(frames) / Rate) < 1e-6;
 }
@@ -174,7 +163,8 @@ int main(int argc, char **argv)
     std::printf("recorded_s %.1f\n", secondsSince(start));
     const auto end = std::chrono::steady_clock::now();
     const bool isComplete = take->finish();
-    std::printf("finished_s %.2f\nresident_after %.2f\n", secondsSince(end), residentMebibytes());
+    std::printf("finished_s %.2f\nresident_after %.2f\n", secondsSince(end),
+                tests::residentMebibytes());
 
     const auto facts = tests::MovieFacts::read(path);
     const QByteArray bytes = tests::contentOf(path);
