@@ -1,7 +1,6 @@
 """The student comes back after a power cut: what waits is stored or offered, and what is offered is kept."""
 
 import os
-import shutil
 
 import numpy
 

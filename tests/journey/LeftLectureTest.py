@@ -12,7 +12,6 @@ sys.path.insert(0, os.path.join(HERE, "..", "..", "scripts"))
 
 from outside import names, proof  # noqa: E402  (found by the path set above)
 from outside.case import SentenceTest  # noqa: E402
-from outside.waiting import wait_for  # noqa: E402
 
 PROGRAM = sys.argv.pop(1)
 SUBJECT = "Wave Optics"
