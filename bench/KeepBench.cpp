@@ -109,8 +109,8 @@ public:
     }
 
     QString folder() const { return m_folder.path(); }
-    QList<LeftLectures::Left> undecided() const { return m_lectures.undecided(); }
-    bool keep(const LeftLectures::Left &left)
+    QList<LeftLectures::LeftLecture> undecided() const { return m_lectures.undecided(); }
+    bool keep(const LeftLectures::LeftLecture &left)
     {
         return m_lectures.keep(left) == LeftLectures::Kept::Stored;
     }
@@ -132,7 +132,7 @@ int main(int argc, char **argv)
 {
     const double hours = argc > 1 ? std::atof(argv[1]) : 3;
     Home home(hours);
-    QList<LeftLectures::Left> left;
+    QList<LeftLectures::LeftLecture> left;
     const double heard = secondsOf([&] {
         left = home.undecided();
         return left.size() == 1 && left.first().seconds > hours * 3600 - 1;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/AudioPlayer.h"
-#include "audio/engine/AudioRecorder.h"
 #include "audio/engine/SoundBytes.h"
 #include "audio/engine/SpeakerRecording.h"
 #include "support/PrivateSoundServer.h"

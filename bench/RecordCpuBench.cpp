@@ -2,7 +2,7 @@
 // the same? One after the other, from the same server, each in a process of its own.
 
 #include "ChildProcess.h"
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioEngine.h"
 #include "support/PrivateSoundServer.h"
 #include "support/TestSound.h"
 
@@ -23,10 +23,10 @@ int record(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     using namespace engine;
     const auto recorder = makeSoundServerEngine()->makeRecorder(
-        QString::fromLocal8Bit(argv[2]), {{RecorderSetting::SampleRate, 44100.0F},
-                                          {RecorderSetting::NumberOfChannels, 2},
-                                          {RecorderSetting::EncoderBitRate, 80000},
-                                          {RecorderSetting::Format, 0x61616320}});
+        QString::fromLocal8Bit(argv[2]), {{RecorderSettingKeys::SampleRate, 44100.0F},
+                                          {RecorderSettingKeys::NumberOfChannels, 2},
+                                          {RecorderSettingKeys::EncoderBitRate, 80000},
+                                          {RecorderSettingKeys::Format, 0x61616320}});
     if (!recorder || !recorder->prepareToRecord() || !recorder->record())
         return 1;
     QTimer timer;

@@ -284,9 +284,9 @@ void AppDelegate::perform(Request request)
     activateIgnoringOtherApps();
     applicationShouldHandleReopenHasVisibleWindows(qGuiApp, isOnScreen(m_window));
     if (request == Request::NewLecture)
-        run(Command::NewLectureFromStatusItem);
+        run(Command::NewLectureFromOutside);
     else if (request == Request::ShowPreferences)
-        run(Command::PreferencesFromStatusItem);
+        run(Command::PreferencesFromOutside);
 }
 
 void AppDelegate::terminate(QObject *sender)
@@ -350,11 +350,11 @@ void AppDelegate::run(Command command)
     case Command::Open:
         openAtFront(nullptr);
         break;
-    case Command::NewLectureFromStatusItem:
+    case Command::NewLectureFromOutside:
         activateIgnoringOtherApps();
         addLecture();
         break;
-    case Command::PreferencesFromStatusItem:
+    case Command::PreferencesFromOutside:
         openSettingPanel(nullptr);
         break;
     case Command::Quit:

@@ -45,8 +45,8 @@ constexpr std::array<Entry, static_cast<std::size_t>(Command::Count)> entries()
         {Command::CloseWindow, "MENU_CLOSE_WINDOW", "closeWindow", Qt::CTRL | Qt::Key_W, true},
         {Command::Quit, "MENU_QUIT", "quit", Qt::CTRL | Qt::Key_Q, false},
         {Command::Open, "MENU_OPEN", "statusOpen", NoKeys, false},
-        {Command::NewLectureFromStatusItem, "MENU_NEW_LECTURE", "statusNewLecture", NoKeys, false},
-        {Command::PreferencesFromStatusItem, "MENU_PREFERENCES", "statusPreferences", NoKeys, true},
+        {Command::NewLectureFromOutside, "MENU_NEW_LECTURE", "statusNewLecture", NoKeys, false},
+        {Command::PreferencesFromOutside, "MENU_PREFERENCES", "statusPreferences", NoKeys, true},
         {Command::QuitFromStatusItem, "MENU_QUIT", "statusQuit", NoKeys, false},
     }};
 }

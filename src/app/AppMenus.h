@@ -25,8 +25,8 @@ enum class Command {
     Quit,
     // Of the status item alone, which also brings the application forward.
     Open,
-    NewLectureFromStatusItem,
-    PreferencesFromStatusItem,
+    NewLectureFromOutside,
+    PreferencesFromOutside,
     QuitFromStatusItem,
     Count
 };

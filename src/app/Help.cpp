@@ -1,6 +1,6 @@
 #include "app/Help.h"
 
-#include "platform/Process.h"
+#include "platform/Places.h"
 #include "platform/Workspace.h"
 
 #include <QObject>

@@ -2,7 +2,7 @@
 
 #include "app/Sheet.h"
 #include "audio/DurationText.h"
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/SoundBytes.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
@@ -139,7 +139,7 @@ bool LeftLectureSheet::eventFilter(QObject *watched, QEvent *event)
 
 void LeftLectureSheet::showFirst()
 {
-    const audio::LeftLectures::Left &left = m_waiting.first();
+    const audio::LeftLectures::LeftLecture &left = m_waiting.first();
     const QDateTime day = m_dates.readStoredDay(left.journal.day);
     m_subject->setText(store::subjectToStore(left.journal.subject));
     // One that another calendar wrote is shown as it wrote it.

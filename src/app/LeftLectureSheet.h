@@ -60,7 +60,7 @@ private:
     const platform::Dates &m_dates;
     engine::AudioEngine &m_engine;
     QWidget &m_mainWindow;
-    QList<audio::LeftLectures::Left> m_waiting; // the first of them is shown
+    QList<audio::LeftLectures::LeftLecture> m_waiting; // the first of them is shown
     std::unique_ptr<engine::AudioPlayer> m_player;
     QDialog *m_sheet; // child of the main window, and all below are its
     QLabel *m_subject = nullptr;

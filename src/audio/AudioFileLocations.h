@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Process.h"
+#include "platform/Places.h"
 
 #include <QString>
 

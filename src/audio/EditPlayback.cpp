@@ -1,7 +1,7 @@
 #include "audio/EditPlayback.h"
 
 #include "audio/PlayerDisplay.h"
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/SoundBytes.h"
 
 #include <QLabel>

@@ -32,21 +32,21 @@ FileCopy::FileCopy(const QString &source, const QString &target, std::function<v
 
 void FileCopy::start()
 {
-    if (begins())
+    if (begin())
         goOn();
     else
         end();
 }
 
 // Only plain files: opening a pipe would wait for who writes into it.
-bool FileCopy::begins()
+bool FileCopy::begin()
 {
     return !QFileInfo::exists(m_target) && QFileInfo(m_source.fileName()).isFile() &&
            m_source.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && m_sibling.open();
 }
 
 // Each piece is forced to the disk as it comes, since all of them at the end would take seconds.
-bool FileCopy::copiesPiece()
+bool FileCopy::copyPiece()
 {
     const QByteArray piece = m_source.read(PieceSize);
     return m_source.error() == QFile::NoError && m_sibling.write(piece) == piece.size() &&
@@ -55,7 +55,7 @@ bool FileCopy::copiesPiece()
 
 void FileCopy::goOn()
 {
-    const bool isCopied = copiesPiece();
+    const bool isCopied = copyPiece();
     if (isCopied && !m_source.atEnd()) {
         QTimer::singleShot(0, this, &FileCopy::goOn);
         return;

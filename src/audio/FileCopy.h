@@ -27,8 +27,8 @@ public:
     void start();
 
 private:
-    bool begins();
-    bool copiesPiece();
+    bool begin();
+    bool copyPiece();
     void goOn();
     void end();
 

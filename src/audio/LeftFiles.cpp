@@ -101,7 +101,7 @@ LeftFiles::LeftFiles(const QString &folder, const QString &takeName, const platf
 {
 }
 
-std::optional<QList<LeftFiles::Lecture>> LeftFiles::all() const
+std::optional<QList<LeftFiles::Leftover>> LeftFiles::all() const
 {
     const auto names = namesIn(m_folder);
     if (!names)
@@ -111,24 +111,24 @@ std::optional<QList<LeftFiles::Lecture>> LeftFiles::all() const
     for (const QString &name : left)
         bases.append(baseOf(name));
     bases.removeDuplicates();
-    QList<Lecture> lectures;
+    QList<Leftover> leftovers;
     for (const QString &base : std::as_const(bases)) {
         const QString journal = pathOf(base + JournalEnding);
-        Lecture lecture{
-            .journalPath = journal, .takePath = {}, .journal = store::readJournal(journal)};
+        Leftover leftover{
+            .journalPath = journal, .takePath = {}, .journalFile = store::readJournal(journal)};
         for (const QString &name : left)
             if (baseOf(name) == base && !isJournal(name))
-                lecture.takePath = pathOf(name);
-        lectures.append(lecture);
+                leftover.takePath = pathOf(name);
+        leftovers.append(leftover);
     }
-    return lectures;
+    return leftovers;
 }
 
 bool LeftFiles::moveFrom(const QString &from) const
 {
     return takeBackReadable(from) && takeBackReadable(m_folder) && giveUpUnreadable(from) &&
            giveUpUnreadable(m_folder) && (from == m_folder || moveLeftovers(from)) &&
-           moveLecture(from);
+           moveLeftover(from);
 }
 
 // What was put aside and can be read after all. Its recording is a lecture by now, or nobody wants
@@ -228,7 +228,7 @@ std::optional<JournalFile> LeftFiles::wholeJournal(const QString &path)
 
 // The recording goes first, under a name that the journal tells: whoever is interrupted between the
 // two puts them together again.
-bool LeftFiles::moveLecture(const QString &from) const
+bool LeftFiles::moveLeftover(const QString &from) const
 {
     const auto names = namesIn(from);
     const QString path = from + u'/' + journalName();

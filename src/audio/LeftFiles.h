@@ -29,14 +29,14 @@ public:
     // outlives this object.
     LeftFiles(const QString &folder, const QString &takeName, const platform::Dates &dates);
 
-    struct Lecture
+    struct Leftover
     {
         QString journalPath; // also when there is none
         QString takePath;    // empty without a recording
-        store::JournalFile journal;
+        store::JournalFile journalFile;
     };
     // Oldest first; null when the folder cannot be read now.
-    std::optional<QList<Lecture>> all() const;
+    std::optional<QList<Leftover>> all() const;
 
     // Moves here what stands in `from`, which may be the same folder, of lectures that are not open
     // any more, unless they were left on purpose. False when something of them stands there still;
@@ -53,7 +53,7 @@ private:
     bool giveUpUnreadable(const QString &from) const;
     bool moveLeftovers(const QString &from) const;
     static std::optional<store::JournalFile> wholeJournal(const QString &path);
-    bool moveLecture(const QString &from) const;
+    bool moveLeftover(const QString &from) const;
     bool isTake(const QString &name) const { return name.startsWith(m_takeName + u'.'); }
     bool moveTakes(const QStringList &takes, const QString &ofJournal, const QString &name) const;
     bool isBlank(const store::LectureJournal &journal, const QString &name) const;

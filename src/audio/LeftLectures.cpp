@@ -49,23 +49,23 @@ void LeftLectures::adoptClosed(const QString &folder)
 }
 
 // Without those whose journal cannot be read now: nobody knows what is to be done with them.
-QList<LeftLectures::Left> LeftLectures::all() const
+QList<LeftLectures::LeftLecture> LeftLectures::all() const
 {
     const auto files = m_files ? m_files->all() : std::nullopt;
-    QList<Left> lectures;
-    for (const LeftFiles::Lecture &file : files.value_or(QList<LeftFiles::Lecture>()))
-        if (file.journal.state != JournalFile::State::Unreadable)
+    QList<LeftLecture> lectures;
+    for (const LeftFiles::Leftover &file : files.value_or(QList<LeftFiles::Leftover>()))
+        if (file.journalFile.state != JournalFile::State::Unreadable)
             lectures.append({.journalPath = file.journalPath,
                              .takePath = file.takePath,
-                             .journal = file.journal.journal});
+                             .journal = file.journalFile.journal});
     return lectures;
 }
 
-QList<LeftLectures::Left> LeftLectures::undecided() const
+QList<LeftLectures::LeftLecture> LeftLectures::undecided() const
 {
-    QList<Left> lectures = all();
-    lectures.removeIf([](const Left &left) { return left.journal.isDone; });
-    for (Left &left : lectures) {
+    QList<LeftLecture> lectures = all();
+    lectures.removeIf([](const LeftLecture &left) { return left.journal.isDone; });
+    for (LeftLecture &left : lectures) {
         if (!left.takePath.isEmpty())
             left.seconds = engine::secondsOfLeftTake(left.takePath);
         // The day on which it ended is the best that is known of a recording alone. It is written
@@ -81,31 +81,33 @@ QList<LeftLectures::Left> LeftLectures::undecided() const
 // What cannot be read now may be one.
 int LeftLectures::owed() const
 {
-    const auto files = m_files ? m_files->all() : std::optional(QList<LeftFiles::Lecture>());
+    const auto files = m_files ? m_files->all() : std::optional(QList<LeftFiles::Leftover>());
     return !files ? 1 : static_cast<int>(std::ranges::count_if(*files, [](const auto &file) {
-        return file.journal.journal.isDone || file.journal.state == JournalFile::State::Unreadable;
+        return file.journalFile.journal.isDone ||
+               file.journalFile.state == JournalFile::State::Unreadable;
     }));
 }
 
-LeftLectures::Kept LeftLectures::keep(const Left &left)
+LeftLectures::Kept LeftLectures::keep(const LeftLecture &left)
 {
-    Left kept = left;
+    LeftLecture kept = left;
     // An earlier try may have decided it without knowing, and it is stored by now.
     const auto files = m_files ? m_files->all() : std::nullopt;
     if (!files)
         return Kept::Undecided;
-    const auto file = std::ranges::find(*files, left.journalPath, &LeftFiles::Lecture::journalPath);
+    const auto file =
+        std::ranges::find(*files, left.journalPath, &LeftFiles::Leftover::journalPath);
     if (file == files->end())
         return Kept::Stored;
-    if (file->journal.journal.isDone)
-        kept = {file->journalPath, file->takePath, file->journal.journal};
+    if (file->journalFile.journal.isDone)
+        kept = {file->journalPath, file->takePath, file->journalFile.journal};
     else if (!decide(kept))
         return Kept::Undecided;
-    return moveTake(kept) && store(kept) ? Kept::Stored : Kept::Later;
+    return moveTake(kept) && storeRow(kept) ? Kept::Stored : Kept::Later;
 }
 
 // From here on it is kept, whoever does the rest.
-bool LeftLectures::decide(Left &left)
+bool LeftLectures::decide(LeftLecture &left)
 {
     left.journal.isDone = true;
     left.journal.lastRow = lastRow();
@@ -118,7 +120,7 @@ bool LeftLectures::decide(Left &left)
     return choosePlace(left);
 }
 
-bool LeftLectures::choosePlace(Left &left)
+bool LeftLectures::choosePlace(LeftLecture &left)
 {
     const bool hasTake = !left.takePath.isEmpty();
     left.journal.target = hasTake ? m_locations.freeAudioSavePath() : QString();
@@ -128,7 +130,7 @@ bool LeftLectures::choosePlace(Left &left)
     return platform::SteadyFile(left.journalPath).replace(store::toBytes(left.journal));
 }
 
-bool LeftLectures::moveTake(Left &left)
+bool LeftLectures::moveTake(LeftLecture &left)
 {
     if (left.takePath.isEmpty()) {
         if (left.journal.target.isEmpty())
@@ -178,7 +180,7 @@ std::optional<qint64> LeftLectures::storedRow(const LectureJournal &journal) con
 
 // Without the reset that a failed write of the program is followed by: nobody asked for this one
 // just now.
-std::optional<LeftLectures::Stored> LeftLectures::store(const Left &left)
+std::optional<LeftLectures::Stored> LeftLectures::storeRow(const LeftLecture &left)
 {
     // Opened first, since that tells what has gone.
     store::Sqlite *const database = m_database.openToWrite();
@@ -233,11 +235,11 @@ void LeftLectures::lecturesHaveGone(const store::GoneLectures &gone)
     });
 }
 
-QString LeftLectures::journalOf(const store::LectureInfoItem &lecture) const
+QString LeftLectures::journalIdOf(const store::LectureInfoItem &lecture) const
 {
     const QString &recording = lecture.getLectureAudioPath();
-    const QList<Left> lectures = recording.isEmpty() ? QList<Left>() : all();
-    const auto owed = std::ranges::find_if(lectures, [&recording](const Left &left) {
+    const QList<LeftLecture> lectures = recording.isEmpty() ? QList<LeftLecture>() : all();
+    const auto owed = std::ranges::find_if(lectures, [&recording](const LeftLecture &left) {
         return left.journal.isDone && left.journal.target == recording;
     });
     if (owed != lectures.end())
@@ -248,7 +250,7 @@ QString LeftLectures::journalOf(const store::LectureInfoItem &lecture) const
 void LeftLectures::storeOwed(const std::function<void(const Stored &)> &stored,
                              const QHash<QString, Texts> &newer)
 {
-    for (Left &left : all()) {
+    for (LeftLecture &left : all()) {
         if (!left.journal.isDone)
             continue;
         if (const auto texts = newer.find(left.journal.id); texts != newer.end()) {
@@ -260,7 +262,7 @@ void LeftLectures::storeOwed(const std::function<void(const Stored &)> &stored,
         const bool wasMoved = left.takePath.isEmpty() && !left.journal.target.isEmpty();
         if (wasMoved && !platform::isThere(left.journal.target).has_value())
             continue;
-        const auto lecture = moveTake(left) ? store(left) : std::nullopt;
+        const auto lecture = moveTake(left) ? storeRow(left) : std::nullopt;
         if (lecture && stored)
             stored(*lecture);
     }
@@ -269,11 +271,11 @@ void LeftLectures::storeOwed(const std::function<void(const Stored &)> &stored,
 std::optional<bool> LeftLectures::change(const QString &id, const QString &subject,
                                          const QString &notes)
 {
-    const auto files = m_files ? m_files->all() : std::optional(QList<LeftFiles::Lecture>());
+    const auto files = m_files ? m_files->all() : std::optional(QList<LeftFiles::Leftover>());
     bool areAllKnown = files.has_value();
-    for (const LeftFiles::Lecture &file : files.value_or(QList<LeftFiles::Lecture>())) {
-        LectureJournal journal = file.journal.journal;
-        areAllKnown = areAllKnown && file.journal.state != JournalFile::State::Unreadable;
+    for (const LeftFiles::Leftover &file : files.value_or(QList<LeftFiles::Leftover>())) {
+        LectureJournal journal = file.journalFile.journal;
+        areAllKnown = areAllKnown && file.journalFile.state != JournalFile::State::Unreadable;
         if (!journal.isDone || journal.id != id)
             continue;
         journal.subject = subject;
@@ -285,21 +287,21 @@ std::optional<bool> LeftLectures::change(const QString &id, const QString &subje
 
 void LeftLectures::discard(const QString &id)
 {
-    for (const Left &left : all())
+    for (const LeftLecture &left : all())
         if (left.journal.isDone && left.journal.id == id)
             discard(left);
 }
 
-std::optional<LeftLectures::Left> LeftLectures::unwritten(const QString &folder,
-                                                          const LectureJournal &journal)
+std::optional<LeftLectures::LeftLecture> LeftLectures::unwritten(const QString &folder,
+                                                                 const LectureJournal &journal)
 {
     const std::optional<bool> hasTake =
         journal.take.isEmpty() ? std::optional(false) : platform::isThere(journal.take);
     if (!hasTake)
         return std::nullopt;
-    return Left{.journalPath = folder + u'/' + LeftFiles::journalName(),
-                .takePath = *hasTake ? journal.take : QString(),
-                .journal = journal};
+    return LeftLecture{.journalPath = folder + u'/' + LeftFiles::journalName(),
+                       .takePath = *hasTake ? journal.take : QString(),
+                       .journal = journal};
 }
 
 std::optional<LeftLectures::Stored> LeftLectures::storeUnwritten(const QString &folder,
@@ -311,7 +313,7 @@ std::optional<LeftLectures::Stored> LeftLectures::storeUnwritten(const QString &
     const bool isMoved = moveTake(*left);
     journal.target = left->journal.target;
     journal.duration = left->journal.duration;
-    return isMoved ? store(*left) : std::nullopt;
+    return isMoved ? storeRow(*left) : std::nullopt;
 }
 
 void LeftLectures::discardUnwritten(const QString &folder, const LectureJournal &journal)
@@ -320,7 +322,7 @@ void LeftLectures::discardUnwritten(const QString &folder, const LectureJournal 
         discard(*left);
 }
 
-void LeftLectures::discard(const Left &left)
+void LeftLectures::discard(const LeftLecture &left)
 {
     if (!left.takePath.isEmpty())
         platform::removeDurably(left.takePath);

@@ -29,7 +29,7 @@ class AudioFileLocations;
 class LeftLectures final
 {
 public:
-    struct Left
+    struct LeftLecture
     {
         QString journalPath; // also when there is none
         QString takePath;    // empty without a recording
@@ -53,15 +53,15 @@ public:
     void adoptClosed(const QString &folder);
 
     // Oldest first: those that nobody has decided on.
-    QList<Left> undecided() const;
+    QList<LeftLecture> undecided() const;
     // How many are to be kept and not yet stored, with those of which nothing can be known now.
     int owed() const;
 
     // Later: it is decided, and storeOwed() does the rest. Undecided: not even that could be
     // written down.
     enum class Kept { Stored, Later, Undecided };
-    Kept keep(const Left &left);
-    void discard(const Left &left);
+    Kept keep(const LeftLecture &left);
+    void discard(const LeftLecture &left);
     // By the journal's ID, as long as its row is not stored. A change that could not be written
     // down is false, one for which there is no such journal null. What nobody has decided on has no
     // ID yet.
@@ -69,7 +69,7 @@ public:
     void discard(const QString &id);
     // Of the journal of a stored lecture, as far as it is known: of what this process stored, and
     // of a recording that is promised to a lecture. Empty when there is none.
-    QString journalOf(const store::LectureInfoItem &lecture) const;
+    QString journalIdOf(const store::LectureInfoItem &lecture) const;
     // The row of this journal's lecture is stored: it is no other journal's.
     void rowIsStored(const QString &id, qint64 row);
     // Their IDs are not theirs any more. Journals of theirs that are there all the same have
@@ -99,14 +99,14 @@ public:
     qint64 lastRow() const;
 
 private:
-    QList<Left> all() const;
+    QList<LeftLecture> all() const;
     // Null when it cannot be known now whether there is a recording.
-    static std::optional<Left> unwritten(const QString &folder,
-                                         const store::LectureJournal &journal);
-    bool decide(Left &left);
-    bool choosePlace(Left &left);
-    bool moveTake(Left &left);
-    std::optional<Stored> store(const Left &left);
+    static std::optional<LeftLecture> unwritten(const QString &folder,
+                                                const store::LectureJournal &journal);
+    bool decide(LeftLecture &left);
+    bool choosePlace(LeftLecture &left);
+    bool moveTake(LeftLecture &left);
+    std::optional<Stored> storeRow(const LeftLecture &left);
     std::optional<qint64> storedRow(const store::LectureJournal &journal) const;
 
     const AudioFileLocations &m_locations;

@@ -5,7 +5,7 @@
 #include "audio/PlayerDisplay.h"
 #include "audio/RecordingDisplay.h"
 #include "audio/StopButton.h"
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/SoundBytes.h"
 #include "platform/Images.h"
 #include "platform/WindowLevel.h"
@@ -203,11 +203,11 @@ void Playback::audioPlayerDidFinishPlayingSuccessfully(engine::AudioPlayer *play
     if (m_edit.isEditPlayer(player))
         m_edit.ended();
     else if (player)
-        lectureEnded(*player);
+        soundEnded(*player);
 }
 
 // The labels read "0:00:00" here and "00:00:00" where there is no player, which is wanted.
-void Playback::lectureEnded(engine::AudioPlayer &player)
+void Playback::soundEnded(engine::AudioPlayer &player)
 {
     m_lecture.txtElapsedTime->setText(QStringLiteral("0:00:00"));
     m_lecture.txtRemainingTime->setText(QStringLiteral("0:00:00"));

@@ -98,7 +98,7 @@ public:
     void audioDidEndPlayingEdit(QWidget *) {}
 
 private:
-    void lectureEnded(engine::AudioPlayer &player);
+    void soundEnded(engine::AudioPlayer &player);
 
     engine::AudioEngine &m_engine;
     const AudioFileLocations &m_locations;

@@ -46,7 +46,7 @@ RecordingControl::RecordingControl(engine::AudioEngine &engine, const AudioFileL
 
 QVariantMap RecordingControl::audioRecordingSettings()
 {
-    using Setting = engine::RecorderSetting;
+    using Setting = engine::RecorderSettingKeys;
     return {{Setting::SampleRate, 44100.0F},
             {Setting::NumberOfChannels, 2},
             {Setting::EncoderBitRate, 80000},

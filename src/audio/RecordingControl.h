@@ -1,7 +1,7 @@
 #pragma once
 
 #include "audio/RecordingDisplay.h"
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioEngine.h"
 #include "platform/DelayedCall.h"
 
 #include <QVariantMap>

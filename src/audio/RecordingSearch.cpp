@@ -12,7 +12,7 @@ namespace tarvelo::audio {
 RecordingSearch::RecordingSearch(const QStringList &paths)
 try {
     connect(
-        this, &RecordingSearch::ended, this,
+        this, &RecordingSearch::threadEnded, this,
         [this] {
             m_thread.join();
             Q_EMIT finished(m_found);
@@ -40,7 +40,7 @@ void RecordingSearch::run(const QStringList &paths)
         if (seconds > 0)
             m_found.append({path, QFileInfo(path).lastModified(), seconds});
     }
-    Q_EMIT ended();
+    Q_EMIT threadEnded();
 }
 
 } // namespace tarvelo::audio

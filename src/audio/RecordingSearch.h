@@ -30,7 +30,7 @@ public:
 Q_SIGNALS:
     void finished(const QList<tarvelo::audio::FoundRecording> &recordings);
     // From the thread.
-    void ended();
+    void threadEnded();
 
 private:
     void run(const QStringList &paths);

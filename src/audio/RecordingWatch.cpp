@@ -24,7 +24,7 @@ namespace {
 
 constexpr auto Tick = 1s;
 constexpr int TicksBetweenLooksAtTheDisk = 5;
-constexpr qint64 FewMinutes = 30;
+constexpr qint64 LittleRoomMinutes = 30;
 constexpr qint64 LastMinutes = 5;
 constexpr double LongestQuiet = 10;
 
@@ -119,8 +119,8 @@ RecordingWatch::RoomLeft RecordingWatch::roomLeft() const
 {
     if (isRoomBelow(LastMinutes, m_shownRoom == RoomLeft::HardlyAny))
         return RoomLeft::HardlyAny;
-    return isRoomBelow(FewMinutes, m_shownRoom == RoomLeft::Little) ? RoomLeft::Little
-                                                                    : RoomLeft::Enough;
+    return isRoomBelow(LittleRoomMinutes, m_shownRoom == RoomLeft::Little) ? RoomLeft::Little
+                                                                           : RoomLeft::Enough;
 }
 
 QString RecordingWatch::textOf(RoomLeft room) const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FolderOwner.h"
+#include "platform/FolderLock.h"
 
 #include <QStringList>
 
@@ -31,7 +31,7 @@ private:
     explicit TakeFolder(const QString &path);
 
     QString m_path;
-    platform::FolderOwner m_owner;
+    platform::FolderLock m_owner;
     bool m_isOurs = false;
 };
 

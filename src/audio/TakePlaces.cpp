@@ -29,7 +29,7 @@ void TakePlaces::makeWay()
     if (m_places.empty())
         return;
     Place &place = m_places.back();
-    if (!place.writer || (place.isOccupied && !clear(place)))
+    if (!place.writer || (place.isOccupied && !vacate(place)))
         find();
 }
 
@@ -42,7 +42,7 @@ void TakePlaces::find()
         if (!m_places.back().isOccupied)
             return;
     }
-    if (!m_places.empty() && !m_places.back().folder && !m_places.back().owed)
+    if (!m_places.empty() && !m_places.back().folder && !m_places.back().unwritten)
         m_places.pop_back();
     use(TakeFolder::makeBelow(m_usual));
 }
@@ -72,46 +72,47 @@ void TakePlaces::adoptLeft()
         }
 }
 
-void TakePlaces::addOwed(const store::LectureJournal &journal)
+void TakePlaces::addUnwritten(const store::LectureJournal &journal)
 {
     if (m_places.empty())
         return;
     Place &place = m_places.back();
-    place.owed = journal;
+    place.unwritten = journal;
     // Nothing was recorded where no folder could be made.
     if (!place.folder)
-        place.owed->take.clear();
+        place.unwritten->take.clear();
     place.isOccupied = true;
 }
 
-TakePlaces::Place *TakePlaces::placeOwing(const QString &id)
+TakePlaces::Place *TakePlaces::placeOfUnwritten(const QString &id)
 {
-    const auto found = std::ranges::find_if(
-        m_places, [&id](const Place &place) { return place.owed && place.owed->id == id; });
+    const auto found = std::ranges::find_if(m_places, [&id](const Place &place) {
+        return place.unwritten && place.unwritten->id == id;
+    });
     return found == m_places.end() ? nullptr : &*found;
 }
 
-bool TakePlaces::changeOwed(const QString &id, const QString &subject, const QString &notes)
+bool TakePlaces::changeUnwritten(const QString &id, const QString &subject, const QString &notes)
 {
-    Place *const place = placeOwing(id);
+    Place *const place = placeOfUnwritten(id);
     if (!place)
         return false;
-    place->owed->subject = subject;
-    place->owed->notes = notes;
-    ++place->owed->version;
+    place->unwritten->subject = subject;
+    place->unwritten->notes = notes;
+    ++place->unwritten->version;
     if (place->writer)
-        place->writer->write(store::toBytes(*place->owed));
+        place->writer->write(store::toBytes(*place->unwritten));
     return true;
 }
 
-void TakePlaces::discardOwed(const QString &id)
+void TakePlaces::discardUnwritten(const QString &id)
 {
-    Place *const place = placeOwing(id);
+    Place *const place = placeOfUnwritten(id);
     if (!place)
         return;
     removeJournal(*place);
-    m_left.discardUnwritten(place->path, *place->owed);
-    place->owed.reset();
+    m_left.discardUnwritten(place->path, *place->unwritten);
+    place->unwritten.reset();
     place->isOccupied = place->folder != nullptr;
 }
 
@@ -134,23 +135,23 @@ bool TakePlaces::hasOccupied() const
     return std::ranges::any_of(m_places, [](const Place &place) { return place.isOccupied; });
 }
 
-void TakePlaces::clear()
+void TakePlaces::vacateOccupied()
 {
     for (Place &place : m_places)
         if (place.isOccupied)
-            clear(place);
+            vacate(place);
 }
 
-bool TakePlaces::clear(Place &place)
+bool TakePlaces::vacate(Place &place)
 {
     // What the writer still does is nobody else's.
     if (place.writer)
         place.writer->flush();
-    if (place.owed && place.writer && !place.writer->flush())
-        place.writer->write(store::toBytes(*place.owed));
-    if (place.owed && (!place.writer || !place.writer->flush()))
+    if (place.unwritten && place.writer && !place.writer->flush())
+        place.writer->write(store::toBytes(*place.unwritten));
+    if (place.unwritten && (!place.writer || !place.writer->flush()))
         return false;
-    place.owed.reset();
+    place.unwritten.reset();
     place.isOccupied = !m_left.setAside(place.path);
     return !place.isOccupied;
 }
@@ -158,14 +159,14 @@ bool TakePlaces::clear(Place &place)
 void TakePlaces::storeUnwritten(const std::function<void(const LeftLectures::Stored &)> &stored)
 {
     for (Place &place : m_places) {
-        if (!place.owed)
+        if (!place.unwritten)
             continue;
         if (place.writer)
             place.writer->flush();
-        const auto lecture = m_left.storeUnwritten(place.path, *place.owed);
+        const auto lecture = m_left.storeUnwritten(place.path, *place.unwritten);
         if (!lecture)
             continue;
-        place.owed.reset();
+        place.unwritten.reset();
         removeJournal(place);
         place.isOccupied = place.folder && !m_left.setAside(place.path);
         stored(*lecture);

@@ -18,7 +18,8 @@ class AudioFileLocations;
 
 // Where the take of the next lecture lies with its journal: in the usual folder, unless another
 // process has that, or something stands there that cannot be moved out of the way just now. Then it
-// is a folder of its own, so that nothing is ever written over. Main thread only.
+// is a folder of its own, so that nothing is ever written over. It also holds, in memory, the
+// journals that could not be written. Main thread only.
 class TakePlaces final
 {
 public:
@@ -42,17 +43,17 @@ public:
 
     // The lecture of the present place is done and could not be stored. Until it is, what is known
     // of it is not forgotten, whether or not it can be written down.
-    void addOwed(const store::LectureJournal &journal);
+    void addUnwritten(const store::LectureJournal &journal);
     // As long as it is not forgotten, its row is to have these texts; false once it is.
-    bool changeOwed(const QString &id, const QString &subject, const QString &notes);
+    bool changeUnwritten(const QString &id, const QString &subject, const QString &notes);
     // Nothing of it is to be stored any more, nor kept.
-    void discardOwed(const QString &id);
+    void discardUnwritten(const QString &id);
     // A take stands in the present place that is of no lecture any more.
     void setOccupied();
     // Whether something waits for another try of the two below.
     bool hasOccupied() const;
     // Moves out of the way what stands in places that are not used now, and can be moved by now.
-    void clear();
+    void vacateOccupied();
     // Stores the lectures that could not even be written down; `stored` hears of each.
     void storeUnwritten(const std::function<void(const LeftLectures::Stored &)> &stored);
 
@@ -63,14 +64,15 @@ private:
         std::unique_ptr<TakeFolder> folder = {};           // null when it is not ours
         std::unique_ptr<store::JournalWriter> writer = {}; // goes before the folder
         bool isOccupied = false;
-        std::optional<store::LectureJournal> owed = {}; // as long as it is not known to be written
+        std::optional<store::LectureJournal> unwritten =
+            {}; // as long as it is not known to be written
     };
 
-    Place *placeOwing(const QString &id);
+    Place *placeOfUnwritten(const QString &id);
     static void removeJournal(const Place &place);
     void find();
     void use(std::unique_ptr<TakeFolder> folder);
-    bool clear(Place &place);
+    bool vacate(Place &place);
     void adoptLeft();
 
     AudioFileLocations &m_locations;

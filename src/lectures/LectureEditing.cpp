@@ -208,7 +208,7 @@ void LectureEditing::mouseDownTextFieldClicked(widgets::MouseDownTextField &fiel
         field.setFocus(Qt::MouseFocusReason);
 }
 
-void LectureEditing::lecturesWereDeleted()
+void LectureEditing::closeWhatIsNotStored()
 {
     for (Lecture *lecture : {&m_itemEditingNow, &m_itemOfWindow, &m_itemOfView}) {
         if (*lecture && !m_saving.isStored(**lecture))
@@ -216,7 +216,7 @@ void LectureEditing::lecturesWereDeleted()
     }
 }
 
-void LectureEditing::lectureWasDeleted(const store::LectureInfoItem &lecture)
+void LectureEditing::forgetUnsavedTexts(const store::LectureInfoItem &lecture)
 {
     m_saving.forget(lecture);
 }

@@ -69,8 +69,8 @@ public:
     void onDoneLectureEdit(QWidget *sender);
     void mouseDownTextFieldClicked(widgets::MouseDownTextField &field);
     // A lecture was deleted: what shows it saves no more, since its ID may be given again.
-    void lecturesWereDeleted();
-    void lectureWasDeleted(const store::LectureInfoItem &lecture);
+    void closeWhatIsNotStored();
+    void forgetUnsavedTexts(const store::LectureInfoItem &lecture);
     // What is saved from now on into one of them that was open goes to the copy in which it is.
     void lecturesHaveGone(const store::GoneLectures &gone);
     // And goes to its row again.

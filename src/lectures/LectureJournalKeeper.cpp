@@ -25,7 +25,7 @@ LectureJournalKeeper::LectureJournalKeeper(const Collaborators &collaborators,
     , m_outlets(outlets)
     , m_places(collaborators.locations, collaborators.left)
     , m_owed({collaborators.dates.clock(), collaborators.dayList, collaborators.left, m_places,
-              collaborators.lecturesStored})
+              collaborators.someAreStored})
     , m_write(collaborators.dates.clock(), [this] { writeNow(); })
     , m_writeAgain(collaborators.dates.clock(), [this] { writeAgainIfItFailed(); })
 {
@@ -159,7 +159,7 @@ void LectureJournalKeeper::lectureDone()
     flush();
 }
 
-void LectureJournalKeeper::lectureMoves(const QString &target, const QString &duration)
+void LectureJournalKeeper::recordingMoves(const QString &target, const QString &duration)
 {
     m_journal.isDone = true;
     m_journal.lastRow = m_with.left.lastRow();
@@ -173,7 +173,7 @@ void LectureJournalKeeper::lectureMoves(const QString &target, const QString &du
     flush();
 }
 
-void LectureJournalKeeper::lectureStored(bool isStored, const Lecture &lecture)
+void LectureJournalKeeper::storingEnded(bool isStored, const Lecture &lecture)
 {
     const QString &target = m_journal.target;
     if (lecture->hasRow())

@@ -44,7 +44,7 @@ public:
         const DayList &dayList;
         audio::LeftLectures &left;
         // As the owed lectures tell it.
-        std::function<void(bool)> lecturesStored;
+        std::function<void(bool doesListLackOne)> someAreStored;
     };
 
     LectureJournalKeeper(const Collaborators &collaborators, const NewLectureOutlets &outlets);
@@ -62,10 +62,10 @@ public:
     // Its row is to be stored in a moment. Waits until the disk knows.
     void lectureDone();
     // The recording, if there is one, is about to be moved to `target`. Waits until the disk knows.
-    void lectureMoves(const QString &target, const QString &duration);
+    void recordingMoves(const QString &target, const QString &duration);
     // With its recording in its place. When it is not, what is known of it stays, also when the
     // journal cannot be written, and what is missing is done as soon as that can be.
-    void lectureStored(bool isStored, const Lecture &lecture);
+    void storingEnded(bool isStored, const Lecture &lecture);
     // Its take stays where it is.
     void lectureClosed();
     void lectureCancelled();

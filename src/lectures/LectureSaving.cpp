@@ -25,7 +25,7 @@ void LectureSaving::save(store::LectureInfoItem &lecture, const QString &subject
                          const QString &notes)
 {
     m_with.changeWaiting(lecture, subject, notes);
-    if (isSaved(lecture, subject, notes))
+    if (trySave(lecture, subject, notes))
         m_unsavedTexts.forget(lecture);
     else
         m_unsavedTexts.keep(lecture, subject, notes);
@@ -34,7 +34,7 @@ void LectureSaving::save(store::LectureInfoItem &lecture, const QString &subject
 }
 
 // One without a row has nothing to save but what waits of it.
-bool LectureSaving::isSaved(const store::LectureInfoItem &lecture, const QString &subject,
+bool LectureSaving::trySave(const store::LectureInfoItem &lecture, const QString &subject,
                             const QString &notes)
 {
     const qint64 id = lecture.getRecordUniqueID();

@@ -44,7 +44,7 @@ public:
     void giveRowBack(store::LectureInfoItem &lecture, const store::LecturesBack &back) const;
 
 private:
-    bool isSaved(const store::LectureInfoItem &lecture, const QString &subject,
+    bool trySave(const store::LectureInfoItem &lecture, const QString &subject,
                  const QString &notes);
 
     Collaborators m_with;

@@ -60,7 +60,7 @@ MediaLinksArrayController::MediaLinksArrayController(const LectureServices &serv
     , m_deletion({services.database, m_dayList,
                   [this](const store::LectureInfoItem &lecture) {
                       m_journal.owed().remove(lecture);
-                      m_editing.lectureWasDeleted(lecture);
+                      m_editing.forgetUnsavedTexts(lecture);
                   },
                   [this](int row) { removeArrangedObject(row); }, [this] { reloadData(); },
                   [this] { goToCalendarView(nullptr); }, services.pendingRow},
@@ -289,7 +289,7 @@ void MediaLinksArrayController::removeArrangedObject(int row)
     beginRemoveRows({}, row, row);
     m_dayList.removeObject(row);
     endRemoveRows();
-    m_editing.lecturesWereDeleted();
+    m_editing.closeWhatIsNotStored();
 }
 
 // They stay in the list that shows, and must not be taken for those that get their IDs.

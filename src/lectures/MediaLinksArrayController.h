@@ -18,7 +18,7 @@
 #include "lectures/TextDelegate.h"
 #include "lectures/ViewChanges.h"
 #include "platform/DelayedCall.h"
-#include "platform/Process.h"
+#include "platform/Places.h"
 #include "widgets/MouseDownTextField.h"
 
 #include <QAbstractTableModel>

@@ -115,7 +115,7 @@ NewLecture::Audio NewLecture::takeAudioToItsPlace()
 {
     const QString taken = m_with.locations.tempAudioSavePath();
     if (!QFile::exists(taken)) {
-        m_with.journal.lectureMoves({}, store::NoAudio);
+        m_with.journal.recordingMoves({}, store::NoAudio);
         return {QString(), store::NoAudio};
     }
     QString path = m_with.locations.getAudioSavePath();
@@ -123,7 +123,7 @@ NewLecture::Audio NewLecture::takeAudioToItsPlace()
         path = m_with.locations.freeAudioSavePath();
     QString duration =
         audio::getDuration(audio::wholeSeconds(m_with.recording.floatRecordingDuration()));
-    m_with.journal.lectureMoves(path, duration);
+    m_with.journal.recordingMoves(path, duration);
     // Two saves within one second share a path; the later one replaces the earlier file.
     const bool isInPlace = platform::moveDurably(taken, path);
     return {path, std::move(duration), isInPlace};
@@ -148,7 +148,7 @@ void NewLecture::doSaveNewAudioInfos()
     lecture->setRecordUniqueID(isStored ? m_with.database.connection()->lastinsertedRowID()
                                         : store::LectureInfoItem::NoRow);
     lecture->setLectureAudioPath(audio.path);
-    m_with.journal.lectureStored(isStored && audio.isInPlace, lecture);
+    m_with.journal.storingEnded(isStored && audio.isInPlace, lecture);
     m_with.dayList.append(lecture);
     LectureTable &table = *m_outlets.main.tblRecordSubjectList;
     table.scrollRowToVisible(table.rowCount() - 1);

@@ -31,12 +31,12 @@ void OwedLectures::start()
 void OwedLectures::add(const store::LectureJournal &journal, const Lecture &lecture)
 {
     m_owed.insert(journal.id, {lecture, lecture->getRecordUniqueID(), journal.target});
-    m_with.places.addOwed(journal);
+    m_with.places.addUnwritten(journal);
     storeSoon();
 }
 
 // The list may have another object for a lecture that has a row.
-QString OwedLectures::journalOf(const store::LectureInfoItem &lecture) const
+QString OwedLectures::journalIdOf(const store::LectureInfoItem &lecture) const
 {
     for (auto owed = m_owed.begin(); owed != m_owed.end(); ++owed)
         if (owed->lecture.lock().get() == &lecture ||
@@ -48,7 +48,7 @@ QString OwedLectures::journalOf(const store::LectureInfoItem &lecture) const
 
 bool OwedLectures::has(const store::LectureInfoItem &lecture) const
 {
-    return !journalOf(lecture).isEmpty();
+    return !journalIdOf(lecture).isEmpty();
 }
 
 QStringList OwedLectures::recordings() const
@@ -62,7 +62,7 @@ QStringList OwedLectures::recordings() const
 void OwedLectures::change(const store::LectureInfoItem &lecture, const QString &subject,
                           const QString &notes)
 {
-    const QString id = journalOf(lecture);
+    const QString id = journalIdOf(lecture);
     if (id.isEmpty())
         return;
     m_changed.insert(id, {subject, notes});
@@ -73,11 +73,11 @@ void OwedLectures::writeChanges()
 {
     if (m_changed.isEmpty())
         return;
-    m_with.places.clear();
+    m_with.places.vacateOccupied();
     using Changed = std::pair<const QString &, audio::LeftLectures::Texts &>;
     m_changed.removeIf([this](const Changed &changed) {
         const auto &[subject, notes] = changed.second;
-        const auto isWritten = m_with.places.changeOwed(changed.first, subject, notes)
+        const auto isWritten = m_with.places.changeUnwritten(changed.first, subject, notes)
                                    ? std::optional(true)
                                    : m_with.left.change(changed.first, subject, notes);
         // Where none is found it may still stand in a place from where it could not be moved.
@@ -88,14 +88,14 @@ void OwedLectures::writeChanges()
 void OwedLectures::remove(const store::LectureInfoItem &lecture)
 {
     // Also of one that is stored, whose journal could not be removed then.
-    const QString owed = journalOf(lecture);
-    const QString id = owed.isEmpty() ? m_with.left.journalOf(lecture) : owed;
+    const QString owed = journalIdOf(lecture);
+    const QString id = owed.isEmpty() ? m_with.left.journalIdOf(lecture) : owed;
     if (id.isEmpty())
         return;
     m_owed.remove(id);
     m_changed.remove(id);
-    m_with.places.discardOwed(id);
-    m_with.places.clear();
+    m_with.places.discardUnwritten(id);
+    m_with.places.vacateOccupied();
     m_deleted.append(id);
     discardDeleted();
 }
@@ -114,7 +114,7 @@ void OwedLectures::storeSoon()
 
 OwedLectures::StoredNow OwedLectures::storeWhatCanBe()
 {
-    m_with.places.clear();
+    m_with.places.vacateOccupied();
     discardDeleted();
     writeChanges();
     StoredNow now;
@@ -138,7 +138,7 @@ OwedLectures::StoredNow OwedLectures::storeWhatCanBe()
 void OwedLectures::store()
 {
     if (const StoredNow now = storeWhatCanBe(); now.isAny)
-        m_with.lecturesStored(now.doesListLackOne);
+        m_with.someAreStored(now.doesListLackOne);
     if (m_with.left.owed() > 0 || m_with.places.hasOccupied())
         m_store.schedule(RetryInterval);
 }

@@ -41,7 +41,7 @@ public:
         audio::LeftLectures &left;
         audio::TakePlaces &places;
         // Some are stored by now; whether the list lacks one of them.
-        std::function<void(bool)> lecturesStored;
+        std::function<void(bool doesListLackOne)> someAreStored;
     };
 
     explicit OwedLectures(const Collaborators &collaborators);
@@ -80,7 +80,7 @@ private:
     };
 
     // Empty when nothing of it is owed.
-    QString journalOf(const store::LectureInfoItem &lecture) const;
+    QString journalIdOf(const store::LectureInfoItem &lecture) const;
     void writeChanges();
     void discardDeleted();
     StoredNow storeWhatCanBe();

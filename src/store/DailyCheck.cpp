@@ -24,7 +24,7 @@ DailyCheck::DailyCheck(LectureDatabase &database, platform::Clock &clock)
 // Asked again and again, since a day may begin while the program runs, and sleep.
 void DailyCheck::checkIfDue()
 {
-    m_next.schedule(Again);
+    m_next.schedule(LookInterval);
     const Sqlite *const connection = m_database.connection();
     QFile day(dayPath());
     const bool isDone = m_checkedDay == today() ||
@@ -33,16 +33,16 @@ void DailyCheck::checkIfDue()
         return;
     m_check = std::make_unique<IntegrityCheck>(connection->filePath());
     QObject::connect(m_check.get(), &IntegrityCheck::finished, m_check.get(),
-                     [this](Soundness soundness) { end(soundness); });
+                     [this](Integrity integrity) { end(integrity); });
 }
 
-void DailyCheck::end(Soundness soundness)
+void DailyCheck::end(Integrity integrity)
 {
     m_check.release()->deleteLater();
     // A write may have fallen into it, so it is asked for once more where nobody writes.
-    if (soundness == Soundness::Damaged)
+    if (integrity == Integrity::Damaged)
         m_database.mendIfDamaged();
-    if (soundness == Soundness::Unknown)
+    if (integrity == Integrity::Unknown)
         return;
     m_checkedDay = today();
     platform::createFolderIfMissing(QFileInfo(dayPath()).path());

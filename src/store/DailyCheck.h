@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/DelayedCall.h"
+#include "store/Integrity.h"
 #include "store/IntegrityCheck.h"
-#include "store/Soundness.h"
 
 #include <QString>
 
@@ -24,7 +24,7 @@ class DailyCheck final
 public:
     // The first windows are up and the student has begun by then.
     static constexpr std::chrono::seconds AfterStart{20};
-    static constexpr std::chrono::hours Again{1};
+    static constexpr std::chrono::hours LookInterval{1};
 
     // Both outlive this object, which stops what it does at once when it goes.
     DailyCheck(LectureDatabase &database, platform::Clock &clock);
@@ -35,7 +35,7 @@ public:
 
 private:
     void checkIfDue();
-    void end(Soundness soundness);
+    void end(Integrity integrity);
     QString today() const;
     QString dayPath() const;
 

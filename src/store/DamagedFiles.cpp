@@ -49,8 +49,9 @@ std::optional<DamagedFiles::Aside> DamagedFiles::copyAside(const QString &file) 
         made = made.addMSecs(1);
     const Aside aside{m_files.pathOf(m_files.nameOf(made)), made, true};
     const QString half = m_files.pathOf(QStringLiteral(".damaged"));
-    const QString journal = journalOf(file);
-    if ((!QFileInfo::exists(journal) || copyDurably(journal, journalOf(aside.filePath), half)) &&
+    const QString journal = rollbackJournalOf(file);
+    if ((!QFileInfo::exists(journal) ||
+         copyDurably(journal, rollbackJournalOf(aside.filePath), half)) &&
         copyDurably(file, aside.filePath, half))
         return aside;
     remove(aside);
@@ -60,7 +61,7 @@ std::optional<DamagedFiles::Aside> DamagedFiles::copyAside(const QString &file) 
 void DamagedFiles::remove(const Aside &aside) const
 {
     QFile::remove(aside.filePath);
-    QFile::remove(journalOf(aside.filePath));
+    QFile::remove(rollbackJournalOf(aside.filePath));
 }
 
 std::optional<DamagedFiles::Aside> DamagedFiles::newest() const
@@ -71,14 +72,14 @@ std::optional<DamagedFiles::Aside> DamagedFiles::newest() const
     return Aside{m_files.pathOf(all.last()), m_files.madeAt(all.last())};
 }
 
-bool DamagedFiles::replaceWithSound(const QString &file) const
+bool DamagedFiles::replaceWithIntact(const QString &file) const
 {
     const auto aside = putAside(file);
     const QString sound = m_files.pathOf(QStringLiteral(".sound"));
     if (!aside || !rescueLectures(aside->filePath, sound))
         return false;
     // An old journal would be taken for that of the sound file, and written over it.
-    const QString journal = journalOf(file);
+    const QString journal = rollbackJournalOf(file);
     const bool isReplaced = (!QFileInfo::exists(journal) || platform::removeDurably(journal)) &&
                             platform::renameDurably(sound, file);
     QFile::remove(sound);

@@ -38,7 +38,7 @@ public:
     std::optional<Aside> newest() const;
 
     // The file stays as it is when this gives false, and also whenever this ends halfway.
-    bool replaceWithSound(const QString &file) const;
+    bool replaceWithIntact(const QString &file) const;
 
 private:
     std::optional<Aside> copyAside(const QString &file) const;

@@ -22,28 +22,29 @@ bool copyBytes(const QString &from, const QString &to)
     return isCopied;
 }
 
-bool copyWithJournal(const QString &from, const QString &to)
+bool copyWithRollbackJournal(const QString &from, const QString &to)
 {
-    removeWithJournal(to);
-    return copyBytes(from, to) &&
-           (!QFile::exists(journalOf(from)) || copyBytes(journalOf(from), journalOf(to)));
+    removeWithRollbackJournal(to);
+    return copyBytes(from, to) && (!QFile::exists(rollbackJournalOf(from)) ||
+                                   copyBytes(rollbackJournalOf(from), rollbackJournalOf(to)));
 }
 
-bool renameWithJournalDurably(const QString &from, const QString &to)
+bool renameWithRollbackJournalDurably(const QString &from, const QString &to)
 {
-    QFile::remove(journalOf(to));
-    if (QFile::exists(journalOf(from)) && !platform::renameDurably(journalOf(from), journalOf(to)))
+    QFile::remove(rollbackJournalOf(to));
+    if (QFile::exists(rollbackJournalOf(from)) &&
+        !platform::renameDurably(rollbackJournalOf(from), rollbackJournalOf(to)))
         return false;
     if (platform::renameDurably(from, to))
         return true;
-    QFile::remove(journalOf(to));
+    QFile::remove(rollbackJournalOf(to));
     return false;
 }
 
-void removeWithJournal(const QString &path)
+void removeWithRollbackJournal(const QString &path)
 {
     QFile::remove(path);
-    QFile::remove(journalOf(path));
+    QFile::remove(rollbackJournalOf(path));
 }
 
 bool haveSameBytes(const QString &onePath, const QString &otherPath)
@@ -62,7 +63,7 @@ bool haveSameBytes(const QString &onePath, const QString &otherPath)
     return one.atEnd() && other.atEnd();
 }
 
-QString journalOf(const QString &databaseFile)
+QString rollbackJournalOf(const QString &databaseFile)
 {
     return databaseFile + QStringLiteral("-journal");
 }

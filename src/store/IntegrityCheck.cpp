@@ -36,10 +36,10 @@ std::unique_ptr<sqlite3, Closer> openUnlocked(const QString &file)
     return result == SQLITE_OK ? std::move(opened) : nullptr;
 }
 
-Soundness byResult(int result)
+Integrity byResult(int result)
 {
-    return result == SQLITE_CORRUPT || result == SQLITE_NOTADB ? Soundness::Damaged
-                                                               : Soundness::Unknown;
+    return result == SQLITE_CORRUPT || result == SQLITE_NOTADB ? Integrity::Damaged
+                                                               : Integrity::Unknown;
 }
 
 } // namespace
@@ -47,18 +47,18 @@ Soundness byResult(int result)
 IntegrityCheck::IntegrityCheck(const QString &file)
 try {
     connect(
-        this, &IntegrityCheck::ended, this,
+        this, &IntegrityCheck::threadEnded, this,
         [this] {
             std::unique_lock lock(m_mutex);
-            const Soundness soundness = m_soundness;
+            const Integrity integrity = m_integrity;
             lock.unlock();
-            Q_EMIT finished(soundness);
+            Q_EMIT finished(integrity);
         },
         Qt::QueuedConnection);
     const platform::AllSignalsBlocked blocked;
     m_thread = std::thread([this, file] { run(file); });
 } catch (const std::system_error &) {
-    end(Soundness::Unknown);
+    end(Integrity::Unknown);
 }
 
 // Interrupting what has not begun yet does nothing, so it is done until the thread is at its end.
@@ -79,25 +79,25 @@ IntegrityCheck::~IntegrityCheck()
 void IntegrityCheck::run(const QString &file)
 {
     const auto database = openUnlocked(file);
-    end(database ? look(database.get()) : Soundness::Unknown);
+    end(database ? look(database.get()) : Integrity::Unknown);
 }
 
-void IntegrityCheck::end(Soundness soundness)
+void IntegrityCheck::end(Integrity integrity)
 {
     const std::lock_guard lock(m_mutex);
     m_isRunning = false;
     m_hasEnded.notify_all();
-    m_soundness = soundness;
+    m_integrity = integrity;
     if (m_isWanted)
-        Q_EMIT ended();
+        Q_EMIT threadEnded();
 }
 
-Soundness IntegrityCheck::look(sqlite3 *database)
+Integrity IntegrityCheck::look(sqlite3 *database)
 {
     {
         const std::lock_guard lock(m_mutex);
         if (!m_isWanted)
-            return Soundness::Unknown;
+            return Integrity::Unknown;
         m_database = database;
     }
     sqlite3_stmt *handle = nullptr;
@@ -105,14 +105,14 @@ Soundness IntegrityCheck::look(sqlite3 *database)
     const std::unique_ptr<sqlite3_stmt, Finaliser> statement(handle);
     if (result == SQLITE_OK)
         result = sqlite3_step(statement.get());
-    Soundness soundness = byResult(result);
+    Integrity integrity = byResult(result);
     if (result == SQLITE_ROW) {
         const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement.get(), 0));
-        soundness = text && std::strcmp(text, "ok") == 0 ? Soundness::Sound : Soundness::Damaged;
+        integrity = text && std::strcmp(text, "ok") == 0 ? Integrity::Intact : Integrity::Damaged;
     }
     const std::lock_guard lock(m_mutex);
     m_database = nullptr;
-    return soundness;
+    return integrity;
 }
 
 } // namespace tarvelo::store

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Soundness.h"
+#include "store/Integrity.h"
 
 #include <QObject>
 #include <QString>
@@ -25,20 +25,20 @@ public:
     ~IntegrityCheck() override;
 
 Q_SIGNALS:
-    void finished(tarvelo::store::Soundness soundness);
+    void finished(tarvelo::store::Integrity integrity);
     // From the thread.
-    void ended();
+    void threadEnded();
 
 private:
     void run(const QString &file);
-    void end(Soundness soundness);
-    Soundness look(sqlite3 *database);
+    void end(Integrity integrity);
+    Integrity look(sqlite3 *database);
 
     std::mutex m_mutex;
     std::condition_variable m_hasEnded;
     bool m_isWanted = true;
     bool m_isRunning = true;
-    Soundness m_soundness = Soundness::Unknown;
+    Integrity m_integrity = Integrity::Unknown;
     sqlite3 *m_database = nullptr; // while it is asked
     std::thread m_thread;
 };

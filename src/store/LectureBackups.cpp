@@ -27,14 +27,14 @@ const QString GoingLectures = QStringLiteral("goingLectures");
 // Beside the size of the database: for a journal and for what the file system itself needs.
 constexpr qint64 RoomForTheRest = 128 << 10; // bytes
 
-bool vacuumsInto(Sqlite &database, const QString &path)
+bool vacuumInto(Sqlite &database, const QString &path)
 {
-    removeWithJournal(path);
+    removeWithRollbackJournal(path);
     platform::createFileIfMissing(path);
     return database.executeNonQuery(QStringLiteral("VACUUM INTO ?"), path);
 }
 
-bool marks(const QString &copyPath, const QString &going)
+bool mark(const QString &copyPath, const QString &going)
 {
     Sqlite copy(copyPath);
     return copy.beginTransaction() &&
@@ -62,20 +62,20 @@ std::optional<QString> LectureBackups::keep(Sqlite &database, const QString &goi
         return QString();
     platform::createFolderIfMissing(folder());
     QString path = m_files.pathOf(nameAfter(m_files.names()));
-    if (writesCopy(database, going, path))
+    if (writeCopy(database, going, path))
         return path;
-    return QFile::remove(m_files.roomPath()) && writesCopy(database, going, path)
+    return QFile::remove(m_files.roomPath()) && writeCopy(database, going, path)
                ? std::optional(path)
                : std::nullopt;
 }
 
-bool LectureBackups::writesCopy(Sqlite &database, const QString &going, const QString &path) const
+bool LectureBackups::writeCopy(Sqlite &database, const QString &going, const QString &path) const
 {
     const QString half = m_files.pathOf(QStringLiteral(".copy"));
-    const bool isWritten = (vacuumsInto(database, half) && marks(half, going)) ||
-                           copyWithJournal(database.filePath(), half);
-    const bool isKept = isWritten && renameWithJournalDurably(half, path);
-    removeWithJournal(half);
+    const bool isWritten = (vacuumInto(database, half) && mark(half, going)) ||
+                           copyWithRollbackJournal(database.filePath(), half);
+    const bool isKept = isWritten && renameWithRollbackJournalDurably(half, path);
+    removeWithRollbackJournal(half);
     return isKept;
 }
 
@@ -84,10 +84,10 @@ void LectureBackups::settle(Sqlite &database, const QString &copyPath)
     if (copyPath.isEmpty())
         return;
     if (isOfNoUse(database, copyPath))
-        removeWithJournal(copyPath);
+        removeWithRollbackJournal(copyPath);
     const QStringList names = m_files.names();
-    for (qsizetype at = 0; at < names.size() - Kept; ++at)
-        removeWithJournal(m_files.pathOf(names.at(at)));
+    for (qsizetype at = 0; at < names.size() - MostCopies; ++at)
+        removeWithRollbackJournal(m_files.pathOf(names.at(at)));
 }
 
 bool LectureBackups::change(const QString &copyPath, const QString &sql,
@@ -118,10 +118,10 @@ bool LectureBackups::isOfNoUse(Sqlite &database, const QString &copyPath) const
     if (names.size() < 2)
         return false;
     const QString before = m_files.pathOf(names.at(names.size() - 2));
-    const bool hasJournal = QFile::exists(journalOf(copyPath));
+    const bool hasJournal = QFile::exists(rollbackJournalOf(copyPath));
     return haveSameBytes(copyPath, before) &&
-           (hasJournal ? haveSameBytes(journalOf(copyPath), journalOf(before))
-                       : !QFile::exists(journalOf(before)));
+           (hasJournal ? haveSameBytes(rollbackJournalOf(copyPath), rollbackJournalOf(before))
+                       : !QFile::exists(rollbackJournalOf(before)));
 }
 
 QList<LectureBackups::Copy> LectureBackups::copies(Sqlite &database) const

@@ -25,7 +25,7 @@ class LectureBackups final
 {
 public:
     // The newest of them; older ones go when another one comes.
-    static constexpr int Kept = 10;
+    static constexpr int MostCopies = 10;
 
     struct Copy
     {
@@ -66,7 +66,7 @@ public:
     void holdRoom(const Sqlite &database) const;
 
 private:
-    bool writesCopy(Sqlite &database, const QString &going, const QString &path) const;
+    bool writeCopy(Sqlite &database, const QString &going, const QString &path) const;
     bool isOfNoUse(Sqlite &database, const QString &copyPath) const;
     QString nameAfter(const QStringList &names) const;
 

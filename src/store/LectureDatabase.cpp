@@ -2,8 +2,8 @@
 
 #include "platform/PrivateFiles.h"
 #include "store/FileBytes.h"
+#include "store/Integrity.h"
 #include "store/LectureInfoItem.h"
-#include "store/Soundness.h"
 #include "store/Statements.h"
 #include "store/StoredRows.h"
 #include "store/Tables.h"
@@ -63,17 +63,17 @@ Sqlite *LectureDatabase::openDb()
 // is put aside as it was before that.
 bool LectureDatabase::openFile(const QString &file)
 {
-    const bool hasJournal = QFileInfo(journalOf(file)).size() > 0;
+    const bool hasJournal = QFileInfo(rollbackJournalOf(file)).size() > 0;
     const bool wasEmpty = QFileInfo(file).size() == 0;
     const auto aside = hasJournal ? m_damagedFiles.putAside(file) : std::nullopt;
     m_areNamesSynced = false;
     if (!m_connection->open(file))
         return false;
-    const bool isDamaged = soundnessAtFirstSight(*m_connection) == Soundness::Damaged;
+    const bool isDamaged = integrityAtFirstSight(*m_connection) == Integrity::Damaged;
     // The journal of an empty file may have all there is, and goes with the first look.
     if (aside && aside->isNew && !isDamaged && !wasEmpty)
         m_damagedFiles.remove(*aside);
-    if (!isDamaged || replaceWithSound())
+    if (!isDamaged || replaceWithIntact())
         makeIndexes();
     return m_connection->filePath() == file;
 }
@@ -83,10 +83,10 @@ bool LectureDatabase::mendIfDamaged()
     Sqlite *const database = openDb();
     if (!database)
         return false;
-    const Soundness soundness = soundnessOfEveryPage(*database);
-    if (soundness != Soundness::Damaged)
-        return soundness == Soundness::Sound;
-    if (!replaceWithSound())
+    const Integrity integrity = integrityOfEveryPage(*database);
+    if (integrity != Integrity::Damaged)
+        return integrity == Integrity::Intact;
+    if (!replaceWithIntact())
         return false;
     makeIndexes();
     return true;
@@ -95,14 +95,14 @@ bool LectureDatabase::mendIfDamaged()
 Sqlite *LectureDatabase::openToWrite()
 {
     Sqlite *const database = openDb();
-    if (!database || !mayWrite())
+    if (!database || !prepareToWrite())
         return nullptr;
     if (!tellWhatHasGone() && mendIfDamaged())
         tellWhatHasGone();
-    return m_untold.isEmpty() ? database : nullptr;
+    return m_unconfirmed.isEmpty() ? database : nullptr;
 }
 
-bool LectureDatabase::mayWrite()
+bool LectureDatabase::prepareToWrite()
 {
     // SQLite opens for reading alone what it was refused to write for a moment.
     const QString file = m_connection->filePath();
@@ -113,11 +113,11 @@ bool LectureDatabase::mayWrite()
 }
 
 // The connection stays the same object, which others know, and is open afterwards if it can be.
-bool LectureDatabase::replaceWithSound()
+bool LectureDatabase::replaceWithIntact()
 {
     const QString file = m_connection->filePath();
     m_connection->close();
-    const bool isSound = m_damagedFiles.replaceWithSound(file);
+    const bool isSound = m_damagedFiles.replaceWithIntact(file);
     m_isDamagedInUse = !isSound;
     m_areNamesSynced = false;
     m_connection->open(file);
@@ -180,7 +180,7 @@ bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)
     // Without a row, an empty path would find lectures that it has nothing to do with.
     if (!lecture.hasRow() && (!m_connection || path.isEmpty()))
         return true;
-    if (!m_connection || !mayWrite())
+    if (!m_connection || !prepareToWrite())
         return false;
     syncNames();
     const QString going = statements::IdsByPathBegin + path + statements::IdsByPathEnd;
@@ -207,14 +207,14 @@ bool LectureDatabase::writeOrReset(const Write &write)
     if (!database)
         return false;
     database->setLastInsertedRowID(0);
-    const bool isWritten = runs(*database, write)
+    const bool isWritten = run(*database, write)
                                ? write.isInsert || database->changes() > 0
                                : reset(*database, write, database->lastinsertedRowID());
     m_backups.holdRoom(*database);
     return isWritten;
 }
 
-bool LectureDatabase::runs(Sqlite &database, const Write &write)
+bool LectureDatabase::run(Sqlite &database, const Write &write)
 {
     return database.executeNonQueryArguments(write.sql, write.arguments);
 }
@@ -235,7 +235,7 @@ bool LectureDatabase::reset(Sqlite &database, const Write &write, qint64 last)
 {
     // A damaged file is not written to before it lies aside; without room for that the lecture is
     // not stored, and nothing is lost.
-    if (soundnessOfEveryPage(database) == Soundness::Damaged && !replaceWithSound())
+    if (integrityOfEveryPage(database) == Integrity::Damaged && !replaceWithIntact())
         return false;
     const bool isIn = hasInserted(database, last, write);
     // Without a copy nothing goes. What was held for it is free then, and may be all that was
@@ -248,9 +248,9 @@ bool LectureDatabase::reset(Sqlite &database, const Write &write, qint64 last)
         database.setLastInsertedRowID(last);
         return true;
     }
-    const bool haveGone = copy && empties(database, write, *copy);
+    const bool haveGone = copy && emptyTable(database, write, *copy);
     // What it is not known of that it has gone must not lose its ID to another.
-    bool isWritten = m_untold.isEmpty() && runs(database, write);
+    bool isWritten = m_unconfirmed.isEmpty() && run(database, write);
     if (isWritten && !write.isInsert)
         isWritten =
             haveGone ? m_backups.change(*copy, write.sql, write.arguments) : database.changes() > 0;
@@ -259,7 +259,7 @@ bool LectureDatabase::reset(Sqlite &database, const Write &write, qint64 last)
 }
 
 // True when lectures have gone.
-bool LectureDatabase::empties(Sqlite &database, const Write &write, const QString &copyPath)
+bool LectureDatabase::emptyTable(Sqlite &database, const Write &write, const QString &copyPath)
 {
     database.executeNonQuery(statements::Drop);
     database.executeNonQuery(write.isInsert ? statements::CreateAfterInsert
@@ -278,7 +278,7 @@ void LectureDatabase::tellOnceKnown(const GoneLectures &lectures, const QString 
                                     std::optional<bool> areGone)
 {
     if (!areGone)
-        m_untold.append({lectures, query});
+        m_unconfirmed.append({lectures, query});
     else if (*areGone && m_lecturesGone)
         m_lecturesGone(lectures);
 }
@@ -287,7 +287,7 @@ void LectureDatabase::tellOnceKnown(const GoneLectures &lectures, const QString 
 bool LectureDatabase::tellWhatHasGone()
 {
     QList<GoneLectures> gone;
-    m_untold.removeIf([&](const Untold &untold) {
+    m_unconfirmed.removeIf([&](const UnconfirmedLoss &untold) {
         const auto haveGone = findsNone(untold.query);
         if (haveGone == true)
             gone.append(untold.lectures);
@@ -296,7 +296,7 @@ bool LectureDatabase::tellWhatHasGone()
     for (const GoneLectures &lectures : gone)
         if (m_lecturesGone)
             m_lecturesGone(lectures);
-    return m_untold.isEmpty();
+    return m_unconfirmed.isEmpty();
 }
 
 // A table that the query does not suit has none that went unnoticed. The schema is asked first, so

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Process.h"
+#include "platform/Places.h"
 #include "store/DamagedFiles.h"
 #include "store/GoneLectures.h"
 #include "store/LectureBackups.h"
@@ -78,7 +78,7 @@ private:
         bool isInsert;
     };
     // Of which it is not known whether they have gone: then the query finds none.
-    struct Untold
+    struct UnconfirmedLoss
     {
         GoneLectures lectures;
         QString query;
@@ -86,8 +86,8 @@ private:
 
     bool writeOrReset(const Write &write);
     bool reset(Sqlite &database, const Write &write, qint64 last);
-    bool empties(Sqlite &database, const Write &write, const QString &copyPath);
-    static bool runs(Sqlite &database, const Write &write);
+    bool emptyTable(Sqlite &database, const Write &write, const QString &copyPath);
+    static bool run(Sqlite &database, const Write &write);
     static bool hasInserted(Sqlite &database, qint64 last, const Write &write);
     void tellOnceKnown(const GoneLectures &lectures, const QString &query,
                        std::optional<bool> areGone);
@@ -96,8 +96,8 @@ private:
     // Null when that cannot be known now.
     std::optional<bool> findsNone(const QString &query);
     bool openFile(const QString &file);
-    bool replaceWithSound();
-    bool mayWrite();
+    bool replaceWithIntact();
+    bool prepareToWrite();
     void makeIndexes();
     void syncNames();
 
@@ -106,7 +106,7 @@ private:
     DamagedFiles m_damagedFiles;
     std::unique_ptr<Sqlite> m_connection;
     std::function<void(const GoneLectures &)> m_lecturesGone;
-    QList<Untold> m_untold;
+    QList<UnconfirmedLoss> m_unconfirmed;
     bool m_areNamesSynced = false; // of the connection as it was last opened
     bool m_isDamagedInUse = false; // damaged, and not put aside yet
 };

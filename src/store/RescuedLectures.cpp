@@ -32,7 +32,7 @@ constexpr qsizetype ChangeCounter = 24;
 
 bool makeEmpty(const QString &path)
 {
-    removeWithJournal(path);
+    removeWithRollbackJournal(path);
     platform::createFileIfMissing(path);
     Sqlite database(path);
     return makeLecturesIfMissing(database);
@@ -105,11 +105,11 @@ std::optional<Rescued> bringOver(Sqlite &database)
 
 // Each step stands for itself: after a damaged page SQLite ends no transaction well. Nothing is
 // waited for, since the caller forces the whole file to the disk.
-std::optional<Rescued> rescue(const QString &readablePath, const QString &soundPath)
+std::optional<Rescued> rescue(const QString &readablePath, const QString &intactPath)
 {
-    if (!makeEmpty(soundPath))
+    if (!makeEmpty(intactPath))
         return std::nullopt;
-    Sqlite sound(soundPath);
+    Sqlite sound(intactPath);
     const bool hasTable = sound.executeNonQuery(QStringLiteral("ATTACH ? AS lost"), readablePath) &&
                           hasLectures(sound, "lost");
     if (!hasTable)
@@ -139,13 +139,13 @@ bool writeWithNewBeginning(const QString &damagedPath, const QString &path, qsiz
 
 } // namespace
 
-bool rescueLectures(const QString &damagedPath, const QString &soundPath)
+bool rescueLectures(const QString &damagedPath, const QString &intactPath)
 {
-    const QString readable = soundPath + QStringLiteral(".read");
-    const QString attempt = soundPath + QStringLiteral(".attempt");
+    const QString readable = intactPath + QStringLiteral(".read");
+    const QString attempt = intactPath + QStringLiteral(".attempt");
     const auto tidy = qScopeGuard([&] {
-        removeWithJournal(readable);
-        removeWithJournal(attempt);
+        removeWithRollbackJournal(readable);
+        removeWithRollbackJournal(attempt);
     });
     Rescued best{-1, false};
     // The whole first page says where the table begins, so another one is the last way: it may lead
@@ -154,15 +154,15 @@ bool rescueLectures(const QString &damagedPath, const QString &soundPath)
         if (best.isWhole || (newBeginning == PageSize && best.lectures > 0))
             break;
         const bool isWritten = newBeginning == 0
-                                   ? copyWithJournal(damagedPath, readable)
+                                   ? copyWithRollbackJournal(damagedPath, readable)
                                    : writeWithNewBeginning(damagedPath, readable, newBeginning);
         const auto rescued = isWritten ? rescue(readable, attempt) : std::nullopt;
         if (!rescued)
             return false;
         if (rescued->lectures <= best.lectures)
             continue;
-        removeWithJournal(soundPath);
-        if (!QFile::rename(attempt, soundPath))
+        removeWithRollbackJournal(intactPath);
+        if (!QFile::rename(attempt, intactPath))
             return false;
         best = *rescued;
     }

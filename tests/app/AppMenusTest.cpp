@@ -191,7 +191,7 @@ private Q_SLOTS:
         program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, 22));
         program.clock.set(noonOf(2024, 4, 2));
 
-        choose(program, Command::NewLectureFromStatusItem);
+        choose(program, Command::NewLectureFromOutside);
 
         QVERIFY(program.delegate.isRecordingNow());
         QCOMPARE(program.delegate.getSelectedDate().date(), program.clock.now().date());
@@ -248,7 +248,7 @@ private Q_SLOTS:
         Application program;
         program.launch();
 
-        choose(program, Command::PreferencesFromStatusItem);
+        choose(program, Command::PreferencesFromOutside);
         QVERIFY(program.delegate.preferences().isShowing());
         QVERIFY(app::isMinimiseButtonEnabled(program.window()));
         program.delegate.onClosePreferences(nullptr);

@@ -189,7 +189,7 @@ private Q_SLOTS:
     {
         leaveTake();
         leaveJournal();
-        tarvelo::platform::FolderOwner living;
+        tarvelo::platform::FolderLock living;
         QVERIFY(living.own(temporary()));
         const QStringList before = names();
 

@@ -1,4 +1,4 @@
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/Recordings.h"
 #include "audio/engine/SpeakerRecording.h"
 #include "support/PrivateSoundServer.h"

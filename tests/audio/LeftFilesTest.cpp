@@ -83,8 +83,8 @@ private Q_SLOTS:
         QVERIFY(files().moveFrom(folder()));
         refuse("read", ".journal");
 
-        QVERIFY(files().all()->at(0).journal.state == JournalFile::State::Unreadable);
-        QVERIFY(files().all()->at(0).journal.state == JournalFile::State::Read);
+        QVERIFY(files().all()->at(0).journalFile.state == JournalFile::State::Unreadable);
+        QVERIFY(files().all()->at(0).journalFile.state == JournalFile::State::Read);
     }
 
     // A slow disk had not taken it when the program was killed.
@@ -96,7 +96,7 @@ private Q_SLOTS:
 
         const auto all = files().all().value();
         QCOMPARE(all.size(), 1);
-        QCOMPARE(all[0].journal.journal.notes, u"Fresnel"_s);
+        QCOMPARE(all[0].journalFile.journal.notes, u"Fresnel"_s);
         QVERIFY(!all[0].takePath.isEmpty());
         QCOMPARE(m_stage->names().size(), 2);
     }
@@ -116,7 +116,7 @@ private Q_SLOTS:
             QVERIFY(files().moveFrom(folder()));
             const auto all = files().all().value();
             QVERIFY2(all.size() == 1, calls.which());
-            QCOMPARE(all[0].journal.journal.notes, u"Fresnel"_s);
+            QCOMPARE(all[0].journalFile.journal.notes, u"Fresnel"_s);
             QVERIFY(!all[0].takePath.isEmpty());
         }
         QVERIFY2(calls.count() > 10, calls.which());
@@ -132,7 +132,7 @@ private Q_SLOTS:
 
         const auto all = files().all().value();
         QCOMPARE(all.size(), 1);
-        QCOMPARE(all[0].journal.journal.notes, LeftStage::journal().notes);
+        QCOMPARE(all[0].journalFile.journal.notes, LeftStage::journal().notes);
         QVERIFY(QFile::exists(folder() + u"/unread-lecture.latest"_s));
     }
 
@@ -161,7 +161,7 @@ private Q_SLOTS:
         const auto all = files().all().value();
         QCOMPARE(all.size(), 1);
         QVERIFY(!all[0].takePath.isEmpty());
-        QVERIFY(all[0].journal.state == JournalFile::State::Missing);
+        QVERIFY(all[0].journalFile.state == JournalFile::State::Missing);
         const QStringList unread = m_stage->names().filter(u"unread-"_s);
         QCOMPARE(unread.size(), 1);
         QVERIFY(contentOf(folder() + u'/' + unread[0]).contains("Huygens"));
@@ -191,7 +191,7 @@ private Q_SLOTS:
         const auto all = files().all().value();
         QCOMPARE(
             std::ranges::count_if(
-                all, [](const auto &left) { return left.journal.journal.notes == u"Huygens"; }),
+                all, [](const auto &left) { return left.journalFile.journal.notes == u"Huygens"; }),
             1);
         QCOMPARE(
             std::ranges::count_if(all, [](const auto &left) { return !left.takePath.isEmpty(); }),
@@ -212,9 +212,9 @@ private Q_SLOTS:
 
         const auto all = files().all().value();
         QCOMPARE(all.size(), 1);
-        QCOMPARE(all[0].journal.journal.notes, u"Huygens"_s);
-        QVERIFY(!all[0].journal.journal.isDone);
-        QVERIFY(all[0].journal.journal.target.isEmpty());
+        QCOMPARE(all[0].journalFile.journal.notes, u"Huygens"_s);
+        QVERIFY(!all[0].journalFile.journal.isDone);
+        QVERIFY(all[0].journalFile.journal.target.isEmpty());
     }
 
     // It is of a lecture whose journal was read without it.
@@ -267,8 +267,8 @@ private Q_SLOTS:
 
         const auto all = files().all().value();
         QCOMPARE(all.size(), 2);
-        for (const LeftFiles::Lecture &left : all)
-            QCOMPARE(left.journal.state == JournalFile::State::Read, left.takePath.isEmpty());
+        for (const LeftFiles::Leftover &left : all)
+            QCOMPARE(left.journalFile.state == JournalFile::State::Read, left.takePath.isEmpty());
     }
 
     void twoThatCannotBeReadAreBothKept()
@@ -305,8 +305,8 @@ private Q_SLOTS:
             QVERIFY(files().moveFrom(folder()));
             const auto all = files().all().value();
             QVERIFY2(all.size() == 2, calls.which());
-            for (const LeftFiles::Lecture &left : all)
-                QVERIFY2((left.journal.state == JournalFile::State::Read) ==
+            for (const LeftFiles::Leftover &left : all)
+                QVERIFY2((left.journalFile.state == JournalFile::State::Read) ==
                              left.takePath.endsWith(u".aac"_s),
                          calls.which());
         }
@@ -343,9 +343,9 @@ private Q_SLOTS:
 
         const auto all = files().all().value();
         QCOMPARE(all.size(), 2);
-        QCOMPARE(all[0].journal.journal.subject, u"earlier"_s);
+        QCOMPARE(all[0].journalFile.journal.subject, u"earlier"_s);
         QVERIFY(all[0].takePath.endsWith(u".aac"_s));
-        QCOMPARE(all[1].journal.journal.subject, u"wave optics"_s);
+        QCOMPARE(all[1].journalFile.journal.subject, u"wave optics"_s);
         QVERIFY(!all[1].takePath.isEmpty());
         QVERIFY(QDir(other).isEmpty());
     }
@@ -447,7 +447,7 @@ private:
     {
         const auto all = files().all().value();
         QCOMPARE(all.size(), 1);
-        QCOMPARE(all[0].journal.journal.subject, u"wave optics"_s);
+        QCOMPARE(all[0].journalFile.journal.subject, u"wave optics"_s);
         QCOMPARE(QFileInfo(all[0].takePath).size(), LeftStage::takeBytes().size());
     }
 

@@ -326,11 +326,11 @@ private Q_SLOTS:
 
         LectureInfoItem lecture({}, {}, {}, {}, true);
         lecture.setRecordUniqueID(7);
-        QCOMPARE(m_stage->left.journalOf(lecture), QString());
+        QCOMPARE(m_stage->left.journalIdOf(lecture), QString());
         lecture.setLectureAudioPath(journal.target);
-        QCOMPARE(m_stage->left.journalOf(lecture), journal.id);
+        QCOMPARE(m_stage->left.journalIdOf(lecture), journal.id);
         lecture.setLectureAudioPath(journal.target + u'x');
-        QCOMPARE(m_stage->left.journalOf(lecture), QString());
+        QCOMPARE(m_stage->left.journalIdOf(lecture), QString());
     }
 
     void theJournalOfARowIsKnownUntilItsIdIsGivenAgain()
@@ -339,9 +339,9 @@ private Q_SLOTS:
         lecture.setRecordUniqueID(7);
 
         m_stage->left.rowIsStored(u"one"_s, 7);
-        QCOMPARE(m_stage->left.journalOf(lecture), u"one"_s);
+        QCOMPARE(m_stage->left.journalIdOf(lecture), u"one"_s);
         m_stage->left.rowIsStored(u"other"_s, 7);
-        QCOMPARE(m_stage->left.journalOf(lecture), u"other"_s);
+        QCOMPARE(m_stage->left.journalIdOf(lecture), u"other"_s);
     }
 
     void theJournalOfARowThatWentIsNotThatOfTheNextOneWithItsId()
@@ -353,9 +353,9 @@ private Q_SLOTS:
 
         m_stage->left.lecturesHaveGone({.copyPath = u"copy"_s, .ids = QSet<qint64>{7}});
 
-        QCOMPARE(m_stage->left.journalOf(lecture), QString());
+        QCOMPARE(m_stage->left.journalIdOf(lecture), QString());
         lecture.setRecordUniqueID(8);
-        QCOMPARE(m_stage->left.journalOf(lecture), u"other"_s);
+        QCOMPARE(m_stage->left.journalIdOf(lecture), u"other"_s);
     }
 
     // It could not be removed when the row was stored, and then the row went to a copy.

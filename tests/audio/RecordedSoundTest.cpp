@@ -1,6 +1,6 @@
 #include "audio/DurationText.h"
 #include "audio/RecordingWatch.h"
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioEngine.h"
 #include "platform/DiskRoom.h"
 #include "platform/Texts.h"
 #include "support/DecodedAudio.h"

@@ -168,11 +168,11 @@ private Q_SLOTS:
     {
         m_room = 25 * Minute;
         open();
-        const int before = 25 - int(Reserve::Most / Minute) - 1;
+        const int before = 25 - int(Reserve::MostBytes / Minute) - 1;
         QCOMPARE(line(), little(before));
 
         m_stage->start();
-        m_room = 25 * Minute - Reserve::Most;
+        m_room = 25 * Minute - Reserve::MostBytes;
         hearFor(5);
 
         QCOMPARE(line(), little(before));

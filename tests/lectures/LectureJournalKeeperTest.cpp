@@ -344,7 +344,7 @@ private Q_SLOTS:
 
     void whileAnotherProcessOwnsTheTakeNothingIsWritten()
     {
-        tarvelo::platform::FolderOwner other;
+        tarvelo::platform::FolderLock other;
         m_program = std::make_unique<LectureProgram>();
         QDir().mkpath(folder());
         QVERIFY(other.own(folder()));

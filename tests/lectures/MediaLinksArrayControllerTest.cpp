@@ -1,7 +1,7 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include "lectures/CustomTableCellView.h"
-#include "platform/FolderOwner.h"
+#include "platform/FolderLock.h"
 #include "platform/PrivateFiles.h"
 #include "platform/WindowLevel.h"
 #include "store/LectureInfoItem.h"
@@ -83,7 +83,7 @@ private Q_SLOTS:
         const QString held = m_program->places.folder() + u"/temp/.tempAudioFile.reserve"_s;
         tarvelo::platform::createFolderIfMissing(QFileInfo(held).path());
         tarvelo::platform::createFileIfMissing(held);
-        tarvelo::platform::FolderOwner other;
+        tarvelo::platform::FolderLock other;
         QVERIFY(other.own(QFileInfo(held).path()));
 
         controller().awakeFromNib();

@@ -1,7 +1,7 @@
 // What stands where the next take would be written, and cannot be moved away just now: nothing of
 // it is lost, and nothing of what comes next.
 
-#include "platform/FolderOwner.h"
+#include "platform/FolderLock.h"
 #include "support/FileContent.h"
 #include "support/LectureProgram.h"
 #include "support/RefusedCalls.h"
@@ -145,7 +145,7 @@ private Q_SLOTS:
     void whatALivingProcessRecordsIsNotTouched()
     {
         leaveTakeAndJournal();
-        tarvelo::platform::FolderOwner other;
+        tarvelo::platform::FolderLock other;
         QVERIFY(other.own(folder()));
         m_program->showDay(m_program->today());
 
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QFETCH(bool, isAlive);
         const QString itsOwn = folder() + u"/take-abcdef"_s;
         leaveTakeAndJournal(itsOwn);
-        tarvelo::platform::FolderOwner second;
+        tarvelo::platform::FolderLock second;
         QVERIFY(!isAlive || second.own(itsOwn));
 
         m_program->showDay(m_program->today());
@@ -187,7 +187,7 @@ private Q_SLOTS:
 
     void aSecondProcessHasAFolderOfItsOwn()
     {
-        tarvelo::platform::FolderOwner other;
+        tarvelo::platform::FolderLock other;
         QVERIFY(QDir().mkpath(folder()) && other.own(folder()));
         m_program->showDay(m_program->today());
         const QString itsOwn = QFileInfo(controller().tempAudioSavePath()).path();

@@ -49,7 +49,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(m_places->folder() + u"/Backups/.checked"_s));
         check();
 
-        m_clock.advance(DailyCheck::Again);
+        m_clock.advance(DailyCheck::LookInterval);
         QVERIFY(!m_check->isChecking());
 
         m_clock.advance(24h);
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(!m_check->isChecking());
 
         QVERIFY(m_database->openDb());
-        m_clock.advance(DailyCheck::Again);
+        m_clock.advance(DailyCheck::LookInterval);
         QVERIFY(!m_check->isChecking());
         QCOMPARE(remembered(), QByteArray());
     }

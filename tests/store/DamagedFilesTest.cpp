@@ -102,7 +102,7 @@ private Q_SLOTS:
     {
         write(damaged(), "an old journal");
 
-        QVERIFY(m_files->replaceWithSound(file()));
+        QVERIFY(m_files->replaceWithIntact(file()));
 
         Sqlite database(file());
         QVERIFY(isSound(database));
@@ -118,11 +118,11 @@ private Q_SLOTS:
         write(damaged(), "an old journal");
         stubborn = QFile::encodeName(file() + u"-journal"_s);
 
-        QVERIFY(!m_files->replaceWithSound(file()));
+        QVERIFY(!m_files->replaceWithIntact(file()));
 
         QCOMPARE(contentOf(file()), damaged());
         stubborn.clear();
-        QVERIFY(m_files->replaceWithSound(file()));
+        QVERIFY(m_files->replaceWithIntact(file()));
     }
 
     void withoutRoomToPutItAsideTheFileStaysAsItIs()
@@ -132,7 +132,7 @@ private Q_SLOTS:
         SmallDisk disk(folder(), 16);
         write(damaged());
 
-        QVERIFY(!m_files->replaceWithSound(file()));
+        QVERIFY(!m_files->replaceWithIntact(file()));
 
         QCOMPARE(contentOf(file()), damaged());
         QVERIFY(!m_files->newest());
@@ -146,8 +146,8 @@ private Q_SLOTS:
         SmallDisk disk(folder(), 96);
         write(damaged());
 
-        QVERIFY(!m_files->replaceWithSound(file()));
-        QVERIFY(!m_files->replaceWithSound(file()));
+        QVERIFY(!m_files->replaceWithIntact(file()));
+        QVERIFY(!m_files->replaceWithIntact(file()));
 
         QCOMPARE(contentOf(file()), damaged());
         QCOMPARE(contentOf(m_files->newest()->filePath), damaged());

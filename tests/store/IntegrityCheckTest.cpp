@@ -23,7 +23,7 @@ private Q_SLOTS:
     {
         QVERIFY(writeContent(path(), m_sound));
 
-        QCOMPARE(soundness(), Soundness::Sound);
+        QCOMPARE(integrity(), Integrity::Intact);
 
         QCOMPARE(contentOf(path()), m_sound);
         QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files).size(), 1);
@@ -36,7 +36,7 @@ private Q_SLOTS:
             content.replace(at, DatabasePage, QByteArray(DatabasePage, '\xa5'));
             QVERIFY(writeContent(path(), content));
 
-            QCOMPARE(soundness(), Soundness::Damaged);
+            QCOMPARE(integrity(), Integrity::Damaged);
         }
     }
 
@@ -46,15 +46,15 @@ private Q_SLOTS:
              {m_sound.chopped(DatabasePage), m_sound.first(5000), QByteArray(9000, 'x')}) {
             QVERIFY(writeContent(path(), content));
 
-            QCOMPARE(soundness(), Soundness::Damaged);
+            QCOMPARE(integrity(), Integrity::Damaged);
         }
     }
 
     void ofAFileThatIsNotThereOrADirectoryNothingIsKnown()
     {
-        QCOMPARE(soundness(), Soundness::Unknown);
+        QCOMPARE(integrity(), Integrity::Unknown);
         QDir().mkpath(path());
-        QCOMPARE(soundness(), Soundness::Unknown);
+        QCOMPARE(integrity(), Integrity::Unknown);
     }
 
     void aNameWithSignsOfAnAddressIsAFile()
@@ -62,7 +62,7 @@ private Q_SLOTS:
         m_name = u"100% sure?#1&x.db"_s;
         QVERIFY(writeContent(path(), m_sound));
 
-        QCOMPARE(soundness(), Soundness::Sound);
+        QCOMPARE(integrity(), Integrity::Intact);
     }
 
     // A lock would make a lecture that is saved meanwhile fail, and cost it all others.
@@ -102,14 +102,14 @@ private:
     void finish() override { m_dir.reset(); }
 
     QString path() const { return m_dir->filePath(m_name); }
-    Soundness soundness() const
+    Integrity integrity() const
     {
         IntegrityCheck check(path());
-        std::optional<Soundness> heard;
+        std::optional<Integrity> heard;
         connect(&check, &IntegrityCheck::finished, &check,
-                [&heard](Soundness soundness) { heard = soundness; });
+                [&heard](Integrity integrity) { heard = integrity; });
         static_cast<void>(QTest::qWaitFor([&heard] { return heard.has_value(); }, 60000));
-        return heard.value_or(Soundness::Unknown);
+        return heard.value_or(Integrity::Unknown);
     }
 
     QByteArray m_sound;

@@ -3,9 +3,9 @@
 #include "store/DamagedDatabases.h"
 #include "store/DatabaseCase.h"
 #include "store/FullDisk.h"
+#include "store/Integrity.h"
 #include "store/LectureInfoItem.h"
 #include "store/LectureJournal.h"
-#include "store/Soundness.h"
 #include "store/Statements.h"
 
 using namespace Qt::StringLiterals;

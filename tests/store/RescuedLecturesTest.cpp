@@ -33,7 +33,7 @@ private Q_SLOTS:
         QVERIFY(rescue(m_sound));
 
         QCOMPARE(rescued(), all());
-        Sqlite database(soundPath());
+        Sqlite database(intactPath());
         const auto last = database.executeQuery(u"select ID from audioData where subject = ?"_s,
                                                 u"Lecture 60."_s);
         QCOMPARE(last->first().value(u"ID"_s), QVariant(60));
@@ -169,7 +169,8 @@ private Q_SLOTS:
 
         QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden),
                  QStringList({u"damaged.db"_s, u"sound.db"_s}));
-        QCOMPARE(QFileInfo(soundPath()).permissions() & 0x0fff, QFile::ReadUser | QFile::WriteUser);
+        QCOMPARE(QFileInfo(intactPath()).permissions() & 0x0fff,
+                 QFile::ReadUser | QFile::WriteUser);
     }
 
 private:
@@ -177,18 +178,18 @@ private:
     void finish() override { m_dir.reset(); }
 
     QString damagedPath() const { return m_dir->filePath(u"damaged.db"_s); }
-    QString soundPath() const { return m_dir->filePath(u"sound.db"_s); }
+    QString intactPath() const { return m_dir->filePath(u"sound.db"_s); }
 
     // The file itself must stay as it is.
     bool rescue(const QByteArray &content) const
     {
-        return writeContent(damagedPath(), content) && rescueLectures(damagedPath(), soundPath()) &&
-               contentOf(damagedPath()) == content;
+        return writeContent(damagedPath(), content) &&
+               rescueLectures(damagedPath(), intactPath()) && contentOf(damagedPath()) == content;
     }
     // Of a file that must be sound.
     QStringList rescued() const
     {
-        Sqlite database(soundPath());
+        Sqlite database(intactPath());
         return isSound(database) ? subjectsIn(database) : QStringList(u"not sound"_s);
     }
     static QStringList all() { return allBut(QByteArray()); }

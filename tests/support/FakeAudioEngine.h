@@ -1,7 +1,7 @@
 #pragma once
 
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/AudioPlayer.h"
-#include "audio/engine/AudioRecorder.h"
 
 #include <QFile>
 #include <QStringList>

@@ -6,6 +6,7 @@
 // and "stopped" when it has, and every few milliseconds "recorded", each with the recorded seconds,
 // until somebody ends it.
 
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/Settings.h"
 
 #include <QCoreApplication>

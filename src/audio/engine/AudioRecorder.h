@@ -2,14 +2,10 @@
 
 #include "audio/engine/Hearing.h"
 
-#include <QString>
-#include <QVariantMap>
-
-#include <memory>
+#include <QLatin1StringView>
 
 namespace tarvelo::engine {
 
-class AudioPlayer;
 class AudioRecorder;
 
 // Hears from a recorder on the main thread. Must outlive the recorder or take itself off it.
@@ -54,7 +50,7 @@ public:
 };
 
 // The keys of a recorder's settings.
-struct RecorderSetting
+struct RecorderSettingKeys
 {
     static constexpr QLatin1StringView SampleRate{"AVSampleRateKey"};             // float, hertz
     static constexpr QLatin1StringView NumberOfChannels{"AVNumberOfChannelsKey"}; // int
@@ -62,27 +58,5 @@ struct RecorderSetting
     static constexpr QLatin1StringView Format{"AVFormatIDKey"}; // int, four-character code
     static constexpr QLatin1StringView EncoderQuality{"AVEncoderAudioQualityKey"}; // int
 };
-
-// Makes recorders and players. The one production implementation is over the sound server; a test
-// that is not about sound brings its own.
-class AudioEngine
-{
-public:
-    AudioEngine() = default;
-    AudioEngine(const AudioEngine &) = delete;
-    AudioEngine &operator=(const AudioEngine &) = delete;
-    virtual ~AudioEngine() = default;
-
-    // A recorder on `path`, whatever its extension: MPEG-4 with AAC. Null when the settings name
-    // another format or cannot be met. Touches neither the file nor the sound server.
-    virtual std::unique_ptr<AudioRecorder> makeRecorder(const QString &path,
-                                                        const QVariantMap &settings) = 0;
-    // A player of the file whose bytes these are. Null when they are no audio that can be played.
-    virtual std::unique_ptr<AudioPlayer> makePlayer(const QByteArray &bytes) = 0;
-};
-
-// The engine over the sound server of the session (PulseAudio's protocol, which PipeWire serves
-// too).
-std::unique_ptr<AudioEngine> makeSoundServerEngine();
 
 } // namespace tarvelo::engine

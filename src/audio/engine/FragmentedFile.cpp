@@ -48,7 +48,7 @@ double FragmentedFile::secondsSafe() const
     if (!m_diskFails)
         return Everything;
     // What is wrong with the disk otherwise is not mended by room.
-    std::int64_t room = m_file->isOutOfRoom() ? roomLeft() + m_unused : 0;
+    std::int64_t room = m_file->isOutOfRoom() ? roomLeft() + m_reserveUnused : 0;
     TakeExtent safe = m_inFile;
     for (const Fragment &fragment : m_waiting) {
         room -= static_cast<std::int64_t>(fragment.bytes.size());
@@ -61,7 +61,7 @@ double FragmentedFile::secondsSafe() const
 
 bool FragmentedFile::isFull() const
 {
-    const std::int64_t taken = m_file->isOutOfRoom() ? m_taken - m_unused : 0;
+    const std::int64_t taken = m_file->isOutOfRoom() ? m_reserveTaken - m_reserveUnused : 0;
     return static_cast<std::int64_t>(m_bytesWaiting + m_maker->bytesKept()) >= MostWaiting - taken;
 }
 
@@ -120,7 +120,8 @@ void FragmentedFile::putWaiting()
 // row.
 std::int64_t FragmentedFile::roomLeft() const
 {
-    return std::max<std::int64_t>(0, std::min(MostTaken - m_taken, m_reserve.bytes() - Slack));
+    return std::max<std::int64_t>(0,
+                                  std::min(MostTaken - m_reserveTaken, m_reserve.bytes() - Slack));
 }
 
 bool FragmentedFile::append(const FragmentMaker::Bytes &bytes)
@@ -129,7 +130,7 @@ bool FragmentedFile::append(const FragmentMaker::Bytes &bytes)
     const bool isIn =
         m_file->append(bytes) || (m_file->isOutOfRoom() && makeRoom(size) && m_file->append(bytes));
     if (isIn)
-        m_unused = std::max<std::int64_t>(0, m_unused - size);
+        m_reserveUnused = std::max<std::int64_t>(0, m_reserveUnused - size);
     return isIn;
 }
 
@@ -138,10 +139,10 @@ bool FragmentedFile::append(const FragmentMaker::Bytes &bytes)
 bool FragmentedFile::makeRoom(std::int64_t bytes)
 {
     const std::int64_t step = std::min(std::max(Step, bytes), roomLeft());
-    if (m_unused >= bytes || m_unused + step < bytes || !m_reserve.giveBack(step))
+    if (m_reserveUnused >= bytes || m_reserveUnused + step < bytes || !m_reserve.giveBack(step))
         return false;
-    m_taken += step;
-    m_unused += step;
+    m_reserveTaken += step;
+    m_reserveUnused += step;
     return true;
 }
 
@@ -149,21 +150,21 @@ void FragmentedFile::syncNowAndThen()
 {
     const auto now = std::chrono::steady_clock::now();
     if (const auto isOnDisk = m_sync.outcome()) {
-        m_lastSync = now - m_synced;
+        m_lastSyncTook = now - m_lastSyncBegan;
         syncEnded(*isOnDisk);
     }
     const bool hasNothing = m_unsynced.empty() && !m_diskFails;
-    if (hasNothing || m_sync.isUnderWay() || now - m_synced < SyncInterval - m_lastSync)
+    if (hasNothing || m_sync.isUnderWay() || now - m_lastSyncBegan < SyncInterval - m_lastSyncTook)
         return;
-    m_synced = now;
+    m_lastSyncBegan = now;
     if (m_diskFails)
         putWaiting();
     // The next time that the disk is full is not to find less.
-    if (!m_diskFails && m_taken > 0 && m_reserve.holdAgain())
-        m_taken = m_unused = 0;
+    if (!m_diskFails && m_reserveTaken > 0 && m_reserve.holdAgain())
+        m_reserveTaken = m_reserveUnused = 0;
     if (m_unsynced.empty() || !writeLostAgain())
         return;
-    m_syncing = m_unsynced.size();
+    m_fragmentsSyncing = m_unsynced.size();
     m_sync.begin();
 }
 
@@ -171,7 +172,7 @@ void FragmentedFile::sync()
 {
     if (const auto isOnDisk = m_sync.wait())
         syncEnded(*isOnDisk);
-    m_syncing = m_unsynced.size();
+    m_fragmentsSyncing = m_unsynced.size();
     syncEnded(writeLostAgain() && m_file->sync());
 }
 
@@ -179,9 +180,9 @@ void FragmentedFile::sync()
 // may be is written again, and nothing counts as synced before that.
 void FragmentedFile::syncEnded(bool isOnDisk)
 {
-    while (isOnDisk && m_syncing > 0)
+    while (isOnDisk && m_fragmentsSyncing > 0)
         forgetOldestUnsynced();
-    m_syncing = 0;
+    m_fragmentsSyncing = 0;
     m_mayBeLost = !isOnDisk;
     writeLostAgain();
 }
@@ -199,7 +200,7 @@ void FragmentedFile::forgetOldestUnsynced()
 {
     m_bytesUnsynced -= m_unsynced.front().bytes.size();
     m_unsynced.pop_front();
-    m_syncing -= m_syncing > 0 ? 1 : 0;
+    m_fragmentsSyncing -= m_fragmentsSyncing > 0 ? 1 : 0;
 }
 
 bool FragmentedFile::finish()

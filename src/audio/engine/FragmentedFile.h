@@ -88,15 +88,16 @@ private:
     TakeExtent m_inFile;
     std::deque<Fragment> m_waiting;
     std::size_t m_bytesWaiting = 0;
-    std::int64_t m_taken = 0;  // bytes of the reserve that the sound got
-    std::int64_t m_unused = 0; // of those, what no sound went into yet
+    std::int64_t m_reserveTaken = 0;  // bytes of the reserve that the sound got
+    std::int64_t m_reserveUnused = 0; // of those, what no sound went into yet
     std::deque<Fragment> m_unsynced;
     std::size_t m_bytesUnsynced = 0;
-    std::size_t m_syncing = 0; // of the unsynced, those that the sync which is under way is for
-    bool m_mayBeLost = false;  // all that is unsynced
+    std::size_t m_fragmentsSyncing =
+        0;                    // of the unsynced, those that the sync which is under way is for
+    bool m_mayBeLost = false; // all that is unsynced
     bool m_diskFails = false;
-    std::chrono::steady_clock::time_point m_synced = std::chrono::steady_clock::now();
-    std::chrono::steady_clock::duration m_lastSync{}; // how long it took
+    std::chrono::steady_clock::time_point m_lastSyncBegan = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::duration m_lastSyncTook{}; // how long it took
 };
 
 } // namespace tarvelo::engine

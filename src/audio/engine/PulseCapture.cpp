@@ -48,7 +48,7 @@ bool PulseCapture::waitUntilOpen(std::chrono::milliseconds patience)
     int answers = -1;
     while (m_outcome == Outcome::Pending && m_answers != answers) {
         answers = m_answers;
-        m_heard.wait_for(lock, patience, [this, answers] {
+        m_answered.wait_for(lock, patience, [this, answers] {
             return m_outcome != Outcome::Pending || m_answers != answers;
         });
     }
@@ -59,7 +59,7 @@ void PulseCapture::answered()
 {
     const std::lock_guard lock(m_mutex);
     ++m_answers;
-    m_heard.notify_one();
+    m_answered.notify_one();
 }
 
 void PulseCapture::settle(Outcome outcome)
@@ -67,7 +67,7 @@ void PulseCapture::settle(Outcome outcome)
     const std::lock_guard lock(m_mutex);
     if (m_outcome == Outcome::Pending)
         m_outcome = outcome;
-    m_heard.notify_one();
+    m_answered.notify_one();
 }
 
 void PulseCapture::resume(SoundSink &sink)

@@ -57,7 +57,7 @@ private:
     SoundSink *m_sink = nullptr; // none while paused
 
     std::mutex m_mutex;
-    std::condition_variable m_heard;
+    std::condition_variable m_answered;
     Outcome m_outcome = Outcome::Pending;
     int m_answers = 0;
 };

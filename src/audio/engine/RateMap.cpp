@@ -13,25 +13,25 @@ RateMap::RateMap(int framesPerSecond, double seconds)
 
 void RateMap::beginAt(double seconds, double rate)
 {
-    m_stretches.assign(1, Stretch{0, seconds, rate, false});
+    m_segments.assign(1, Segment{0, seconds, rate, false});
 }
 
-void RateMap::replaceFrom(const Stretch &stretch)
+void RateMap::replaceFrom(const Segment &segment)
 {
-    std::erase_if(m_stretches, [&](const Stretch &it) { return it.frame >= stretch.frame; });
-    m_stretches.push_back(stretch);
+    std::erase_if(m_segments, [&](const Segment &it) { return it.frame >= segment.frame; });
+    m_segments.push_back(segment);
 }
 
 void RateMap::forgetBefore(std::int64_t frame)
 {
-    while (m_stretches.size() > 1 && m_stretches[1].frame < frame)
-        m_stretches.erase(m_stretches.begin());
+    while (m_segments.size() > 1 && m_segments[1].frame < frame)
+        m_segments.erase(m_segments.begin());
 }
 
-RateMap::Stretch RateMap::goingOnFrom(std::int64_t frame, double rate) const
+RateMap::Segment RateMap::goingOnFrom(std::int64_t frame, double rate) const
 {
     // It takes the place of a jump that nobody has heard yet.
-    const Stretch &last = m_stretches.back();
+    const Segment &last = m_segments.back();
     if (last.isJump && frame <= last.frame)
         return {frame, last.seconds, rate, true};
     // From a whole frame on, as the source can be moved to no other place.
@@ -41,20 +41,20 @@ RateMap::Stretch RateMap::goingOnFrom(std::int64_t frame, double rate) const
 
 double RateMap::secondsAt(double frame) const
 {
-    const auto isAhead = [frame](const Stretch &it) {
+    const auto isAhead = [frame](const Segment &it) {
         return it.isJump && static_cast<double>(it.frame) > frame;
     };
-    const auto found = std::find_if(m_stretches.rbegin(), m_stretches.rend(), isAhead);
-    return found == m_stretches.rend() ? soundAt(frame) : found->seconds;
+    const auto found = std::find_if(m_segments.rbegin(), m_segments.rend(), isAhead);
+    return found == m_segments.rend() ? soundAt(frame) : found->seconds;
 }
 
 double RateMap::soundAt(double frame) const
 {
-    const auto isBefore = [frame](const Stretch &it) {
+    const auto isBefore = [frame](const Segment &it) {
         return static_cast<double>(it.frame) <= frame;
     };
-    auto found = std::find_if(m_stretches.rbegin(), m_stretches.rend(), isBefore);
-    if (found == m_stretches.rend())
+    auto found = std::find_if(m_segments.rbegin(), m_segments.rend(), isBefore);
+    if (found == m_segments.rend())
         --found;
     const double passed = (frame - static_cast<double>(found->frame)) / m_framesPerSecond;
     return std::clamp(found->seconds + passed * found->rate, 0.0, m_seconds);

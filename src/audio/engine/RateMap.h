@@ -11,7 +11,7 @@ class RateMap final
 {
 public:
     // From the frame on the sound comes from the second, at the rate.
-    struct Stretch
+    struct Segment
     {
         std::int64_t frame = 0;
         double seconds = 0;
@@ -24,14 +24,14 @@ public:
     // Forgets everything else.
     void beginAt(double seconds, double rate);
     // It takes the place of all that begins at its frame or later.
-    void replaceFrom(const Stretch &stretch);
+    void replaceFrom(const Segment &segment);
     // Of what was before the frame nobody will ask any more.
     void forgetBefore(std::int64_t frame);
 
-    const Stretch &first() const { return m_stretches.front(); }
-    double lastRate() const { return m_stretches.back().rate; }
+    const Segment &first() const { return m_segments.front(); }
+    double lastRate() const { return m_segments.back().rate; }
     // The same sound at another rate from the frame on.
-    Stretch goingOnFrom(std::int64_t frame, double rate) const;
+    Segment goingOnFrom(std::int64_t frame, double rate) const;
     // 0 to the length of the sound. Who has jumped is there at once, though the sound takes a
     // moment to follow.
     double secondsAt(double frame) const;
@@ -41,7 +41,7 @@ private:
 
     const int m_framesPerSecond;
     const double m_seconds;
-    std::vector<Stretch> m_stretches{Stretch()}; // by frame, never empty
+    std::vector<Segment> m_segments{Segment()}; // by frame, never empty
 };
 
 } // namespace tarvelo::engine

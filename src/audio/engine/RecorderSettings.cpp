@@ -28,10 +28,10 @@ std::optional<int> wholeNumber(const QVariantMap &dictionary, QLatin1StringView 
 
 std::optional<RecorderSettings> RecorderSettings::fromDictionary(const QVariantMap &dictionary)
 {
-    const auto format = wholeNumber(dictionary, RecorderSetting::Format);
-    const auto rate = wholeNumber(dictionary, RecorderSetting::SampleRate);
-    const auto channels = wholeNumber(dictionary, RecorderSetting::NumberOfChannels);
-    const auto bitRate = wholeNumber(dictionary, RecorderSetting::EncoderBitRate);
+    const auto format = wholeNumber(dictionary, RecorderSettingKeys::Format);
+    const auto rate = wholeNumber(dictionary, RecorderSettingKeys::SampleRate);
+    const auto channels = wholeNumber(dictionary, RecorderSettingKeys::NumberOfChannels);
+    const auto bitRate = wholeNumber(dictionary, RecorderSettingKeys::EncoderBitRate);
     if (format != FormatAac || !rate || !channels || !bitRate)
         return std::nullopt;
     if (std::ranges::find(SampleRates, *rate) == SampleRates.end())

@@ -31,7 +31,7 @@ QString decoded(const std::string &path)
 
 std::int64_t Reserve::sizeOn(std::int64_t room)
 {
-    const std::int64_t size = std::min(Most, room * 3 / 10);
+    const std::int64_t size = std::min(MostBytes, room * 3 / 10);
     return size < Least ? 0 : size;
 }
 

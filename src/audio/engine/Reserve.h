@@ -13,7 +13,7 @@ class Reserve final
 {
 public:
     // Twice what the sound may have of it at the most.
-    static constexpr std::int64_t Most = std::int64_t{2} << 20;
+    static constexpr std::int64_t MostBytes = std::int64_t{2} << 20;
     // What is held on a disk with so much room: on a small one most is needed for the sound before.
     static std::int64_t sizeOn(std::int64_t room);
 

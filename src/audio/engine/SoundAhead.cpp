@@ -179,7 +179,7 @@ void SoundAhead::takeBack(Lock &lock)
 void SoundAhead::restart(Lock &lock)
 {
     m_order.reset();
-    const RateMap::Stretch first = m_rates.first();
+    const RateMap::Segment first = m_rates.first();
     lock.unlock();
     m_sound = soundFrom(first);
     lock.lock();
@@ -196,7 +196,7 @@ void SoundAhead::change(Lock &lock)
 {
     while (!m_isLeaving && !m_order->isRestart) {
         const Order order = *m_order;
-        const RateMap::Stretch next = stretchFrom(placeForChange(), order);
+        const RateMap::Segment next = segmentFrom(placeForChange(), order);
         lock.unlock();
         auto sound = soundFrom(next);
         m_block.resize(ChangeFrames * channels());
@@ -224,7 +224,7 @@ std::int64_t SoundAhead::placeForChange() const
     return std::max(place, m_ready.begin());
 }
 
-RateMap::Stretch SoundAhead::stretchFrom(std::int64_t frame, const Order &order) const
+RateMap::Segment SoundAhead::segmentFrom(std::int64_t frame, const Order &order) const
 {
     if (order.seconds)
         return {frame, *order.seconds, order.rate, true};
@@ -263,7 +263,7 @@ std::int64_t SoundAhead::framesIn(double seconds) const
     return std::llround(seconds * m_format.rate);
 }
 
-std::unique_ptr<SoundAtRate> SoundAhead::soundFrom(const RateMap::Stretch &stretch)
+std::unique_ptr<SoundAtRate> SoundAhead::soundFrom(const RateMap::Segment &stretch)
 {
     return std::make_unique<SoundAtRate>(*m_source, framesIn(stretch.seconds), stretch.rate);
 }

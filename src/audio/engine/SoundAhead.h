@@ -73,12 +73,12 @@ private:
     void tellTaker(Lock &lock);
     std::int64_t placeForChange() const;
     void beginAt(double seconds, double rate);
-    RateMap::Stretch stretchFrom(std::int64_t frame, const Order &order) const;
+    RateMap::Segment segmentFrom(std::int64_t frame, const Order &order) const;
     double heardAt(double frame) const;
     bool canChange() const;
     bool hasRoom() const;
     std::int64_t framesIn(double seconds) const;
-    std::unique_ptr<SoundAtRate> soundFrom(const RateMap::Stretch &stretch);
+    std::unique_ptr<SoundAtRate> soundFrom(const RateMap::Segment &stretch);
     std::size_t channels() const { return static_cast<std::size_t>(m_format.channels); }
 
     std::unique_ptr<DecodedSource> m_source; // the thread's

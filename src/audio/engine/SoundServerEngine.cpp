@@ -1,6 +1,6 @@
 #include "audio/engine/RecorderSettings.h"
 
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/SoundServerPlayer.h"
 #include "audio/engine/SoundServerRecorder.h"
 

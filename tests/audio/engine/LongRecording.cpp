@@ -1,6 +1,7 @@
 // Records ten minutes (or as many seconds as it is told) from a sound server of its own, lays what
 // came out over what was played, and prints how well the two agree. Exit status 0 when they do.
 
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/Settings.h"
 #include "support/DecodedAudio.h"
 #include "support/PrivateSoundServer.h"

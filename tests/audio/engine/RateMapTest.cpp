@@ -48,7 +48,7 @@ private Q_SLOTS:
         RateMap map(1000, 60);
         map.beginAt(0, 1.0 / 3);
 
-        const RateMap::Stretch next = map.goingOnFrom(1000, 1);
+        const RateMap::Segment next = map.goingOnFrom(1000, 1);
 
         QCOMPARE(next.frame, 1000);
         QCOMPARE(next.seconds, 0.333);
@@ -84,7 +84,7 @@ private Q_SLOTS:
         map.beginAt(0, 1);
         map.replaceFrom({3000, 40, 1, true});
 
-        const RateMap::Stretch next = map.goingOnFrom(4000, 0.5);
+        const RateMap::Segment next = map.goingOnFrom(4000, 0.5);
 
         QCOMPARE(next.seconds, 41.0);
         QVERIFY(!next.isJump);

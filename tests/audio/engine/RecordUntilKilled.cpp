@@ -1,6 +1,7 @@
 // A program that records into the file it is given and says every few milliseconds how far it has
 // come, until somebody ends it.
 
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/Settings.h"
 
 #include <QCoreApplication>

@@ -23,8 +23,8 @@ private Q_SLOTS:
     void everyNumberTypeIsANumber()
     {
         auto dictionary = lectureSettings();
-        dictionary.insert(RecorderSetting::SampleRate, 22050LL);
-        dictionary.insert(RecorderSetting::NumberOfChannels, 1.0);
+        dictionary.insert(RecorderSettingKeys::SampleRate, 22050LL);
+        dictionary.insert(RecorderSettingKeys::NumberOfChannels, 1.0);
 
         const auto settings = RecorderSettings::fromDictionary(dictionary);
 
@@ -36,7 +36,7 @@ private Q_SLOTS:
     void theQualityNeedNotBeGiven()
     {
         auto dictionary = lectureSettings();
-        dictionary.remove(RecorderSetting::EncoderQuality);
+        dictionary.remove(RecorderSettingKeys::EncoderQuality);
 
         QVERIFY(RecorderSettings::fromDictionary(dictionary));
     }
@@ -48,20 +48,20 @@ private Q_SLOTS:
         const auto row = [](const char *name, QLatin1StringView key, const QVariant &value) {
             QTest::newRow(name) << QString(key) << value;
         };
-        row("another format", RecorderSetting::Format, 0x6c70636d);
-        row("no format", RecorderSetting::Format, {});
-        row("a rate unknown to the encoder", RecorderSetting::SampleRate, 44000.0F);
-        row("a rate that is no whole number", RecorderSetting::SampleRate, 44100.5F);
-        row("a rate that is no number", RecorderSetting::SampleRate, QStringLiteral("high"));
-        row("no rate", RecorderSetting::SampleRate, {});
-        row("no channel", RecorderSetting::NumberOfChannels, 0);
-        row("three channels", RecorderSetting::NumberOfChannels, 3);
-        row("no channels", RecorderSetting::NumberOfChannels, {});
-        row("no bit rate", RecorderSetting::EncoderBitRate, {});
-        row("a negative bit rate", RecorderSetting::EncoderBitRate, -80000);
-        row("a bit rate beyond all whole numbers", RecorderSetting::EncoderBitRate, 1e10);
-        row("a bit rate that nobody knows", RecorderSetting::EncoderBitRate, qQNaN());
-        row("a bit rate beyond the encoder's", RecorderSetting::EncoderBitRate, 4000000);
+        row("another format", RecorderSettingKeys::Format, 0x6c70636d);
+        row("no format", RecorderSettingKeys::Format, {});
+        row("a rate unknown to the encoder", RecorderSettingKeys::SampleRate, 44000.0F);
+        row("a rate that is no whole number", RecorderSettingKeys::SampleRate, 44100.5F);
+        row("a rate that is no number", RecorderSettingKeys::SampleRate, QStringLiteral("high"));
+        row("no rate", RecorderSettingKeys::SampleRate, {});
+        row("no channel", RecorderSettingKeys::NumberOfChannels, 0);
+        row("three channels", RecorderSettingKeys::NumberOfChannels, 3);
+        row("no channels", RecorderSettingKeys::NumberOfChannels, {});
+        row("no bit rate", RecorderSettingKeys::EncoderBitRate, {});
+        row("a negative bit rate", RecorderSettingKeys::EncoderBitRate, -80000);
+        row("a bit rate beyond all whole numbers", RecorderSettingKeys::EncoderBitRate, 1e10);
+        row("a bit rate that nobody knows", RecorderSettingKeys::EncoderBitRate, qQNaN());
+        row("a bit rate beyond the encoder's", RecorderSettingKeys::EncoderBitRate, 4000000);
     }
     void whatCannotBeMetIsRefused()
     {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/Settings.h"
 #include "support/DecodedAudio.h"
 #include "support/PrivateSoundServer.h"

@@ -22,17 +22,17 @@ private Q_SLOTS:
     {
         const Reserve reserve(take());
 
-        QCOMPARE(reserve.bytes(), Reserve::Most);
+        QCOMPARE(reserve.bytes(), Reserve::MostBytes);
         QCOMPARE(names(), QStringList{u".take.reserve"_s});
         struct stat status = {};
         QCOMPARE(::stat(file().toStdString().c_str(), &status), 0);
-        QVERIFY(status.st_blocks * 512 >= Reserve::Most);
+        QVERIFY(status.st_blocks * 512 >= Reserve::MostBytes);
         QCOMPARE(status.st_mode & 07777U, 0600U);
     }
 
     void whatWaitsInMemoryFitsIntoIt()
     {
-        QVERIFY(Reserve::Most >= std::int64_t{FragmentedFile::MostBytesWaiting} * 3 / 2);
+        QVERIFY(Reserve::MostBytes >= std::int64_t{FragmentedFile::MostBytesWaiting} * 3 / 2);
     }
 
     void whatIsGivenBackIsGone()
@@ -51,27 +51,27 @@ private Q_SLOTS:
     {
         Reserve reserve(take());
 
-        QVERIFY(reserve.giveBack(Reserve::Most / 4));
-        QCOMPARE(reserve.bytes(), Reserve::Most * 3 / 4);
+        QVERIFY(reserve.giveBack(Reserve::MostBytes / 4));
+        QCOMPARE(reserve.bytes(), Reserve::MostBytes * 3 / 4);
         struct stat status = {};
         QCOMPARE(::stat(file().toStdString().c_str(), &status), 0);
-        QVERIFY(status.st_blocks * 512 <= Reserve::Most * 3 / 4);
+        QVERIFY(status.st_blocks * 512 <= Reserve::MostBytes * 3 / 4);
 
-        QVERIFY(!reserve.giveBack(Reserve::Most));
-        QCOMPARE(reserve.bytes(), Reserve::Most * 3 / 4);
+        QVERIFY(!reserve.giveBack(Reserve::MostBytes));
+        QCOMPARE(reserve.bytes(), Reserve::MostBytes * 3 / 4);
     }
 
     void whatWasGivenBackIsHeldAgain()
     {
         Reserve reserve(take());
-        QVERIFY(reserve.giveBack(Reserve::Most / 4));
+        QVERIFY(reserve.giveBack(Reserve::MostBytes / 4));
 
         QVERIFY(reserve.holdAgain());
 
-        QCOMPARE(reserve.bytes(), Reserve::Most);
+        QCOMPARE(reserve.bytes(), Reserve::MostBytes);
         struct stat status = {};
         QCOMPARE(::stat(file().toStdString().c_str(), &status), 0);
-        QVERIFY(status.st_blocks * 512 >= Reserve::Most);
+        QVERIFY(status.st_blocks * 512 >= Reserve::MostBytes);
     }
 
     void whatSomebodyTookAwayIsNotGivenBack()
@@ -79,8 +79,8 @@ private Q_SLOTS:
         Reserve reserve(take());
         QVERIFY(QFile::remove(file()));
 
-        QVERIFY(!reserve.giveBack(Reserve::Most / 4));
-        QCOMPARE(reserve.bytes(), Reserve::Most);
+        QVERIFY(!reserve.giveBack(Reserve::MostBytes / 4));
+        QCOMPARE(reserve.bytes(), Reserve::MostBytes);
     }
 
     void itsEndGivesItBack()
@@ -103,7 +103,7 @@ private Q_SLOTS:
             const Reserve reserve(take(u"take.aac"_s));
 
             QCOMPARE(names(), QStringList{u".take.reserve"_s});
-            QCOMPARE(left.size(), Reserve::Most);
+            QCOMPARE(left.size(), Reserve::MostBytes);
         }
     }
 
@@ -156,8 +156,8 @@ private Q_SLOTS:
         QCOMPARE(Reserve::sizeOn(0), 0);
         QCOMPARE(Reserve::sizeOn(100000), 0);
         QCOMPARE(Reserve::sizeOn(MiB), MiB * 3 / 10);
-        QCOMPARE(Reserve::sizeOn(7 * MiB), Reserve::Most);
-        QCOMPARE(Reserve::sizeOn(1000000 * MiB), Reserve::Most);
+        QCOMPARE(Reserve::sizeOn(7 * MiB), Reserve::MostBytes);
+        QCOMPARE(Reserve::sizeOn(1000000 * MiB), Reserve::MostBytes);
     }
 
 private:

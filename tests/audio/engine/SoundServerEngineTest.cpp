@@ -1,4 +1,4 @@
-#include "audio/engine/AudioPlayer.h"
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/Settings.h"
 #include "audio/engine/SoundBytes.h"
 #include "support/StderrCatcher.h"
@@ -40,7 +40,7 @@ private Q_SLOTS:
     void settingsThatCannotBeMetGiveNoRecorder()
     {
         auto settings = lectureSettings();
-        settings.insert(RecorderSetting::Format, 0x6c70636d);
+        settings.insert(RecorderSettingKeys::Format, 0x6c70636d);
 
         QVERIFY(!makeSoundServerEngine()->makeRecorder(QStringLiteral("/tmp/take.aac"), settings));
         QVERIFY(!makeSoundServerEngine()->makeRecorder(QStringLiteral("/tmp/take.aac"), {}));

@@ -1,5 +1,5 @@
+#include "audio/engine/AudioEngine.h"
 #include "audio/engine/AudioPlayer.h"
-#include "audio/engine/AudioRecorder.h"
 #include "audio/engine/Recordings.h"
 #include "audio/engine/SpeakerRecording.h"
 #include "support/TestCase.h"

@@ -1,4 +1,4 @@
-#include "platform/Process.h"
+#include "platform/Places.h"
 
 #include <QCoreApplication>
 #include <QDir>

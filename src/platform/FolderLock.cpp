@@ -1,4 +1,4 @@
-#include "platform/FolderOwner.h"
+#include "platform/FolderLock.h"
 
 #include <QFile>
 #include <QString>
@@ -23,7 +23,7 @@ bool isStillThere(const QString &path, int lock)
 
 } // namespace
 
-bool FolderOwner::own(const QString &folder)
+bool FolderLock::own(const QString &folder)
 {
     if (m_lock)
         return true;

@@ -1,4 +1,4 @@
-#include "platform/FolderOwner.h"
+#include "platform/FolderLock.h"
 
 #include "support/TestCase.h"
 
@@ -12,7 +12,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using tarvelo::platform::FolderOwner;
+using tarvelo::platform::FolderLock;
 
 namespace {
 std::function<void()> s_beforeLocking;
@@ -28,15 +28,15 @@ extern "C" int flock(int file, int operation) noexcept
     return real(file, operation);
 }
 
-class FolderOwnerTest final : public tarvelo::tests::TestCase
+class FolderLockTest final : public tarvelo::tests::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void aFolderHasOneOwner()
     {
-        auto first = std::make_unique<FolderOwner>();
-        FolderOwner second;
+        auto first = std::make_unique<FolderLock>();
+        FolderLock second;
 
         QVERIFY(first->own(m_folder->path()) && first->owns());
         QVERIFY(!second.own(m_folder->path()) && !second.owns());
@@ -47,7 +47,7 @@ private Q_SLOTS:
 
     void owningItAgainChangesNothing()
     {
-        FolderOwner owner;
+        FolderLock owner;
 
         QVERIFY(owner.own(m_folder->path()));
         QVERIFY(owner.own(m_folder->path()));
@@ -55,7 +55,7 @@ private Q_SLOTS:
 
     void aFolderThatIsMissingHasNoOwner()
     {
-        FolderOwner owner;
+        FolderLock owner;
 
         QVERIFY(!owner.own(m_folder->filePath(u"missing"_s)));
     }
@@ -63,19 +63,19 @@ private Q_SLOTS:
     // Who had it took it away, and the lock is of a file that nobody finds any more.
     void aFolderThatWentMeanwhileHasNoOwner()
     {
-        auto first = std::make_unique<FolderOwner>();
+        auto first = std::make_unique<FolderLock>();
         QVERIFY(first->own(m_folder->path()));
         const QString path = m_folder->filePath(u".owner"_s);
         first.reset();
         s_beforeLocking = [&path] { QVERIFY(QFile::remove(path)); };
 
-        FolderOwner second;
+        FolderLock second;
         QVERIFY(!second.own(m_folder->path()));
     }
 
     void theFileIsForItsUserAlone()
     {
-        FolderOwner owner;
+        FolderLock owner;
         QVERIFY(owner.own(m_folder->path()));
 
         struct stat status = {};
@@ -87,7 +87,7 @@ private Q_SLOTS:
     // Else a player that outlives the program would keep its leftovers from being offered.
     void aProgramThatIsStartedDoesNotHoldIt()
     {
-        auto owner = std::make_unique<FolderOwner>();
+        auto owner = std::make_unique<FolderLock>();
         QVERIFY(owner->own(m_folder->path()));
         QProcess started;
         started.start(u"cat"_s, QStringList());
@@ -95,7 +95,7 @@ private Q_SLOTS:
 
         owner.reset();
 
-        FolderOwner other;
+        FolderLock other;
         QVERIFY(other.own(m_folder->path()));
         started.closeWriteChannel();
         QVERIFY(started.waitForFinished());
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QProcess holder;
         holder.start(u"flock"_s, {m_folder->filePath(u".owner"_s), u"-c"_s, u"echo held; cat"_s});
         QVERIFY(holder.waitForReadyRead());
-        FolderOwner owner;
+        FolderLock owner;
         QVERIFY(!owner.own(m_folder->path()));
 
         holder.closeWriteChannel();
@@ -123,5 +123,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-QTEST_GUILESS_MAIN(FolderOwnerTest)
-#include "FolderOwnerTest.moc"
+QTEST_GUILESS_MAIN(FolderLockTest)
+#include "FolderLockTest.moc"

@@ -1,4 +1,4 @@
-#include "platform/Process.h"
+#include "platform/Places.h"
 
 #include "support/EnvironmentVariable.h"
 #include "support/TestCase.h"
@@ -12,7 +12,7 @@ using tarvelo::platform::pathForResource;
 using tarvelo::platform::Places;
 using tarvelo::tests::EnvironmentVariable;
 
-class ProcessTest final : public tarvelo::tests::TestCase
+class PlacesTest final : public tarvelo::tests::TestCase
 {
     Q_OBJECT
 
@@ -120,5 +120,5 @@ private:
     std::optional<EnvironmentVariable> m_noWish;
 };
 
-QTEST_GUILESS_MAIN(ProcessTest)
-#include "ProcessTest.moc"
+QTEST_GUILESS_MAIN(PlacesTest)
+#include "PlacesTest.moc"

@@ -5,13 +5,13 @@ namespace tarvelo::store {
 class Sqlite;
 
 // Unknown when the file could not be asked: it is locked, or the disk fails.
-enum class Soundness { Sound, Damaged, Unknown };
+enum class Integrity { Intact, Damaged, Unknown };
 
 // What can be known of a database at no cost: whether it is one at all, and its tables' names can
 // be read.
-Soundness soundnessAtFirstSight(Sqlite &database);
+Integrity integrityAtFirstSight(Sqlite &database);
 
 // Looks at every page, and takes as long as reading the file does.
-Soundness soundnessOfEveryPage(Sqlite &database);
+Integrity integrityOfEveryPage(Sqlite &database);
 
 } // namespace tarvelo::store
