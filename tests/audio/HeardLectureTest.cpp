@@ -26,7 +26,7 @@ private Q_SLOTS:
 
         play(sound);
 
-        const auto heard = untilSilence();
+        const auto heard = m_speaker->untilSilence();
         QVERIFY(compare(sound, heard, Rate, 1).correlation > 0.98);
         QTRY_VERIFY_WITH_TIMEOUT(window().btnPlayLecture.isEnabled(), Patience);
         QVERIFY(!window().btnPauseLecture.isEnabled());
@@ -38,12 +38,12 @@ private Q_SLOTS:
         const auto sound = tune(Rate, 1);
         play(sound);
         QTRY_VERIFY_WITH_TIMEOUT(window().btnPlayLecture.isEnabled(), Patience);
-        untilSilence();
+        m_speaker->untilSilence();
         m_speaker->forget();
 
         m_stage->playback.onPlayPauseLecture(&window().btnPlayLecture);
 
-        QVERIFY(compare(sound, untilSilence(), Rate, 1).correlation > 0.98);
+        QVERIFY(compare(sound, m_speaker->untilSilence(), Rate, 1).correlation > 0.98);
     }
 
     void aChosenSpeedIsHeard()
@@ -55,7 +55,7 @@ private Q_SLOTS:
         m_stage->playback.onPlaySpeedChanged(&window().segPlaySpeed);
 
         // Whatever was heard before the pause was heard at full speed.
-        const double length = secondsOf(untilSilence());
+        const double length = secondsOf(m_speaker->untilSilence());
         QVERIFY2(length > 3 && length < 4.1, qPrintable(QString::number(length)));
         QTRY_VERIFY_WITH_TIMEOUT(window().btnPlayLecture.isEnabled(), Patience);
     }
@@ -88,7 +88,7 @@ private Q_SLOTS:
         m_stage->playback.discardPlayer();
         play(sound);
 
-        QVERIFY(compare(sound, untilSilence(), Rate, 1).correlation > 0.98);
+        QVERIFY(compare(sound, m_speaker->untilSilence(), Rate, 1).correlation > 0.98);
     }
 
 private:
@@ -121,12 +121,6 @@ private:
     {
         m_stage->writeTake(recordingOf(sound));
         m_stage->playback.playLecture(m_stage->takePath(), u"Optics"_s);
-    }
-    std::vector<float> untilSilence()
-    {
-        std::vector<float> heard;
-        const auto isThere = [&] { return !(heard = m_speaker->soundBeforeSilence()).empty(); };
-        return QTest::qWaitFor(isThere, Patience) ? heard : std::vector<float>();
     }
     static double secondsOf(const std::vector<float> &sound)
     {

@@ -1,17 +1,16 @@
 #include "audio/TakeFolder.h"
 
-#include "support/TestCase.h"
+#include "support/FolderCase.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using tarvelo::audio::TakeFolder;
 
-class TakeFolderTest final : public tarvelo::tests::TestCase
+class TakeFolderTest final : public tarvelo::tests::FolderCase
 {
     Q_OBJECT
 
@@ -73,10 +72,6 @@ private Q_SLOTS:
         QVERIFY(!TakeFolder::makeBelow(usual() + u"/missing"_s));
     }
 
-protected:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-    void finish() override { m_folder.reset(); }
-
 private:
     QString usual() const { return m_folder->path(); }
     static void write(const QString &path)
@@ -85,8 +80,6 @@ private:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("content");
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(TakeFolderTest)

@@ -1,11 +1,9 @@
 #include "lectures/LectureSaving.h"
 
 #include "lectures/StoredTexts.h"
+#include "store/DatabaseCase.h"
 #include "store/LectureInfoItem.h"
-#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
-#include "support/TemporaryPlaces.h"
-#include "support/TestCase.h"
 
 #include <memory>
 
@@ -15,7 +13,7 @@ using namespace tarvelo::store;
 using tarvelo::lectures::LectureSaving;
 using tarvelo::tests::aLecture;
 
-class LectureSavingTest final : public tarvelo::tests::TestCase
+class LectureSavingTest final : public tarvelo::tests::DatabaseCase
 {
     Q_OBJECT
 
@@ -117,8 +115,7 @@ private:
     {
         m_told.clear();
         m_isWaiting = false;
-        m_places = std::make_unique<tarvelo::tests::TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+        DatabaseCase::prepare();
         m_saving = std::make_unique<LectureSaving>(LectureSaving::Collaborators{
             m_clock, *m_database,
             [this](const LectureInfoItem &, const QString &subject, const QString &notes) {
@@ -129,8 +126,7 @@ private:
     void finish() override
     {
         m_saving.reset();
-        m_database.reset();
-        m_places.reset();
+        DatabaseCase::finish();
     }
 
     LectureInfoItem stored() const
@@ -146,9 +142,6 @@ private:
     }
     QStringList everything() const { return tarvelo::tests::textsIn(*m_database); }
 
-    tarvelo::tests::FakeClock m_clock;
-    std::unique_ptr<tarvelo::tests::TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
     std::unique_ptr<LectureSaving> m_saving;
     QStringList m_told;
     bool m_isWaiting = false;

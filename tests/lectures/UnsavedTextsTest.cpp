@@ -1,11 +1,9 @@
 #include "lectures/UnsavedTexts.h"
 
 #include "lectures/StoredTexts.h"
+#include "store/DatabaseCase.h"
 #include "store/LectureInfoItem.h"
-#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
-#include "support/TemporaryPlaces.h"
-#include "support/TestCase.h"
 
 #include <memory>
 
@@ -15,7 +13,7 @@ using namespace tarvelo::store;
 using tarvelo::lectures::UnsavedTexts;
 using tarvelo::tests::aLecture;
 
-class UnsavedTextsTest final : public tarvelo::tests::TestCase
+class UnsavedTextsTest final : public tarvelo::tests::DatabaseCase
 {
     Q_OBJECT
 
@@ -119,15 +117,13 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_places = std::make_unique<tarvelo::tests::TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+        DatabaseCase::prepare();
         m_texts = std::make_unique<UnsavedTexts>(*m_database, m_clock);
     }
     void finish() override
     {
         m_texts.reset();
-        m_database.reset();
-        m_places.reset();
+        DatabaseCase::finish();
     }
 
     LectureInfoItem stored(const char *path) const { return stored(QString::fromLatin1(path)); }
@@ -137,9 +133,6 @@ private:
     }
     QStringList everything() const { return tarvelo::tests::textsIn(*m_database); }
 
-    tarvelo::tests::FakeClock m_clock;
-    std::unique_ptr<tarvelo::tests::TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
     std::unique_ptr<UnsavedTexts> m_texts;
 };
 

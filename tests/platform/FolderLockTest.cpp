@@ -1,9 +1,8 @@
 #include "platform/FolderLock.h"
 
-#include "support/TestCase.h"
+#include "support/FolderCase.h"
 
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <dlfcn.h>
 #include <functional>
@@ -28,7 +27,7 @@ extern "C" int flock(int file, int operation) noexcept
     return real(file, operation);
 }
 
-class FolderLockTest final : public tarvelo::tests::TestCase
+class FolderLockTest final : public tarvelo::tests::FolderCase
 {
     Q_OBJECT
 
@@ -114,13 +113,6 @@ private Q_SLOTS:
 
         QVERIFY(owner.own(m_folder->path()));
     }
-
-protected:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-    void finish() override { m_folder.reset(); }
-
-private:
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(FolderLockTest)

@@ -1,13 +1,12 @@
 #include "platform/SteadyFile.h"
 
 #include "support/FileContent.h"
+#include "support/FolderCase.h"
 #include "support/RefusedCalls.h"
 #include "support/SmallFiles.h"
-#include "support/TestCase.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -16,7 +15,7 @@ using tarvelo::platform::SteadyFile;
 using tarvelo::tests::contentOf;
 using tarvelo::tests::SmallFiles;
 
-class SteadyFileTest final : public tarvelo::tests::TestCase
+class SteadyFileTest final : public tarvelo::tests::FolderCase
 {
     Q_OBJECT
 
@@ -165,11 +164,10 @@ private Q_SLOTS:
     }
 
 protected:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
     void finish() override
     {
         tarvelo::tests::refuseNothing();
-        m_folder.reset();
+        FolderCase::finish();
     }
 
 private:
@@ -189,8 +187,6 @@ private:
         }
         return sum;
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(SteadyFileTest)

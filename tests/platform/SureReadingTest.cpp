@@ -1,10 +1,8 @@
 #include "platform/SureReading.h"
 
 #include "support/FileContent.h"
+#include "support/FolderCase.h"
 #include "support/RefusedCalls.h"
-#include "support/TestCase.h"
-
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace tarvelo::platform;
@@ -12,7 +10,7 @@ using tarvelo::tests::refuse;
 using tarvelo::tests::writeContent;
 using State = WholeFile::State;
 
-class SureReadingTest final : public tarvelo::tests::TestCase
+class SureReadingTest final : public tarvelo::tests::FolderCase
 {
     Q_OBJECT
 
@@ -64,17 +62,14 @@ private Q_SLOTS:
     }
 
 protected:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
     void finish() override
     {
         tarvelo::tests::refuseNothing();
-        m_folder.reset();
+        FolderCase::finish();
     }
 
 private:
     QString path(const char *name) const { return m_folder->filePath(QLatin1StringView(name)); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(SureReadingTest)

@@ -1,26 +1,21 @@
 #include "platform/UserDefaults.h"
 
+#include "support/FolderCase.h"
 #include "support/Modes.h"
-#include "support/TestCase.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 using tarvelo::platform::UserDefaults;
 using tarvelo::tests::addUmasks;
 using tarvelo::tests::modeOf;
 using tarvelo::tests::Umask;
 
-class UserDefaultsTest final : public tarvelo::tests::TestCase
+class UserDefaultsTest final : public tarvelo::tests::FolderCase
 {
     Q_OBJECT
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString file() const { return m_folder->filePath(QStringLiteral("some/where/Tarvelo.conf")); }
-
-protected:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
 
 private Q_SLOTS:
     void aKeyThatNobodySetIsNought()

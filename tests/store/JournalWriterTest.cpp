@@ -2,11 +2,10 @@
 
 #include "store/LectureJournal.h"
 #include "support/FileContent.h"
-#include "support/TestCase.h"
+#include "support/FolderCase.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <atomic>
 #include <sys/syscall.h>
@@ -26,7 +25,7 @@ extern "C" __attribute__((used)) int fdatasync(int file)
     return static_cast<int>(::syscall(SYS_fdatasync, file));
 }
 
-class JournalWriterTest final : public tarvelo::tests::TestCase
+class JournalWriterTest final : public tarvelo::tests::FolderCase
 {
     Q_OBJECT
 
@@ -139,10 +138,6 @@ private Q_SLOTS:
         QVERIFY(writer.isWritten() == false);
     }
 
-protected:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-    void finish() override { m_folder.reset(); }
-
 private:
     QString path() const { return m_folder->filePath(u"lecture.journal"_s); }
     QString other() const { return m_folder->filePath(u"lecture.closed"_s); }
@@ -150,8 +145,6 @@ private:
     {
         return tarvelo::tests::contentOf(path).trimmed();
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(JournalWriterTest)

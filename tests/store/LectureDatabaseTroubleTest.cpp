@@ -1,14 +1,12 @@
+#include "store/DatabaseCase.h"
 #include "store/FullDisk.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "store/Statements.h"
-#include "support/FakeClock.h"
 #include "support/LectureBuilder.h"
 #include "support/OrdinaryUser.h"
 #include "support/SmallFiles.h"
 #include "support/StderrCatcher.h"
-#include "support/TemporaryPlaces.h"
-#include "support/TestCase.h"
 
 #include <QProcess>
 
@@ -36,7 +34,7 @@ extern "C" int pauseAndAct(useconds_t)
 }
 
 // What a user can meet on a real disk: every case ends in a null or false result, without a word.
-class LectureDatabaseTroubleTest final : public TestCase
+class LectureDatabaseTroubleTest final : public DatabaseCase
 {
     Q_OBJECT
 
@@ -289,15 +287,13 @@ private:
     void prepare() override
     {
         m_stderr = std::make_unique<StderrCatcher>();
-        m_places = std::make_unique<TemporaryPlaces>();
-        m_database = std::make_unique<LectureDatabase>(m_places->places(), m_clock);
+        DatabaseCase::prepare();
         duringPause = nullptr;
     }
     void finish() override
     {
         duringPause = nullptr;
-        m_database.reset();
-        m_places.reset();
+        DatabaseCase::finish();
         const QByteArray said = m_stderr->caught();
         m_stderr.reset();
         QCOMPARE(said, QByteArray());
@@ -349,9 +345,6 @@ private:
     }
 
     std::unique_ptr<StderrCatcher> m_stderr;
-    FakeClock m_clock;
-    std::unique_ptr<TemporaryPlaces> m_places;
-    std::unique_ptr<LectureDatabase> m_database;
 };
 
 QTEST_GUILESS_MAIN(LectureDatabaseTroubleTest)

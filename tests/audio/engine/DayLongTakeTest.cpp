@@ -2,11 +2,10 @@
 #include "audio/engine/DecodedSource.h"
 #include "audio/engine/FragmentedFile.h"
 #include "audio/engine/IndexedCopy.h"
+#include "audio/engine/TakeCase.h"
 #include "support/DecodedAudio.h"
-#include "support/TestCase.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +13,7 @@
 using namespace tarvelo::engine;
 using namespace tarvelo::tests;
 
-class DayLongTakeTest final : public TestCase
+class DayLongTakeTest final : public TakeCase
 {
     Q_OBJECT
 
@@ -41,16 +40,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-
-    QString path() const { return m_folder->filePath(QStringLiteral("take.m4a")); }
-    std::string file() const { return path().toStdString(); }
-    QByteArray content() const
-    {
-        QFile it(path());
-        return it.open(QIODevice::ReadOnly) ? it.readAll() : QByteArray();
-    }
-
     // One and the same packet, again and again.
     TakeExtent writeSilence(std::int64_t samples) const
     {
@@ -75,8 +64,6 @@ private:
         take->finish();
         return take->extentInFile();
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(DayLongTakeTest)

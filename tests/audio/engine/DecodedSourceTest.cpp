@@ -87,7 +87,7 @@ private Q_SLOTS:
         QFETCH(int, channels);
         const auto sound = tune(rate, 2);
 
-        const auto source = DecodedSource::open(wav(sound, rate, channels));
+        const auto source = DecodedSource::open(exactRecordingOf(sound, rate, channels));
 
         QVERIFY(source);
         QCOMPARE(source->format(), (PcmFormat{rate, std::min(channels, 2)}));
@@ -109,9 +109,10 @@ private Q_SLOTS:
         QTest::newRow("a movie of nothing") << QByteArray("\0\0\0\x10"
                                                           "ftypisom\0\0\0\0",
                                                           16);
-        QTest::newRow("a rate of a few sounds") << wav(tune(1000, 1), 1000, 1);
-        QTest::newRow("a rate beyond all players") << wav(tune(384000, 0.1), 384000, 1);
-        QTest::newRow("a tone of no length") << wav({}, 44100, 1);
+        QTest::newRow("a rate of a few sounds") << exactRecordingOf(tune(1000, 1), 1000, 1);
+        QTest::newRow("a rate beyond all players")
+            << exactRecordingOf(tune(384000, 0.1), 384000, 1);
+        QTest::newRow("a tone of no length") << exactRecordingOf({}, 44100, 1);
     }
     void whatIsNoSoundHasNoSource()
     {
@@ -214,14 +215,6 @@ private:
             all.insert(all.end(), one.begin(), one.end());
         }
         return all;
-    }
-
-    static QByteArray wav(std::span<const float> sound, int rate, int channels)
-    {
-        const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("sound.wav")));
-        writeWav(file.fileName(), sound, rate, channels);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 };
 

@@ -4,11 +4,10 @@
 #include "audio/engine/TakeWriter.h"
 #include "store/FullDisk.h"
 #include "support/DecodedAudio.h"
-#include "support/TestCase.h"
+#include "support/FolderCase.h"
 #include "support/TestSound.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 
 #include <vector>
 
@@ -45,7 +44,7 @@ std::vector<PacketPointer> packetsOfNoise()
 } // namespace
 
 // Real disks, of which there is too little.
-class FullDiskRecordingTest final : public TestCase
+class FullDiskRecordingTest final : public FolderCase
 {
     Q_OBJECT
 
@@ -199,7 +198,7 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_folder = std::make_unique<QTemporaryDir>();
+        FolderCase::prepare();
         m_next = 0;
     }
 
@@ -253,7 +252,6 @@ private:
         return noise;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     std::vector<PacketPointer> m_packets;
     std::int64_t m_first = 0; // the time of the first
     std::size_t m_next = 0;

@@ -3,17 +3,16 @@
 #include "audio/engine/BadPlace.h"
 #include "audio/engine/FragmentedFile.h"
 #include "audio/engine/Resampler.h"
+#include "audio/engine/TakeCase.h"
 #include "support/DecodedAudio.h"
-#include "support/TestCase.h"
 #include "support/TestSound.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 using namespace tarvelo::engine;
 using namespace tarvelo::tests;
 
-class IndexedCopyTest final : public TestCase
+class IndexedCopyTest final : public TakeCase
 {
     Q_OBJECT
 
@@ -92,16 +91,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-
-    QString path() const { return m_folder->filePath(QStringLiteral("take.m4a")); }
-    std::string file() const { return path().toStdString(); }
-    QByteArray content() const
-    {
-        QFile it(path());
-        return it.open(QIODevice::ReadOnly) ? it.readAll() : QByteArray();
-    }
-
     TakeExtent writeFragmented(double seconds) const
     {
         const auto encoder = AacEncoder::create({});
@@ -117,8 +106,6 @@ private:
         take->finish();
         return take->extentInFile();
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(IndexedCopyTest)

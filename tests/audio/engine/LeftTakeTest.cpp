@@ -2,9 +2,8 @@
 
 #include "audio/engine/BadPlace.h"
 #include "audio/engine/Recordings.h"
+#include "audio/engine/TakeCase.h"
 #include "support/DecodedAudio.h"
-#include "support/FileContent.h"
-#include "support/TestCase.h"
 #include "support/TestSound.h"
 
 #include <QDir>
@@ -17,7 +16,7 @@ using namespace Qt::StringLiterals;
 using namespace tarvelo::engine;
 using namespace tarvelo::tests;
 
-class LeftTakeTest final : public TestCase
+class LeftTakeTest final : public TakeCase
 {
     Q_OBJECT
 
@@ -83,7 +82,7 @@ private Q_SLOTS:
 
         QVERIFY(finishLeftTake(path()));
 
-        QCOMPARE(read(), take);
+        QCOMPARE(content(), take);
     }
 
     void whatIsNoTakeIsLeftAsItIs_data()
@@ -102,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(secondsOfLeftTake(path()), 0.0);
         finishLeftTake(path());
 
-        QCOMPARE(read(), bytes);
+        QCOMPARE(content(), bytes);
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
@@ -121,7 +120,7 @@ private Q_SLOTS:
 
         QVERIFY(!finishLeftTake(path()));
 
-        QCOMPARE(read(), take);
+        QCOMPARE(content(), take);
     }
 
     // A disk that wears out, once or for good.
@@ -142,7 +141,7 @@ private Q_SLOTS:
                 return finishLeftTake(path());
             }();
 
-            QVERIFY(isFinished || read() == take);
+            QVERIFY(isFinished || content() == take);
             QVERIFY(DecodedAudio::read(path())->seconds() > 3.5);
             QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
         }
@@ -188,19 +187,7 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-    void finish() override { m_folder.reset(); }
-
-    QString path() const { return m_folder->filePath(u"take.m4a"_s); }
-    void write(const QByteArray &bytes) const
-    {
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    QByteArray read() const { return contentOf(path()); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
+    void write(const QByteArray &bytes) const { QVERIFY(writeContent(path(), bytes)); }
 };
 
 QTEST_GUILESS_MAIN(LeftTakeTest)

@@ -1,11 +1,10 @@
 #include "audio/engine/OutputFile.h"
 #include "support/FileContent.h"
+#include "support/FolderCase.h"
 #include "support/OrdinaryUser.h"
 #include "support/SmallFiles.h"
-#include "support/TestCase.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 #include <vector>
@@ -22,7 +21,7 @@ std::vector<std::uint8_t> bytes(std::size_t count, std::uint8_t value)
 
 } // namespace
 
-class OutputFileTest final : public TestCase
+class OutputFileTest final : public FolderCase
 {
     Q_OBJECT
 
@@ -100,18 +99,15 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
     void finish() override
     {
         QFile::setPermissions(m_folder->path(),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        m_folder.reset();
+        FolderCase::finish();
     }
 
     std::string path() const { return m_folder->filePath(QStringLiteral("take")).toStdString(); }
     QByteArray content() const { return contentOf(QString::fromStdString(path())); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(OutputFileTest)

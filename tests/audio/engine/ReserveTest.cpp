@@ -1,11 +1,10 @@
 #include "audio/engine/Reserve.h"
 
 #include "audio/engine/FragmentedFile.h"
+#include "support/FolderCase.h"
 #include "support/SmallFiles.h"
-#include "support/TestCase.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -13,7 +12,7 @@ using namespace Qt::StringLiterals;
 using namespace tarvelo::engine;
 using tarvelo::tests::SmallFiles;
 
-class ReserveTest final : public tarvelo::tests::TestCase
+class ReserveTest final : public tarvelo::tests::FolderCase
 {
     Q_OBJECT
 
@@ -161,8 +160,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-
     std::string take(const QString &name = u"take.m4a"_s) const
     {
         return m_folder->filePath(name).toStdString();
@@ -173,8 +170,6 @@ private:
         return QDir(m_folder->path())
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(ReserveTest)

@@ -315,13 +315,9 @@ private Q_SLOTS:
     }
 
 private:
-    // As it is, with one channel.
     static std::unique_ptr<DecodedSource> sourceOf(std::span<const float> sound)
     {
-        const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("sound.wav")));
-        const bool isThere = writeWav(file.fileName(), sound, 44100) && file.open(QFile::ReadOnly);
-        return DecodedSource::open(isThere ? file.readAll() : QByteArray());
+        return DecodedSource::open(exactRecordingOf(sound));
     }
 
     // Every sample that is neither stretched nor near a change is the one of its second; and there

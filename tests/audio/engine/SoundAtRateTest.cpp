@@ -110,13 +110,9 @@ private:
         return DecodedSource::open(recordingOf(sound));
     }
 
-    // As it is, with one channel: an encoder smears what it does not take for important.
     static std::unique_ptr<DecodedSource> openExact(std::span<const float> sound)
     {
-        const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("sound.wav")));
-        const bool isThere = writeWav(file.fileName(), sound, 44100) && file.open(QFile::ReadOnly);
-        return DecodedSource::open(isThere ? file.readAll() : QByteArray());
+        return DecodedSource::open(exactRecordingOf(sound));
     }
 
     // The left channel, to the end.

@@ -1,10 +1,9 @@
 #include "audio/engine/SoundBytes.h"
 #include "audio/engine/BadPlace.h"
+#include "support/FolderCase.h"
 #include "support/OrdinaryUser.h"
-#include "support/TestCase.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <atomic>
 #include <sys/resource.h>
@@ -13,7 +12,7 @@
 
 using tarvelo::engine::soundBytesOf;
 
-class SoundBytesTest final : public tarvelo::tests::TestCase
+class SoundBytesTest final : public tarvelo::tests::FolderCase
 {
     Q_OBJECT
 
@@ -167,8 +166,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-
     QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
     QString fileOf(const QByteArray &bytes) const
     {
@@ -183,8 +180,6 @@ private:
         getrusage(RUSAGE_SELF, &usage);
         return usage.ru_maxrss;
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(SoundBytesTest)

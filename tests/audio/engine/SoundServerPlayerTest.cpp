@@ -49,7 +49,7 @@ private Q_SLOTS:
         QVERIFY(player->prepareToPlay());
         QVERIFY(player->play());
 
-        const auto heard = untilSilence();
+        const auto heard = m_speaker->untilSilence();
         const auto likeness = compare(sound, heard, 44100, 1);
         QVERIFY2(likeness.correlation > 0.98, qPrintable(QString::number(likeness.correlation)));
         QVERIFY(likeness.drift < 0.005);
@@ -74,7 +74,7 @@ private Q_SLOTS:
         player->play();
 
         QCOMPARE(player->rate(), rate);
-        const double length = seconds(untilSilence());
+        const double length = seconds(m_speaker->untilSilence());
         const double expected = player->duration() / static_cast<double>(rate);
         QVERIFY2(std::abs(length - expected) < 0.03, qPrintable(QString::number(length)));
     }
@@ -92,7 +92,7 @@ private Q_SLOTS:
             place += 0.6;
         }
 
-        const auto distances = distancesOfBeats(untilSilence());
+        const auto distances = distancesOfBeats(m_speaker->untilSilence());
         QCOMPARE(distances.size(), 19U);
         // Five of them have a change inside.
         QVERIFY(std::ranges::count_if(distances, &fitsARate) >= 14);
@@ -114,7 +114,7 @@ private Q_SLOTS:
             place += 0.3;
         }
 
-        const auto heard = untilSilence();
+        const auto heard = m_speaker->untilSilence();
         QVERIFY(seconds(heard) > 4);
         const double disturbance = longestDisturbance(heard, 44100, 440);
         QVERIFY2(disturbance < 0.02, qPrintable(QString::number(disturbance)));
@@ -139,7 +139,7 @@ private Q_SLOTS:
             player->setRate(place > 1.2 ? 0.5F : 0.2F);
         }
 
-        const auto heard = untilSilence();
+        const auto heard = m_speaker->untilSilence();
         QVERIFY2(seconds(heard) > 1.49, qPrintable(QString::number(seconds(heard))));
         QTRY_COMPARE_WITH_TIMEOUT(listener.finished.size(), 1U, Patience);
         QTRY_VERIFY_WITH_TIMEOUT(m_speaker->isSilentFor(2), Patience);
@@ -192,7 +192,7 @@ private Q_SLOTS:
         player->setCurrentTime(4);
 
         QCOMPARE(player->currentTime(), 4.0);
-        const auto heard = untilSilence();
+        const auto heard = m_speaker->untilSilence();
         QVERIFY2(seconds(heard) < 4, qPrintable(QString::number(seconds(heard))));
         const auto after = std::span(heard).last(80000);
         const auto likeness = compare(sound, after, 44100, 6);
@@ -208,14 +208,14 @@ private Q_SLOTS:
         player->play();
         QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 0.3, Patience);
         player->stop();
-        QVERIFY(!untilSilence().empty());
+        QVERIFY(!m_speaker->untilSilence().empty());
         m_speaker->forget();
 
         player->setCurrentTime(2.25);
         QCOMPARE(player->currentTime(), 2.25);
         player->play();
 
-        const double length = seconds(untilSilence());
+        const double length = seconds(m_speaker->untilSilence());
         QVERIFY2(std::abs(length - 0.75) < 0.005, qPrintable(QString::number(length)));
     }
 
@@ -282,13 +282,13 @@ private Q_SLOTS:
         player->pause();
 
         QVERIFY(!player->isPlaying());
-        const auto before = untilSilence();
+        const auto before = m_speaker->untilSilence();
         const double place = player->currentTime();
         QVERIFY2(std::abs(seconds(before) - place) < Exact, qPrintable(QString::number(place)));
 
         m_speaker->forget();
         player->play();
-        const auto after = untilSilence();
+        const auto after = m_speaker->untilSilence();
         const auto likeness = compare(sound, after, 44100, 4);
         QVERIFY2(likeness.correlation > 0.98, qPrintable(QString::number(likeness.correlation)));
         QVERIFY2(std::abs(likeness.start - place) < Exact,
@@ -304,7 +304,7 @@ private Q_SLOTS:
         player->play();
         QTRY_VERIFY_WITH_TIMEOUT(player->currentTime() > 0.3, Patience);
         player->pause();
-        QVERIFY(!untilSilence().empty());
+        QVERIFY(!m_speaker->untilSilence().empty());
         m_speaker->forget();
 
         player->setCurrentTime(1.5);
@@ -312,7 +312,7 @@ private Q_SLOTS:
         QCOMPARE(player->currentTime(), 1.5);
         player->play();
 
-        const double length = seconds(untilSilence());
+        const double length = seconds(m_speaker->untilSilence());
         QVERIFY2(std::abs(length - 1) < 0.05, qPrintable(QString::number(length)));
     }
 
@@ -395,7 +395,7 @@ private Q_SLOTS:
         QVERIFY(m_speaker->start());
         QVERIFY(player->play());
 
-        QVERIFY(std::abs(seconds(untilSilence()) - 1) < 0.05);
+        QVERIFY(std::abs(seconds(m_speaker->untilSilence()) - 1) < 0.05);
     }
 
     void aServerThatGoesAwayWhileItPlaysIsHeardAgainWhenItIsBack()
@@ -483,13 +483,6 @@ private:
     std::unique_ptr<AudioPlayer> playerOf(std::span<const float> sound)
     {
         return m_engine->makePlayer(recordingOf(sound));
-    }
-
-    std::vector<float> untilSilence()
-    {
-        std::vector<float> heard;
-        const auto isThere = [&] { return !(heard = m_speaker->soundBeforeSilence()).empty(); };
-        return QTest::qWaitFor(isThere, Patience) ? heard : std::vector<float>();
     }
 
     std::unique_ptr<PrivateSoundServer> m_server;

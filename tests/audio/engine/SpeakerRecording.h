@@ -43,6 +43,13 @@ public:
         return {m_samples.begin() + static_cast<std::ptrdiff_t>(m_begin),
                 m_samples.begin() + static_cast<std::ptrdiff_t>(m_end)};
     }
+    // The same, waited for in the event loop; empty when it does not come.
+    std::vector<float> untilSilence()
+    {
+        std::vector<float> heard;
+        const auto isThere = [&] { return !(heard = soundBeforeSilence()).empty(); };
+        return QTest::qWaitFor(isThere, Patience) ? heard : std::vector<float>();
+    }
     // All of it, silence too.
     const std::vector<float> &all()
     {

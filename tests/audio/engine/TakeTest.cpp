@@ -1,18 +1,16 @@
 #include "audio/engine/Take.h"
 #include "audio/engine/RecorderSettings.h"
 #include "support/DecodedAudio.h"
+#include "support/FolderCase.h"
 #include "support/SmallFiles.h"
-#include "support/TestCase.h"
 #include "support/TestSound.h"
-
-#include <QTemporaryDir>
 
 using namespace tarvelo::engine;
 using namespace tarvelo::tests;
 
 constexpr PcmFormat Mono{44100, 1};
 
-class TakeTest final : public TestCase
+class TakeTest final : public FolderCase
 {
     Q_OBJECT
 
@@ -96,12 +94,8 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_folder = std::make_unique<QTemporaryDir>(); }
-
     QString name() const { return m_folder->filePath(QStringLiteral("take.m4a")); }
     std::string path() const { return name().toStdString(); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QTEST_GUILESS_MAIN(TakeTest)

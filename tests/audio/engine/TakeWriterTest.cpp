@@ -1,15 +1,14 @@
 #include "audio/engine/TakeWriter.h"
 #include "audio/engine/PcmFormat.h"
 #include "support/DecodedAudio.h"
+#include "support/FolderCase.h"
 #include "support/OrdinaryUser.h"
 #include "support/SmallFiles.h"
 #include "support/StderrCatcher.h"
-#include "support/TestCase.h"
 #include "support/TestSound.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <limits>
 
@@ -19,7 +18,7 @@ using namespace tarvelo::tests;
 constexpr PcmFormat Mono{44100, 1};
 
 // Samples in, a file out: without a sound server everything is exact to the sample.
-class TakeWriterTest final : public TestCase
+class TakeWriterTest final : public FolderCase
 {
     Q_OBJECT
 
@@ -283,14 +282,14 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_folder = std::make_unique<QTemporaryDir>();
+        FolderCase::prepare();
         m_name = QStringLiteral("take.m4a");
     }
     void finish() override
     {
         QFile::setPermissions(m_folder->path(),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        m_folder.reset();
+        FolderCase::finish();
     }
 
     static std::vector<float> onAllChannels(const std::vector<float> &sound, int channels)
@@ -317,7 +316,6 @@ private:
         return names;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_name;
 };
 
