@@ -1,16 +1,14 @@
 #include "lectures/CloseGuards.h"
 
 #include "lectures/CustomTableCellView.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::FakeAlerts;
-using tarvelo::tests::LectureProgram;
 
-class CloseGuardsTest final : public tarvelo::tests::TestCase
+class CloseGuardsTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -359,10 +357,9 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_program = std::make_unique<LectureProgram>();
+        ProgramCase::prepare();
         m_program->start();
     }
-    void finish() override { m_program.reset(); }
 
     // Sets exactly these flags.
     void arrange(bool recording, bool saved, bool open, bool changed)
@@ -411,8 +408,6 @@ private:
     {
         return *m_program->windows.playAudioOutlets().playAudioWindow;
     }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(CloseGuardsTest)

@@ -1,8 +1,7 @@
 #include "calendar/CKCalendarView.h"
 #include "lectures/LectureTable.h"
+#include "lectures/ProgramCase.h"
 #include "support/KeyboardMark.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
 #include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
 
@@ -14,7 +13,6 @@ using tarvelo::lectures::LectureTable;
 using tarvelo::platform::contrastOf;
 using tarvelo::tests::EnoughPixels;
 using tarvelo::tests::isForTheKeyboard;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::pixelsOfTheKeyboard;
 
 namespace {
@@ -32,7 +30,7 @@ constexpr double ForTexts = 4.5;
 } // namespace
 
 // What can be read and seen of the windows, in the colours that they keep on every desktop.
-class ContrastTest final : public tarvelo::tests::TestCase
+class ContrastTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -100,14 +98,11 @@ private:
 
     void prepare() override
     {
-        m_program = std::make_unique<LectureProgram>();
+        ProgramCase::prepare();
         m_program->start();
         m_program->windows.mainOutlets().calendarView->postInit();
         m_program->windows.mainWindow().setFrameWidth(1234, false);
     }
-    void finish() override { m_program.reset(); }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(ContrastTest)

@@ -1,8 +1,7 @@
 #include "lectures/DayList.h"
 
+#include "lectures/ProgramCase.h"
 #include "store/GoneLectures.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
 
 #include <QDir>
 
@@ -14,7 +13,7 @@ using tarvelo::tests::aLecture;
 using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 
-class DayListTest final : public tarvelo::tests::TestCase
+class DayListTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -329,14 +328,14 @@ private:
     void prepare() override
     {
         m_reloads = 0;
-        m_program = std::make_unique<LectureProgram>();
+        ProgramCase::prepare();
         m_list = std::make_unique<DayList>(m_program->dates, m_program->database, outlets(),
                                            [this] { ++m_reloads; });
     }
     void finish() override
     {
         m_list.reset();
-        m_program.reset();
+        ProgramCase::finish();
     }
 
     const MainWindowOutlets &outlets() const { return m_program->windows.mainOutlets(); }
@@ -349,7 +348,6 @@ private:
     }
 
     int m_reloads = 0;
-    std::unique_ptr<LectureProgram> m_program;
     std::unique_ptr<DayList> m_list;
 };
 

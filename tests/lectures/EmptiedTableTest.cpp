@@ -1,6 +1,5 @@
-#include "support/LectureProgram.h"
+#include "lectures/ProgramCase.h"
 #include "support/RefusedCalls.h"
-#include "support/TestCase.h"
 
 #include <functional>
 
@@ -8,11 +7,10 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::lectures::Lecture;
 using tarvelo::tests::aLecture;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::RefusedInTurn;
 
 // A failed write empties the table, while the list goes on showing the lectures that were in it.
-class EmptiedTableTest final : public tarvelo::tests::TestCase
+class EmptiedTableTest final : public tarvelo::tests::TodayCase
 {
     Q_OBJECT
 
@@ -227,13 +225,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_program = std::make_unique<LectureProgram>();
-        m_program->showDay(m_program->today());
-    }
-    void finish() override { m_program.reset(); }
-
     void loseTheEarlierOneToANewcomer()
     {
         aLecture().named("Optics").withNotes(u"Lenses"_s).insertInto(m_program->database);
@@ -286,10 +277,6 @@ private:
         for (const auto &copy : m_program->database.backups().copies(database))
             QVERIFY(m_program->database.backups().bringBack(copy.filePath, database));
     }
-
-    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(EmptiedTableTest)

@@ -4,11 +4,10 @@
 #include "lectures/CustomTableCellView.h"
 #include "lectures/DayList.h"
 #include "lectures/LectureRowHost.h"
+#include "lectures/ProgramCase.h"
 #include "lectures/RowSwipe.h"
 #include "store/Statement.h"
 #include "support/AnimationClock.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
 #include "widgets/PopOver.h"
 
 #include <QMenu>
@@ -91,7 +90,7 @@ private:
 
 } // namespace
 
-class LectureDeletionTest final : public tarvelo::tests::TestCase
+class LectureDeletionTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -725,20 +724,18 @@ private:
     void prepare() override
     {
         QCursor::setPos(790, 790);
-        m_program = std::make_unique<LectureProgram>();
+        ProgramCase::prepare();
         m_host = std::make_unique<Host>(m_program->controller);
     }
     void finish() override
     {
         m_host.reset();
-        m_program.reset();
+        ProgramCase::finish();
     }
 
-    MediaLinksArrayController &controller() { return m_program->controller; }
     const MainWindowOutlets &main() const { return m_program->windows.mainOutlets(); }
     const PopoverOutlets &popovers() const { return m_program->windows.popoverOutlets(); }
     PopOver &popOver() const { return *popovers().popoverConfirmRecordDelete; }
-    LectureTable &table() const { return *main().tblRecordSubjectList; }
     CustomTableCellView *viewOf(int row) const
     {
         return table().viewAtColumnRowMakeIfNecessary(0, row, false);
@@ -794,7 +791,6 @@ private:
         return days;
     }
 
-    std::unique_ptr<LectureProgram> m_program;
     std::unique_ptr<Host> m_host;
 };
 

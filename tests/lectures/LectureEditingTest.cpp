@@ -1,8 +1,7 @@
 #include "lectures/LectureEditing.h"
 
 #include "lectures/CustomTableCellView.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 #include "widgets/PopOver.h"
 
 #include <QMenu>
@@ -13,13 +12,12 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::FakeAlerts;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 
 using Controller = tarvelo::lectures::MediaLinksArrayController;
 using Answer = void (Controller::*)(QWidget *);
 
-class LectureEditingTest final : public tarvelo::tests::TestCase
+class LectureEditingTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -775,9 +773,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
     // "Waves" stands above "Optics".
     void showLectures()
     {
@@ -815,19 +810,6 @@ private:
         QVERIFY(!sheet.didEnd);
     }
 
-    tarvelo::lectures::MediaLinksArrayController &controller() const
-    {
-        return m_program->controller;
-    }
-    tarvelo::widgets::SlidingWindow &window() const { return m_program->windows.mainWindow(); }
-    tarvelo::lectures::LectureTable &table() const
-    {
-        return *m_program->windows.mainOutlets().tblRecordSubjectList;
-    }
-    tarvelo::lectures::CustomTableCellView *row(int row) const
-    {
-        return table().viewAtColumnRowMakeIfNecessary(0, row, true);
-    }
     const tarvelo::audio::EditPlayerOutlets &player() const
     {
         return m_program->windows.editPlayerOutlets();
@@ -869,8 +851,6 @@ private:
         return m_program->windows.newLectureOutlets().txtSubjectForNewNote;
     }
     QTextEdit *newNotes() const { return m_program->windows.newLectureOutlets().txtView; }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(LectureEditingTest)

@@ -1,7 +1,6 @@
 #include "lectures/LectureJournalKeeper.h"
 
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 
 #include <sys/stat.h>
 
@@ -14,7 +13,7 @@ using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 using State = tarvelo::store::LectureJournal::State;
 
-class LectureJournalKeeperTest final : public tarvelo::tests::TestCase
+class LectureJournalKeeperTest final : public tarvelo::tests::TodayCase
 {
     Q_OBJECT
 
@@ -373,16 +372,7 @@ private Q_SLOTS:
         QCOMPARE(m_program->storedRows().size(), 1);
     }
 
-protected:
-    void prepare() override
-    {
-        m_program = std::make_unique<LectureProgram>();
-        m_program->showDay(m_program->today());
-    }
-    void finish() override { m_program.reset(); }
-
 private:
-    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
     const tarvelo::audio::RecordingOutlets &recording()
     {
         return m_program->windows.recordingOutlets();
@@ -411,7 +401,6 @@ private:
         return false;
     }
 
-    std::unique_ptr<LectureProgram> m_program;
     const QWidget *m_watched = nullptr;
     JournalFile m_whenHidden{JournalFile::State::Missing};
 };

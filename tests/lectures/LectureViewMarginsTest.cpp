@@ -1,11 +1,8 @@
 #include "lectures/LectureViewMargins.h"
 
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 
-using tarvelo::tests::LectureProgram;
-
-class LectureViewMarginsTest final : public tarvelo::tests::TestCase
+class LectureViewMarginsTest final : public tarvelo::tests::TodayCase
 {
     Q_OBJECT
 
@@ -33,13 +30,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_program = std::make_unique<LectureProgram>();
-        m_program->showDay(m_program->today());
-    }
-    void finish() override { m_program.reset(); }
-
     void expectControlsInSight() const
     {
         const auto &window = m_program->windows.mainWindow();
@@ -52,8 +42,6 @@ private:
                 qPrintable(control->objectName()));
         }
     }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(LectureViewMarginsTest)

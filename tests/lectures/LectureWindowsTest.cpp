@@ -1,7 +1,6 @@
 #include "lectures/LectureWindows.h"
 
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 #include "widgets/Colours.h"
 #include "widgets/CustomTextView.h"
 #include "widgets/MouseDownTextField.h"
@@ -38,7 +37,7 @@ QString nameOf(const QWidget &control)
 
 } // namespace
 
-class LectureWindowsTest final : public tarvelo::tests::TestCase
+class LectureWindowsTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -192,10 +191,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
-    const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
     QList<const QWidget *> allWindows() const
     {
         return {&windows().mainWindow(),
@@ -217,8 +212,6 @@ private:
     {
         return {u"btnStartStopRecording"_s, u"txtCourseName"_s, u"txtFieldForAudio"_s};
     }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(LectureWindowsTest)

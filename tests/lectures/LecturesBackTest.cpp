@@ -1,17 +1,15 @@
-#include "support/LectureProgram.h"
+#include "lectures/ProgramCase.h"
 #include "support/RefusedCalls.h"
-#include "support/TestCase.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::LectureBuilder;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::RefusedInTurn;
 
 // Lectures that went come back while they are open, under their own ID or another, and what is
 // saved then goes to them and to no other.
-class LecturesBackTest final : public tarvelo::tests::TestCase
+class LecturesBackTest final : public tarvelo::tests::TodayCase
 {
     Q_OBJECT
 
@@ -117,13 +115,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_program = std::make_unique<LectureProgram>();
-        m_program->showDay(m_program->today());
-    }
-    void finish() override { m_program.reset(); }
-
     void openAndLoseToANewcomer(const LectureBuilder &lecture)
     {
         lecture.insertInto(m_program->database);
@@ -164,9 +155,6 @@ private:
         texts.sort();
         return texts;
     }
-    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(LecturesBackTest)

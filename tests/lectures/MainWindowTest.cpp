@@ -1,14 +1,12 @@
 #include "lectures/MainWindow.h"
 
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 
 #include <QLayout>
 
 using namespace Qt::StringLiterals;
-using tarvelo::tests::LectureProgram;
 
-class MainWindowTest final : public tarvelo::tests::TestCase
+class MainWindowTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -48,14 +46,6 @@ private Q_SLOTS:
         QCOMPARE(calendar.width(), 450);
         QCOMPARE(calendar.y() + calendar.height(), 540);
     }
-
-private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
-    const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(MainWindowTest)

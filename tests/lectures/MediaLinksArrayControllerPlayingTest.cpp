@@ -1,6 +1,5 @@
 #include "lectures/CustomTableCellView.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 #include "widgets/PopOver.h"
 #include "widgets/SegmentedControl.h"
 
@@ -11,11 +10,10 @@ using namespace std::chrono_literals;
 using tarvelo::lectures::CustomTableCellView;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::inOrder;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 
 // Lectures of the list, played through the real windows.
-class MediaLinksArrayControllerPlayingTest final : public tarvelo::tests::TestCase
+class MediaLinksArrayControllerPlayingTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -262,10 +260,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
-    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
     const tarvelo::audio::LecturePlayerOutlets &player()
     {
         return m_program->windows.lecturePlayerOutlets();
@@ -326,8 +320,6 @@ private:
         controller().openPlayEditWindow(row(0).btnPlay());
         m_program->engine.takeAsked();
     }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(MediaLinksArrayControllerPlayingTest)

@@ -2,8 +2,7 @@
 #include "lectures/LectureRowHost.h"
 #include "lectures/LectureTable.h"
 #include "lectures/MediaLinksArrayController.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 
 #include <QDir>
 #include <QMenu>
@@ -15,10 +14,10 @@ using tarvelo::lectures::LectureRowHost;
 using tarvelo::lectures::LectureTable;
 using tarvelo::platform::plainText;
 using tarvelo::tests::aLecture;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 
-class MediaLinksArrayControllerSharingTest final : public tarvelo::tests::TestCase, LectureRowHost
+class MediaLinksArrayControllerSharingTest final : public tarvelo::tests::ProgramCase,
+                                                   LectureRowHost
 {
     Q_OBJECT
 
@@ -148,13 +147,13 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_program = std::make_unique<LectureProgram>();
+        ProgramCase::prepare();
         controller().setRowHost(this);
     }
     void finish() override
     {
         controller().setRowHost(nullptr);
-        m_program.reset();
+        ProgramCase::finish();
     }
     bool isConfirmDeleteShowing() const override { return false; }
     bool isSupportedIniTunes(QWidget *cell) const override
@@ -162,15 +161,6 @@ private:
         return controller().isSupportedIniTunes(cell);
     }
 
-    tarvelo::lectures::MediaLinksArrayController &controller() const
-    {
-        return m_program->controller;
-    }
-    LectureTable &table() const { return *m_program->windows.mainOutlets().tblRecordSubjectList; }
-    CustomTableCellView *row(int index) const
-    {
-        return table().viewAtColumnRowMakeIfNecessary(0, index, true);
-    }
     void showLectures(int count, const QString &path = u"/music//Audio - 1.m4a"_s) const
     {
         for (int i = 0; i < count; ++i)
@@ -188,8 +178,6 @@ private:
     {
         return m_program->places.places().music + u"/Tarvelo/Audio/"_s + name;
     }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(MediaLinksArrayControllerSharingTest)

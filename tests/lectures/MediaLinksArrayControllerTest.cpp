@@ -1,12 +1,11 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include "lectures/CustomTableCellView.h"
+#include "lectures/ProgramCase.h"
 #include "platform/FolderLock.h"
 #include "platform/PrivateFiles.h"
 #include "platform/WindowLevel.h"
 #include "store/LectureInfoItem.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
 #include "widgets/LayerView.h"
 
 #include <QDir>
@@ -15,10 +14,9 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::tests::aLecture;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 
-class MediaLinksArrayControllerTest final : public tarvelo::tests::TestCase
+class MediaLinksArrayControllerTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -484,21 +482,6 @@ private Q_SLOTS:
 
         QVERIFY(controller().bIsRecordingNeedPreventingQuit());
     }
-
-private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
-    tarvelo::lectures::MediaLinksArrayController &controller() const
-    {
-        return m_program->controller;
-    }
-    tarvelo::lectures::LectureTable &table() const
-    {
-        return *m_program->windows.mainOutlets().tblRecordSubjectList;
-    }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(MediaLinksArrayControllerTest)

@@ -1,9 +1,8 @@
 #include "lectures/NewLecture.h"
 
+#include "lectures/ProgramCase.h"
 #include "support/AnimationClock.h"
 #include "support/FileContent.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
 
 #include <QDir>
 
@@ -16,7 +15,7 @@ using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 using tarvelo::tests::writeContent;
 
-class NewLectureTest final : public tarvelo::tests::TestCase
+class NewLectureTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -584,11 +583,10 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_program = std::make_unique<LectureProgram>();
+        ProgramCase::prepare();
         m_program->defaults.setValue(u"fileFormat"_s, 1);
         m_program->showDay(m_program->today());
     }
-    void finish() override { m_program.reset(); }
 
     // A program whose database file is a folder.
     static std::unique_ptr<LectureProgram> programWithoutDatabase()
@@ -615,10 +613,6 @@ private:
         QCOMPARE(recording().btnStopRecord->actionName(), QByteArray("stopRecording"));
     }
 
-    tarvelo::lectures::MediaLinksArrayController &controller() const
-    {
-        return m_program->controller;
-    }
     const tarvelo::audio::RecordingOutlets &recording() const
     {
         return m_program->windows.recordingOutlets();
@@ -629,8 +623,6 @@ private:
         return *m_program->windows.newLectureOutlets().txtSubjectForNewNote;
     }
     QTextEdit &notes() const { return *m_program->windows.newLectureOutlets().txtView; }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(NewLectureTest)

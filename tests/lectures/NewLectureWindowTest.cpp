@@ -1,13 +1,11 @@
 #include "lectures/NewLectureWindow.h"
 
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 
 using namespace Qt::StringLiterals;
 using tarvelo::platform::text;
-using tarvelo::tests::LectureProgram;
 
-class NewLectureWindowTest final : public tarvelo::tests::TestCase
+class NewLectureWindowTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -87,11 +85,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
-    const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
-
     void beginTake()
     {
         m_program->start();
@@ -112,8 +105,6 @@ private:
                 now.insert(view->objectName(), view->geometry());
         return now;
     }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(NewLectureWindowTest)

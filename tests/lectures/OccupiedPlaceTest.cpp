@@ -1,11 +1,10 @@
 // What stands where the next take would be written, and cannot be moved away just now: nothing of
 // it is lost, and nothing of what comes next.
 
+#include "lectures/ProgramCase.h"
 #include "platform/FolderLock.h"
 #include "support/FileContent.h"
-#include "support/LectureProgram.h"
 #include "support/RefusedCalls.h"
-#include "support/TestCase.h"
 
 #include <QDirIterator>
 
@@ -13,13 +12,12 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using tarvelo::store::LectureJournal;
 using tarvelo::tests::contentOf;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::refuse;
 using tarvelo::tests::RefusedInTurn;
 using tarvelo::tests::refuseNothing;
 using tarvelo::tests::writeContent;
 
-class OccupiedPlaceTest final : public tarvelo::tests::TestCase
+class OccupiedPlaceTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -317,17 +315,16 @@ private Q_SLOTS:
 protected:
     void prepare() override
     {
-        m_program = std::make_unique<LectureProgram>();
+        ProgramCase::prepare();
         m_program->defaults.setValue(u"fileFormat"_s, 1);
     }
     void finish() override
     {
         refuseNothing();
-        m_program.reset();
+        ProgramCase::finish();
     }
 
 private:
-    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
     QLineEdit &subject() { return *m_program->windows.newLectureOutlets().txtSubjectForNewNote; }
     QString folder() const { return m_program->places.folder() + u"/temp"_s; }
 
@@ -370,8 +367,6 @@ private:
         QCOMPARE(lectures[0].journal.subject, u"wave optics"_s);
         QCOMPARE(contentOf(lectures[0].takePath), takeBytes());
     }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(OccupiedPlaceTest)

@@ -1,13 +1,11 @@
 #include "lectures/PlayAudioWindow.h"
 
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 #include "widgets/CustomWindow.h"
 
 using namespace Qt::StringLiterals;
-using tarvelo::tests::LectureProgram;
 
-class PlayAudioWindowTest final : public tarvelo::tests::TestCase
+class PlayAudioWindowTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -25,14 +23,6 @@ private Q_SLOTS:
         QVERIFY(window.mask().contains(window.rect().center()));
         QCOMPARE(window.findChild<QWidget *>(u"playPanel"_s)->size(), window.size());
     }
-
-private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
-    const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(PlayAudioWindowTest)

@@ -1,12 +1,9 @@
 #include "lectures/Popovers.h"
 
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 #include "widgets/PopOver.h"
 
-using tarvelo::tests::LectureProgram;
-
-class PopoversTest final : public tarvelo::tests::TestCase
+class PopoversTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -26,14 +23,6 @@ private Q_SLOTS:
         QVERIFY(popovers.popoverConfirmRecordDelete->isHidden());
         QVERIFY(popovers.popoverAudioConfirmClose->isHidden());
     }
-
-private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
-    const tarvelo::lectures::LectureWindows &windows() const { return m_program->windows; }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(PopoversTest)

@@ -1,15 +1,13 @@
 #include "lectures/RowLookup.h"
 
 #include "lectures/CustomTableCellView.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
+#include "lectures/ProgramCase.h"
 
 using tarvelo::lectures::rowOfSender;
 using tarvelo::tests::aLecture;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::theDay;
 
-class RowLookupTest final : public tarvelo::tests::TestCase
+class RowLookupTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -58,25 +56,12 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
     void showLectures(int count)
     {
         for (int i = 0; i < count; ++i)
             aLecture().insertInto(m_program->database);
         m_program->showDay(m_program->today());
     }
-    tarvelo::lectures::LectureTable &table() const
-    {
-        return *m_program->windows.mainOutlets().tblRecordSubjectList;
-    }
-    tarvelo::lectures::CustomTableCellView *row(int row) const
-    {
-        return table().viewAtColumnRowMakeIfNecessary(0, row, true);
-    }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(RowLookupTest)

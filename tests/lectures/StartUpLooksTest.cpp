@@ -1,17 +1,15 @@
 #include "lectures/StartUpLooks.h"
 
+#include "lectures/ProgramCase.h"
 #include "platform/WindowLevel.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
 #include "widgets/InsertionPoint.h"
 #include "widgets/MouseDownTextField.h"
 
 using namespace Qt::StringLiterals;
-using tarvelo::tests::LectureProgram;
 using tarvelo::widgets::insertionPointColor;
 
 // As the start-up of the controller leaves the windows.
-class StartUpLooksTest final : public tarvelo::tests::TestCase
+class StartUpLooksTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -107,17 +105,6 @@ private Q_SLOTS:
             QCOMPARE(view->textColor(), view->palette().color(QPalette::WindowText));
         }
     }
-
-private:
-    void prepare() override { m_program = std::make_unique<LectureProgram>(); }
-    void finish() override { m_program.reset(); }
-
-    tarvelo::lectures::MediaLinksArrayController &controller() const
-    {
-        return m_program->controller;
-    }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(StartUpLooksTest)

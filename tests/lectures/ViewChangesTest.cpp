@@ -1,17 +1,15 @@
 #include "lectures/ViewChanges.h"
 
+#include "lectures/ProgramCase.h"
 #include "platform/Frames.h"
 #include "support/AnimationClock.h"
-#include "support/LectureProgram.h"
-#include "support/TestCase.h"
 
 using tarvelo::lectures::ViewChanges;
 using tarvelo::platform::frameOf;
 using tarvelo::tests::AnimationClock;
-using tarvelo::tests::LectureProgram;
 using namespace std::chrono_literals;
 
-class ViewChangesTest final : public tarvelo::tests::TestCase
+class ViewChangesTest final : public tarvelo::tests::ProgramCase
 {
     Q_OBJECT
 
@@ -214,21 +212,20 @@ private Q_SLOTS:
 private:
     void prepare() override
     {
-        m_program = std::make_unique<LectureProgram>();
+        ProgramCase::prepare();
         m_changes = std::make_unique<ViewChanges>(main(), m_program->windows.lectureViewOutlets());
         window().show();
     }
     void finish() override
     {
         m_changes.reset();
-        m_program.reset();
+        ProgramCase::finish();
     }
 
     const tarvelo::lectures::MainWindowOutlets &main() const
     {
         return m_program->windows.mainOutlets();
     }
-    tarvelo::widgets::SlidingWindow &window() const { return m_program->windows.mainWindow(); }
     // From where it always is.
     void moveCalendarAway() const
     {
@@ -243,7 +240,6 @@ private:
         QCOMPARE(main().topHorizontalLine->isHidden(), isSlidIn);
     }
 
-    std::unique_ptr<LectureProgram> m_program;
     std::unique_ptr<ViewChanges> m_changes;
 };
 

@@ -1,9 +1,8 @@
 #include "lectures/NewLecture.h"
+#include "lectures/ProgramCase.h"
 #include "store/FullDisk.h"
 #include "support/FileContent.h"
-#include "support/LectureProgram.h"
 #include "support/RefusedCalls.h"
-#include "support/TestCase.h"
 
 #include <QDir>
 
@@ -12,12 +11,11 @@ using namespace std::chrono_literals;
 using tarvelo::lectures::Lecture;
 using tarvelo::tests::aLecture;
 using tarvelo::tests::contentOf;
-using tarvelo::tests::LectureProgram;
 using tarvelo::tests::SmallDisk;
 using tarvelo::tests::writeContent;
 
 // A lecture that is in the list while its row, or its recording, waits for better times.
-class WaitingRowTest final : public tarvelo::tests::TestCase
+class WaitingRowTest final : public tarvelo::tests::TodayCase
 {
     Q_OBJECT
 
@@ -309,13 +307,6 @@ private Q_SLOTS:
     }
 
 private:
-    void prepare() override
-    {
-        m_program = std::make_unique<LectureProgram>();
-        m_program->showDay(m_program->today());
-    }
-    void finish() override { m_program.reset(); }
-
     static void withAndWithoutRecording()
     {
         QTest::addColumn<bool>("records");
@@ -349,7 +340,6 @@ private:
         m_program->finishNewLecture();
         QVERIFY(other.rollback());
     }
-    tarvelo::lectures::MediaLinksArrayController &controller() { return m_program->controller; }
     Lecture lecture(std::size_t row) { return controller().arrangedObjects().at(row); }
     qint64 storedID(int row) { return m_program->storedRows().value(row)["ID"_L1].toLongLong(); }
 
@@ -359,8 +349,6 @@ private:
     {
         return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
-
-    std::unique_ptr<LectureProgram> m_program;
 };
 
 QTEST_MAIN(WaitingRowTest)
