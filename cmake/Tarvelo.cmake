@@ -78,3 +78,28 @@ function(tarvelo_test name)
     set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_ENABLE_HIGHDPI_SCALING=0;LC_ALL=C.UTF-8;TZ=UTC;${TARVELO_TEST_ENVIRONMENT};${ARG_ENVIRONMENT}")
 endfunction()
+
+# Tests that start the program that was just built and drive it from outside: a case a process, since the way to the
+# accessibility bus is found once in each.
+# tarvelo_journey(WalkTest.py [SOUND] [CASES the_menus ...] [ARGUMENTS x] [ENVIRONMENT a=b]).
+function(tarvelo_journey file)
+    cmake_parse_arguments(ARG "SOUND" "" "CASES;ARGUMENTS;ENVIRONMENT" ${ARGN})
+    if(NOT TARGET Tarvelo)
+        return()
+    endif()
+    get_filename_component(test ${file} NAME_WE)
+    list(TRANSFORM ARG_CASES PREPEND ${test}.)
+    if(NOT ARG_CASES)
+        set(ARG_CASES ${test})
+    endif()
+    foreach(case ${ARG_CASES})
+        string(REPLACE "." ".test_" chosen ${case})
+        add_test(NAME ${case}
+            COMMAND ${TARVELO_PYTHON} -B ${file} $<TARGET_FILE:Tarvelo> ${ARG_ARGUMENTS} ${chosen}
+            WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}")
+        set_tests_properties(${case} PROPERTIES LABELS journey ENVIRONMENT "LC_ALL=C.UTF-8;${ARG_ENVIRONMENT}")
+        if(ARG_SOUND)
+            set_tests_properties(${case} PROPERTIES RESOURCE_LOCK sound)
+        endif()
+    endforeach()
+endfunction()
