@@ -66,7 +66,7 @@ bool AttachedCopy::isReadable() const
 
 std::optional<bool> AttachedCopy::isMarked() const
 {
-    return hasTable(m_database, "copy", QStringLiteral("goingLectures"));
+    return saysWhatWent(m_database, "copy");
 }
 
 std::optional<int> AttachedCopy::lectures() const

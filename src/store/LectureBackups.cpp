@@ -22,8 +22,6 @@ namespace tarvelo::store {
 
 namespace {
 
-const QString GoingLectures = QStringLiteral("goingLectures");
-
 // Beside the size of the database: for a journal and for what the file system itself needs.
 constexpr qint64 RoomForTheRest = 128 << 10; // bytes
 
@@ -54,7 +52,7 @@ LectureBackups::LectureBackups(QString folder, const platform::Clock &clock)
 
 std::optional<QString> LectureBackups::keep(Sqlite &database, const QString &going)
 {
-    const auto isThere = hasTable(database, "main", QStringLiteral("audioData"));
+    const auto isThere = hasLectureTable(database, "main");
     const auto leaving = database.executeQuery(going);
     // A list that ends early is no word about what goes.
     const bool areKnown = leaving && database.errorCode() == 0;
@@ -96,7 +94,7 @@ bool LectureBackups::change(const QString &copyPath, const QString &sql,
     if (!QFileInfo::exists(copyPath))
         return false;
     Sqlite copy(copyPath);
-    const auto isMarked = hasTable(copy, "main", GoingLectures);
+    const auto isMarked = saysWhatWent(copy, "main");
     if (!isMarked || !copy.executeNonQuery(statements::SyncNamesToo))
         return false;
     const QString ofGone =

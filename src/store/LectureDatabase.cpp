@@ -303,7 +303,7 @@ bool LectureDatabase::tellWhatHasGone()
 // that nothing else keeps the query from being prepared.
 std::optional<bool> LectureDatabase::findsNone(const QString &query)
 {
-    const auto hasLectures = hasTable(*m_connection, "main", QStringLiteral("audioData"));
+    const auto hasLectures = hasLectureTable(*m_connection, "main");
     if (hasLectures == false)
         return true;
     const auto rows = m_connection->executeQuery(query);

@@ -21,7 +21,7 @@ const QString FileName = QStringLiteral("replace(audioFileFullPath, rtrim(audioF
 
 std::optional<QStringList> pathsOfRecordings(const QStringList &names, Sqlite &database)
 {
-    const auto isThere = hasTable(database, "main", QStringLiteral("audioData"));
+    const auto isThere = hasLectureTable(database, "main");
     if (!isThere)
         return std::nullopt;
     if (!*isThere)

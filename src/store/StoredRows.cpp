@@ -27,7 +27,7 @@ std::optional<QList<qint64>> idsFrom(Sqlite &database, const QString &sql,
 std::optional<QList<qint64>> idsIfThere(Sqlite &database, const QString &sql,
                                         const QVariantList &arguments)
 {
-    if (hasTable(database, "main", QStringLiteral("audioData")) == false)
+    if (hasLectureTable(database, "main") == false)
         return QList<qint64>();
     return idsFrom(database, sql, arguments);
 }

@@ -5,13 +5,7 @@
 
 namespace tarvelo::store {
 
-std::optional<int> numberFrom(Sqlite &database, const QString &sql, const QVariantList &arguments)
-{
-    const auto rows = database.executeQueryArguments(sql, arguments);
-    if (!rows || rows->isEmpty())
-        return std::nullopt;
-    return rows->first().first().toInt();
-}
+namespace {
 
 std::optional<bool> hasTable(Sqlite &database, const char *schema, const QString &name)
 {
@@ -21,9 +15,29 @@ std::optional<bool> hasTable(Sqlite &database, const char *schema, const QString
     return count ? std::optional(*count > 0) : std::nullopt;
 }
 
+} // namespace
+
+std::optional<int> numberFrom(Sqlite &database, const QString &sql, const QVariantList &arguments)
+{
+    const auto rows = database.executeQueryArguments(sql, arguments);
+    if (!rows || rows->isEmpty())
+        return std::nullopt;
+    return rows->first().first().toInt();
+}
+
+std::optional<bool> hasLectureTable(Sqlite &database, const char *schema)
+{
+    return hasTable(database, schema, QStringLiteral("audioData"));
+}
+
+std::optional<bool> saysWhatWent(Sqlite &database, const char *schema)
+{
+    return hasTable(database, schema, QStringLiteral("goingLectures"));
+}
+
 bool hasLectures(Sqlite &database, const char *schema)
 {
-    return hasTable(database, schema, QStringLiteral("audioData")).value_or(false);
+    return hasLectureTable(database, schema).value_or(false);
 }
 
 bool makeLecturesIfMissing(Sqlite &database)

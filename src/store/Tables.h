@@ -22,7 +22,9 @@ std::optional<int> numberFrom(Sqlite &database, const QString &sql,
                               const QVariantList &arguments = {});
 
 // `schema` is "main" or what the file was attached under. Null when the file cannot be asked.
-std::optional<bool> hasTable(Sqlite &database, const char *schema, const QString &name);
+std::optional<bool> hasLectureTable(Sqlite &database, const char *schema);
+// Whether it is a copy that says which of its lectures were about to go.
+std::optional<bool> saysWhatWent(Sqlite &database, const char *schema);
 
 bool hasLectures(Sqlite &database, const char *schema);
 // False when the table of lectures is not there then.
