@@ -73,9 +73,7 @@ QString AudioFileLocations::audioSavePathOf(const QDateTime &moment) const
     // The second slash is wanted: it is part of every stored path, and file systems take both for
     // one.
     path += QStringLiteral("/Audio - ");
-    // The year of the week is wanted here, so a name of the last days of December can begin with
-    // the next year.
-    path += m_dates.format(moment, QStringLiteral("YYYYMMddHHmmss"));
+    path += m_dates.format(moment, SavedMomentPattern);
     path += u'.' + extensionByFormat();
     return path;
 }
@@ -97,7 +95,7 @@ void AudioFileLocations::createFolders()
     const QString own = m_places.processFolder();
     for (const QString &folder : {own, m_places.productFolder()})
         platform::keepFolderPrivate(folder);
-    m_temporaryFolder = own + QStringLiteral("/temp");
+    m_temporaryFolder = own + TakesFolder;
     createFolderIfMissing(m_temporaryFolder);
     m_temporaryBasePath = m_temporaryFolder + u'/' + m_temporaryBasePath;
     m_usualBasePath = m_temporaryBasePath;

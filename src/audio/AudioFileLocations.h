@@ -13,6 +13,12 @@ class UserDefaults;
 
 namespace tarvelo::audio {
 
+// How the name of a saved file tells the moment of saving. The year of the week is wanted here, so
+// a name of the last days of December can begin with the next year.
+inline const QString SavedMomentPattern = QStringLiteral("YYYYMMddHHmmss");
+// Below the process's folder: where takes lie.
+inline const QString TakesFolder = QStringLiteral("/temp");
+
 // Where audio files live and what they are called. A take is written to one fixed temporary file;
 // saving moves it into the audio folder under a name made from the moment of saving. Failures to
 // make a folder are silent: what is written there later fails in its own way.

@@ -1,5 +1,6 @@
 #include "audio/RecordingDay.h"
 
+#include "audio/AudioFileLocations.h"
 #include "platform/Dates.h"
 
 #include <QDate>
@@ -20,8 +21,6 @@ bool canBe(const QDateTime &modified, const QDateTime &now)
            modified <= now.addDays(1);
 }
 
-const QString NamePattern = QStringLiteral("YYYYMMddHHmmss");
-
 // Of the digits of any script.
 int yearAtTheBeginning(const QString &digits)
 {
@@ -37,7 +36,7 @@ QDateTime momentInName(const QString &path, const platform::Dates &dates)
 {
     const QString digits = QFileInfo(path).completeBaseName().section(u' ', -1);
     const bool isMoment =
-        digits.size() == NamePattern.size() &&
+        digits.size() == SavedMomentPattern.size() &&
         std::all_of(digits.begin(), digits.end(), [](QChar digit) { return digit.isDigit(); });
     if (!isMoment)
         return {};
@@ -47,7 +46,7 @@ QDateTime momentInName(const QString &path, const platform::Dates &dates)
     for (const int years : {0, -1, 1, apart, apart - 1, apart + 1}) {
         const QString text = QString::number(year + years) + digits.mid(4);
         QDateTime moment = dates.parse(text, QStringLiteral("yyyyMMddHHmmss"));
-        if (moment.isValid() && dates.format(moment, NamePattern) == digits)
+        if (moment.isValid() && dates.format(moment, SavedMomentPattern) == digits)
             return moment;
     }
     return {};

@@ -1,5 +1,6 @@
 #include "audio/UnlistedRecordings.h"
 
+#include "audio/AudioFileLocations.h"
 #include "audio/DurationText.h"
 #include "audio/FileFormats.h"
 #include "audio/LeftFiles.h"
@@ -135,7 +136,7 @@ std::optional<QStringList> UnlistedRecordings::listed(const QStringList &names) 
 // a take says so, also what a death left half written. Null when one cannot be read now.
 std::optional<QStringList> UnlistedRecordings::promised() const
 {
-    const QString takes = QFileInfo(m_database.backups().folder()).path() + QStringLiteral("/temp");
+    const QString takes = QFileInfo(m_database.backups().folder()).path() + TakesFolder;
     QStringList folders{takes};
     QStringList paths = m_sources.promised();
     while (!folders.isEmpty()) {
