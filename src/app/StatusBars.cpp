@@ -1,6 +1,7 @@
 #include "app/StatusBars.h"
 
 #include "app/XcbAtoms.h"
+#include "platform/WindowLevel.h"
 
 #include <QGuiApplication>
 
@@ -45,8 +46,7 @@ StatusBars::~StatusBars()
 
 bool StatusBars::isKnown() const
 {
-    const QString screen = QGuiApplication::platformName();
-    if (screen != u"xcb" && !screen.startsWith(u"wayland"))
+    if (QGuiApplication::platformName() != u"xcb" && !platform::isOnWayland())
         return true;
     xcb_connection_t *const connection = x11Connection();
     return connection && embedsWindows(connection);

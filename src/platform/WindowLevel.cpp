@@ -1,7 +1,11 @@
 #include "platform/WindowLevel.h"
 
+#include <QGuiApplication>
+#include <QPainterPath>
 #include <QPoint>
+#include <QPolygonF>
 #include <QRect>
+#include <QRegion>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
@@ -12,6 +16,11 @@ namespace tarvelo::platform {
 
 namespace {
 constexpr const char *LevelProperty = "windowLevel";
+}
+
+bool isOnWayland()
+{
+    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
 int windowLevel(const QWidget &window)
@@ -41,6 +50,12 @@ void centreOver(QWidget &window, const QWidget &other)
     frame.moveLeft(std::max(screen.left(), std::min(frame.left(), screen.right() - frame.width())));
     frame.moveTop(std::max(screen.top(), std::min(frame.top(), screen.bottom() - frame.height())));
     window.move(frame.topLeft());
+}
+
+void setWindowShape(QWidget &window, const QPainterPath &outline)
+{
+    if (!isOnWayland())
+        window.setMask(QRegion(outline.toFillPolygon().toPolygon()));
 }
 
 void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on)

@@ -1,13 +1,13 @@
 #include "widgets/CardView.h"
 
+#include "platform/WindowLevel.h"
+
 #include <QColor>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
 #include <QPen>
 #include <QRectF>
-#include <QRegion>
 
 namespace tarvelo::widgets {
 
@@ -36,8 +36,7 @@ CardView::CardView(QWidget *parent)
 // Where windows have no shapes (Wayland) they can be seen through, and the corners are clear.
 void CardView::resizeEvent(QResizeEvent *)
 {
-    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
-        window()->setMask(QRegion(roundedRect(rect(), ShapeRadius).toFillPolygon().toPolygon()));
+    platform::setWindowShape(*window(), roundedRect(rect(), ShapeRadius));
 }
 
 void CardView::paintEvent(QPaintEvent *)

@@ -1,10 +1,10 @@
 #include "widgets/CustomWindow.h"
 
 #include "platform/Frames.h"
+#include "platform/WindowLevel.h"
 
 #include <QEasingCurve>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QMouseEvent>
@@ -27,11 +27,6 @@ using platform::setFrameOnScreen;
 namespace {
 
 constexpr int ShrinkMilliseconds = 200;
-
-bool isPlacedByDesktop()
-{
-    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
-}
 
 } // namespace
 
@@ -76,7 +71,7 @@ void CustomWindow::mouseDragged(QMouseEvent *event)
     if (isSheet())
         return;
     // Windows there do not know where they are, and the desktop alone can move them.
-    if (isPlacedByDesktop()) {
+    if (platform::isOnWayland()) {
         m_isDragged = false;
         windowHandle()->startSystemMove();
         return;

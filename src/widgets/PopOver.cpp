@@ -1,8 +1,9 @@
 #include "widgets/PopOver.h"
 
+#include "platform/WindowLevel.h"
+
 #include <QApplication>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
@@ -12,7 +13,6 @@
 #include <QPointF>
 #include <QPolygonF>
 #include <QRectF>
-#include <QRegion>
 #include <QScreen>
 #include <QSize>
 #include <QVBoxLayout>
@@ -150,8 +150,7 @@ void PopOver::place(const QRect &anchor, Qt::Edge preferredEdge)
         m_tip.setX(within(m_tip.x(), ArrowInset, frame.width() - ArrowInset));
     else
         m_tip.setY(within(m_tip.y(), ArrowInset, frame.height() - ArrowInset));
-    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
-        setMask(QRegion(outline(0).toFillPolygon().toPolygon()));
+    platform::setWindowShape(*this, outline(0));
 }
 
 QPainterPath PopOver::outline(double inset) const
