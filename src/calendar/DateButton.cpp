@@ -49,10 +49,7 @@ void DateButton::setDate(const QDateTime &date)
     m_date = date;
     setText(m_dates.format(date, QStringLiteral("d")));
     setAccessibleName(m_dates.format(date, Dates::Style::Full, Dates::Style::None));
-    const auto asShortDay = [this](const QDateTime &moment) {
-        return m_dates.format(moment, Dates::Style::Short, Dates::Style::None);
-    };
-    const bool isToday = asShortDay(date) == asShortDay(m_dates.now());
+    const bool isToday = m_dates.isSameDay(date, m_dates.now());
     if (isToday) {
         // The weekend mark stays as the day shown before left it, so that today's number can be
         // grey: wanted, leave it.

@@ -45,10 +45,7 @@ QWidget &DayList::emptyDayPanel() const
 bool DayList::isDayOpen(const QDateTime &date) const
 {
     const QDateTime now = m_dates.now();
-    if (now <= date)
-        return true;
-    return m_dates.format(now, Dates::Style::Short, Dates::Style::None) ==
-           m_dates.format(date, Dates::Style::Short, Dates::Style::None);
+    return now <= date || m_dates.isSameDay(now, date);
 }
 
 void DayList::prepareViewForDate(const QDateTime &date)

@@ -204,6 +204,11 @@ QDateTime Dates::parse(const QString &text, Style date, Style time) const
     return platform::parse(m_formatters->ofStyles(m_region, date, time), text);
 }
 
+bool Dates::isSameDay(const QDateTime &one, const QDateTime &other) const
+{
+    return format(one, Style::Short, Style::None) == format(other, Style::Short, Style::None);
+}
+
 QString Dates::storedDay(const QDateTime &moment) const
 {
     return format(moment, DayPattern);

@@ -49,6 +49,9 @@ public:
     QDateTime parse(const QString &text, const QString &pattern) const;
     QDateTime parse(const QString &text, Style date, Style time) const;
 
+    // By the way in which the user writes days.
+    bool isSameDay(const QDateTime &one, const QDateTime &other) const;
+
     // -- The days of lectures. A row stores the day of the user's own calendar, in its digits; a
     // day is looked for as ISO 8601 has it, whatever the user's settings. Under another calendar
     // than the Gregorian one a lecture is not found under its day: this difference is wanted as it

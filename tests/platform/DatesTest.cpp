@@ -88,6 +88,19 @@ private Q_SLOTS:
             QStringLiteral("2024-03-05"));
     }
 
+    void aDayLastsFromMidnightToMidnightOfTheUser_data() { addLocales(); }
+    void aDayLastsFromMidnightToMidnightOfTheUser()
+    {
+        QFETCH(QByteArray, locale);
+        const Dates users = dates(locale.constData(), "Europe/Berlin");
+        const QDateTime evening = at("2024-03-05T22:30:00Z");
+
+        QVERIFY(users.isSameDay(evening, at("2024-03-05T05:00:00Z")));
+        QVERIFY(users.isSameDay(evening, evening));
+        QVERIFY(!users.isSameDay(evening, at("2024-03-05T23:30:00Z")));
+        QVERIFY(!users.isSameDay(evening, at("2025-03-05T22:30:00Z")));
+    }
+
     void aDayIsStoredAsTheUserWritesItAndAskedForAsIsoDoes_data() { addLocales(); }
     void aDayIsStoredAsTheUserWritesItAndAskedForAsIsoDoes()
     {
