@@ -66,8 +66,8 @@ void DayList::showAllList(const QDateTime &date)
 {
     m_month = date;
     m_outlets.btnDeleteItem->hide();
-    m_outlets.lblDateDisplay->setText(QStringLiteral("All List"));
-    m_outlets.lblDateDisplay->setAccessibleName(QStringLiteral("All List"));
+    m_outlets.lblDateDisplay->setText(AllList);
+    m_outlets.lblDateDisplay->setAccessibleName(AllList);
     fillWithAll();
     m_outlets.mainWindow->setFrameWidth(ListShownWidth, true);
 }

@@ -5,6 +5,7 @@
 #include "store/Sqlite.h"
 
 #include <QDateTime>
+#include <QString>
 
 #include <functional>
 #include <optional>
@@ -19,6 +20,9 @@ class LectureDatabase;
 }
 
 namespace tarvelo::lectures {
+
+// The heading while all are shown, in every language.
+inline const QString AllList = QStringLiteral("All List");
 
 // The lectures shown: those of one day, or of one month of every year as "All List". It also says
 // what the day shown can take: past days get no new lectures.

@@ -182,7 +182,7 @@ void LectureEditing::onCancelLectureEdit(QWidget *)
 void LectureEditing::onDoneLectureEdit(QWidget *sender)
 {
     // A lecture that was opened from the list of all is not saved here: wanted so.
-    if (m_outlets.main.lblDateDisplay->text() == u"All List")
+    if (m_outlets.main.lblDateDisplay->text() == AllList)
         return;
     m_stopSoundPlayEdit.schedule(StopAfterDone);
     if (refuseBlankSubject(*m_outlets.view.tSubjectName, sender))
