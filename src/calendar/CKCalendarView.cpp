@@ -253,11 +253,7 @@ void CKCalendarView::dateButtonPressed(DateButton *cell)
     if (m_delegate)
         m_delegate->calendarDidSelectDate(this, m_selectedDate);
     layoutSubviews();
-    const bool isToday = dateWithOutTime(cell->date()) == dateWithOutTime({});
-    const QString image = isToday ? QStringLiteral("recordbox") : QStringLiteral("selDateImg");
-    cell->setImage(imageNamed(image));
-    cell->setNormalImage(image);
-    cell->setHoverImage(image);
+    cell->showBox(dateWithOutTime(cell->date()) == dateWithOutTime({}));
     if (s_selectedCell) {
         s_selectedCell->setIsSelected(false);
         s_selectedCell->repaint();

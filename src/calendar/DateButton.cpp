@@ -53,9 +53,7 @@ void DateButton::setDate(const QDateTime &date)
     if (isToday) {
         // The weekend mark stays as the day shown before left it, so that today's number can be
         // grey: wanted, leave it.
-        setImage(imageNamed(todaysImage()));
-        setNormalImage(todaysImage());
-        setHoverImage(todaysImage());
+        showBox(true);
     } else {
         // By the name in the user's language, on purpose: where no weekday's name begins like
         // this, no day is a weekend day.
@@ -67,6 +65,14 @@ void DateButton::setDate(const QDateTime &date)
         postSetDate();
     }
     m_bIsDateToday = isToday;
+}
+
+void DateButton::showBox(bool ofToday)
+{
+    const QString box = ofToday ? todaysImage() : hoveredImage();
+    setImage(imageNamed(box));
+    setNormalImage(box);
+    setHoverImage(box);
 }
 
 void DateButton::postSetDate()

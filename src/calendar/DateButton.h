@@ -37,6 +37,8 @@ public:
 
     // The day's look: number, today's box, weekend. Any selected look is lost.
     void setDate(const QDateTime &date);
+    // The box of today, or else that of a chosen day, whatever the mouse does.
+    void showBox(bool ofToday);
     // The look of a day that is not today, as setDate() gives it.
     void postSetDate();
     void setIsSelected(bool selected) { m_bIsSelected = selected; }

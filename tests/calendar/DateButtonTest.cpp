@@ -395,6 +395,18 @@ private Q_SLOTS:
         QVERIFY(!m_cell->isMouseHover());
     }
 
+    void aBoxStaysWhereverTheMouseIs()
+    {
+        m_cell->setDate(day(6));
+
+        m_cell->showBox(false);
+        moveMouseOver(*m_cell);
+        QCOMPARE(m_cell->image().name(), QStringLiteral("selDateImg"));
+        moveMouseAway(*m_cell);
+
+        QCOMPARE(m_cell->image().name(), QStringLiteral("selDateImg"));
+    }
+
     void aDisabledCellShowsItsNormalImageUnderTheMouse()
     {
         m_cell->setDate(day(6));
