@@ -1,5 +1,6 @@
 #include "platform/PrivateFiles.h"
 
+#include "platform/Descriptor.h"
 #include "platform/DurableFiles.h"
 
 #include <QFile>
@@ -19,15 +20,12 @@ constexpr mode_t OthersRights = S_IRWXG | S_IRWXO;
 // pipe.
 void keepPrivate(const QString &path, mode_t kind, int flags)
 {
-    const int descriptor = ::open(QFile::encodeName(path).constData(),
-                                  flags | O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
+    const Descriptor file(path, flags | O_RDONLY | O_NONBLOCK);
     struct stat status = {};
-    if (::fstat(descriptor, &status) == 0 && (status.st_mode & S_IFMT) == kind &&
-        status.st_uid == ::geteuid() && (status.st_mode & OthersRights) != 0)
-        static_cast<void>(::fchmod(descriptor, status.st_mode & ~(OthersRights | S_IFMT)));
-    ::close(descriptor);
+    if (file.isOpen() && ::fstat(file.number(), &status) == 0 &&
+        (status.st_mode & S_IFMT) == kind && status.st_uid == ::geteuid() &&
+        (status.st_mode & OthersRights) != 0)
+        static_cast<void>(::fchmod(file.number(), status.st_mode & ~(OthersRights | S_IFMT)));
 }
 
 } // namespace
@@ -44,10 +42,7 @@ void createFolderIfMissing(const QString &folder)
 
 void createFileIfMissing(const QString &path)
 {
-    const int descriptor = ::open(QFile::encodeName(path).constData(),
-                                  O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (descriptor >= 0)
-        ::close(descriptor);
+    const Descriptor made(path, O_WRONLY | O_CREAT | O_EXCL);
 }
 
 void keepFolderPrivate(const QString &folder)
