@@ -115,7 +115,7 @@ void BringBackSheet::dressList()
     m_list->setMinimumHeight(ListHeight);
     QPalette palette = m_sheet->palette();
     palette.setColor(QPalette::Highlight, widgets::colours().chosen);
-    palette.setColor(QPalette::HighlightedText, widgets::colours().ink);
+    palette.setColor(QPalette::HighlightedText, widgets::colours().onChosen);
     m_list->setPalette(palette);
 }
 

@@ -27,7 +27,7 @@ void setLightPalette(QWidget &window)
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                             QPalette::BrightText, QPalette::ToolTipText})
         palette.setColor(role, its.ink);
-    palette.setColor(QPalette::PlaceholderText, its.faint);
+    palette.setColor(QPalette::PlaceholderText, its.placeholder);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, its.disabled);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, its.disabledOutline);

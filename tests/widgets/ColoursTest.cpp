@@ -26,7 +26,7 @@ private Q_SLOTS:
             QVERIFY(contrastOf(text, usual.panel) >= 4.5);
         QVERIFY(contrastOf(usual.outline, Qt::white) >= 3);
         QVERIFY(contrastOf(usual.accent, Qt::white) >= 4.5);
-        QVERIFY(contrastOf(usual.ink, usual.chosen) >= 7);
+        QVERIFY(contrastOf(usual.onChosen, usual.chosen) >= 7);
     }
 
     void inHighContrastTheLinesAreAsBlackAsTheTexts()
@@ -42,8 +42,12 @@ private Q_SLOTS:
 
         for (const QColor &colour : {strong.ink, strong.faint, strong.hairline, strong.outline})
             QCOMPARE(colour, QColor(Qt::black));
-        QVERIFY(contrastOf(strong.disabled, Qt::white) >= 7);
-        QVERIFY(contrastOf(strong.accent, Qt::white) >= 7);
+        for (const QColor &text : {strong.disabled, strong.placeholder, strong.accent})
+            QVERIFY(contrastOf(text, Qt::white) >= 7);
+        QVERIFY(contrastOf(strong.placeholder, strong.ink) >= 2.5);
+        QVERIFY(contrastOf(strong.disabledOutline, Qt::white) >= 4.5);
+        QVERIFY(contrastOf(strong.chosen, Qt::white) >= 3);
+        QVERIFY(contrastOf(strong.onChosen, strong.chosen) >= 7);
     }
 
     void aColourIsSetForItsRoleAlone()

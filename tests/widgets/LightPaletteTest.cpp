@@ -116,8 +116,9 @@ private Q_SLOTS:
 
         QCOMPARE(window.palette().color(QPalette::Mid), QColor(Qt::black));
         QCOMPARE(window.palette().color(QPalette::Shadow), QColor(Qt::black));
-        QVERIFY(contrast(window.palette().color(QPalette::Disabled, QPalette::Shadow), Qt::black) >=
-                3);
+        const QColor disabled = window.palette().color(QPalette::Disabled, QPalette::Shadow);
+        QVERIFY(contrast(disabled, Qt::white) >= 3);
+        QVERIFY(contrast(disabled, Qt::black) >= 2.5);
     }
 
     void whatIsDisabledLooksSoAndCanStillBeMadeOut()
