@@ -1,5 +1,9 @@
 #include "widgets/ControlPainting.h"
 
+#include "platform/HighContrast.h"
+#include "widgets/Colours.h"
+
+#include <QFontInfo>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -11,12 +15,17 @@ namespace {
 
 constexpr double HalfLine = 0.5;
 constexpr double RingWidth = 2;
-constexpr double IndicatorSide = 16;
+constexpr int SmallestIndicator = 16;
+// What is drawn in one is measured for the path of the smallest.
+constexpr double IndicatorPath = SmallestIndicator - 1;
 constexpr double IndicatorRadius = 4;
 constexpr double GrooveHeight = 4;
 constexpr double ScrollHandleWidth = 6;
 // In per cent, as against a control under the mouse.
 constexpr int PressedShade = 106;
+constexpr double ForTexts = 4.5;
+
+enum class Turn { None, Mouse, Press };
 
 bool is(const QStyleOption &option, QStyle::StateFlag state)
 {
@@ -28,35 +37,52 @@ QColor outlineOf(const QStyleOption &option)
     return option.palette.color(QPalette::Shadow);
 }
 
+Turn turnOf(const QStyleOption &option)
+{
+    if (!is(option, QStyle::State_Enabled))
+        return Turn::None;
+    if (is(option, QStyle::State_Sunken))
+        return Turn::Press;
+    return is(option, QStyle::State_MouseOver) ? Turn::Mouse : Turn::None;
+}
+
+bool isFramed(const QStyleOption &option)
+{
+    return colours().isBold && turnOf(option) == Turn::Mouse;
+}
+
 QColor accentOf(const QStyleOption &option)
 {
     const QColor accent = option.palette.color(QPalette::Highlight);
-    if (is(option, QStyle::State_Sunken))
-        return accent.darker(130);
-    return is(option, QStyle::State_MouseOver) ? accent.darker(112) : accent;
+    if (isInverted(option))
+        return option.palette.color(QPalette::Base);
+    if (colours().isBold || turnOf(option) == Turn::None)
+        return accent;
+    return accent.darker(turnOf(option) == Turn::Press ? 130 : 112);
 }
 
 QColor groundOf(const QStyleOption &option)
 {
-    if (!is(option, QStyle::State_Enabled))
+    if (isInverted(option))
+        return option.palette.color(QPalette::WindowText);
+    if (colours().isBold || turnOf(option) == Turn::None)
         return option.palette.color(QPalette::Base);
-    if (is(option, QStyle::State_Sunken))
-        return option.palette.color(QPalette::Midlight).darker(PressedShade);
-    return option.palette.color(is(option, QStyle::State_MouseOver) ? QPalette::Midlight
-                                                                    : QPalette::Base);
+    const QColor turnedTo = option.palette.color(QPalette::Midlight);
+    return turnOf(option) == Turn::Press ? turnedTo.darker(PressedShade) : turnedTo;
 }
 
-// The middle of a line of one point that runs along the inside of `rect`.
-QRectF lineIn(const QRectF &rect)
+// The middle of a line of so many points that runs along the inside of `rect`.
+QRectF lineIn(const QRectF &rect, double width = 2 * HalfLine)
 {
-    return rect.adjusted(HalfLine, HalfLine, -HalfLine, -HalfLine);
+    return rect.adjusted(width / 2, width / 2, -width / 2, -width / 2);
 }
 
 QRectF indicatorIn(const QRect &rect)
 {
-    QRectF box(0, 0, IndicatorSide, IndicatorSide);
+    const int side = std::min(rect.width(), rect.height()) - 2 * RoomAroundIndicator;
+    QRectF box(0, 0, side, side);
     box.moveCenter(QRectF(rect).center());
-    return lineIn(QRectF(box.toAlignedRect()));
+    return box.toAlignedRect();
 }
 
 // Its own painter state ends with each drawing.
@@ -77,29 +103,128 @@ private:
     QPainter &m_painter;
 };
 
-void fillChosen(QPainter &painter, const QStyleOption &option, bool isChosen)
+// Fills `place` and draws the outline along its inside. The innermost point of a thick black one is
+// light where it lies on the accent, which is as dark.
+void paintGround(QPainter &painter, const QStyleOption &option, const QRectF &place, double radius,
+                 bool isFilled)
 {
-    const bool isEnabled = is(option, QStyle::State_Enabled);
-    const bool isFilled = isChosen && isEnabled;
-    painter.setPen(isFilled ? accentOf(option) : outlineOf(option));
-    painter.setBrush(isFilled ? accentOf(option) : groundOf(option));
+    constexpr double Light = 1;
+    const bool hasLight = isFilled && isFramed(option);
+    const bool isThick = isFramed(option) || (isFilled && isInverted(option));
+    const double width = !isThick ? 2 * HalfLine : hasLight ? BoldLine - Light : BoldLine;
+    const QColor fill = isFilled ? accentOf(option) : groundOf(option);
+    const QColor accent = isThick ? option.palette.color(QPalette::Highlight) : fill;
+    painter.setPen(QPen(isFilled && !hasLight ? accent : outlineOf(option), width));
+    painter.setBrush(fill);
+    const double inside = radius - width / 2 + HalfLine;
+    painter.drawRoundedRect(lineIn(place, width), inside, inside);
+    if (!hasLight)
+        return;
+    painter.setPen(QPen(option.palette.color(QPalette::HighlightedText), Light));
+    painter.drawRoundedRect(lineIn(place, 2 * width + Light), radius - width, radius - width);
+}
+
+// Shades would hide a title that stands out from white by little: it is its outline that tells.
+bool staysLight(const QStyleOption &option)
+{
+    return !colours().isBold && turnOf(option) != Turn::None &&
+           platform::contrastOf(option.palette.color(QPalette::ButtonText),
+                                option.palette.color(QPalette::Midlight)) < ForTexts;
+}
+
+void paintLightButton(QPainter &painter, const QStyleOption &option)
+{
+    const double width = turnOf(option) == Turn::Press ? 4 * HalfLine : 2 * HalfLine;
+    painter.setPen(QPen(option.palette.color(QPalette::WindowText), width));
+    painter.setBrush(option.palette.color(QPalette::Base));
+    painter.drawRoundedRect(lineIn(option.rect, width), ControlRadius, ControlRadius);
+}
+
+bool isTicked(const QStyleOption &option)
+{
+    return is(option, QStyle::State_On) && is(option, QStyle::State_Enabled);
 }
 
 QColor markOf(const QStyleOption &option)
 {
-    return is(option, QStyle::State_Enabled) ? option.palette.color(QPalette::HighlightedText)
-                                             : option.palette.color(QPalette::WindowText);
+    return option.palette.color(is(option, QStyle::State_Enabled) ? inkOn(option, true)
+                                                                  : QPalette::WindowText);
+}
+
+// The more one turns to it the wider, where it can get no darker.
+double scrollHandleWidth(const QStyleOption &option)
+{
+    if (!colours().isBold)
+        return ScrollHandleWidth;
+    return ScrollHandleWidth + BoldLine * static_cast<int>(turnOf(option));
+}
+
+QRectF barIn(const QRectF &groove, double height)
+{
+    QRectF bar(groove.left(), 0, groove.width(), height);
+    bar.moveCenter({bar.center().x(), groove.center().y()});
+    return bar;
+}
+
+void paintGroove(QPainter &painter, const QStyleOptionSlider &option, const QRectF &groove,
+                 double handle)
+{
+    const auto paintBar = [&](const QRectF &bar, const QColor &colour) {
+        painter.setBrush(colour);
+        painter.drawRoundedRect(bar, bar.height() / 2, bar.height() / 2);
+    };
+    // Where red and black are hardly two shades, the part that was played is the thicker one.
+    const bool isBold = colours().isBold;
+    painter.setPen(Qt::NoPen);
+    paintBar(barIn(groove, isBold ? GrooveHeight / 2 : GrooveHeight), outlineOf(option));
+    if (!is(option, QStyle::State_Enabled) || option.sliderPosition <= option.minimum)
+        return;
+    QRectF filled = barIn(groove, isBold ? GrooveHeight * 3 / 2 : GrooveHeight);
+    if (option.upsideDown)
+        filled.setLeft(handle);
+    else
+        filled.setRight(handle);
+    paintBar(filled, option.palette.color(QPalette::Highlight));
 }
 
 } // namespace
+
+bool isInverted(const QStyleOption &option)
+{
+    return colours().isBold && turnOf(option) == Turn::Press;
+}
+
+QPalette::ColorRole inkOn(const QStyleOption &option, bool isFilled)
+{
+    if (isFilled)
+        return isInverted(option) ? QPalette::Highlight : QPalette::HighlightedText;
+    return isInverted(option) ? QPalette::HighlightedText : QPalette::WindowText;
+}
+
+int indicatorSide(const QFont &font)
+{
+    return std::max(SmallestIndicator, QFontInfo(font).pixelSize() * 2 / 3 * 2);
+}
 
 void paintButton(QPainter &painter, const QStyleOption &option, bool isDefault)
 {
     const Restored restored(painter);
     const bool isFilled = isDefault && is(option, QStyle::State_Enabled);
-    painter.setPen(isFilled ? accentOf(option) : outlineOf(option));
+    if (!isFilled && staysLight(option))
+        paintLightButton(painter, option);
+    else
+        paintGround(painter, option, option.rect, ControlRadius, isFilled);
+}
+
+void paintSegment(QPainter &painter, const QStyleOption &option, const QRectF &place, double radius)
+{
+    const Restored restored(painter);
+    const bool isFilled = is(option, QStyle::State_On);
+    if (isFramed(option) || isInverted(option))
+        return paintGround(painter, option, place.toAlignedRect(), radius, isFilled);
+    painter.setPen(Qt::NoPen);
     painter.setBrush(isFilled ? accentOf(option) : groundOf(option));
-    painter.drawRoundedRect(lineIn(option.rect), ControlRadius, ControlRadius);
+    painter.drawRoundedRect(place, radius, radius);
 }
 
 void paintKeyboardRing(QPainter &painter, const QStyleOption &option, bool isOnAccent)
@@ -125,28 +250,28 @@ void paintCheckBox(QPainter &painter, const QStyleOption &option)
 {
     const Restored restored(painter);
     const QRectF box = indicatorIn(option.rect);
-    fillChosen(painter, option, is(option, QStyle::State_On));
-    painter.drawRoundedRect(box, IndicatorRadius, IndicatorRadius);
-    if (is(option, QStyle::State_On)) {
-        painter.setPen(QPen(markOf(option), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPolyline(QPolygonF{box.topLeft() + QPointF(3.5, 7.8),
-                                       box.topLeft() + QPointF(6.3, 10.6),
-                                       box.topLeft() + QPointF(11.5, 4.6)});
-    }
+    const double scale = (box.width() - 1) / IndicatorPath;
+    paintGround(painter, option, box, IndicatorRadius * scale, isTicked(option));
+    if (!is(option, QStyle::State_On))
+        return;
+    painter.translate(lineIn(box).topLeft());
+    painter.scale(scale, scale);
+    painter.setPen(QPen(markOf(option), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(QPolygonF{{3.5, 7.8}, {6.3, 10.6}, {11.5, 4.6}});
 }
 
 void paintRadioButton(QPainter &painter, const QStyleOption &option)
 {
     const Restored restored(painter);
     const QRectF circle = indicatorIn(option.rect);
-    fillChosen(painter, option, is(option, QStyle::State_On));
-    painter.drawEllipse(circle);
+    paintGround(painter, option, circle, (circle.width() - 1) / 2, isTicked(option));
     if (!is(option, QStyle::State_On))
         return;
+    const double dot = 3 * (circle.width() - 1) / IndicatorPath;
     painter.setPen(Qt::NoPen);
     painter.setBrush(markOf(option));
-    painter.drawEllipse(circle.center(), 3, 3);
+    painter.drawEllipse(circle.center(), dot, dot);
 }
 
 void paintHeaderSection(QPainter &painter, const QStyleOption &option)
@@ -162,22 +287,10 @@ void paintSlider(QPainter &painter, const QStyleOptionSlider &option, const QRec
                  const QRect &handle)
 {
     const Restored restored(painter);
-    const bool isEnabled = is(option, QStyle::State_Enabled);
     const QPointF middle = QRectF(handle).center();
     QRectF bar(groove);
-    bar.setTop(middle.y() - GrooveHeight / 2);
-    bar.setHeight(GrooveHeight);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(outlineOf(option));
-    painter.drawRoundedRect(bar, GrooveHeight / 2, GrooveHeight / 2);
-    if (isEnabled) {
-        if (option.upsideDown)
-            bar.setLeft(middle.x());
-        else
-            bar.setRight(middle.x());
-        painter.setBrush(option.palette.color(QPalette::Highlight));
-        painter.drawRoundedRect(bar, GrooveHeight / 2, GrooveHeight / 2);
-    }
+    bar.moveCenter({bar.center().x(), middle.y()});
+    paintGroove(painter, option, bar, middle.x());
     QStyleOption knob(option);
     knob.state.setFlag(QStyle::State_MouseOver,
                        is(option, QStyle::State_MouseOver) &&
@@ -185,9 +298,10 @@ void paintSlider(QPainter &painter, const QStyleOptionSlider &option, const QRec
     knob.state.setFlag(QStyle::State_Sunken,
                        is(option, QStyle::State_Sunken) &&
                            option.activeSubControls == QStyle::SC_SliderHandle);
-    painter.setPen(QPen(outlineOf(knob), 1.5));
+    const double width = isFramed(knob) ? BoldLine : 1.5;
+    painter.setPen(QPen(outlineOf(knob), width));
     painter.setBrush(groundOf(knob));
-    const double radius = SliderHandleSide / 2.0 - 1;
+    const double radius = SliderHandleSide / 2.0 - (width + HalfLine) / 2;
     painter.drawEllipse(middle, radius, radius);
 }
 
@@ -197,14 +311,15 @@ void paintScrollBar(QPainter &painter, const QStyleOptionSlider &option, const Q
     painter.fillRect(option.rect, option.palette.color(QPalette::Base));
     if (option.maximum <= option.minimum)
         return;
-    const bool isTurnedTo = is(option, QStyle::State_MouseOver) || is(option, QStyle::State_Sunken);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(option.palette.color(isTurnedTo ? QPalette::WindowText : QPalette::Shadow));
+    painter.setBrush(option.palette.color(turnOf(option) != Turn::None ? QPalette::WindowText
+                                                                       : QPalette::Shadow));
     QRectF bar(handle);
     const double across = std::min(bar.width(), bar.height());
-    const double inset = (across - ScrollHandleWidth) / 2;
+    const double width = scrollHandleWidth(option);
+    const double inset = (across - width) / 2;
     bar.adjust(inset, inset, -inset, -inset);
-    painter.drawRoundedRect(bar, ScrollHandleWidth / 2, ScrollHandleWidth / 2);
+    painter.drawRoundedRect(bar, width / 2, width / 2);
 }
 
 } // namespace tarvelo::widgets

@@ -4,6 +4,7 @@
 #include "widgets/ControlPainting.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QPushButton>
 #include <QStyleOption>
 
@@ -19,8 +20,6 @@ constexpr int GapAcross = 8;
 constexpr int GapDown = 12;
 constexpr QSize SmallestButton(84, 32);
 constexpr QSize RoomAroundTitle(28, 14);
-// With the ring of the keyboard around it.
-constexpr int Indicator = 22;
 constexpr int ScrollBarWidth = 12;
 constexpr int ShortestScrollHandle = 28;
 constexpr int ListRowHeight = 32;
@@ -42,6 +41,14 @@ bool isOnAccent(const QStyleOption &option)
     return isDefault(option) && option.state.testFlag(QStyle::State_Enabled);
 }
 
+// A title of a colour of its own keeps it.
+bool hasLightTitle(const QStyleOption &option)
+{
+    const QPalette &palette = option.palette;
+    return isInverted(option) &&
+           palette.color(QPalette::ButtonText) == palette.color(QPalette::WindowText);
+}
+
 // The corners of what scrolls stay inside of the round ones around it.
 bool hasRoundFrame(const QWidget *widget)
 {
@@ -55,7 +62,10 @@ void paintRing(QPainter &painter, const QStyleOption &option, const QWidget *wid
     QStyleOption ring(option);
     if (widget)
         ring.palette = widget->window()->palette();
-    paintKeyboardRing(painter, ring, false);
+    const bool isOnAccent =
+        option.state.testFlag(QStyle::State_Selected) &&
+        option.palette.color(QPalette::Highlight) == ring.palette.color(QPalette::Highlight);
+    paintKeyboardRing(painter, ring, isOnAccent);
 }
 
 QRect sliderPart(const QStyleOptionSlider &option, QStyle::SubControl part)
@@ -146,13 +156,13 @@ void ControlStyle::drawControl(ControlElement element, const QStyleOption *optio
         drawControl(CE_PushButtonLabel, option, painter, widget);
         if (option->state.testFlag(State_HasFocus) &&
             option->state.testFlag(State_KeyboardFocusChange))
-            paintKeyboardRing(*painter, *option, isOnAccent(*option));
+            paintKeyboardRing(*painter, *option, isOnAccent(*option) && !isInverted(*option));
         return;
     case CE_PushButtonLabel:
-        if (isOnAccent(*option)) {
+        if (isOnAccent(*option) || hasLightTitle(*option)) {
             QStyleOptionButton label(*qstyleoption_cast<const QStyleOptionButton *>(option));
             label.palette.setBrush(QPalette::ButtonText,
-                                   label.palette.brush(QPalette::HighlightedText));
+                                   label.palette.brush(inkOn(*option, isOnAccent(*option))));
             return QProxyStyle::drawControl(element, &label, painter, widget);
         }
         break;
@@ -234,7 +244,8 @@ int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return Indicator;
+        return indicatorSide(widget ? widget->font() : QApplication::font()) +
+               2 * RoomAroundIndicator;
     case PM_SliderLength:
     case PM_SliderThickness:
     case PM_SliderControlThickness:

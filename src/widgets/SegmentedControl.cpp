@@ -1,5 +1,7 @@
 #include "widgets/SegmentedControl.h"
 
+#include "widgets/ControlPainting.h"
+
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QColor>
@@ -10,6 +12,7 @@
 #include <QRectF>
 #include <QSize>
 #include <QSizePolicy>
+#include <QStyleOption>
 
 namespace tarvelo::widgets {
 
@@ -28,31 +31,23 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    QColor ground() const
-    {
-        if (isChecked())
-            return palette().color(QPalette::Highlight);
-        if (isDown())
-            return palette().color(QPalette::Midlight).darker(106);
-        return palette().color(isEnabled() && underMouse() ? QPalette::Midlight : QPalette::Base);
-    }
-
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QRectF inside = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(ground());
-        painter.drawRoundedRect(inside, Radius - 2, Radius - 2);
+        QStyleOption option;
+        option.initFrom(this);
+        option.state.setFlag(QStyle::State_On, isChecked());
+        option.state.setFlag(QStyle::State_Sunken, isDown());
+        paintSegment(painter, option, inside, Radius - 2);
+        const QPalette::ColorRole ink = inkOn(option, isChecked());
         if (hasFocus()) {
-            const auto ring = isChecked() ? QPalette::HighlightedText : QPalette::Highlight;
+            const auto ring = isChecked() ? ink : QPalette::Highlight;
             painter.setPen(QPen(palette().color(ring), 2));
             painter.setBrush(Qt::NoBrush);
             painter.drawRoundedRect(inside.adjusted(2.5, 2.5, -2.5, -2.5), Radius - 4, Radius - 4);
         }
-        const QPalette::ColorRole ink =
-            isChecked() ? QPalette::HighlightedText : QPalette::WindowText;
         const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
         painter.setPen(palette().color(group, ink));
         // A speed such as "½×" has no letter to tell its direction, and would be turned around in a

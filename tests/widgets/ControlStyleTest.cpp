@@ -180,6 +180,21 @@ private Q_SLOTS:
         QVERIFY(pixelsOf(look(list), Accent) > 60);
     }
 
+    void onARowInTheAccentTheKeyboardIsSeenInALightRing()
+    {
+        QTreeWidget list(m_window.get());
+        list.setCurrentItem(new QTreeWidgetItem(&list, {u"Monday"_s}));
+        show();
+        m_window->setFocus();
+        const QImage without = look(list);
+
+        list.setFocus(Qt::TabFocusReason);
+
+        QVERIFY(pixelsOf(without, Accent) > 60);
+        QVERIFY(pixelsOf(look(list).copy(0, 0, list.width() - 20, 60), Qt::white) >
+                pixelsOf(without.copy(0, 0, list.width() - 20, 60), Qt::white) + 60);
+    }
+
     void aSliderIsFilledUpToItsHandleAlsoFromTheRight()
     {
         QSlider slider(Qt::Horizontal, m_window.get());

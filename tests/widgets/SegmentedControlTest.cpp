@@ -1,11 +1,17 @@
 #include "widgets/SegmentedControl.h"
 
+#include "support/HighContrast.h"
 #include "support/TestCase.h"
+#include "widgets/LightPalette.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
+using tarvelo::tests::HighContrast;
+using tarvelo::tests::pixelsApart;
 using tarvelo::widgets::SegmentedControl;
 
 class SegmentedControlTest final : public tarvelo::tests::TestCase
@@ -64,6 +70,34 @@ private Q_SLOTS:
 
         QVERIFY(turnedTo != atRest);
         QVERIFY(pressed != turnedTo);
+    }
+
+    void theChosenOneShowsTheMouseAndThePressToo_data()
+    {
+        QTest::addColumn<bool>("isHigh");
+        QTest::newRow("usual") << false;
+        QTest::newRow("in high contrast") << true;
+    }
+    void theChosenOneShowsTheMouseAndThePressToo()
+    {
+        QFETCH(const bool, isHigh);
+        const auto contrast = isHigh ? std::make_unique<HighContrast>() : nullptr;
+        SegmentedControl control;
+        tarvelo::widgets::setLightPalette(control);
+        addThree(control);
+        control.setSelectedSegment(1);
+        const QImage atRest = control.grab().toImage();
+
+        segment(control, 1).setAttribute(Qt::WA_UnderMouse);
+        const QImage turnedTo = control.grab().toImage();
+        segment(control, 1).setDown(true);
+        const QImage pressed = control.grab().toImage();
+
+        const int plainly = isHigh ? 20 : -1;
+        QVERIFY(turnedTo != atRest);
+        QVERIFY(pressed != turnedTo);
+        QVERIFY(pixelsApart(atRest, turnedTo) > plainly);
+        QVERIFY(pixelsApart(turnedTo, pressed) > plainly);
     }
 
     void aClickSelectsAndSendsTheActionWithTheControlAsItsSender()
