@@ -1,12 +1,15 @@
 #include "app/AppMenus.h"
 
 #include "app/Help.h"
+#include "platform/HighContrast.h"
 #include "platform/Texts.h"
 #include "widgets/LightPalette.h"
 
 #include <QAction>
+#include <QColor>
 #include <QKeySequence>
 #include <QMenu>
+#include <QPalette>
 #include <QPoint>
 #include <QShortcut>
 #include <QWidget>
@@ -60,6 +63,11 @@ constexpr bool haveEachItsPlace()
 }
 static_assert(haveEachItsPlace());
 
+bool isLight(const QColor &ground)
+{
+    return platform::contrastOf(ground, Qt::white) < platform::contrastOf(ground, Qt::black);
+}
+
 struct HelpEntry
 {
     int tag;
@@ -87,9 +95,12 @@ AppMenus::AppMenus(QWidget &mainWindow, const std::function<void(Command)> &run,
     m_mainMenu.setObjectName(QStringLiteral("mainMenu"));
     m_statusMenu.setObjectName(QStringLiteral("statusMenu"));
     m_mainMenu.setAccessibleName(text("MENU_MAIN"));
-    // They belong to the windows, also in colour. The status menu is part of the desktop's bar.
+    // They belong to the windows, also in colour. The status menu is part of the desktop's bar, and
+    // dark where that is.
     widgets::setLightPalette(m_mainMenu);
     widgets::setLightPalette(m_helpMenu);
+    if (isLight(m_statusMenu.palette().color(QPalette::Base)))
+        widgets::setLightPalette(m_statusMenu);
     for (const Entry &entry : entries()) {
         const Command command = entry.command;
         QMenu &menu = command < Command::Open ? m_mainMenu : m_statusMenu;

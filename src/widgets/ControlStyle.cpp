@@ -2,9 +2,11 @@
 
 #include "platform/Images.h"
 #include "widgets/ControlPainting.h"
+#include "widgets/MenuPainting.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QMenu>
 #include <QPushButton>
 #include <QStyleOption>
 
@@ -34,6 +36,12 @@ bool isWithoutWords(const QStyleOption &option)
 {
     const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
     return button && button->text.isEmpty() && button->icon.isNull();
+}
+
+bool isSeparator(const QStyleOption &option)
+{
+    const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(&option);
+    return item && item->menuItemType == QStyleOptionMenuItem::Separator && item->text.isEmpty();
 }
 
 bool isOnAccent(const QStyleOption &option)
@@ -141,6 +149,13 @@ void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         return paintCheckBox(*painter, *option);
     case PE_IndicatorRadioButton:
         return paintRadioButton(*painter, *option);
+    case PE_PanelMenu:
+        return paintMenuPanel(*painter, *option);
+    case PE_IndicatorArrowLeft:
+    case PE_IndicatorArrowRight:
+        if (qobject_cast<const QMenu *>(widget))
+            return paintSubmenuArrow(*painter, *option, element == PE_IndicatorArrowLeft);
+        break;
     default:
         break;
     }
@@ -169,6 +184,10 @@ void ControlStyle::drawControl(ControlElement element, const QStyleOption *optio
     case CE_CheckBox:
         if (isWithoutWords(*option))
             return drawBox(*option, painter, widget);
+        break;
+    case CE_MenuItem:
+        if (isSeparator(*option))
+            return paintMenuSeparator(*painter, *option);
         break;
     case CE_HeaderSection:
     case CE_HeaderEmptyArea:

@@ -41,6 +41,26 @@ private Q_SLOTS:
         QGuiApplication::setPalette(usual);
     }
 
+    void theMenuOfTheBarIsWrittenAsTheOthersUnlessTheDesktopIsDark()
+    {
+        const auto inks = [] {
+            Application program;
+            app::AppMenus &menus = program.delegate.menus();
+            return std::pair(menus.statusMenu().palette().color(QPalette::Text),
+                             menus.mainMenu().palette().color(QPalette::Text));
+        };
+        const QPalette usual = QGuiApplication::palette();
+
+        const auto [onLight, mainOnLight] = inks();
+        QGuiApplication::setPalette(QPalette(QColor(40, 40, 40)));
+        const auto [onDark, mainOnDark] = inks();
+        QGuiApplication::setPalette(usual);
+
+        QCOMPARE(onLight, mainOnLight);
+        QCOMPARE(mainOnDark, mainOnLight);
+        QVERIFY(onDark.lightness() > 200);
+    }
+
     void theCommandsHaveTheirShortcuts_data()
     {
         QTest::addColumn<Command>("command");

@@ -1,0 +1,81 @@
+#include "widgets/MenuPainting.h"
+
+#include "widgets/Colours.h"
+
+#include <QColor>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPalette>
+#include <QPolygonF>
+#include <QRect>
+#include <QRectF>
+#include <QStyleOption>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarvelo::widgets {
+
+namespace {
+
+constexpr float FrameStrength = 0.451F;
+constexpr float SeparatorStrength = 0.282F;
+constexpr float ArrowStrength = 0.627F;
+// In per cent, what a menu is lighter than a text's ground where that is dark.
+constexpr int Lighter = 108;
+constexpr int SeparatorInset = 5;
+constexpr int SmallestArrow = 8;
+
+float strengthOf(float usual)
+{
+    return colours().isBold ? 1 : usual;
+}
+
+QColor lineOf(const QStyleOption &option, float strength)
+{
+    const int grey = qGray(option.palette.color(QPalette::Text).rgb());
+    QColor line(grey, grey, grey);
+    line.setAlphaF(strengthOf(strength));
+    return line;
+}
+
+} // namespace
+
+// The line is as thick at each edge, also where points are no whole pixels.
+void paintMenuPanel(QPainter &painter, const QStyleOption &option)
+{
+    const double ratio = painter.deviceTransform().m11();
+    const double width = std::max(1.0, std::floor(ratio)) / ratio;
+    const QColor ground = option.palette.color(QPalette::Base).lighter(Lighter);
+    painter.fillRect(option.rect, ground);
+    painter.fillRect(option.rect, lineOf(option, FrameStrength));
+    painter.fillRect(QRectF(option.rect).adjusted(width, width, -width, -width), ground);
+}
+
+void paintMenuSeparator(QPainter &painter, const QStyleOption &option)
+{
+    const QRect line(option.rect.left() + SeparatorInset, option.rect.center().y(),
+                     option.rect.width() - 2 * SeparatorInset, 1);
+    painter.fillRect(line, lineOf(option, SeparatorStrength));
+}
+
+void paintSubmenuArrow(QPainter &painter, const QStyleOption &option, bool isToTheLeft)
+{
+    const int height = std::max(SmallestArrow, option.fontMetrics.ascent() / 3 * 2);
+    QRect place(0, 0, height / 2, height);
+    place.moveCenter(option.rect.center());
+    const QPointF tip(isToTheLeft ? place.left() : place.left() + place.width(),
+                      place.top() + height / 2.0);
+    const int base = isToTheLeft ? place.left() + place.width() : place.left();
+    QColor ink = option.palette.color(QPalette::WindowText);
+    ink.setAlphaF(strengthOf(ArrowStrength));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawPolygon(
+        QPolygonF{QPointF(base, place.top()), tip, QPointF(base, place.top() + height)});
+    painter.restore();
+}
+
+} // namespace tarvelo::widgets
