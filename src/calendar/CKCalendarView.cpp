@@ -26,6 +26,9 @@ namespace {
 constexpr int Sunday = 1;
 constexpr QRectF StandardFrame(0, 0, 320, 320);
 constexpr std::chrono::milliseconds FirstSelectionDelay{500};
+// What the mouse on an arrow lights up, and around the drawing "settocurrent".
+constexpr QRectF ArrowPlate(0, 0, 10, 20);
+constexpr QRectF CurrentMonthPlate(6, 5, 22, 22);
 
 template <typename View>
 View *named(View *view, const char *name)
@@ -120,11 +123,13 @@ void CKCalendarView::buildArrows()
     m_prevButton->setAction({"moveCalendarToPreviousMonth",
                              unlessRefused([this](QWidget *) { moveCalendarToPreviousMonth(); })});
     m_prevButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
+    m_prevButton->setPlate(ArrowPlate);
 
     m_nextButton = makeNavigationButton("nextButton", "arrowright", platform::text("NEXT_MONTH"));
     m_nextButton->setAction({"moveCalendarToNextMonth",
                              unlessRefused([this](QWidget *) { moveCalendarToNextMonth(); })});
     m_nextButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
+    m_nextButton->setPlate(ArrowPlate);
 }
 
 void CKCalendarView::buildCurrentMonthButtons()
@@ -143,6 +148,9 @@ void CKCalendarView::buildCurrentMonthButtons()
         {"comeBackToCurrentMonth",
          unlessRefused([this](QWidget *sender) { comeBackToCurrentMonth(sender); })});
     m_backToCurrentMonthButton->setToolTip(name);
+
+    m_proceedToCurrentMonthButton->setPlate(CurrentMonthPlate);
+    m_backToCurrentMonthButton->setPlate(CurrentMonthPlate);
 
     // They stand partly on the arrows, which have to be whole for the mouse.
     m_prevButton->raise();

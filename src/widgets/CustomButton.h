@@ -35,6 +35,7 @@ public:
     void setNormalImage(const QString &name) { m_strNormalImage = name; }
     void setHoverImage(const QString &name) { m_strHoverImage = name; }
     void setImageScaling(ImageScaling scaling);
+    void setPlate(const QRectF &plate) { m_plate = plate; }
     // Tracks the mouse over the present bounds. To be called after each change of the frame.
     void setMouseReady();
     // For a button that a window's layout made: begins to track the mouse.
@@ -45,6 +46,7 @@ protected:
     virtual void mouseExited();
     void leaveEvent(QEvent *event) override;
     QRectF imageRect(const platform::Image &image) const override;
+    QRectF plate() const override { return m_plate; }
     // Only by a mouse that it noticed: one that is kept from it does not show either.
     bool isTurnedTo() const override { return m_isMouseNoticed; }
 
@@ -54,6 +56,7 @@ private:
     bool m_isMouseNoticed = false;
     QString m_strNormalImage;
     QString m_strHoverImage;
+    QRectF m_plate;
     ImageScaling m_scaling = ImageScaling::ProportionallyDown;
 };
 

@@ -1,14 +1,21 @@
 #include "widgets/ImageButton.h"
 
+#include "widgets/Colours.h"
+#include "widgets/ControlPainting.h"
+#include "widgets/DrawingStates.h"
+
 #include <QEvent>
 #include <QFocusEvent>
 #include <QHelpEvent>
+#include <QImage>
 #include <QPainter>
 #include <QPalette>
 #include <QPen>
 #include <QPointer>
 #include <QSizeF>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace tarvelo::widgets {
 
@@ -121,21 +128,42 @@ void ImageButton::focusInEvent(QFocusEvent *event)
     QPushButton::focusInEvent(event);
 }
 
-// The drawing as it is, a shade darker for who turns to it, and two while it is pressed.
-void ImageButton::paintTinted(QPainter &painter, const Image &image) const
+// A shade darker for who turns to it, and two while it is pressed, or with a thick line around it
+// and white on black. One that is as narrow as an arrow is underlined instead.
+void ImageButton::showState(QImage &drawing, const Image &image) const
+{
+    const QColor ink = palette().color(QPalette::WindowText);
+    if (!colours().isBold)
+        return shade(drawing, ink, isDown() ? PressedShade : HoverShade);
+    if (!isEnabled())
+        return fade(drawing, palette().color(QPalette::WindowText));
+    if (isDown())
+        exchangeBlackAndWhite(drawing);
+    const QRectF edge = plate().isEmpty() ? imageRect(image) : plate();
+    if (edge.width() >= NarrowWidth)
+        return frame(drawing, edge, BoldLine, ink);
+    QPainter painter(&drawing);
+    painter.fillRect(QRectF(edge.left(), edge.bottom() - BoldLine, edge.width(), BoldLine), ink);
+}
+
+void ImageButton::paintChanged(QPainter &painter, const Image &image) const
 {
     const double ratio = painter.deviceTransform().m11();
-    QPixmap canvas((QSizeF(size()) * ratio).toSize());
+    QImage canvas((QSizeF(size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     canvas.setDevicePixelRatio(ratio);
     canvas.fill(Qt::transparent);
     QPainter drawing(&canvas);
+    if (isEnabled() && !plate().isEmpty()) {
+        drawing.setRenderHint(QPainter::Antialiasing);
+        drawing.setPen(Qt::NoPen);
+        drawing.setBrush(colours().tile);
+        const double radius = std::min(ControlRadius, plate().width() / 3);
+        drawing.drawRoundedRect(plate(), radius, radius);
+    }
     image.paint(drawing, imageRect(image));
-    drawing.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    QColor shade = palette().color(QPalette::WindowText);
-    shade.setAlphaF(isDown() ? PressedShade : HoverShade);
-    drawing.fillRect(rect(), shade);
     drawing.end();
-    painter.drawPixmap(QPointF(), canvas);
+    showState(canvas, image);
+    painter.drawImage(QPointF(), canvas);
 }
 
 void ImageButton::paintEvent(QPaintEvent *event)
@@ -147,13 +175,16 @@ void ImageButton::paintEvent(QPaintEvent *event)
         paintFocus(painter);
         return;
     }
-    const bool alternate = isDown() && !m_alternateImage.isNull();
+    const bool isBold = colours().isBold;
+    // Of its own image a button knows no other state where states are bold.
+    const bool alternate = isDown() && !m_alternateImage.isNull() && (!isBold || m_image.isNull());
     const Image &shown = alternate ? m_alternateImage : m_image;
     QPainter painter(this);
-    if (!isEnabled())
+    if (!isEnabled() && !isBold)
         painter.setOpacity(0.35);
-    if (isEnabled() && (isTurnedTo() || isDown()) && !alternate)
-        paintTinted(painter, shown);
+    const bool isChanged = isEnabled() ? (isTurnedTo() || isDown()) && !alternate : isBold;
+    if (isChanged)
+        paintChanged(painter, shown);
     else
         shown.paint(painter, imageRect(shown));
     painter.setOpacity(1);

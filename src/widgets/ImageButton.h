@@ -11,6 +11,7 @@
 #include <functional>
 #include <utility>
 
+class QImage;
 class QPainter;
 class QWidget;
 
@@ -64,12 +65,16 @@ protected:
     virtual QRectF imageRect(const platform::Image &image) const;
     // What the focus ring goes around.
     virtual QRectF focusRect() const { return rect(); }
+    // The ground that a drawing without one of its own gets for who turns to it, else nothing.
+    virtual QRectF plate() const { return {}; }
     // Whether the mouse is on it, for what that changes of its look.
     virtual bool isTurnedTo() const { return underMouse(); }
     void paintFocus(QPainter &painter) const;
 
 private:
-    void paintTinted(QPainter &painter, const platform::Image &image) const;
+    // The drawing as it shows that one turns to it, or that it cannot be used.
+    void paintChanged(QPainter &painter, const platform::Image &image) const;
+    void showState(QImage &drawing, const platform::Image &image) const;
 
     platform::Image m_image;
     platform::Image m_alternateImage;

@@ -1,5 +1,6 @@
 #include "widgets/CustomButton.h"
 
+#include "support/HighContrast.h"
 #include "support/TestCase.h"
 #include "widgets/Drawn.h"
 
@@ -128,6 +129,47 @@ private Q_SLOTS:
 
         QCoreApplication::sendEvent(&button, &leaving);
         QCOMPARE(drawings.count, 2);
+    }
+
+    void aDrawingWithoutAGroundGetsOneForTheMouseAndADarkerOneForThePress()
+    {
+        CustomButton button;
+        button.resize(10, 20);
+        button.setImage(imageNamed(QStringLiteral("arrowleft")));
+        button.setPlate({0, 0, 10, 20});
+        button.setMouseReady();
+        const auto ground = [&button] { return drawn(button).pixelColor(5, 1).lightness(); };
+        QEvent leaving(QEvent::Leave);
+        QCoreApplication::sendEvent(&button, &leaving);
+        const int atRest = ground();
+
+        QEnterEvent entering({1, 1}, {1, 1}, {1, 1});
+        QCoreApplication::sendEvent(&button, &entering);
+        const int turnedTo = ground();
+        button.setDown(true);
+
+        QCOMPARE(atRest, 255);
+        QVERIFY(turnedTo < 225);
+        QVERIFY(ground() < turnedTo - 10);
+    }
+
+    void inHighContrastAnArrowIsUnderlinedForTheMouseAndTurnedAroundForThePress()
+    {
+        const tarvelo::tests::HighContrast contrast;
+        CustomButton button;
+        button.resize(10, 20);
+        button.setImage(imageNamed(QStringLiteral("arrowleft")));
+        button.setPlate({0, 0, 10, 20});
+        button.setMouseReady();
+
+        QEnterEvent entering({1, 1}, {1, 1}, {1, 1});
+        QCoreApplication::sendEvent(&button, &entering);
+        const QImage turnedTo = drawn(button);
+        button.setDown(true);
+
+        QCOMPARE(turnedTo.pixelColor(5, 18), QColor(Qt::black));
+        QCOMPARE(turnedTo.pixelColor(8, 10), QColor(Qt::white));
+        QCOMPARE(drawn(button).pixelColor(8, 10), QColor(Qt::black));
     }
 
     void aMouseThatItIsNotToldOfDoesNotShowOnIt()

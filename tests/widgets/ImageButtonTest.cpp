@@ -1,14 +1,18 @@
 #include "widgets/ImageButton.h"
 
+#include "support/HighContrast.h"
 #include "support/TestCase.h"
 #include "widgets/Drawn.h"
+#include "widgets/LightPalette.h"
 
 #include <QHelpEvent>
 #include <QPointer>
 #include <QToolTip>
 
+using tarvelo::platform::contrastOf;
 using tarvelo::platform::imageNamed;
 using tarvelo::tests::drawn;
+using tarvelo::tests::pixelsApart;
 using tarvelo::widgets::ImageButton;
 
 namespace {
@@ -106,6 +110,41 @@ private Q_SLOTS:
         button.setDown(false);
         button.setEnabled(false);
         QVERIFY(ground() > atRest);
+    }
+
+    void inHighContrastADrawingIsFramedForTheMouseAndTurnedAroundForThePress()
+    {
+        const tarvelo::tests::HighContrast contrast;
+        ImageButton button;
+        button.setLook(QStringLiteral("play"), QStringLiteral("playH"), {});
+        button.resize(44, 44);
+        const QImage atRest = drawn(button);
+
+        button.setAttribute(Qt::WA_UnderMouse);
+        const QImage turnedTo = drawn(button);
+        button.setDown(true);
+        const QImage pressed = drawn(button);
+
+        QVERIFY(pixelsApart(atRest, turnedTo) > 40);
+        QVERIFY(pixelsApart(turnedTo, pressed) > 400);
+        QCOMPARE(turnedTo.pixelColor(22, 8), QColor(Qt::white));
+        QCOMPARE(pressed.pixelColor(22, 8), QColor(Qt::black));
+        QCOMPARE(pressed.pixelColor(20, 22), QColor(Qt::white));
+    }
+
+    void inHighContrastADisabledDrawingIsAsGreyAsADisabledText()
+    {
+        const tarvelo::tests::HighContrast contrast;
+        ImageButton button;
+        tarvelo::widgets::setLightPalette(button);
+        button.setImage(imageNamed(QStringLiteral("play")));
+        button.resize(44, 44);
+
+        button.setEnabled(false);
+
+        const QColor symbol = drawn(button).pixelColor(20, 22);
+        QCOMPARE(symbol, button.palette().color(QPalette::Disabled, QPalette::ButtonText));
+        QVERIFY(contrastOf(symbol, Qt::white) >= 3);
     }
 
     void aDisabledButtonDoesNothing()
