@@ -19,14 +19,21 @@ namespace tarvelo::platform {
 
 namespace {
 
-// The greys of the drawings, and what they are where the desktop asks for high contrast.
+// The colours of the drawings, and what they are where the desktop asks for high contrast.
 constexpr std::array StrongColours{
     std::pair{"#605c66", "#000000"},
     std::pair{"#3f3c44", "#000000"},
     std::pair{"#8c8a92", "#000000"},
     std::pair{"#d3d0d8", "#000000"},
-    // The ground of a small button, which has no outline otherwise.
+    std::pair{"#d61626", "#b00014"},
+    // The ground of a small button, which has no outline otherwise; a darker one on a row.
     std::pair{"fill=\"#efedf1\"", "fill=\"#ffffff\" stroke=\"#000000\" stroke-width=\"2\""},
+    std::pair{"fill=\"#dad7df\"", "fill=\"#ffffff\" stroke=\"#000000\" stroke-width=\"2\""},
+    // The row under the mouse: a line inside of the ring that it has for the keyboard.
+    std::pair{"x=\"4\" y=\"2\" width=\"373\" height=\"59\" rx=\"8\" "
+              "fill=\"#8b8791\" fill-opacity=\"0.11\"",
+              "x=\"5.5\" y=\"4.5\" width=\"370\" height=\"53\" rx=\"7\" "
+              "fill=\"none\" stroke=\"#000000\""},
 };
 
 QByteArray withStrongColours(QByteArray drawing)

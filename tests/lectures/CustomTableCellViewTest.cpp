@@ -1,10 +1,12 @@
 #include "lectures/CustomTableCellView.h"
 
 #include "lectures/LectureRowHost.h"
+#include "platform/HighContrast.h"
 #include "store/LectureInfoItem.h"
 #include "support/TestCase.h"
 #include "widgets/ImageButton.h"
 #include "widgets/ImageView.h"
+#include "widgets/LightPalette.h"
 
 #include <QLabel>
 #include <QMenu>
@@ -78,6 +80,22 @@ private Q_SLOTS:
 
         m_row->setObjectValue(lecture(u"optics"_s, u"Lenses"_s, u"/a.aac"_s));
         QVERIFY(!m_row->btnBrowse()->isHidden());
+    }
+
+    void itsButtonsStandOutFromTheRowUnderTheMouse()
+    {
+        tarvelo::widgets::setLightPalette(*m_row);
+        m_row->setObjectValue(lecture(u"optics"_s, u"Lenses"_s, QString()));
+
+        m_row->mouseEntered();
+
+        const QImage row = m_row->grab().toImage();
+        const QColor ground = row.pixelColor(m_row->width() / 2, 6);
+
+        for (const auto *button : {m_row->btnEdit(), m_row->btnDelete()}) {
+            const QPoint onTile = button->pos() + QPoint(12, 2);
+            QVERIFY(tarvelo::platform::contrastOf(row.pixelColor(onTile), ground) >= 1.25);
+        }
     }
 
     void aRowCanBeEmptied()

@@ -1,6 +1,7 @@
 #include "platform/Images.h"
 
 #include "platform/HighContrast.h"
+#include "support/HighContrast.h"
 #include "support/TestCase.h"
 
 #include <QImage>
@@ -93,6 +94,25 @@ private Q_SLOTS:
         QCOMPARE(black.pixelColor(12, 12), QColor(Qt::black));
         QCOMPARE(black.pixelColor(12, 0), QColor(Qt::black));
         QCOMPARE(drawn(), grey);
+    }
+
+    void inHighContrastAWarningHasTheRedOfTheWindowsAndARowALineAround()
+    {
+        const auto drawn = [](const QString &name, const QSize &size) {
+            QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
+            canvas.fill(Qt::white);
+            QPainter painter(&canvas);
+            imageNamed(name).paint(painter, canvas.rect());
+            return canvas;
+        };
+        const tarvelo::tests::HighContrast contrast;
+
+        const QImage warning = drawn(QStringLiteral("warning"), {48, 48});
+        const QImage row = drawn(QStringLiteral("cellimageH"), {381, 64});
+
+        QCOMPARE(warning.pixelColor(24, 12), QColor(0xb0, 0, 0x14));
+        QCOMPARE(row.pixelColor(5, 32), QColor(Qt::black));
+        QCOMPARE(row.pixelColor(190, 32), QColor(Qt::white));
     }
 
     void anIconHasTheSizesThatDesktopsAskFor()
