@@ -56,7 +56,7 @@ LectureView buildLectureView(QWidget &pane)
     for (QLabel *label :
          {ui.lblNotesForView, ui.tEditTime, ui.tEditDate, ui.tElapsedTime, ui.tRemainingTime})
         style(*label, 13, widgets::colours().faint);
-    fill(*ui.editPlayerPanel, widgets::colours().panel);
+    fillPanel(*ui.editPlayerPanel);
     dressPlayPause(*ui.bPlay, *ui.bPause);
     // A heading until someone wants to change it.
     ui.tSubjectName->setFont(widgets::scaledFace(18));

@@ -111,7 +111,7 @@ NewLectureWindow buildNewLectureWindow()
     keepRoomForWarnings(*ui.lblRecordingWarning);
     limitSubject(*ui.txtSubjectForNewNote);
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
-    fill(*ui.recordingPanel, widgets::colours().panel);
+    fillPanel(*ui.recordingPanel);
     ui.imgLevelIndicatorBG->setImage(imageNamed(QStringLiteral("levelBackground")));
     dressRecordingControls(built.recording);
     ui.BtnDoneOrClose->setTag(NewLectureOutlets::TagDone);

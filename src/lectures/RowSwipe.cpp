@@ -75,7 +75,8 @@ void RowActionButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QColor ground = m_action.style == RowAction::Style::Destructive ? widgets::Red : Regular;
-    painter.fillRect(rect(), isDown() ? ground.darker(115) : ground);
+    const QColor pressed = widgets::colours().isBold ? QColor(Qt::black) : ground.darker(115);
+    painter.fillRect(rect(), isDown() ? pressed : ground);
     painter.setPen(Qt::white);
     QRect title(0, 0, sizeHint().width(), height());
     if (layoutDirection() == Qt::RightToLeft)
