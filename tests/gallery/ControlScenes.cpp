@@ -6,6 +6,7 @@
 #include "lectures/WindowWidths.h"
 #include "store/LectureInfoItem.h"
 #include "support/LectureBuilder.h"
+#include "widgets/ControlPainting.h"
 #include "widgets/CustomButton.h"
 #include "widgets/MouseDownTextField.h"
 
@@ -15,6 +16,9 @@
 #include <QEnterEvent>
 #include <QEvent>
 #include <QFile>
+#include <QHoverEvent>
+#include <QSlider>
+#include <QStyle>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -33,6 +37,32 @@ void bringMouse(widgets::CustomButton &button, bool isThere)
     QEnterEvent entering({1, 1}, {1, 1}, {1, 1});
     QEvent leaving(QEvent::Leave);
     QCoreApplication::sendEvent(&button, isThere ? &entering : &leaving);
+}
+
+// Onto the knob, and pressed there or let go.
+void bringMouse(QSlider &slider, bool isThere, bool isDown)
+{
+    constexpr int Knob = widgets::SliderHandleSide;
+    const bool isMirrored = slider.invertedAppearance() != slider.isRightToLeft();
+    const int at =
+        QStyle::sliderPositionFromValue(slider.minimum(), slider.maximum(), slider.sliderPosition(),
+                                        slider.width() - Knob, isMirrored);
+    const QPoint knob(at + Knob / 2, slider.height() / 2);
+    const QPointF nowhere(-1, -1);
+    slider.setAttribute(Qt::WA_UnderMouse, isThere);
+    QHoverEvent entering(QEvent::HoverEnter, knob, slider.mapToGlobal(knob), nowhere);
+    QHoverEvent leaving(QEvent::HoverLeave, nowhere, nowhere, knob);
+    QCoreApplication::sendEvent(&slider, isThere ? &entering : &leaving);
+    if (isDown == slider.isSliderDown())
+        return;
+    // The keyboard stays where it is.
+    const Qt::FocusPolicy policy = slider.focusPolicy();
+    slider.setFocusPolicy(Qt::NoFocus);
+    if (isDown)
+        QTest::mousePress(&slider, Qt::LeftButton, {}, knob);
+    else
+        QTest::mouseRelease(&slider, Qt::LeftButton, {}, knob);
+    slider.setFocusPolicy(policy);
 }
 
 // No window becomes the active one while a pop-over is open.
@@ -171,6 +201,8 @@ void Controls::lookAtControls(const QString &name, QWidget &window) const
                 bringMouse(*arrow, underMouse && button->isEnabled());
             button->setDown(down && button->isEnabled());
         }
+        for (QSlider *slider : window.findChildren<QSlider *>())
+            bringMouse(*slider, underMouse && slider->isEnabled(), down && slider->isEnabled());
     };
     setAll(true, false);
     look(name + u"-controls-under-the-mouse"_s, window);
