@@ -2,11 +2,15 @@
 
 #include "platform/Images.h"
 #include "widgets/ControlPainting.h"
+#include "widgets/LabelText.h"
 #include "widgets/MenuPainting.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
+#include <QPainter>
+#include <QPen>
 #include <QPushButton>
 #include <QStyleOption>
 
@@ -126,6 +130,26 @@ ControlStyle::ControlStyle()
 {
 }
 
+void ControlStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (auto *label = qobject_cast<QLabel *>(widget))
+        giveRoomBelow(*label);
+}
+
+void ControlStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
+                                const QPalette &palette, bool enabled, const QString &text,
+                                QPalette::ColorRole textRole) const
+{
+    if (!isBrokenFromTheRight(text, flags))
+        return QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, textRole);
+    const QPen pen = painter->pen();
+    if (textRole != QPalette::NoRole)
+        painter->setPen(palette.color(textRole));
+    paintBrokenFromTheRight(*painter, rect, flags, text);
+    painter->setPen(pen);
+}
+
 void ControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                  QPainter *painter, const QWidget *widget) const
 {
@@ -220,6 +244,16 @@ void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOption
         paintScrollBar(*painter, *slider, scrollBarPart(*slider, SC_ScrollBarSlider));
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect ControlStyle::subElementRect(SubElement element, const QStyleOption *option,
+                                   const QWidget *widget) const
+{
+    // A label asks as the frame that it is, too.
+    const bool isForLayout = element == SE_LabelLayoutItem || element == SE_FrameLayoutItem;
+    if (const int room = isForLayout ? roomBelow(widget) : 0; room > 0)
+        return option->rect.adjusted(0, 0, 0, -room);
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 QRect ControlStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
