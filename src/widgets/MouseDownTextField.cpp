@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPalette>
+#include <QStyle>
 #include <QWidget>
 
 namespace tarvelo::widgets {
@@ -26,10 +27,14 @@ MouseDownTextField::MouseDownTextField(QWidget *parent)
 {
 }
 
-// The mouse gives the keyboard to a text only; Tab reaches a heading too.
+// The mouse gives the keyboard to a text only; Tab reaches a heading too. A heading stands where
+// its window begins, whatever language its words are of; where someone types, those decide.
 void MouseDownTextField::setEditable(bool editable)
 {
     setReadOnly(!editable);
+    const Qt::Alignment start = Qt::AlignLeading;
+    setAlignment((editable ? start : QStyle::visualAlignment(layoutDirection(), start)) |
+                 Qt::AlignVCenter);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::TabFocus);
 }
 

@@ -171,6 +171,22 @@ private Q_SLOTS:
         QVERIFY(begin() >= ofHeading + 8);
     }
 
+    void fromRightToLeftAHeadingStandsAtTheRightUntilSomeoneTypesThere()
+    {
+        const auto leftOfWords = [this] {
+            heading().setCursorPosition(0);
+            drawn(heading()); // before that a field does not know where its words are
+            return heading().inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+        };
+        heading().setLayoutDirection(Qt::RightToLeft);
+        heading().setEditable(false);
+        QVERIFY(leftOfWords() > heading().width() / 2);
+
+        heading().setEditable(true);
+
+        QVERIFY(leftOfWords() < heading().width() / 2);
+    }
+
 private:
     // A heading, and another field that has the keyboard at first.
     struct Stage
