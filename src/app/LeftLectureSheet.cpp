@@ -42,6 +42,17 @@ void addRow(QFormLayout &form, const char *key, QLabel &value)
     form.addRow(name, &value);
 }
 
+bool isBroken(const QLabel &label)
+{
+    return label.heightForWidth(label.width()) > label.heightForWidth(QWIDGETSIZE_MAX);
+}
+
+// Beside a single line a name stands in the middle, since its letters may be of another font.
+void putOnFirstLine(QLabel &name, const QLabel &value)
+{
+    name.setAlignment(leadingSide(name) | (isBroken(value) ? Qt::AlignTop : Qt::AlignVCenter));
+}
+
 QFormLayout *formOf(QLabel &subject, QLabel &day, QLabel &length)
 {
     auto *form = new QFormLayout;
@@ -153,7 +164,16 @@ void LeftLectureSheet::showFirst()
     m_sheet->setAccessibleDescription(text("LEFT_LECTURE_EXPLAINED") + u' ' + m_subject->text() +
                                       QStringLiteral(", ") + m_day->text() + QStringLiteral(", ") +
                                       m_length->text());
+    fit();
+}
+
+void LeftLectureSheet::fit()
+{
     fitToTexts(*m_sheet);
+    for (QLabel *name : m_sheet->findChildren<QLabel *>()) {
+        if (const auto *value = qobject_cast<QLabel *>(name->buddy()))
+            putOnFirstLine(*name, *value);
+    }
 }
 
 void LeftLectureSheet::goOn()
@@ -175,7 +195,7 @@ void LeftLectureSheet::keep()
     if (m_left.keep(m_waiting.first()) == audio::LeftLectures::Kept::Undecided) {
         m_outcome->setText(text("LEFT_LECTURE_NOT_NOW"));
         m_outcome->show();
-        fitToTexts(*m_sheet);
+        fit();
         platform::announce(*m_sheet, m_outcome->text());
         return;
     }

@@ -49,6 +49,8 @@ Q_SIGNALS:
 private:
     void build();
     void showFirst();
+    // Sheet and names, to what is shown.
+    void fit();
     void goOn();
     void keep();
     void discard();

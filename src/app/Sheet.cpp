@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLayout>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -25,9 +26,15 @@ QDialog *makeSheet(QWidget &mainWindow)
     return sheet;
 }
 
+Qt::Alignment leadingSide(const QWidget &view)
+{
+    return QStyle::visualAlignment(view.layoutDirection(), Qt::AlignLeading);
+}
+
 QLabel *makeWrappedLabel(const char *name)
 {
     auto *label = new QLabel;
+    label->setAlignment(leadingSide(*label) | Qt::AlignVCenter);
     label->setObjectName(QLatin1StringView(name));
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
@@ -54,6 +61,7 @@ void fitToTexts(QDialog &sheet)
     const int width = std::max(sheet.width(), column.totalMinimumSize().width());
     sheet.setMinimumHeight(column.totalHeightForWidth(width));
     sheet.resize(width, sheet.minimumHeight());
+    column.setGeometry(sheet.rect());
 }
 
 } // namespace tarvelo::app

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Qt>
+
 class QDialog;
 class QHBoxLayout;
 class QLabel;
@@ -15,6 +17,8 @@ QDialog *makeSheet(QWidget &mainWindow);
 // -- Sheets that are a column of texts with a row of buttons below. Labels and row have no parent
 // until the sheet lays them out.
 
+// The side where the layout begins, whatever language the words are of.
+Qt::Alignment leadingSide(const QWidget &view);
 // For a text of several lines, which is shown as it is: a student may have typed it.
 QLabel *makeWrappedLabel(const char *name);
 QHBoxLayout *makeButtonRow();

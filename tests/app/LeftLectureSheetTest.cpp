@@ -6,7 +6,10 @@
 #include "support/TestCase.h"
 
 #include <QDialog>
+#include <QGuiApplication>
+#include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 
 #include <memory>
 
@@ -42,6 +45,44 @@ private Q_SLOTS:
         QCOMPARE(words("leftDay"), u"Thursday, February 29, 2024"_s);
         QCOMPARE(words("leftLength"), u"00:00:02"_s);
         QVERIFY(sheet().accessibleDescription().contains(u"wave optics"_s));
+    }
+
+    void fromRightToLeftASubjectOfAnyLanguageStandsAtTheRight()
+    {
+        const auto restored =
+            qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        prepare();
+        leaveJournal();
+
+        launch();
+
+        const QImage image = label("leftSubject").grab().toImage();
+        const QImage left = image.copy(0, 0, image.width() / 2, image.height());
+        const QColor ground = image.pixelColor(0, 0);
+        QImage blank(left.size(), left.format());
+        blank.fill(ground);
+        QVERIFY(label("leftSubject").fontMetrics().horizontalAdvance(words("leftSubject")) <
+                label("leftSubject").width() / 2);
+        QCOMPARE(left, blank);
+    }
+
+    void aNameStandsOnTheFirstLineOfItsValue()
+    {
+        auto journal = LeftStage::journal();
+        journal.subject = QStringList(40, u"optics"_s).join(u' ');
+        LeftStage::write(temporary() + u"/lecture.journal"_s, tarvelo::store::toBytes(journal));
+
+        launch();
+
+        for (const QLabel *name : sheet().findChildren<QLabel *>()) {
+            const QWidget *value = name->buddy();
+            if (!value)
+                continue;
+            const bool isBroken = value == &label("leftSubject");
+            QVERIFY(name->alignment().testFlag(isBroken ? Qt::AlignTop : Qt::AlignVCenter));
+        }
+        QVERIFY(label("leftSubject").height() > 2 * label("leftDay").height());
     }
 
     void keepingIsTheDefaultAndHasTheKeyboard()
@@ -252,10 +293,11 @@ private:
     {
         return *sheet().findChild<QPushButton *>(QLatin1StringView(name));
     }
-    QString words(const char *name)
+    QLabel &label(const char *name)
     {
-        return sheet().findChild<QLabel *>(QLatin1StringView(name))->text();
+        return *sheet().findChild<QLabel *>(QLatin1StringView(name));
     }
+    QString words(const char *name) { return label(name).text(); }
 
     std::unique_ptr<Application> m_app;
 };
