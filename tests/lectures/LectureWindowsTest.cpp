@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QPalette>
 #include <QScopeGuard>
 
@@ -170,6 +171,27 @@ private Q_SLOTS:
             QVERIFY2(qobject_cast<tarvelo::widgets::CustomTextView *>(notes),
                      qPrintable(notes->objectName()));
         }
+    }
+
+    void thePanelsOfSoundBeginAndEndAlikeInEitherDirection()
+    {
+        const QWidget &view = *windows().lectureViewOutlets().tSubjectName->parentWidget();
+        const QWidget &window = *windows().newLectureOutlets().newNoteWindow;
+
+        for (const QLayout *panel : {view.findChild<QLayout *>(u"editPlayerLayout"_s),
+                                     window.findChild<QLayout *>(u"recordingPanelLayout"_s)}) {
+            QCOMPARE(panel->contentsMargins().left(), 16);
+            QCOMPARE(panel->contentsMargins().right(), 16);
+        }
+    }
+
+    void aSliderStandsAsFarFromItsButtonsInBothPlayers()
+    {
+        const QWidget &view = *windows().lectureViewOutlets().tSubjectName->parentWidget();
+        const QWidget &window = *windows().playAudioOutlets().playAudioWindow;
+
+        QCOMPARE(view.findChild<QLayout *>(u"editPlayerLayout"_s)->spacing(),
+                 window.findChild<QLayout *>(u"playRow"_s)->spacing());
     }
 
     void theWindowsStayLightUnderADarkDesktop()
