@@ -253,7 +253,7 @@
     </message>
     <message id="LEFT_LECTURE_EXPLAINED">
         <source></source>
-        <translation>この講義が保存される前に Tarvelo が終了しました。その日の講義として保存するか、先に聴くことができます。このウインドウを閉じると、次の起動時にもう一度表示されます。</translation>
+        <translation>この講義が保存される前に Tarvelo が終了しました。その日の講義として保存するか、先に聴くことができます。このウィンドウを閉じると、次の起動時にもう一度表示されます。</translation>
     </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
