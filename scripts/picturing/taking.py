@@ -6,10 +6,13 @@ import re
 import subprocess
 import tempfile
 
-FONTS = pathlib.Path(__file__).resolve().parent / "fonts.conf"
+HERE = pathlib.Path(__file__).resolve().parent
+FONTS = HERE / "fonts.conf"
+# Large enough for every window with three pixels a point: menus and sheets are cut and wrapped by what the screen has room for.
+SCREEN = HERE / "screen.json"
 # All that the program is told, so that it finds no desktop whose style, font, icons or size of points it would take. The
 # seed keeps the order of whatever lies in a hash.
-FIXED = {"QT_QPA_PLATFORM": "offscreen", "QT_HASH_SEED": "0", "TZ": "UTC", "LC_ALL": "C.UTF-8",
+FIXED = {"QT_QPA_PLATFORM": f"offscreen:configfile={SCREEN}", "QT_HASH_SEED": "0", "TZ": "UTC", "LC_ALL": "C.UTF-8",
          "FONTCONFIG_FILE": str(FONTS)}
 # What may come from the caller: where commands are, and what the sanitizers are told.
 PASSED_ON = ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS", "UBSAN_OPTIONS")

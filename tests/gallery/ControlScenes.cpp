@@ -112,8 +112,8 @@ private:
 
 void Controls::showDay(int day) const
 {
-    m_program.delegate.calendarDidSelectDate(nullptr, noonOf(2024, 3, day));
-    m_program.windows.mainOutlets().calendarView->layoutSubviews();
+    calendar::CKCalendarView &calendar = *m_program.windows.mainOutlets().calendarView;
+    calendar.dateButtonPressed(calendar.dateButtons().at(static_cast<std::size_t>(day - 1)));
 }
 
 // The list scrolls.
@@ -129,11 +129,7 @@ void Controls::manyLectures() const
 
 void Controls::playing() const
 {
-    const QString path = m_program.home.folder() + u"/take.m4a"_s;
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write("sound");
-    file.close();
+    const QString path = makeTake(m_program);
     const auto lecture = aLecture().named("Fourier series").on("2024-03-07").withAudio(path);
     lecture.insertInto(m_program.database);
     showDay(7);
@@ -221,6 +217,15 @@ void Controls::lookAtKeyboard(const QString &name, QWidget &window) const
 }
 
 } // namespace
+
+QString makeTake(const Application &program)
+{
+    const QString path = program.home.folder() + u"/take.m4a"_s;
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write("sound");
+    return path;
+}
 
 void goThroughControls(Application &program,
                        const std::function<void(const QString &, QWidget &)> &look)

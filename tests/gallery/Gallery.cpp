@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QPainter>
 #include <QPixmap>
 
 using namespace tarvelo;
@@ -48,6 +49,21 @@ void dress(const QString &theme)
         QApplication::setPalette(highContrast());
 }
 
+// As it lies on a screen: nothing of it where its shape is not.
+QPixmap pictureOf(QWidget &window)
+{
+    const QPixmap whole = window.grab();
+    if (window.mask().isEmpty())
+        return whole;
+    QPixmap shaped(whole.size());
+    shaped.setDevicePixelRatio(whole.devicePixelRatio());
+    shaped.fill(Qt::transparent);
+    QPainter painter(&shaped);
+    painter.setClipRegion(window.mask());
+    painter.drawPixmap(0, 0, whole);
+    return shaped;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -69,7 +85,7 @@ int main(int argc, char **argv)
     bool areSaved = true;
     const bool isAllShown = tests::goThrough(program, [&](const QString &name, QWidget &window) {
         const QString path = arguments[1] + u'/' + name + QStringLiteral(".png");
-        areSaved = window.grab().save(path) && areSaved;
+        areSaved = pictureOf(window).save(path) && areSaved;
     });
     return isAllShown && areSaved ? 0 : 1;
 }

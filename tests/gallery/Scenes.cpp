@@ -52,6 +52,7 @@ public:
     void newLecture();
     void warnings();
     void windows();
+    void playAndPause();
     void popOvers();
     void sheets();
 
@@ -63,11 +64,13 @@ private:
         m_look(QString::fromLatin1(name), window);
     }
     void lookAtMain(const char *name) const { look(name, m_program.window()); }
-    lectures::CustomTableCellView &firstRow() const
+    lectures::CustomTableCellView &rowAt(int row) const
     {
         auto &table = *m_program.windows.mainOutlets().tblRecordSubjectList;
-        return *table.viewAtColumnRowMakeIfNecessary(0, 0, true);
+        return *table.viewAtColumnRowMakeIfNecessary(0, row, true);
     }
+    // It has no audio; the one below it has.
+    lectures::CustomTableCellView &firstRow() const { return rowAt(0); }
     void fill() const;
 
     Application &m_program;
@@ -96,7 +99,11 @@ void Tour::fill() const
         lecture.insertInto(m_program.database);
     };
     add(aLecture().named("Geometric optics").withNotes("Lenses bend light.\n\n00:12:40\nSnell"));
-    add(aLecture().named("Analysis I").withNotes("Uniform convergence").lasting("01:31:05"));
+    add(aLecture()
+            .named("Analysis I")
+            .withNotes("Uniform convergence")
+            .withAudio(makeTake(m_program))
+            .lasting("01:31:05"));
     add(aLecture().named("Worksheet 5").withNotes("Due on Monday").withoutAudio());
     for (const char *day : {"2024-03-01", "2024-03-04", "2024-02-27"})
         add(aLecture().named("Linear algebra").on(day));
@@ -210,15 +217,31 @@ void Tour::windows()
     const lectures::LectureWindows &windows = m_program.windows;
     m_program.controller.onEditLecture(firstRow().btnEdit());
     look("edit", *windows.editLectureOutlets().windowEditLecture);
+    playAndPause();
     look("play", *windows.playAudioOutlets().playAudioWindow);
+    windows.playAudioOutlets().playAudioWindow->hide();
     look("preferences", *m_program.delegate.preferences().preferrenceWindow());
 }
 
+void Tour::playAndPause()
+{
+    m_program.engine.playerDuration = 5465;
+    rowAt(1).btnPlay()->click();
+    m_program.engine.playedSeconds = 605;
+    m_program.clock.advance(1s);
+    m_program.windows.lecturePlayerOutlets().btnPauseLecture->click();
+}
+
+// Each stands at the button that opens it.
 void Tour::popOvers()
 {
     const lectures::PopoverOutlets &outlets = m_program.windows.popoverOutlets();
+    firstRow().btnDelete()->click();
     look("delete", *outlets.popoverConfirmRecordDelete);
+    outlets.popoverConfirmRecordDelete->close();
+    firstRow().btnPlay()->click();
     look("no-audio", *outlets.popoverAudioConfirmClose);
+    outlets.popoverAudioConfirmClose->close();
 }
 
 void Tour::sheets()
@@ -227,9 +250,10 @@ void Tour::sheets()
     auto &bringBack = *m_program.window().findChild<QDialog *>(u"bringBackSheet"_s);
     look("bring-back", bringBack);
     bringBack.close();
-    platform::WindowAlerts().beginSheet(
-        {u"Recording is on process!"_s, u"Ok"_s, u"Please click Done to save."_s},
-        m_program.window(), {});
+    m_program.delegate.applicationShouldTerminate(nullptr);
+    const FakeAlerts::Sheet &asked = m_program.alerts.sheets.last();
+    platform::WindowAlerts().beginSheet({asked.message, asked.button, asked.informativeText},
+                                        m_program.window(), {});
     auto &alert = *m_program.window().findChild<QMessageBox *>();
     look("alert", alert);
     alert.close();
