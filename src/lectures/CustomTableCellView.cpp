@@ -6,6 +6,7 @@
 #include "platform/Texts.h"
 #include "store/LectureInfoItem.h"
 #include "widgets/Colours.h"
+#include "widgets/CutLabel.h"
 #include "widgets/ImageButton.h"
 #include "widgets/ImageView.h"
 #include "widgets/PlainToolTip.h"
@@ -49,21 +50,6 @@ QString beginningOf(const QString &notes)
     return notes.left(400).simplified();
 }
 
-// Keeps its whole text and shows as much of it as there is room for.
-class CutLabel final : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-        painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading, shown);
-    }
-};
-
 } // namespace
 
 CustomTableCellView::CustomTableCellView(QWidget *parent)
@@ -88,7 +74,7 @@ CustomTableCellView::CustomTableCellView(QWidget *parent)
 
 QLabel *CustomTableCellView::makeLabel(const char *name, double size, const QColor &colour)
 {
-    auto *label = new CutLabel(this);
+    auto *label = new widgets::CutLabel(this);
     label->setObjectName(QString::fromLatin1(name));
     // Notes are the student's own words, never markup.
     label->setTextFormat(Qt::PlainText);
@@ -112,7 +98,7 @@ ImageButton *CustomTableCellView::makeButton(const char *name, const char *image
 
 std::array<ImageButton *, 7> CustomTableCellView::buttons() const
 {
-    return {m_btnPlay, m_btnBrowse, m_btnEdit, m_btnDelete, m_btnInfo, m_btnEmail, m_btnExport};
+    return {m_btnPlay, m_btnInfo, m_btnBrowse, m_btnEdit, m_btnDelete, m_btnEmail, m_btnExport};
 }
 
 void CustomTableCellView::setObjectValue(const Lecture &lecture)
@@ -148,8 +134,13 @@ void CustomTableCellView::showButtons()
     const bool isTurnedTo = m_lecture && (m_isMouseOver || m_isCurrent);
     m_btnEdit->setVisible(isTurnedTo);
     m_btnDelete->setVisible(isTurnedTo);
-    m_btnBrowse->setVisible(isTurnedTo && !m_lecture->getLectureAudioPath().isEmpty());
+    m_btnBrowse->setVisible(isTurnedTo && hasFile());
     layoutSubviews();
+}
+
+bool CustomTableCellView::hasFile() const
+{
+    return m_lecture && !m_lecture->getLectureAudioPath().isEmpty();
 }
 
 void CustomTableCellView::layoutSubviews()
@@ -166,16 +157,17 @@ void CustomTableCellView::layoutSubviews()
     const QRect line1(0, (height() - height1 - LineGap - height2 + 1) / 2, 0, height1);
     const QRect line2(0, line1.bottom() + 1 + LineGap, 0, height2);
     const int right = width() - Margin;
+    // Each has its own place, whichever of them show: the mouse comes to a row that the keyboard
+    // is on, and none may move away under it. A pop-over may point to one that does not show.
     int x = right - ButtonSide;
     int notesEnd = right;
     for (ImageButton *button :
-         {m_btnExport, m_btnEmail, m_btnInfo, m_btnDelete, m_btnEdit, m_btnBrowse}) {
-        // One that does not show lies under the last one, where a pop-over about it may point.
+         {m_btnDelete, m_btnEdit, m_btnBrowse, m_btnInfo, m_btnEmail, m_btnExport}) {
         place(*button, {x, line2.center().y() - ButtonSide / 2 + 1, ButtonSide, ButtonSide});
-        if (button->isHidden())
-            continue;
-        notesEnd = x - 2 * ButtonGap;
-        x -= ButtonSide + ButtonGap;
+        if (!button->isHidden())
+            notesEnd = x - 2 * ButtonGap;
+        if (button != m_btnBrowse || hasFile())
+            x -= ButtonSide + ButtonGap;
     }
 
     const int durationWidth = m_duration->sizeHint().width();

@@ -94,6 +94,7 @@ private:
     QMenu *newMenu();
     void closeMenu();
     bool isConfirmDeleteShowing() const;
+    bool hasFile() const;
     void trackMouse();
     void showButtons();
     void layoutSubviews();

@@ -1,12 +1,12 @@
 #include "lectures/PlayingTitle.h"
 
+#include "widgets/CutLabel.h"
 #include "widgets/PlainToolTip.h"
 
 #include <QBoxLayout>
 #include <QEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
+#include <QObject>
 
 namespace tarvelo::lectures {
 
@@ -15,21 +15,17 @@ namespace {
 // As far in as a field of one line writes.
 constexpr int Indent = 2;
 
-// As much of the title as there is room for; the tool tip has it whole.
-class Title final : public QLabel
+// Follows the title of the window.
+class Follower final : public QObject
 {
 public:
-    explicit Title(QLineEdit &subject)
-        : QLabel(subject.parentWidget())
+    Follower(QLineEdit &subject, widgets::CutLabel &title)
+        : QObject(&title)
         , m_subject(subject)
+        , m_title(title)
     {
-        setObjectName(QStringLiteral("lblPlaying"));
-        setTextFormat(Qt::PlainText);
-        setFont(subject.font());
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        setFixedHeight(subject.sizeHint().height());
         subject.installEventFilter(this);
-        window()->installEventFilter(this);
+        title.window()->installEventFilter(this);
         follow();
     }
 
@@ -39,34 +35,39 @@ public:
         if (type == QEvent::ShowToParent || type == QEvent::HideToParent ||
             type == QEvent::WindowTitleChange)
             follow();
-        return QLabel::eventFilter(watched, event);
-    }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        const QRect place = rect().adjusted(Indent, 0, -Indent, 0);
-        painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeading,
-                         fontMetrics().elidedText(text(), Qt::ElideRight, place.width()));
+        return QObject::eventFilter(watched, event);
     }
 
 private:
     void follow()
     {
-        setText(window()->windowTitle());
-        setToolTip(widgets::plainToolTip(text()));
-        setVisible(m_subject.isHidden());
+        m_title.setText(m_title.window()->windowTitle());
+        m_title.setToolTip(widgets::plainToolTip(m_title.text()));
+        m_title.setVisible(m_subject.isHidden());
     }
 
     const QLineEdit &m_subject;
+    widgets::CutLabel &m_title;
 };
+
+widgets::CutLabel *makeTitle(const QLineEdit &subject)
+{
+    auto *title = new widgets::CutLabel(subject.parentWidget());
+    title->setObjectName(QStringLiteral("lblPlaying"));
+    title->setTextFormat(Qt::PlainText);
+    title->setFont(subject.font());
+    title->setContentsMargins(Indent, 0, Indent, 0);
+    title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    title->setFixedHeight(subject.sizeHint().height());
+    return title;
+}
 
 } // namespace
 
 void keepTitleInSight(QLineEdit &subject)
 {
-    auto *title = new Title(subject);
+    auto *title = makeTitle(subject);
+    new Follower(subject, *title);
     for (QHBoxLayout *row : subject.parentWidget()->findChildren<QHBoxLayout *>()) {
         if (const int at = row->indexOf(&subject); at >= 0)
             row->insertWidget(at, title, 1);

@@ -281,6 +281,61 @@ private Q_SLOTS:
         QVERIFY(m_row->btnEdit()->isHidden() && m_row->btnDelete()->isHidden());
     }
 
+    void everyButtonKeepsItsPlaceWhicheverShow_data()
+    {
+        QTest::addColumn<QString>("audioPath");
+        QTest::newRow("with audio") << u"/a.aac"_s;
+        QTest::newRow("without") << QString();
+    }
+
+    void everyButtonKeepsItsPlaceWhicheverShow()
+    {
+        QFETCH(QString, audioPath);
+        m_row->setObjectValue(lecture(u"optics"_s, u"Lenses"_s, audioPath));
+        m_row->setCurrent(true);
+        const QList<QRect> places = placesOfButtons();
+
+        m_row->mouseEntered();
+        QCOMPARE(placesOfButtons(), places);
+
+        m_row->mouseExited();
+        m_row->setCurrent(false);
+        QCOMPARE(placesOfButtons(), places);
+    }
+
+    void theButtonsStandFromTheEndOfTheDurationOnWithoutAGap()
+    {
+        m_row->mouseEntered();
+        for (const QString &audioPath : {u"/a.aac"_s, QString()}) {
+            m_row->setObjectValue(lecture(u"optics"_s, u"Lenses"_s, audioPath));
+
+            int end = label("lblDuration").geometry().right();
+            for (const ImageButton *button :
+                 {m_row->btnDelete(), m_row->btnEdit(), m_row->btnBrowse(), m_row->btnInfo()}) {
+                if (button->isHidden())
+                    continue;
+                QCOMPARE(button->geometry().right(), end);
+                end -= 30;
+            }
+        }
+    }
+
+    void theNotesEndBeforeTheButtonsThatShow()
+    {
+        m_row->setObjectValue(lecture(u"optics"_s, u"Lenses"_s, u"/a.aac"_s));
+        const int atRest = label("lblNotes").geometry().right();
+
+        m_row->setCurrent(true);
+        QVERIFY(label("lblNotes").geometry().right() < m_row->btnBrowse()->x());
+
+        m_row->mouseEntered();
+        QVERIFY(label("lblNotes").geometry().right() < m_row->btnInfo()->x());
+
+        m_row->mouseExited();
+        m_row->setCurrent(false);
+        QCOMPARE(label("lblNotes").geometry().right(), atRest);
+    }
+
     void theMenuHasItsCommandsAtTheirPlaces()
     {
         const QMenu &menu = *m_row->getMenu();
@@ -519,6 +574,13 @@ private:
                 {"test", [this, name](QWidget *sender) { m_senders[name].append(sender); }});
         }
         return m_senders;
+    }
+    QList<QRect> placesOfButtons() const
+    {
+        QList<QRect> places;
+        for (const ImageButton *button : m_row->buttons())
+            places.append(button->geometry());
+        return places;
     }
     QMouseEvent rightPress() const
     {
