@@ -31,6 +31,10 @@
         <source></source>
         <translation>عاد الصوت مسموعًا</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>اختر نسخة: يعود ما هو مفقود ولا يتغير شيء آخر.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>تبيّن في %1 أن ملف المحاضرات تالف. حُفظ جانبًا كاملًا، وعاد كل ما أمكنت قراءته.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>قبل أن تذهب محاضرات كثيرة دفعة واحدة يحتفظ Tarvelo بنسخة منها كلها. اختر نسخة: يعود ما هو مفقود ولا يتغير شيء آخر.</translation>
+        <translation>قبل إزالة محاضرات كثيرة دفعة واحدة يحتفظ Tarvelo بنسخة منها كلها.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>لا توجد نسخ: لم تذهب محاضرات كثيرة دفعة واحدة حتى الآن.</translation>
+        <translation>لا توجد نسخ بعد: لم تُحذف محاضرات كثيرة دفعة واحدة حتى الآن.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -137,7 +141,7 @@
     </message>
     <message id="COLUMN_COPY_OF">
         <source></source>
-        <translation>نسخة من</translation>
+        <translation>تاريخ النسخة</translation>
     </message>
     <message id="COLUMN_LECTURES">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>الدقائق التي يتسع لها القرص: %1</translation>
+        <translation>المساحة المتبقية على القرص: %1 د</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Es ist wieder etwas zu hören</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Wählen Sie eine Kopie: Was fehlt, kommt zurück, und sonst ändert sich nichts.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>Die Datei der Vorlesungen war am %1 beschädigt. Sie wurde ganz beiseitegelegt, und alles Lesbare ist wieder da.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Bevor viele Vorlesungen auf einmal verschwinden, hebt Tarvelo eine Kopie von allen auf. Wählen Sie eine Kopie: Was fehlt, kommt zurück, und sonst ändert sich nichts.</translation>
+        <translation>Bevor viele Vorlesungen auf einmal entfernt werden, hebt Tarvelo eine Kopie von allen auf.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Es gibt keine Kopien: Bisher sind keine Vorlesungen in größerer Zahl verschwunden.</translation>
+        <translation>Es gibt noch keine Kopien: Bisher wurden nicht mehrere Vorlesungen auf einmal entfernt.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -137,7 +141,7 @@
     </message>
     <message id="COLUMN_COPY_OF">
         <source></source>
-        <translation>Kopie von</translation>
+        <translation>Kopie vom</translation>
     </message>
     <message id="COLUMN_LECTURES">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Minuten, für die der Speicher noch reicht: %1</translation>
+        <translation>Platz auf dem Speicher: noch %1 min</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

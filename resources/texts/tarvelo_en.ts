@@ -31,6 +31,10 @@
         <source></source>
         <translation>Sound is heard again</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Choose a copy: what is missing comes back, and nothing else changes.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>The file of lectures was damaged on %1. It was put aside whole, and all that could be read is here again.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Before many lectures go at once, Tarvelo keeps a copy of them all. Choose a copy: what is missing comes back, and nothing else changes.</translation>
+        <translation>Before many lectures are removed at once, Tarvelo keeps a copy of all of them.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>There are no copies: no lectures went in bulk so far.</translation>
+        <translation>There are no copies yet: so far no lectures were removed in bulk.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -137,7 +141,7 @@
     </message>
     <message id="COLUMN_COPY_OF">
         <source></source>
-        <translation>Copy of</translation>
+        <translation>Copy made on</translation>
     </message>
     <message id="COLUMN_LECTURES">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Minutes for which there is room on the disk: %1</translation>
+        <translation>Room left on the disk: %1 min</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Vuelve a oírse sonido</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Elija una copia: lo que falta vuelve y nada más cambia.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>El archivo de las clases estaba dañado el %1. Se apartó entero, y todo lo que pudo leerse está aquí de nuevo.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Antes de que desaparezcan muchas clases a la vez, Tarvelo guarda una copia de todas. Elija una copia: lo que falta vuelve y nada más cambia.</translation>
+        <translation>Antes de que se eliminen muchas clases a la vez, Tarvelo guarda una copia de todas.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>No hay copias: hasta ahora no han desaparecido varias clases a la vez.</translation>
+        <translation>Todavía no hay copias: hasta ahora no se han eliminado varias clases a la vez.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Minutos que aún caben en el disco: %1</translation>
+        <translation>Espacio libre en el disco: %1 min</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

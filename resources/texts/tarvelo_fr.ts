@@ -31,6 +31,10 @@
         <source></source>
         <translation>Le son est de nouveau capté</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Choisissez une copie : ce qui manque revient, et rien d’autre ne change.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>Le fichier des cours était endommagé le %1. Il a été mis de côté en entier, et tout ce qui a pu être lu est de retour.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Avant que plusieurs cours ne disparaissent d’un coup, Tarvelo en garde une copie. Choisissez une copie : ce qui manque revient, et rien d’autre ne change.</translation>
+        <translation>Avant que plusieurs cours ne soient supprimés d’un coup, Tarvelo garde une copie de tous les cours.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Il n’y a pas de copie : jusqu’ici, aucun cours n’a disparu en nombre.</translation>
+        <translation>Il n’y a pas encore de copie : jusqu’ici, plusieurs cours n’ont jamais été supprimés d’un coup.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Minutes que le disque peut encore contenir : %1</translation>
+        <translation>Place restante sur le disque : %1 min</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>שוב נשמע צליל</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>בחרו עותק: מה שחסר יחזור, ושום דבר אחר לא ישתנה.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>ב‑%1 נמצא שקובץ ההרצאות פגום. הוא נשמר בצד בשלמותו, וכל מה שהיה אפשר לקרוא נמצא כאן שוב.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>לפני שהרצאות רבות נעלמות בבת אחת, Tarvelo שומר עותק של כולן. בחרו עותק: מה שחסר יחזור, ושום דבר אחר לא ישתנה.</translation>
+        <translation>לפני שהרצאות רבות מוסרות בבת אחת, Tarvelo שומר עותק של כולן.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>אין עותקים: עד כה לא נעלמו הרצאות רבות בבת אחת.</translation>
+        <translation>אין עדיין עותקים: עד כה לא הוסרו הרצאות רבות בבת אחת.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>דקות שיש להן מקום בדיסק: %1</translation>
+        <translation>מקום פנוי בדיסק: %1 דק׳</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>आवाज़ फिर सुनाई दे रही है</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>कोई प्रति चुनें: जो नहीं है वह लौट आएगा, और कुछ नहीं बदलेगा।</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>%1 को व्याख्यानों की फ़ाइल क्षतिग्रस्त मिली। उसे पूरा अलग रख दिया गया है, और जो पढ़ा जा सका वह फिर यहाँ है।</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>एक साथ कई व्याख्यान जाने से पहले Tarvelo उन सबकी एक प्रति रखता है। कोई प्रति चुनें: जो नहीं है वह लौट आएगा, और कुछ नहीं बदलेगा।</translation>
+        <translation>एक साथ कई व्याख्यान हटाए जाने से पहले Tarvelo उन सबकी एक प्रति रखता है।</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>कोई प्रति नहीं है: अब तक एक साथ कई व्याख्यान नहीं गए।</translation>
+        <translation>अभी कोई प्रति नहीं है: अब तक एक साथ कई व्याख्यान नहीं हटाए गए।</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -137,7 +141,7 @@
     </message>
     <message id="COLUMN_COPY_OF">
         <source></source>
-        <translation>प्रति</translation>
+        <translation>प्रति का समय</translation>
     </message>
     <message id="COLUMN_LECTURES">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>डिस्क में इतने मिनट की जगह है: %1</translation>
+        <translation>डिस्क पर बची जगह: %1 मिनट</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Si sente di nuovo il suono</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Scegli una copia: ciò che manca ritorna e nient’altro cambia.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>Il file delle lezioni era danneggiato il %1. È stato messo da parte intero, e tutto ciò che si poteva leggere è di nuovo qui.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Prima che molte lezioni spariscano insieme, Tarvelo ne conserva una copia. Scegli una copia: ciò che manca ritorna e nient’altro cambia.</translation>
+        <translation>Prima che molte lezioni vengano eliminate insieme, Tarvelo conserva una copia di tutte.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Non ci sono copie: finora non sono sparite più lezioni insieme.</translation>
+        <translation>Non ci sono ancora copie: finora non sono state eliminate più lezioni insieme.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Minuti per cui c’è spazio sul disco: %1</translation>
+        <translation>Spazio rimasto sul disco: %1 min</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>再び音が聞こえています</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>控えを選ぶと、なくなった講義だけが戻り、ほかは変わりません。</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>%1に講義ファイルの破損が見つかりました。ファイルは丸ごと別に保管し、読み取れたものはすべて元に戻しました。</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>多くの講義が一度に失われる前に、Tarvelo はすべての控えを残します。控えを選ぶと、なくなった講義だけが戻り、ほかは変わりません。</translation>
+        <translation>多くの講義が一度に削除される前に、Tarvelo はすべての講義の控えを残します。</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>控えはありません。まとめて失われた講義はまだありません。</translation>
+        <translation>控えはまだありません。まとめて削除された講義はありません。</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>다시 소리가 들립니다</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>사본을 고르면 없어진 강의만 돌아오고 나머지는 그대로입니다.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>%1에 강의 파일이 손상된 것을 발견했습니다. 파일은 그대로 따로 보관했고, 읽을 수 있는 것은 모두 되살렸습니다.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>많은 강의가 한꺼번에 사라지기 전에 Tarvelo가 모두의 사본을 보관합니다. 사본을 고르면 없어진 강의만 돌아오고 나머지는 그대로입니다.</translation>
+        <translation>많은 강의가 한꺼번에 삭제되기 전에 Tarvelo가 모든 강의의 사본을 보관합니다.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>사본이 없습니다. 지금까지 한꺼번에 사라진 강의가 없습니다.</translation>
+        <translation>아직 사본이 없습니다. 지금까지 한꺼번에 삭제된 강의가 없습니다.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>

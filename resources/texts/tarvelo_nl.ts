@@ -31,6 +31,10 @@
         <source></source>
         <translation>Er is weer geluid te horen</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Kies een kopie: wat ontbreekt komt terug, en verder verandert er niets.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>Het bestand met colleges was op %1 beschadigd. Het is in zijn geheel apart gezet, en alles wat leesbaar was is hier weer.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Voordat veel colleges tegelijk verdwijnen, bewaart Tarvelo een kopie van alle. Kies een kopie: wat ontbreekt komt terug, en verder verandert er niets.</translation>
+        <translation>Voordat veel colleges tegelijk worden verwijderd, bewaart Tarvelo een kopie van alle colleges.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Er zijn geen kopieën: tot nu toe zijn er geen colleges tegelijk verdwenen.</translation>
+        <translation>Er zijn nog geen kopieën: tot nu toe zijn er nooit veel colleges tegelijk verwijderd.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -137,7 +141,7 @@
     </message>
     <message id="COLUMN_COPY_OF">
         <source></source>
-        <translation>Kopie van</translation>
+        <translation>Kopie gemaakt op</translation>
     </message>
     <message id="COLUMN_LECTURES">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Minuten waarvoor er nog schijfruimte is: %1</translation>
+        <translation>Ruimte over op de schijf: %1 min</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

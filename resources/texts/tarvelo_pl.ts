@@ -31,6 +31,10 @@
         <source></source>
         <translation>Znów słychać dźwięk</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Wybierz kopię: brakujące wykłady wrócą, a nic innego się nie zmieni.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>Plik wykładów był uszkodzony %1. Odłożono go w całości, a wszystko, co dało się odczytać, jest znów tutaj.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Zanim wiele wykładów zniknie naraz, Tarvelo zachowuje kopię wszystkich. Wybierz kopię: brakujące wykłady wrócą, a nic innego się nie zmieni.</translation>
+        <translation>Zanim wiele wykładów zostanie usuniętych naraz, Tarvelo zachowuje kopię wszystkich.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Nie ma kopii: dotąd nie zniknęło naraz wiele wykładów.</translation>
+        <translation>Nie ma jeszcze kopii: dotąd nie usunięto naraz wielu wykładów.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Minuty, na które jest miejsce na dysku: %1</translation>
+        <translation>Wolne miejsce na dysku: %1 min</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

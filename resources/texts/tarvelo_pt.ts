@@ -31,6 +31,10 @@
         <source></source>
         <translation>Ouve-se som de novo</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Escolha uma cópia: o que falta volta e nada mais muda.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>O ficheiro das aulas estava danificado em %1. Foi posto de lado inteiro, e tudo o que se pôde ler está aqui de novo.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Antes de muitas aulas desaparecerem de uma vez, o Tarvelo guarda uma cópia de todas. Escolha uma cópia: o que falta volta e nada mais muda.</translation>
+        <translation>Antes de muitas aulas serem removidas de uma vez, o Tarvelo guarda uma cópia de todas.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Não há cópias: até agora não desapareceram várias aulas de uma vez.</translation>
+        <translation>Ainda não há cópias: até agora não foram removidas várias aulas de uma vez.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -137,7 +141,7 @@
     </message>
     <message id="COLUMN_COPY_OF">
         <source></source>
-        <translation>Cópia de</translation>
+        <translation>Cópia feita em</translation>
     </message>
     <message id="COLUMN_LECTURES">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Minutos para os quais há espaço no disco: %1</translation>
+        <translation>Espaço livre no disco: %1 min</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Звук снова слышен</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Выберите копию: недостающее вернётся, остальное не изменится.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>Файл лекций оказался повреждён (%1). Он целиком отложен в сторону, а всё, что удалось прочитать, снова здесь.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Прежде чем исчезнет сразу много лекций, Tarvelo сохраняет копию всех. Выберите копию: недостающее вернётся, остальное не изменится.</translation>
+        <translation>Прежде чем сразу много лекций будет удалено, Tarvelo сохраняет копию всех.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Копий нет: до сих пор лекции не исчезали помногу.</translation>
+        <translation>Копий пока нет: до сих пор лекции не удалялись помногу.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Минут, на которые хватит места на диске: %1</translation>
+        <translation>Осталось места на диске: %1 мин</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

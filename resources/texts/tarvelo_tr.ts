@@ -31,6 +31,10 @@
         <source></source>
         <translation>Ses yeniden duyuluyor</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Bir kopya seçin: eksik olanlar geri gelir, başka hiçbir şey değişmez.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>Ders dosyasının %1 tarihinde hasarlı olduğu görüldü. Dosya bütünüyle bir kenara kondu; okunabilen her şey yine burada.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Tarvelo, birçok ders birden gitmeden önce hepsinin bir kopyasını saklar. Bir kopya seçin: eksik olanlar geri gelir, başka hiçbir şey değişmez.</translation>
+        <translation>Tarvelo, birçok ders birden silinmeden önce hepsinin bir kopyasını saklar.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Kopya yok: şimdiye kadar toplu ders kaybı olmadı.</translation>
+        <translation>Henüz kopya yok: şimdiye kadar dersler toplu olarak silinmedi.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Diskte yer kalan dakika: %1</translation>
+        <translation>Diskte kalan yer: %1 dk</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

@@ -31,6 +31,10 @@
         <source></source>
         <translation>Звук знову чути</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>Виберіть копію: те, чого бракує, повернеться, решта не зміниться.</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>Файл лекцій виявився пошкодженим (%1). Його цілком відкладено, а все, що вдалося прочитати, знову тут.</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Перш ніж зникне відразу багато лекцій, Tarvelo зберігає копію всіх. Виберіть копію: те, чого бракує, повернеться, решта не зміниться.</translation>
+        <translation>Перш ніж відразу багато лекцій буде видалено, Tarvelo зберігає копію всіх.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>Копій немає: досі лекції не зникали по кілька відразу.</translation>
+        <translation>Копій поки немає: досі лекції не видалялися по кілька відразу.</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>
@@ -353,7 +357,7 @@
     </message>
     <message id="RECORDING_LITTLE_ROOM">
         <source></source>
-        <translation>Хвилин, на які вистачить місця на диску: %1</translation>
+        <translation>Залишилося місця на диску: %1 хв</translation>
     </message>
     <message id="RECORDING_NOTHING_HEARD">
         <source></source>

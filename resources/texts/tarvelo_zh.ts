@@ -31,6 +31,10 @@
         <source></source>
         <translation>又听到声音了</translation>
     </message>
+    <message id="BRING_BACK_CHOOSE">
+        <source></source>
+        <translation>请选择一个副本：缺少的讲座会回来，其他内容不变。</translation>
+    </message>
     <message id="BRING_BACK_DAMAGED">
         <source></source>
         <translation>%1 发现讲座文件已损坏。该文件已完整另存，所有能读取的内容都已恢复。</translation>
@@ -41,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>在许多讲座一次性消失之前，Tarvelo 会保留全部讲座的副本。请选择一个副本：缺少的讲座会回来，其他内容不变。</translation>
+        <translation>在许多讲座被一次性删除之前，Tarvelo 会保留全部讲座的副本。</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>
@@ -49,7 +53,7 @@
     </message>
     <message id="BRING_BACK_NO_COPIES">
         <source></source>
-        <translation>没有副本：到目前为止没有讲座成批消失。</translation>
+        <translation>还没有副本：到目前为止没有讲座被成批删除。</translation>
     </message>
     <message id="BRING_BACK_RECORDINGS">
         <source></source>

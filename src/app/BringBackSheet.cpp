@@ -70,6 +70,8 @@ void BringBackSheet::build()
     dressList();
     auto *explained = makeWrappedLabel("explained");
     explained->setText(text("BRING_BACK_EXPLAINED"));
+    m_choose = makeWrappedLabel("choose");
+    m_choose->setText(text("BRING_BACK_CHOOSE"));
     m_damaged = makeWrappedLabel("damaged");
     m_outcome = makeWrappedLabel("outcome");
     m_bringBack = new QPushButton(text("BUTTON_BRING_BACK"));
@@ -84,6 +86,7 @@ void BringBackSheet::build()
     buttons->addWidget(m_bringBack);
     auto *column = new QVBoxLayout(m_sheet);
     column->addWidget(explained);
+    column->addWidget(m_choose);
     column->addWidget(m_list);
     column->addWidget(m_damaged);
     column->addWidget(m_outcome);
@@ -143,6 +146,7 @@ void BringBackSheet::list()
                  copy.lectures, copy.missing);
     if (m_recordings.count() > 0)
         addEntry(text("BRING_BACK_RECORDINGS"), m_recordings.count(), m_recordings.count());
+    m_choose->setHidden(m_copies.isEmpty());
     showListOrNone();
     m_list->setCurrentItem(m_list->topLevelItem(0));
     offer();

@@ -63,6 +63,7 @@ private:
     QList<store::LectureBackups::Copy> m_copies;
     QDialog *m_sheet; // child of the main window, and all below are its
     QTreeWidget *m_list = nullptr;
+    QLabel *m_choose = nullptr;
     QLabel *m_damaged = nullptr;
     QLabel *m_outcome = nullptr;
     QPushButton *m_bringBack = nullptr;

@@ -5,11 +5,13 @@
 #include "audio/engine/Reserve.h"
 #include "platform/Announcer.h"
 #include "platform/Texts.h"
+#include "widgets/Colours.h"
 
 #include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
+#include <QPalette>
 #include <QStringList>
 
 #include <algorithm>
@@ -153,10 +155,20 @@ void RecordingWatch::show(RoomLeft room, bool isNothingHeard)
     m_shownRoom = room;
     m_shownRoomText = ofRoom;
     m_isSilenceShown = isNothingHeard;
-    m_outlets.lblRecordingWarning->setText(lines.join(u'\n'));
-    m_outlets.lblRecordingWarning->setHidden(lines.isEmpty());
+    say(*m_outlets.lblRecordingWarning, lines.join(u'\n'),
+        room == RoomLeft::HardlyAny || isNothingHeard);
     if (!news.isEmpty())
         announce(news.join(u' '));
+}
+
+void RecordingWatch::say(QLabel &line, const QString &words, bool isWarning)
+{
+    QPalette palette = line.palette();
+    palette.setColor(QPalette::WindowText,
+                     isWarning ? widgets::colours().warning : widgets::colours().ink);
+    line.setPalette(palette);
+    line.setText(words);
+    line.setHidden(words.isEmpty());
 }
 
 void RecordingWatch::announce(const QString &words) const

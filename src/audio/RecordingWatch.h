@@ -32,6 +32,10 @@ public:
 
     bool eventFilter(QObject *window, QEvent *event) override;
 
+    // Shows `words` in the line, in the colour of texts unless they warn, and hides it when there
+    // are none.
+    static void say(QLabel &line, const QString &words, bool isWarning);
+
 private:
     enum class RoomLeft { Enough, Little, HardlyAny };
 

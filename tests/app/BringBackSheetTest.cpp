@@ -36,7 +36,8 @@ private Q_SLOTS:
 
         QVERIFY(sheet().isVisible());
         QCOMPARE(list().topLevelItemCount(), 0);
-        QCOMPARE(outcome(), u"There are no copies: no lectures went in bulk so far."_s);
+        QCOMPARE(outcome(), u"There are no copies yet: so far no lectures were removed in bulk."_s);
+        QVERIFY(choose().isHidden());
         QVERIFY(!button().isEnabled());
         QVERIFY(list().isHidden());
     }
@@ -53,6 +54,7 @@ private Q_SLOTS:
         QVERIFY(list().hasFocus() || !sheet().isActiveWindow());
         QVERIFY(button().isDefault());
         QVERIFY(outcome().isEmpty());
+        QVERIFY(choose().isVisible());
         const QTreeWidgetItem &copy = *list().topLevelItem(0);
         for (const int column : {1, 2})
             QVERIFY(Qt::Alignment(copy.textAlignment(column)).testFlag(Qt::AlignRight));
@@ -209,6 +211,7 @@ private:
         QVERIFY(file.setFileTime(m_app->clock.now(), QFileDevice::FileModificationTime));
     }
     QLabel &damaged() const { return *sheet().findChild<QLabel *>(u"damaged"_s); }
+    QLabel &choose() const { return *sheet().findChild<QLabel *>(u"choose"_s); }
     QString outcome() const { return sheet().findChild<QLabel *>(u"outcome"_s)->text(); }
 
     // Two without a recording, which go together.

@@ -6,6 +6,7 @@
 #include "audio/engine/TakeWriter.h"
 #include "platform/Texts.h"
 #include "support/TestSound.h"
+#include "widgets/Colours.h"
 
 #include <optional>
 
@@ -23,7 +24,7 @@ const QString NothingHeard = u"Nothing is heard. Is the microphone on?"_s;
 
 QString little(int minutes)
 {
-    return u"Minutes for which there is room on the disk: %1"_s.arg(minutes);
+    return u"Room left on the disk: %1 min"_s.arg(minutes);
 }
 
 QString hardlyAny(int minutes)
@@ -61,6 +62,25 @@ private Q_SLOTS:
 
         QCOMPARE(line(), little(29));
         QCOMPARE(takeSaid(), little(29));
+    }
+
+    void onlyWhatIsUrgentHasTheColourOfWarnings()
+    {
+        m_room = 20 * Minute;
+        record();
+        QCOMPARE(colour(), tarvelo::widgets::colours().ink);
+
+        m_room = 4 * Minute;
+        hearFor(5);
+        QCOMPARE(colour(), tarvelo::widgets::colours().warning);
+
+        m_room = 20 * Minute;
+        hearFor(5);
+        QCOMPARE(line(), little(20));
+        QCOMPARE(colour(), tarvelo::widgets::colours().ink);
+        beQuietFor(10);
+        QVERIFY(line().endsWith(NothingHeard));
+        QCOMPARE(colour(), tarvelo::widgets::colours().warning);
     }
 
     void halfAnHourOfRoomIsEnough()
@@ -443,6 +463,10 @@ private:
     {
         const QLabel &label = m_stage->window.lblRecordingWarning;
         return label.isHidden() ? QString() : label.text();
+    }
+    QColor colour() const
+    {
+        return m_stage->window.lblRecordingWarning.palette().color(QPalette::WindowText);
     }
     // What was said to who cannot see it since this was last asked.
     QString takeSaid() const

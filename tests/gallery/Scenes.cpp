@@ -1,5 +1,6 @@
 #include "gallery/Scenes.h"
 
+#include "audio/RecordingWatch.h"
 #include "gallery/ControlScenes.h"
 #include "lectures/CustomTableCellView.h"
 #include "lectures/LectureTable.h"
@@ -202,11 +203,12 @@ void Tour::warnings()
     const QString minutes = QLocale().toString(29);
     m_program.clock.advance(10s);
     look("new-lecture-nothing-heard", *line.window());
-    line.setText(platform::text("RECORDING_LITTLE_ROOM").arg(minutes));
+    audio::RecordingWatch::say(line, platform::text("RECORDING_LITTLE_ROOM").arg(minutes), false);
     look("new-lecture-little-room", *line.window());
-    line.setText(platform::text("RECORDING_HARDLY_ANY_ROOM").arg(minutes));
+    const QString warning = platform::text("RECORDING_HARDLY_ANY_ROOM").arg(minutes);
+    audio::RecordingWatch::say(line, warning, true);
     look("new-lecture-hardly-any-room", *line.window());
-    line.setText(line.text() + u'\n' + platform::text("RECORDING_NOTHING_HEARD"));
+    line.setText(warning + u'\n' + platform::text("RECORDING_NOTHING_HEARD"));
     look("new-lecture-hardly-any-room-nothing-heard", *line.window());
     m_program.engine.soundHeard = {12, 12};
     m_program.clock.advance(1s);
