@@ -1,7 +1,6 @@
 #include "platform/WindowLevel.h"
 
 #include <QGuiApplication>
-#include <QPainterPath>
 #include <QPoint>
 #include <QPolygonF>
 #include <QRect>
@@ -52,10 +51,10 @@ void centreOver(QWidget &window, const QWidget &other)
     window.move(frame.topLeft());
 }
 
-void setWindowShape(QWidget &window, const QPainterPath &outline)
+void setWindowShape(QWidget &window, const QRegion &shape)
 {
     if (!isOnWayland())
-        window.setMask(QRegion(outline.toFillPolygon().toPolygon()));
+        window.setMask(shape);
 }
 
 void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on)

@@ -36,7 +36,8 @@ CardView::CardView(QWidget *parent)
 // Where windows have no shapes (Wayland) they can be seen through, and the corners are clear.
 void CardView::resizeEvent(QResizeEvent *)
 {
-    platform::setWindowShape(*window(), roundedRect(rect(), ShapeRadius));
+    const QPainterPath outline = roundedRect(rect(), ShapeRadius);
+    platform::setWindowShape(*window(), QRegion(outline.toFillPolygon().toPolygon()));
 }
 
 void CardView::paintEvent(QPaintEvent *)

@@ -8,6 +8,7 @@
 #include <memory>
 
 class QPainterPath;
+class QRegion;
 
 namespace tarvelo::widgets {
 
@@ -45,6 +46,7 @@ private:
     QRect placeAt(const QRect &anchor, Qt::Edge edge) const;
     void place(const QRect &anchor, Qt::Edge preferredEdge);
     QPainterPath outline(double inset) const;
+    QRegion shape() const;
     void anchorEvent(const QEvent &event);
 
     QWidget *m_content;

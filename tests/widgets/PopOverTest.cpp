@@ -41,6 +41,20 @@ private Q_SLOTS:
                  m_window->mapToGlobal(Anchor.topRight()).x() + 1);
     }
 
+    // Otherwise the shape would cut the line off one of them.
+    void theArrowHasTwoSidesThatAreAlike()
+    {
+        show(Qt::BottomEdge);
+
+        const QRegion shape = m_popOver->mask();
+        const QPoint tip = m_popOver->mapFromGlobal(m_popOver->arrowTip());
+        QVERIFY(shape.contains(tip + QPoint(0, 1)));
+        for (int y = 0; y < 10; ++y)
+            for (int x = 0; x < 20; ++x)
+                QCOMPARE(shape.contains(tip + QPoint(-1 - x, y)),
+                         shape.contains(tip + QPoint(x, y)));
+    }
+
     void whereTheScreenHasNoRoomItStandsAtTheOppositeEdge()
     {
         const QRect screen = m_window->screen()->availableGeometry();
