@@ -1,9 +1,6 @@
 #include "lectures/Popovers.h"
 
-#include "lectures/Dressing.h"
 #include "platform/Texts.h"
-#include "widgets/Colours.h"
-#include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LightPalette.h"
 #include "widgets/PopOver.h"
@@ -20,7 +17,9 @@ using widgets::ImageButton;
 
 namespace {
 
-// A text over a row of buttons.
+constexpr int GapBetweenButtons = 8;
+
+// A text over a row of buttons, in the letters of every other sheet.
 std::unique_ptr<widgets::PopOver> makePopover(const char *labelName)
 {
     auto content = std::make_unique<QWidget>();
@@ -32,11 +31,11 @@ std::unique_ptr<widgets::PopOver> makePopover(const char *labelName)
     label->setTextFormat(Qt::PlainText);
     layout->addWidget(label);
     auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(GapBetweenButtons);
     buttons->addStretch();
     layout->addLayout(buttons);
     auto popover = std::make_unique<widgets::PopOver>(std::move(content));
     widgets::setLightPalette(*popover);
-    style(*label, 14, widgets::colours().ink);
     return popover;
 }
 
@@ -45,7 +44,6 @@ ImageButton *addButton(QWidget &popoverContent, const char *name, const char *te
     auto *button = new ImageButton(&popoverContent);
     button->setObjectName(QString::fromLatin1(name));
     button->setText(platform::text(textKey));
-    button->setFont(widgets::scaledFace(14));
     // Return presses the button that has the keyboard.
     button->setAutoDefault(true);
     popoverContent.layout()->itemAt(1)->layout()->addWidget(button);

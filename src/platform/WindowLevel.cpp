@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QPoint>
-#include <QPolygonF>
 #include <QRect>
 #include <QRegion>
 #include <QScreen>

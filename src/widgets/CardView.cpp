@@ -7,7 +7,9 @@
 #include <QPainterPath>
 #include <QPalette>
 #include <QPen>
+#include <QPolygonF>
 #include <QRectF>
+#include <QRegion>
 
 namespace tarvelo::widgets {
 

@@ -13,6 +13,7 @@
 #include <QPointF>
 #include <QPolygonF>
 #include <QRectF>
+#include <QRegion>
 #include <QScreen>
 #include <QSize>
 #include <QVBoxLayout>

@@ -238,10 +238,17 @@ void Tour::playAndPause()
 void Tour::popOvers()
 {
     const lectures::PopoverOutlets &outlets = m_program.windows.popoverOutlets();
+    // The answer that Return presses is marked once the keyboard is there.
+    const auto waitFor = [](const QWidget &popOver) {
+        static_cast<void>(
+            QTest::qWaitFor([&] { return QApplication::activeWindow() == &popOver; }));
+    };
     firstRow().btnDelete()->click();
+    waitFor(*outlets.popoverConfirmRecordDelete);
     look("delete", *outlets.popoverConfirmRecordDelete);
     outlets.popoverConfirmRecordDelete->close();
     firstRow().btnPlay()->click();
+    waitFor(*outlets.popoverAudioConfirmClose);
     look("no-audio", *outlets.popoverAudioConfirmClose);
     outlets.popoverAudioConfirmClose->close();
 }

@@ -1,7 +1,13 @@
 #include "lectures/Popovers.h"
 
 #include "lectures/ProgramCase.h"
+#include "widgets/ControlStyle.h"
+#include "widgets/ImageButton.h"
 #include "widgets/PopOver.h"
+
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
 
 class PopoversTest final : public tarvelo::tests::ProgramCase
 {
@@ -22,6 +28,22 @@ private Q_SLOTS:
         QCOMPARE(popovers.btnClosePopover->window(), popovers.popoverAudioConfirmClose);
         QVERIFY(popovers.popoverConfirmRecordDelete->isHidden());
         QVERIFY(popovers.popoverAudioConfirmClose->isHidden());
+    }
+
+    // As those of every other window.
+    void theirButtonsAndTextsHaveOneSize()
+    {
+        QApplication::setStyle(new tarvelo::widgets::ControlStyle);
+        const auto &popovers = windows().popoverOutlets();
+
+        for (const QPushButton *button :
+             {popovers.btnConfirmNo, popovers.btnConfirmYes, popovers.btnClosePopover}) {
+            QCOMPARE(button->font(), QApplication::font());
+            QCOMPARE(button->sizeHint().height(), QPushButton(u"No"_s).sizeHint().height());
+        }
+        for (const QLabel *label :
+             {popovers.lblRecordDeleteConfirmation, popovers.lblPopoverNoAudio})
+            QCOMPARE(label->font(), QApplication::font());
     }
 };
 
