@@ -27,6 +27,9 @@ LectureTable::LectureTable(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Base);
     verticalScrollBar()->setSingleStep(CustomTableCellView::RowHeight / 3);
+    // It lies over the margin of the rows, so that what ends there ends at the same place whether
+    // or not there is a bar, under the button above the list.
+    verticalScrollBar()->setAttribute(Qt::WA_OpaquePaintEvent, false);
     connect(m_slideUp, &RowSlideUp::moved, this, [this] {
         updateScrollBar();
         layoutRows();

@@ -305,10 +305,12 @@ void paintSlider(QPainter &painter, const QStyleOptionSlider &option, const QRec
     painter.drawEllipse(middle, radius, radius);
 }
 
-void paintScrollBar(QPainter &painter, const QStyleOptionSlider &option, const QRect &handle)
+void paintScrollBar(QPainter &painter, const QStyleOptionSlider &option, const QRect &handle,
+                    bool isSeenThrough)
 {
     const Restored restored(painter);
-    painter.fillRect(option.rect, option.palette.color(QPalette::Base));
+    if (!isSeenThrough)
+        painter.fillRect(option.rect, option.palette.color(QPalette::Base));
     if (option.maximum <= option.minimum)
         return;
     painter.setPen(Qt::NoPen);

@@ -43,6 +43,8 @@ void paintRadioButton(QPainter &painter, const QStyleOption &option);
 void paintHeaderSection(QPainter &painter, const QStyleOption &option);
 void paintSlider(QPainter &painter, const QStyleOptionSlider &option, const QRect &groove,
                  const QRect &handle);
-void paintScrollBar(QPainter &painter, const QStyleOptionSlider &option, const QRect &handle);
+// On what lies below it when it is seen through.
+void paintScrollBar(QPainter &painter, const QStyleOptionSlider &option, const QRect &handle,
+                    bool isSeenThrough);
 
 } // namespace tarvelo::widgets

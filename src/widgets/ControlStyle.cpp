@@ -68,6 +68,12 @@ bool hasRoundFrame(const QWidget *widget)
     return area && area->frameShape() == QFrame::StyledPanel;
 }
 
+// A scroll bar that does not paint all of itself lies over what scrolls.
+bool isSeenThrough(const QWidget *bar)
+{
+    return bar && !bar->testAttribute(Qt::WA_OpaquePaintEvent);
+}
+
 // In the accent of the window, also on a list that marks its rows by a pale colour of its own.
 void paintRing(QPainter &painter, const QStyleOption &option, const QWidget *widget)
 {
@@ -241,7 +247,8 @@ void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOption
         paintSlider(*painter, *slider, sliderPart(*slider, SC_SliderGroove),
                     sliderPart(*slider, SC_SliderHandle));
     else if (slider && control == CC_ScrollBar)
-        paintScrollBar(*painter, *slider, scrollBarPart(*slider, SC_ScrollBarSlider));
+        paintScrollBar(*painter, *slider, scrollBarPart(*slider, SC_ScrollBarSlider),
+                       isSeenThrough(widget));
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -305,6 +312,8 @@ int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
         return SliderHandleSide;
     case PM_ScrollBarExtent:
         return ScrollBarWidth;
+    case PM_ScrollView_ScrollBarOverlap:
+        return isSeenThrough(widget) ? ScrollBarWidth : 0;
     case PM_ScrollBarSliderMin:
         return ShortestScrollHandle;
     case PM_DefaultFrameWidth:

@@ -3,6 +3,8 @@
 #include "lectures/CustomTableCellView.h"
 #include "store/LectureInfoItem.h"
 #include "support/TestCase.h"
+#include "widgets/Colours.h"
+#include "widgets/ControlStyle.h"
 #include "widgets/ImageButton.h"
 
 #include <QAbstractListModel>
@@ -155,6 +157,25 @@ private Q_SLOTS:
         m_lectures->setCount(3);
 
         QCOMPARE(m_table->verticalScrollBar()->maximum(), 0);
+    }
+
+    // What ends at the end of a row ends at one place whether or not there is a bar.
+    void theScrollBarLiesOverTheRows()
+    {
+        QApplication::setStyle(new tarvelo::widgets::ControlStyle);
+        m_table->resize(300, 401);
+        const QScrollBar &bar = *m_table->verticalScrollBar();
+        QVERIFY(bar.isVisible());
+        QCOMPARE(viewOf(0)->width(), 300);
+        // The line below the row shows beside the handle, which lies over it.
+        const QImage image = m_table->grab().toImage();
+        QCOMPARE(image.pixelColor(299, RowHeight - 1), tarvelo::widgets::colours().hairline);
+        QVERIFY(image.pixelColor(294, RowHeight - 1) != image.pixelColor(299, RowHeight - 1));
+
+        m_lectures->setCount(3);
+        QTRY_VERIFY(!bar.isVisible());
+        QCOMPARE(viewOf(0)->width(), 300);
+        QApplication::setStyle(u"Fusion"_s);
     }
 
     void aRowInSightIsNotScrolledTo()
