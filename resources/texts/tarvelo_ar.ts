@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>اضغط زر الإضافة لتسجيل محاضرة.</translation>
+        <translation>اضغط «محاضرة جديدة» للتسجيل.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Mit der Plus-Taste eine aufnehmen.</translation>
+        <translation>Mit „Neue Vorlesung“ eine aufnehmen.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Press the plus button to record one.</translation>
+        <translation>Press “New Lecture” to record one.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Pulse el botón «más» para grabar una.</translation>
+        <translation>Pulse «Clase nueva» para grabar una.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Appuyez sur le bouton plus pour en enregistrer un.</translation>
+        <translation>Appuyez sur « Nouveau cours » pour en enregistrer un.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>לחיצה על לחצן הפלוס תקליט הרצאה.</translation>
+        <translation>לחצו על ”הרצאה חדשה” כדי להקליט.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

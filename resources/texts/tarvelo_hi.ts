@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>रिकॉर्ड करने के लिए प्लस बटन दबाएँ।</translation>
+        <translation>रिकॉर्ड करने के लिए “नया व्याख्यान” दबाएँ।</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

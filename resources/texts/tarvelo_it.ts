@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Premi il pulsante più per registrarne una.</translation>
+        <translation>Premi «Nuova lezione» per registrarne una.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

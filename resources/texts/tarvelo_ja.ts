@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>プラスボタンを押すと録音できます。</translation>
+        <translation>「新しい講義」を押すと録音できます。</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

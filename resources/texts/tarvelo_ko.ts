@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>더하기 버튼을 눌러 녹음하세요.</translation>
+        <translation>‘새 강의’를 눌러 녹음하세요.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

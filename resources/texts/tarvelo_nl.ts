@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Druk op de plusknop om er een op te nemen.</translation>
+        <translation>Druk op ‘Nieuw college’ om er een op te nemen.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

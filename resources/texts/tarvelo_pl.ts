@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Naciśnij przycisk plusa, aby nagrać wykład.</translation>
+        <translation>Naciśnij „Nowy wykład”, aby go nagrać.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Clique no botão de mais para gravar uma.</translation>
+        <translation>Clique em «Nova aula» para gravar uma.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

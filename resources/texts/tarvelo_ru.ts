@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Нажмите кнопку «плюс», чтобы записать.</translation>
+        <translation>Нажмите «Новая лекция», чтобы записать её.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

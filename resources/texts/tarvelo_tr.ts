@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Kaydetmek için artı düğmesine basın.</translation>
+        <translation>Kaydetmek için “Yeni ders” düğmesine basın.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

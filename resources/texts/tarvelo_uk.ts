@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>Натисніть кнопку «плюс», щоб записати.</translation>
+        <translation>Натисніть «Нова лекція», щоб записати її.</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

@@ -161,7 +161,7 @@
     </message>
     <message id="EMPTY_DAY_HINT">
         <source></source>
-        <translation>按加号按钮即可录音。</translation>
+        <translation>按“新建讲座”即可录音。</translation>
     </message>
     <message id="EMPTY_DAY_TITLE">
         <source></source>

@@ -1,6 +1,7 @@
 #include "lectures/MainWindow.h"
 
 #include "lectures/ProgramCase.h"
+#include "lectures/WindowWidths.h"
 
 #include <QLayout>
 
@@ -45,6 +46,22 @@ private Q_SLOTS:
         QCOMPARE(calendar.x(), -2);
         QCOMPARE(calendar.width(), 450);
         QCOMPARE(calendar.y() + calendar.height(), 540);
+    }
+
+    void theLineBetweenTwoPanesShowsOnlyWithBoth()
+    {
+        auto &window = windows().mainWindow();
+        const auto isInSight = [&](const char *line) {
+            const auto *view = window.findChild<QWidget *>(QLatin1String(line));
+            return window.rect().contains(view->geometry());
+        };
+        QVERIFY(isInSight("paneLine") && !isInSight("lectureLine"));
+
+        window.setFrameWidth(tarvelo::lectures::FoldedWidth, false);
+        QVERIFY(!isInSight("paneLine") && !isInSight("lectureLine"));
+
+        window.setFrameWidth(tarvelo::lectures::ExpandedWidth, false);
+        QVERIFY(isInSight("paneLine") && isInSight("lectureLine"));
     }
 };
 
