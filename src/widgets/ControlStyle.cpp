@@ -29,6 +29,8 @@ constexpr QSize RoomAroundTitle(28, 14);
 constexpr int ScrollBarWidth = 12;
 constexpr int ShortestScrollHandle = 28;
 constexpr int ListRowHeight = 32;
+// Above the first command of a menu and below the last one.
+constexpr int MenuMargin = 4;
 
 bool isDefault(const QStyleOption &option)
 {
@@ -310,6 +312,8 @@ int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     case PM_SliderThickness:
     case PM_SliderControlThickness:
         return SliderHandleSide;
+    case PM_MenuVMargin:
+        return MenuMargin;
     case PM_ScrollBarExtent:
         return ScrollBarWidth;
     case PM_ScrollView_ScrollBarOverlap:

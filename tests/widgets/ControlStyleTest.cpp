@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -267,6 +268,20 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(175, 6), Outline);
         QCOMPARE(image.pixelColor(25, 6), QColor(Qt::white));
         QVERIFY(bar.isSliderDown());
+    }
+
+    void aMenuHasRoomAboveItsFirstCommandAndBelowItsLast()
+    {
+        QMenu menu(m_window.get());
+        menu.addAction(u"Edit"_s);
+        menu.addAction(u"Delete"_s);
+        menu.resize(menu.sizeHint());
+
+        const QRect first = menu.actionGeometry(menu.actions().constFirst());
+        const QRect last = menu.actionGeometry(menu.actions().constLast());
+
+        QVERIFY(first.top() >= 4);
+        QCOMPARE(menu.height() - 1 - last.bottom(), first.top());
     }
 
     void rowsOfAListAreHighEnoughToBeHit()
