@@ -259,6 +259,10 @@
         <source></source>
         <translation>انتهى Tarvelo قبل حفظ هذه المحاضرة. احتفظ بها تحت يومها، أو استمع إليها أولاً. إذا أغلقت هذه النافذة فستُعرض المحاضرة مجدداً عند التشغيل التالي.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>انتهى Tarvelo قبل حفظ هذه المحاضرة. احتفظ بها تحت يومها. إذا أغلقت هذه النافذة فستُعرض المحاضرة مجدداً عند التشغيل التالي.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>لا يمكن الاحتفاظ بالمحاضرة الآن. لم يُفقد شيء: ستُعرض مجدداً عند التشغيل التالي.</translation>

@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo endete, bevor diese Vorlesung gesichert war. Behalten Sie sie unter ihrem Tag, oder hören Sie sie erst an. Wenn Sie dieses Fenster schließen, wird sie beim nächsten Start wieder angeboten.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo endete, bevor diese Vorlesung gesichert war. Behalten Sie sie unter ihrem Tag. Wenn Sie dieses Fenster schließen, wird sie beim nächsten Start wieder angeboten.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>Die Vorlesung kann jetzt nicht behalten werden. Nichts ist verloren: Beim nächsten Start wird sie wieder angeboten.</translation>

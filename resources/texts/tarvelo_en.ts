@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo ended before this lecture was saved. Keep it under its day, or listen to it first. If you close this window, the lecture is offered again at the next start.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo ended before this lecture was saved. Keep it under its day. If you close this window, the lecture is offered again at the next start.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>The lecture cannot be kept now. Nothing is lost: it is offered again at the next start.</translation>

@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo terminó antes de que se guardara esta clase. Consérvela en su día o escúchela primero. Si cierra esta ventana, la clase se ofrecerá de nuevo en el próximo inicio.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo terminó antes de que se guardara esta clase. Consérvela en su día. Si cierra esta ventana, la clase se ofrecerá de nuevo en el próximo inicio.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>La clase no se puede conservar ahora. No se pierde nada: se ofrecerá de nuevo en el próximo inicio.</translation>

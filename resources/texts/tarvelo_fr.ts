@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo s’est terminé avant que ce cours soit enregistré. Conservez-le sous son jour, ou écoutez-le d’abord. Si vous fermez cette fenêtre, le cours sera proposé de nouveau au prochain démarrage.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo s’est terminé avant que ce cours soit enregistré. Conservez-le sous son jour. Si vous fermez cette fenêtre, le cours sera proposé de nouveau au prochain démarrage.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>Le cours ne peut pas être conservé maintenant. Rien n’est perdu : il sera proposé de nouveau au prochain démarrage.</translation>

@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo הסתיימה לפני שההרצאה הזו נשמרה. אפשר לשמור אותה תחת היום שלה, או להאזין לה תחילה. אם תסגרו את החלון, ההרצאה תוצע שוב בהפעלה הבאה.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo הסתיימה לפני שההרצאה הזו נשמרה. אפשר לשמור אותה תחת היום שלה. אם תסגרו את החלון, ההרצאה תוצע שוב בהפעלה הבאה.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>אי אפשר לשמור את ההרצאה כעת. דבר לא אבד: היא תוצע שוב בהפעלה הבאה.</translation>

@@ -259,6 +259,10 @@
         <source></source>
         <translation>यह व्याख्यान सहेजे जाने से पहले Tarvelo बंद हो गया। इसे इसके दिन के नीचे रखें, या पहले सुनें। यह विंडो बंद करने पर व्याख्यान अगली बार फिर दिखाया जाएगा।</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>यह व्याख्यान सहेजे जाने से पहले Tarvelo बंद हो गया। इसे इसके दिन के नीचे रखें। यह विंडो बंद करने पर व्याख्यान अगली बार फिर दिखाया जाएगा।</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>व्याख्यान अभी रखा नहीं जा सकता। कुछ खोया नहीं है: यह अगली बार फिर दिखाया जाएगा।</translation>

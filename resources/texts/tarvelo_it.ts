@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo è terminato prima che questa lezione fosse salvata. Conservala nel suo giorno, oppure ascoltala prima. Se chiudi questa finestra, la lezione sarà proposta di nuovo al prossimo avvio.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo è terminato prima che questa lezione fosse salvata. Conservala nel suo giorno. Se chiudi questa finestra, la lezione sarà proposta di nuovo al prossimo avvio.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>La lezione non può essere conservata ora. Nulla è perduto: sarà proposta di nuovo al prossimo avvio.</translation>

@@ -259,6 +259,10 @@
         <source></source>
         <translation>この講義が保存される前に Tarvelo が終了しました。その日の講義として保存するか、先に聴くことができます。このウィンドウを閉じると、次の起動時にもう一度表示されます。</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>この講義が保存される前に Tarvelo が終了しました。その日の講義として保存できます。このウインドウを閉じると、次の起動時にもう一度表示されます。</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>今は講義を保存できません。何も失われていません。次の起動時にもう一度表示されます。</translation>

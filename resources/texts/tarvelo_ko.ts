@@ -259,6 +259,10 @@
         <source></source>
         <translation>이 강의를 저장하기 전에 Tarvelo가 종료되었습니다. 해당 날짜에 보관하거나 먼저 들어 보세요. 이 창을 닫으면 다음에 시작할 때 다시 표시됩니다.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>이 강의를 저장하기 전에 Tarvelo가 종료되었습니다. 해당 날짜에 보관하세요. 이 창을 닫으면 다음에 시작할 때 다시 표시됩니다.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>지금은 강의를 보관할 수 없습니다. 잃은 것은 없으며 다음에 시작할 때 다시 표시됩니다.</translation>

@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo is gestopt voordat dit college was opgeslagen. Bewaar het onder zijn dag, of beluister het eerst. Als u dit venster sluit, wordt het college bij de volgende start opnieuw aangeboden.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo is gestopt voordat dit college was opgeslagen. Bewaar het onder zijn dag. Als u dit venster sluit, wordt het college bij de volgende start opnieuw aangeboden.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>Het college kan nu niet worden bewaard. Er is niets verloren: het wordt bij de volgende start opnieuw aangeboden.</translation>

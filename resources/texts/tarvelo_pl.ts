@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo zakończył działanie, zanim ten wykład został zapisany. Zachowaj go pod jego dniem albo najpierw posłuchaj. Jeśli zamkniesz to okno, wykład pojawi się znowu przy następnym uruchomieniu.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo zakończył działanie, zanim ten wykład został zapisany. Zachowaj go pod jego dniem. Jeśli zamkniesz to okno, wykład pojawi się znowu przy następnym uruchomieniu.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>Nie można teraz zachować wykładu. Nic nie przepadło: pojawi się znowu przy następnym uruchomieniu.</translation>

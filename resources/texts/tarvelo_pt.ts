@@ -259,6 +259,10 @@
         <source></source>
         <translation>O Tarvelo terminou antes de esta aula ser guardada. Guarde-a no seu dia ou ouça-a primeiro. Se fechar esta janela, a aula será apresentada de novo no próximo arranque.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>O Tarvelo terminou antes de esta aula ser guardada. Guarde-a no seu dia. Se fechar esta janela, a aula será apresentada de novo no próximo arranque.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>A aula não pode ser guardada agora. Nada se perdeu: será apresentada de novo no próximo arranque.</translation>

@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo завершился раньше, чем эта лекция была сохранена. Сохраните её под её днём или сначала прослушайте. Если закрыть это окно, лекция будет предложена снова при следующем запуске.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo завершился раньше, чем эта лекция была сохранена. Сохраните её под её днём. Если закрыть это окно, лекция будет предложена снова при следующем запуске.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>Сейчас лекцию нельзя сохранить. Ничего не потеряно: она будет предложена снова при следующем запуске.</translation>

@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo bu ders kaydedilmeden sona erdi. Dersi kendi günü altında saklayın veya önce dinleyin. Bu pencereyi kapatırsanız ders bir sonraki açılışta yeniden sunulur.</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo bu ders kaydedilmeden sona erdi. Dersi kendi günü altında saklayın. Bu pencereyi kapatırsanız ders bir sonraki açılışta yeniden sunulur.</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>Ders şu anda saklanamıyor. Hiçbir şey kaybolmadı: bir sonraki açılışta yeniden sunulur.</translation>

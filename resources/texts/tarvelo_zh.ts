@@ -259,6 +259,10 @@
         <source></source>
         <translation>Tarvelo 在保存这节课之前就结束了。您可以把它保留在当天，也可以先试听。如果关闭此窗口，下次启动时会再次询问。</translation>
     </message>
+    <message id="LEFT_LECTURE_EXPLAINED_NO_AUDIO">
+        <source></source>
+        <translation>Tarvelo 在保存这节课之前就结束了。您可以把它保留在当天。如果关闭此窗口，下次启动时会再次询问。</translation>
+    </message>
     <message id="LEFT_LECTURE_NOT_NOW">
         <source></source>
         <translation>现在无法保留这节课。没有任何内容丢失：下次启动时会再次询问。</translation>

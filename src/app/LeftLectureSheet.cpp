@@ -95,8 +95,7 @@ void LeftLectureSheet::build()
     m_sheet->setObjectName(QStringLiteral("leftLectureSheet"));
     m_sheet->setWindowTitle(text("TITLE_LEFT_LECTURE"));
 
-    auto *explained = makeWrappedLabel("explained");
-    explained->setText(text("LEFT_LECTURE_EXPLAINED"));
+    m_explained = makeWrappedLabel("explained");
     m_subject = makeWrappedLabel("leftSubject");
     m_day = makeWrappedLabel("leftDay");
     m_length = makeWrappedLabel("leftLength");
@@ -113,7 +112,7 @@ void LeftLectureSheet::build()
     buttons->addWidget(discarding);
     buttons->addWidget(m_keep);
     auto *column = new QVBoxLayout(m_sheet);
-    column->addWidget(explained);
+    column->addWidget(m_explained);
     column->addLayout(formOf(*m_subject, *m_day, *m_length));
     column->addWidget(m_outcome);
     column->addLayout(buttons);
@@ -160,8 +159,11 @@ void LeftLectureSheet::showFirst()
                           ? text("MSG_NO_AUDIO_FOR_LECTURE")
                           : audio::getDuration(audio::wholeSeconds(left.seconds)));
     m_listen->setEnabled(left.seconds > 0);
+    // Who cannot listen is not told to.
+    m_explained->setText(
+        text(m_listen->isEnabled() ? "LEFT_LECTURE_EXPLAINED" : "LEFT_LECTURE_EXPLAINED_NO_AUDIO"));
     m_outcome->hide();
-    m_sheet->setAccessibleDescription(text("LEFT_LECTURE_EXPLAINED") + u' ' + m_subject->text() +
+    m_sheet->setAccessibleDescription(m_explained->text() + u' ' + m_subject->text() +
                                       QStringLiteral(", ") + m_day->text() + QStringLiteral(", ") +
                                       m_length->text());
     fit();

@@ -65,6 +65,7 @@ private:
     QList<audio::LeftLectures::LeftLecture> m_waiting; // the first of them is shown
     std::unique_ptr<engine::AudioPlayer> m_player;
     QDialog *m_sheet; // child of the main window, and all below are its
+    QLabel *m_explained = nullptr;
     QLabel *m_subject = nullptr;
     QLabel *m_day = nullptr;
     QLabel *m_length = nullptr;

@@ -85,6 +85,28 @@ private Q_SLOTS:
         QVERIFY(label("leftSubject").height() > 2 * label("leftDay").height());
     }
 
+    void itSpeaksOfListeningOnlyWhereThereIsSomethingToHear_data()
+    {
+        QTest::addColumn<bool>("isAudioThere");
+        QTest::newRow("with audio") << true;
+        QTest::newRow("without") << false;
+    }
+
+    void itSpeaksOfListeningOnlyWhereThereIsSomethingToHear()
+    {
+        QFETCH(bool, isAudioThere);
+        leaveJournal();
+        if (isAudioThere)
+            leaveTake();
+
+        launch();
+
+        QVERIFY(sheet().isVisible());
+        QCOMPARE(button("listen").isEnabled(), isAudioThere);
+        QCOMPARE(words("explained").contains(u"listen"), isAudioThere);
+        QVERIFY(sheet().accessibleDescription().startsWith(words("explained")));
+    }
+
     void keepingIsTheDefaultAndHasTheKeyboard()
     {
         leaveTake();
