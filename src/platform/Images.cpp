@@ -2,6 +2,8 @@
 
 #include "platform/HighContrast.h"
 
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QFile>
 #include <QHash>
 #include <QPainter>
@@ -10,6 +12,7 @@
 #include <QPointF>
 #include <QSize>
 #include <QSvgRenderer>
+#include <QTransform>
 #include <QtMath>
 
 #include <array>
@@ -35,6 +38,18 @@ constexpr std::array StrongColours{
               "x=\"5.5\" y=\"4.5\" width=\"370\" height=\"53\" rx=\"7\" "
               "fill=\"none\" stroke=\"#000000\""},
 };
+
+QSize pixelsOf(const QSizeF &size, double ratio)
+{
+    return {qCeil(size.width() * ratio - 0.01), qCeil(size.height() * ratio - 0.01)};
+}
+
+// The ground of a drawing comes first.
+bool beginsWithACircle(const QByteArray &drawing)
+{
+    const qsizetype root = drawing.indexOf("<svg");
+    return QByteArrayView(drawing).sliced(drawing.indexOf('<', root + 1)).startsWith("<circle");
+}
 
 QByteArray withStrongColours(QByteArray drawing)
 {
@@ -68,19 +83,27 @@ QPixmap Image::rendered(const QSize &pixels) const
     return pixmap;
 }
 
-// Drawn once for each size in device pixels, and put down on whole ones: as sharp as drawing anew,
-// which would cost the calendar more than all its questions to the store.
+// Drawn once for each size in device pixels, and put down on whole ones of the window: as sharp as
+// drawing anew, which would cost the calendar more than all its questions to the store.
 void Image::paint(QPainter &painter, const QRectF &target) const
 {
     if (!m_renderer || target.isEmpty())
         return;
     // Also right where a view is drawn into a picture finer than its screen.
-    const double ratio = painter.deviceTransform().m11();
-    const QPixmap pixmap = rendered(
-        QSize(qCeil(target.width() * ratio - 0.01), qCeil(target.height() * ratio - 0.01)));
-    const QPointF corner(qRound(target.x() * ratio) / ratio, qRound(target.y() * ratio) / ratio);
-    painter.drawPixmap(QRectF(corner, QSizeF(pixmap.size()) / ratio), pixmap,
+    const QTransform device = painter.deviceTransform();
+    const QPixmap pixmap = rendered(pixelsOf(target.size(), device.m11()));
+    const QPointF corner = device.inverted().map(QPointF(device.map(target.topLeft()).toPoint()));
+    painter.drawPixmap(QRectF(corner, QSizeF(pixmap.size()) / device.m11()), pixmap,
                        QRectF(pixmap.rect()));
+}
+
+QPixmap Image::pixmap(const QSizeF &size, double ratio) const
+{
+    if (!m_renderer || size.isEmpty())
+        return {};
+    QPixmap pixmap = rendered(pixelsOf(size, ratio));
+    pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
 }
 
 QIcon Image::icon() const
@@ -119,6 +142,7 @@ Image imageNamed(const QString &name)
         if (renderer->isValid()) {
             image.m_name = name;
             image.m_renderer = std::move(renderer);
+            image.m_isRound = beginsWithACircle(drawing);
         }
     }
     known.insert({name, isStrong}, image);

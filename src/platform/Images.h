@@ -25,10 +25,14 @@ public:
     const QString &name() const { return m_name; }
     // In points, as the drawing gives it.
     QSizeF size() const;
+    // Whether its ground is a disc.
+    bool isRound() const { return m_isRound; }
 
     // Fills `target`, stretching both axes as needed.
     void paint(QPainter &painter, const QRectF &target) const;
     QIcon icon() const;
+    // Drawn for a device of `ratio` pixels to a point; `size` is in points.
+    QPixmap pixmap(const QSizeF &size, double ratio) const;
 
 private:
     friend Image imageNamed(const QString &name);
@@ -37,6 +41,7 @@ private:
 
     QString m_name;
     std::shared_ptr<QSvgRenderer> m_renderer;
+    bool m_isRound = false;
 };
 
 // The image kept under `name`; a null image for an empty or unknown name.

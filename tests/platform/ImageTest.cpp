@@ -54,6 +54,39 @@ private Q_SLOTS:
         QCOMPARE(target.pixelColor(100, 19), QColor(Qt::white));
     }
 
+    void aViewBetweenPixelsOfItsWindowShowsItAsSharp()
+    {
+        QImage exact = canvas(60, 60);
+        QImage between = canvas(60, 60);
+        QPainter onExact(&exact);
+        QPainter onBetween(&between);
+        onExact.scale(1.25, 1.25);
+        onBetween.translate(1.25 * 3, 1.25 * 3); // as in a view that is 3 points further in
+        onBetween.scale(1.25, 1.25);
+
+        imageNamed(QStringLiteral("timetag")).paint(onExact, {0, 0, 24, 24});
+        imageNamed(QStringLiteral("timetag")).paint(onBetween, {0, 0, 24, 24});
+
+        QCOMPARE(between.copy(4, 4, 30, 30), exact.copy(0, 0, 30, 30));
+    }
+
+    void itIsDrawnInThePixelsOfADevice()
+    {
+        const QPixmap fine = imageNamed(QStringLiteral("timetag")).pixmap({24, 24}, 1.5);
+
+        QCOMPARE(fine.size(), QSize(36, 36));
+        QCOMPARE(fine.devicePixelRatio(), 1.5);
+        QVERIFY(Image().pixmap({24, 24}, 1.5).isNull());
+    }
+
+    void aDrawingOnADiscIsRound()
+    {
+        QVERIFY(imageNamed(QStringLiteral("close")).isRound());
+        QVERIFY(imageNamed(QStringLiteral("play")).isRound());
+        QVERIFY(!imageNamed(QStringLiteral("timetag")).isRound());
+        QVERIFY(!Image().isRound());
+    }
+
     void aTargetBetweenPixelsIsMovedToWholeOnes()
     {
         QImage exact = canvas(60, 60);
