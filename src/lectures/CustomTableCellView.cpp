@@ -9,6 +9,7 @@
 #include "widgets/CutLabel.h"
 #include "widgets/ImageButton.h"
 #include "widgets/ImageView.h"
+#include "widgets/Lines.h"
 #include "widgets/PlainToolTip.h"
 
 #include <QEvent>
@@ -243,13 +244,13 @@ void CustomTableCellView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QRect line(TextX, height() - 1, width() - TextX, 1);
-    painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line),
-                     widgets::colours().hairline);
+    widgets::drawHairline(painter, QStyle::visualRect(layoutDirection(), rect(), line),
+                          widgets::colours().hairline);
     if (!m_isCurrent)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(4, 2.5, -4, -4.5), 8, 8);
+    painter.drawRoundedRect(widgets::lineIn(painter, rect().adjusted(3, 1, -3, -3)), 8, 8);
 }
 
 } // namespace tarvelo::lectures

@@ -4,6 +4,7 @@
 #include "platform/Texts.h"
 #include "widgets/Colours.h"
 #include "widgets/Faces.h"
+#include "widgets/Lines.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -51,7 +52,8 @@ protected:
     void paintEvent(QPaintEvent *event) override
     {
         QLabel::paintEvent(event);
-        QPainter(this).fillRect(0, BandHeight, width(), 1, widgets::colours().hairline);
+        QPainter painter(this);
+        widgets::drawHairline(painter, {0, BandHeight, width(), 1}, widgets::colours().hairline);
     }
 
 private:

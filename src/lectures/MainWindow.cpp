@@ -57,19 +57,10 @@ void dressTexts(const Ui::MainWindow &ui)
     style(*ui.lblEmptyDayHint, 13, widgets::colours().faint);
 }
 
-void fillSurfaces(const Ui::MainWindow &ui)
-{
-    fill(*ui.topHorizontalLine, widgets::colours().hairline);
-    fill(*ui.paneLine, widgets::colours().hairline);
-    fill(*ui.lectureLine, widgets::colours().hairline);
-    fill(*ui.listTopLine, widgets::colours().hairline);
-    fill(*ui.listBottomLine, widgets::colours().hairline);
-    fill(*ui.editPlayView, Qt::white);
-}
-
 void dressImages(const Ui::MainWindow &ui)
 {
-    ui.imgEmptyDay->setPixmap(imageNamed(QStringLiteral("emptyDay")).icon().pixmap(96, 96));
+    ui.imgEmptyDay->setPixmap(imageNamed(QStringLiteral("emptyDay"))
+                                  .pixmap({96, 96}, ui.imgEmptyDay->devicePixelRatioF()));
     ui.btnMainMenu->setImage(imageNamed(QStringLiteral("menu")));
     ui.btnAddItem->setImage(imageNamed(QStringLiteral("add")));
     ui.btnShowAllList->setImage(imageNamed(QStringLiteral("list")));
@@ -98,7 +89,7 @@ MainWindow buildMainWindow(platform::Dates &dates)
                      ui.btnShowAllList,  ui.btnFoldUpList};
 
     dressTexts(ui);
-    fillSurfaces(ui);
+    fill(*ui.editPlayView, Qt::white);
     dressImages(ui);
     ui.btnDeleteItem->hide();
     return built;

@@ -2,6 +2,7 @@
 
 #include "widgets/Colours.h"
 #include "widgets/Faces.h"
+#include "widgets/Lines.h"
 
 #include <QAbstractAnimation>
 #include <QApplication>
@@ -82,8 +83,9 @@ void RowActionButton::paintEvent(QPaintEvent *)
     if (layoutDirection() == Qt::RightToLeft)
         title.moveRight(rect().right());
     painter.drawText(title, Qt::AlignCenter, text());
+    painter.setRenderHint(QPainter::Antialiasing);
     if (hasFocus())
-        painter.drawRect(rect().adjusted(4, 4, -5, -5));
+        painter.drawRect(widgets::lineIn(painter, rect(), 4));
 }
 
 RowSwipe::RowSwipe(QWidget &viewport)

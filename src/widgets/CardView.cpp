@@ -1,6 +1,7 @@
 #include "widgets/CardView.h"
 
 #include "platform/WindowLevel.h"
+#include "widgets/Lines.h"
 
 #include <QColor>
 #include <QPainter>
@@ -16,7 +17,6 @@ namespace tarvelo::widgets {
 namespace {
 
 constexpr double Radius = 12;
-constexpr double HalfLine = 0.5;
 // The corners of the window's shape, which goes in steps, lie outside of those of the line, so that
 // they leave it whole.
 constexpr double ShapeRadius = Radius - 3;
@@ -52,10 +52,9 @@ void CardView::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), window()->mask().isEmpty() ? QColor(Qt::transparent) : line);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(line, 2 * HalfLine));
+    painter.setPen(line);
     painter.setBrush(palette().color(QPalette::Window));
-    const QRectF middleOfLine = QRectF(rect()).adjusted(HalfLine, HalfLine, -HalfLine, -HalfLine);
-    painter.drawPath(roundedRect(middleOfLine, Radius - HalfLine));
+    painter.drawPath(roundedRect(lineIn(painter, rect()), Radius - 0.5));
 }
 
 } // namespace tarvelo::widgets

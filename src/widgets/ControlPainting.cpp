@@ -2,6 +2,7 @@
 
 #include "platform/HighContrast.h"
 #include "widgets/Colours.h"
+#include "widgets/Lines.h"
 
 #include <QFontInfo>
 #include <QPainter>
@@ -13,7 +14,7 @@ namespace tarvelo::widgets {
 
 namespace {
 
-constexpr double HalfLine = 0.5;
+constexpr double Line = 1;
 constexpr double RingWidth = 2;
 constexpr int SmallestIndicator = 16;
 // What is drawn in one is measured for the path of the smallest.
@@ -71,12 +72,6 @@ QColor groundOf(const QStyleOption &option)
     return turnOf(option) == Turn::Press ? turnedTo.darker(PressedShade) : turnedTo;
 }
 
-// The middle of a line of so many points that runs along the inside of `rect`.
-QRectF lineIn(const QRectF &rect, double width = 2 * HalfLine)
-{
-    return rect.adjusted(width / 2, width / 2, -width / 2, -width / 2);
-}
-
 QRectF indicatorIn(const QRect &rect)
 {
     const int side = std::min(rect.width(), rect.height()) - 2 * RoomAroundIndicator;
@@ -111,17 +106,17 @@ void paintGround(QPainter &painter, const QStyleOption &option, const QRectF &pl
     constexpr double Light = 1;
     const bool hasLight = isFilled && isFramed(option);
     const bool isThick = isFramed(option) || (isFilled && isInverted(option));
-    const double width = !isThick ? 2 * HalfLine : hasLight ? BoldLine - Light : BoldLine;
+    const double width = !isThick ? Line : hasLight ? BoldLine - Light : BoldLine;
     const QColor fill = isFilled ? accentOf(option) : groundOf(option);
     const QColor accent = isThick ? option.palette.color(QPalette::Highlight) : fill;
     painter.setPen(QPen(isFilled && !hasLight ? accent : outlineOf(option), width));
     painter.setBrush(fill);
-    const double inside = radius - width / 2 + HalfLine;
-    painter.drawRoundedRect(lineIn(place, width), inside, inside);
+    const double inside = radius - (width - Line) / 2;
+    painter.drawRoundedRect(lineIn(painter, place), inside, inside);
     if (!hasLight)
         return;
     painter.setPen(QPen(option.palette.color(QPalette::HighlightedText), Light));
-    painter.drawRoundedRect(lineIn(place, 2 * width + Light), radius - width, radius - width);
+    painter.drawRoundedRect(lineIn(painter, place, width), radius - width, radius - width);
 }
 
 // Shades would hide a title that stands out from white by little: it is its outline that tells.
@@ -134,10 +129,10 @@ bool staysLight(const QStyleOption &option)
 
 void paintLightButton(QPainter &painter, const QStyleOption &option)
 {
-    const double width = turnOf(option) == Turn::Press ? 4 * HalfLine : 2 * HalfLine;
+    const double width = turnOf(option) == Turn::Press ? 2 * Line : Line;
     painter.setPen(QPen(option.palette.color(QPalette::WindowText), width));
     painter.setBrush(option.palette.color(QPalette::Base));
-    painter.drawRoundedRect(lineIn(option.rect, width), ControlRadius, ControlRadius);
+    painter.drawRoundedRect(lineIn(painter, option.rect), ControlRadius, ControlRadius);
 }
 
 bool isTicked(const QStyleOption &option)
@@ -171,7 +166,7 @@ void paintGroove(QPainter &painter, const QStyleOptionSlider &option, const QRec
 {
     const auto paintBar = [&](const QRectF &bar, const QColor &colour) {
         painter.setBrush(colour);
-        painter.drawRoundedRect(bar, bar.height() / 2, bar.height() / 2);
+        painter.drawRoundedRect(onPixels(painter, bar), bar.height() / 2, bar.height() / 2);
     };
     // Where red and black are hardly two shades, the part that was played is the thicker one.
     const bool isBold = colours().isBold;
@@ -221,7 +216,7 @@ void paintSegment(QPainter &painter, const QStyleOption &option, const QRectF &p
     const Restored restored(painter);
     const bool isFilled = is(option, QStyle::State_On);
     if (isFramed(option) || isInverted(option))
-        return paintGround(painter, option, place.toAlignedRect(), radius, isFilled);
+        return paintGround(painter, option, place, radius, isFilled);
     painter.setPen(Qt::NoPen);
     painter.setBrush(isFilled ? accentOf(option) : groundOf(option));
     painter.drawRoundedRect(place, radius, radius);
@@ -230,12 +225,12 @@ void paintSegment(QPainter &painter, const QStyleOption &option, const QRectF &p
 void paintKeyboardRing(QPainter &painter, const QStyleOption &option, bool isOnAccent)
 {
     const Restored restored(painter);
-    const double inset = 0.5 * RingWidth + (isOnAccent ? 2.5 : 0);
+    const double inset = isOnAccent ? 3 : 0;
     const auto role = isOnAccent ? QPalette::HighlightedText : QPalette::Highlight;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(option.palette.color(role), RingWidth));
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset),
-                            ControlRadius - inset / 2, ControlRadius - inset / 2);
+    const double radius = ControlRadius - (inset + RingWidth / 2) / 2;
+    painter.drawRoundedRect(lineIn(painter, option.rect, inset), radius, radius);
 }
 
 void paintField(QPainter &painter, const QStyleOption &option)
@@ -243,7 +238,7 @@ void paintField(QPainter &painter, const QStyleOption &option)
     const Restored restored(painter);
     painter.setPen(outlineOf(option));
     painter.setBrush(option.palette.brush(QPalette::Base));
-    painter.drawRoundedRect(lineIn(option.rect), ControlRadius, ControlRadius);
+    painter.drawRoundedRect(lineIn(painter, option.rect), ControlRadius, ControlRadius);
 }
 
 void paintCheckBox(QPainter &painter, const QStyleOption &option)
@@ -254,7 +249,7 @@ void paintCheckBox(QPainter &painter, const QStyleOption &option)
     paintGround(painter, option, box, IndicatorRadius * scale, isTicked(option));
     if (!is(option, QStyle::State_On))
         return;
-    painter.translate(lineIn(box).topLeft());
+    painter.translate(onPixels(painter, box).topLeft() + QPointF(Line / 2, Line / 2));
     painter.scale(scale, scale);
     painter.setPen(QPen(markOf(option), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
@@ -278,8 +273,8 @@ void paintHeaderSection(QPainter &painter, const QStyleOption &option)
 {
     const QRect &rect = option.rect;
     painter.fillRect(rect, option.palette.color(QPalette::Base));
-    painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1),
-                     option.palette.color(QPalette::Mid));
+    drawHairline(painter, QRect(rect.left(), rect.bottom(), rect.width(), 1),
+                 option.palette.color(QPalette::Mid));
 }
 
 // Its filled part begins where the time does, at the right in a window that runs to the left.
@@ -301,7 +296,7 @@ void paintSlider(QPainter &painter, const QStyleOptionSlider &option, const QRec
     const double width = isFramed(knob) ? BoldLine : 1.5;
     painter.setPen(QPen(outlineOf(knob), width));
     painter.setBrush(groundOf(knob));
-    const double radius = SliderHandleSide / 2.0 - (width + HalfLine) / 2;
+    const double radius = SliderHandleSide / 2.0 - (width + Line / 2) / 2;
     painter.drawEllipse(middle, radius, radius);
 }
 
@@ -321,7 +316,7 @@ void paintScrollBar(QPainter &painter, const QStyleOptionSlider &option, const Q
     const double width = scrollHandleWidth(option);
     const double inset = (across - width) / 2;
     bar.adjust(inset, inset, -inset, -inset);
-    painter.drawRoundedRect(bar, width / 2, width / 2);
+    painter.drawRoundedRect(onPixels(painter, bar), width / 2, width / 2);
 }
 
 } // namespace tarvelo::widgets

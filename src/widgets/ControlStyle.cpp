@@ -3,6 +3,7 @@
 #include "platform/Images.h"
 #include "widgets/ControlPainting.h"
 #include "widgets/LabelText.h"
+#include "widgets/Lines.h"
 #include "widgets/MenuPainting.h"
 
 #include <QAbstractItemView>
@@ -11,7 +12,9 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPen>
+#include <QPixmap>
 #include <QPushButton>
+#include <QSizeF>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -44,6 +47,7 @@ bool isWithoutWords(const QStyleOption &option)
     return button && button->text.isEmpty() && button->icon.isNull();
 }
 
+// One without a title.
 bool isSeparator(const QStyleOption &option)
 {
     const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(&option);
@@ -98,6 +102,15 @@ QRect sliderPart(const QStyleOptionSlider &option, QStyle::SubControl part)
                                         rect.width() - SliderHandleSide, option.upsideDown);
     return {rect.left() + at, rect.top() + (rect.height() - SliderHandleSide) / 2, SliderHandleSide,
             SliderHandleSide};
+}
+
+// As large as message boxes show it, and no larger: one that is scaled would be soft.
+QPixmap warningFor(const QStyle &style, const QWidget *widget)
+{
+    const int side = style.pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, widget);
+    return platform::imageNamed(QStringLiteral("warning"))
+        .pixmap(QSizeF(side, side),
+                widget ? widget->devicePixelRatioF() : qApp->devicePixelRatio());
 }
 
 // There are no buttons at its ends. One that lies begins where the words do.
@@ -334,12 +347,21 @@ int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
+// On whole pixels of the window, for which such a drawing is made.
+void ControlStyle::drawItemPixmap(QPainter *painter, const QRect &rect, int alignment,
+                                  const QPixmap &pixmap) const
+{
+    const QSize size = pixmap.deviceIndependentSize().toSize();
+    const QRect place =
+        alignedRect(painter->layoutDirection(), Qt::Alignment(alignment), size, rect);
+    painter->drawPixmap(onPixels(*painter, place).topLeft(), pixmap);
+}
+
 QPixmap ControlStyle::standardPixmap(StandardPixmap standard, const QStyleOption *option,
                                      const QWidget *widget) const
 {
     if (standard == SP_MessageBoxWarning)
-        return standardIcon(standard, option, widget)
-            .pixmap(pixelMetric(PM_MessageBoxIconSize, option, widget));
+        return warningFor(*this, widget);
     return QProxyStyle::standardPixmap(standard, option, widget);
 }
 
@@ -347,7 +369,7 @@ QIcon ControlStyle::standardIcon(StandardPixmap standard, const QStyleOption *op
                                  const QWidget *widget) const
 {
     if (standard == SP_MessageBoxWarning)
-        return platform::imageNamed(QStringLiteral("warning")).icon();
+        return warningFor(*this, widget);
     return QProxyStyle::standardIcon(standard, option, widget);
 }
 

@@ -34,6 +34,8 @@ public:
                            const QWidget *widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                     const QWidget *widget = nullptr) const override;
+    void drawItemPixmap(QPainter *painter, const QRect &rect, int alignment,
+                        const QPixmap &pixmap) const override;
     QPixmap standardPixmap(StandardPixmap standard, const QStyleOption *option = nullptr,
                            const QWidget *widget = nullptr) const override;
     QIcon standardIcon(StandardPixmap standard, const QStyleOption *option = nullptr,

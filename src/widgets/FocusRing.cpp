@@ -1,6 +1,7 @@
 #include "widgets/FocusRing.h"
 
 #include "widgets/ControlPainting.h"
+#include "widgets/Lines.h"
 #include "widgets/MouseDownTextField.h"
 
 #include <QEvent>
@@ -61,7 +62,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Radius, Radius);
+        painter.drawRoundedRect(lineIn(painter, rect()), Radius, Radius);
     }
 
 private:

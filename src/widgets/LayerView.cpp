@@ -1,5 +1,7 @@
 #include "widgets/LayerView.h"
 
+#include "widgets/Lines.h"
+
 #include <QPainter>
 #include <QPen>
 #include <QRectF>
@@ -30,9 +32,7 @@ void LayerView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_layer.borderColor, m_layer.borderWidth));
-    const double inset = m_layer.borderWidth / 2;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
-                            m_layer.cornerRadius, m_layer.cornerRadius);
+    painter.drawRoundedRect(lineIn(painter, rect()), m_layer.cornerRadius, m_layer.cornerRadius);
 }
 
 } // namespace tarvelo::widgets

@@ -1,5 +1,7 @@
 #include "widgets/LevelIndicator.h"
 
+#include "widgets/Lines.h"
+
 #include <QAccessible>
 #include <QAccessibleValueChangeEvent>
 #include <QPainter>
@@ -34,11 +36,11 @@ void LevelIndicator::paintEvent(QPaintEvent *)
     const double radius = bar.height() / 2;
     painter.setPen(palette().color(QPalette::Mid));
     painter.setBrush(palette().color(QPalette::Midlight));
-    painter.drawRoundedRect(bar.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.drawRoundedRect(lineIn(painter, bar), radius, radius);
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette().color(QPalette::Highlight));
-    painter.drawRoundedRect(
-        QRectF(bar.topLeft(), QSizeF(bar.width() * double(m_value), bar.height())), radius, radius);
+    const QRectF heard(bar.topLeft(), QSizeF(bar.width() * double(m_value), bar.height()));
+    painter.drawRoundedRect(onPixels(painter, heard), radius, radius);
 }
 
 } // namespace tarvelo::widgets

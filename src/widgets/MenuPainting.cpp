@@ -1,6 +1,7 @@
 #include "widgets/MenuPainting.h"
 
 #include "widgets/Colours.h"
+#include "widgets/Lines.h"
 
 #include <QColor>
 #include <QFontMetrics>
@@ -12,7 +13,6 @@
 #include <QStyleOption>
 
 #include <algorithm>
-#include <cmath>
 
 namespace tarvelo::widgets {
 
@@ -41,22 +41,19 @@ QColor lineOf(const QStyleOption &option, float strength)
 
 } // namespace
 
-// The line is as thick at each edge, also where points are no whole pixels.
 void paintMenuPanel(QPainter &painter, const QStyleOption &option)
 {
-    const double ratio = painter.deviceTransform().m11();
-    const double width = std::max(1.0, std::floor(ratio)) / ratio;
     const QColor ground = option.palette.color(QPalette::Base).lighter(Lighter);
-    painter.fillRect(option.rect, ground);
-    painter.fillRect(option.rect, lineOf(option, FrameStrength));
-    painter.fillRect(QRectF(option.rect).adjusted(width, width, -width, -width), ground);
+    painter.fillRect(onPixels(painter, option.rect), ground);
+    painter.fillRect(onPixels(painter, option.rect), lineOf(option, FrameStrength));
+    painter.fillRect(onPixels(painter, option.rect, 1), ground);
 }
 
 void paintMenuSeparator(QPainter &painter, const QStyleOption &option)
 {
     const QRect line(option.rect.left() + SeparatorInset, option.rect.center().y(),
                      option.rect.width() - 2 * SeparatorInset, 1);
-    painter.fillRect(line, lineOf(option, SeparatorStrength));
+    drawHairline(painter, line, lineOf(option, SeparatorStrength));
 }
 
 void paintSubmenuArrow(QPainter &painter, const QStyleOption &option, bool isToTheLeft)

@@ -1,6 +1,7 @@
 #include "widgets/PopOver.h"
 
 #include "platform/WindowLevel.h"
+#include "widgets/Lines.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -158,16 +159,18 @@ void PopOver::place(const QRect &anchor, Qt::Edge preferredEdge)
 // The line of the arrow and of the corners would be missing on one side.
 QRegion PopOver::shape() const
 {
-    const QRegion within(outline(0).toFillPolygon().toPolygon());
+    const QRegion within(outline(bubble(), 0).toFillPolygon().toPolygon());
     return (within + within.translated(isVertical(m_edge) ? QPoint(-1, 0) : QPoint(0, -1))) &
            rect();
 }
 
-QPainterPath PopOver::outline(double inset) const
+QRectF PopOver::bubble() const
 {
-    const QRectF bubble = QRectF(rect())
-                              .marginsRemoved(layout()->contentsMargins().toMarginsF())
-                              .adjusted(inset, inset, -inset, -inset);
+    return rect().marginsRemoved(layout()->contentsMargins());
+}
+
+QPainterPath PopOver::outline(const QRectF &bubble, double inset) const
+{
     const QPointF into = m_edge == Qt::BottomEdge  ? QPointF(0, 1)
                          : m_edge == Qt::TopEdge   ? QPointF(0, -1)
                          : m_edge == Qt::RightEdge ? QPointF(1, 0)
@@ -185,15 +188,15 @@ QPainterPath PopOver::outline(double inset) const
 
 void PopOver::paintEvent(QPaintEvent *)
 {
-    constexpr double HalfLine = 0.5;
     QPainter painter(this);
     // Without a compositor the pixels that the line half covers would be black.
     if (!mask().isEmpty())
         painter.fillRect(rect(), palette().color(QPalette::Shadow));
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Shadow), 2 * HalfLine));
+    painter.setPen(palette().color(QPalette::Shadow));
     painter.setBrush(palette().color(QPalette::Window));
-    painter.drawPath(outline(HalfLine));
+    const QRectF middleOfLine = lineIn(painter, bubble());
+    painter.drawPath(outline(middleOfLine, painter.pen().widthF() / 2));
 }
 
 void PopOver::hideEvent(QHideEvent *event)

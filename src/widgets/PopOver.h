@@ -8,6 +8,7 @@
 #include <memory>
 
 class QPainterPath;
+class QRectF;
 class QRegion;
 
 namespace tarvelo::widgets {
@@ -45,7 +46,8 @@ protected:
 private:
     QRect placeAt(const QRect &anchor, Qt::Edge edge) const;
     void place(const QRect &anchor, Qt::Edge preferredEdge);
-    QPainterPath outline(double inset) const;
+    QRectF bubble() const;
+    QPainterPath outline(const QRectF &bubble, double inset) const;
     QRegion shape() const;
     void anchorEvent(const QEvent &event);
 

@@ -1,6 +1,7 @@
 #include "widgets/SegmentedControl.h"
 
 #include "widgets/ControlPainting.h"
+#include "widgets/Lines.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -19,6 +20,8 @@ namespace tarvelo::widgets {
 namespace {
 
 constexpr double Radius = 6;
+// Of what is chosen, from the line around all.
+constexpr double Inset = 2;
 constexpr QSize Padding(20, 12);
 
 // One choice: filled when it is selected, with a hairline to the one before it.
@@ -35,18 +38,17 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        const QRectF inside = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
         QStyleOption option;
         option.initFrom(this);
         option.state.setFlag(QStyle::State_On, isChecked());
         option.state.setFlag(QStyle::State_Sunken, isDown());
-        paintSegment(painter, option, inside, Radius - 2);
+        paintSegment(painter, option, onPixels(painter, rect(), Inset), Radius - 2);
         const QPalette::ColorRole ink = inkOn(option, isChecked());
         if (hasFocus()) {
             const auto ring = isChecked() ? ink : QPalette::Highlight;
             painter.setPen(QPen(palette().color(ring), 2));
             painter.setBrush(Qt::NoBrush);
-            painter.drawRoundedRect(inside.adjusted(2.5, 2.5, -2.5, -2.5), Radius - 4, Radius - 4);
+            painter.drawRoundedRect(lineIn(painter, rect(), Inset + 2), Radius - 4, Radius - 4);
         }
         const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
         painter.setPen(palette().color(group, ink));
@@ -70,7 +72,7 @@ protected:
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(palette().color(QPalette::Shadow));
         painter.setBrush(palette().color(QPalette::Base));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
+        painter.drawRoundedRect(lineIn(painter, rect()), Radius, Radius);
     }
 };
 

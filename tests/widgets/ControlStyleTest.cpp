@@ -2,6 +2,7 @@
 
 #include "platform/HighContrast.h"
 #include "support/TestCase.h"
+#include "widgets/Drawn.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -9,6 +10,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -19,6 +21,7 @@
 
 using namespace Qt::StringLiterals;
 using tarvelo::platform::contrastOf;
+using tarvelo::tests::drawn;
 using tarvelo::widgets::ControlStyle;
 
 namespace {
@@ -78,6 +81,54 @@ private Q_SLOTS:
             QCOMPARE(image.pixelColor(image.width() / 2, image.height() - 1), Outline);
             QVERIFY(contrastOf(image.pixelColor(0, 0), Qt::white) < 1.5); // round
         }
+    }
+
+    void anOutlineIsSharpWhereAPointIsNoWholeNumberOfPixels_data()
+    {
+        QTest::addColumn<double>("ratio");
+        QTest::newRow("125 %") << 1.25;
+        QTest::newRow("150 %") << 1.5;
+    }
+    void anOutlineIsSharpWhereAPointIsNoWholeNumberOfPixels()
+    {
+        QFETCH(const double, ratio);
+        m_window->resize(300, 60);
+        QPushButton button(m_window.get());
+        QLineEdit field(m_window.get());
+        QCheckBox box(m_window.get());
+
+        button.setGeometry(7, 9, 22, 33);
+        field.setGeometry(68, 9, 22, 33);
+        box.setGeometry(129, 9, 22, 33);
+
+        for (const QWidget *control :
+             {static_cast<QWidget *>(&button), static_cast<QWidget *>(&field),
+              static_cast<QWidget *>(&box)}) {
+            const QImage image = drawn(*m_window, ratio);
+            const int middle = int((control->x() + 11) * ratio);
+            const QImage column = image.copy(middle, 0, 1, image.height());
+            // At both ends once, and nowhere paler.
+            QCOMPARE(pixelsOf(column, Outline), 2);
+            QCOMPARE(pixelsOf(column, Qt::white), column.height() - 2);
+        }
+    }
+
+    void theLinesOfAMenuAreAllOfOneThickness()
+    {
+        QMenu menu;
+        menu.setPalette(colours());
+        for (int i = 0; i < 4; ++i) {
+            menu.addAction(u"Title"_s);
+            menu.addSeparator();
+        }
+        menu.addAction(u"Title"_s);
+        menu.resize(menu.sizeHint());
+
+        const QImage image = drawn(menu, 1.5);
+
+        // Left of the titles.
+        const QImage column = image.copy(12, 0, 1, image.height());
+        QCOMPARE(pixelsOf(column, Qt::white), column.height() - 2 - 4);
     }
 
     void theButtonThatReturnPressesIsFilledAndItsTitleWhite()
@@ -296,11 +347,32 @@ private Q_SLOTS:
     void aWarningHasTheProgramsOwnSign()
     {
         const QIcon sign = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
-        const QPixmap drawn = QApplication::style()->standardPixmap(QStyle::SP_MessageBoxWarning);
+        const QPixmap shown = QApplication::style()->standardPixmap(QStyle::SP_MessageBoxWarning);
 
         QVERIFY(!sign.isNull());
-        QVERIFY(!drawn.isNull());
-        QVERIFY(pixelsOf(drawn.toImage(), QColor(0xd6, 0x16, 0x26)) > 50);
+        QVERIFY(!shown.isNull());
+        QVERIFY(pixelsOf(sign.pixmap(48, 48).toImage(), QColor(0xd6, 0x16, 0x26)) > 50);
+        // As it is drawn for that size, and not scaled to it.
+        QCOMPARE(sign.pixmap(48, 48).toImage(), shown.toImage());
+        QCOMPARE(sign.actualSize({48, 48}), QSize(48, 48));
+    }
+
+    void aDrawingOfALabelLiesOnWholePixels()
+    {
+        QImage drawing(25, 25, QImage::Format_RGB32);
+        drawing.fill(Qt::white);
+        for (int i = 0; i < 25; ++i)
+            drawing.setPixelColor(i, i, Qt::black);
+        drawing.setDevicePixelRatio(1.25);
+        QImage screen(60, 60, QImage::Format_RGB32);
+        screen.fill(Qt::white);
+        screen.setDevicePixelRatio(1.25);
+        QPainter painter(&screen);
+
+        QApplication::style()->drawItemPixmap(&painter, {3, 3, 20, 20}, Qt::AlignCenter,
+                                              QPixmap::fromImage(drawing));
+
+        QCOMPARE(screen.copy(4, 4, 25, 25), drawing);
     }
 
 private:
