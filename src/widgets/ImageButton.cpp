@@ -3,17 +3,20 @@
 #include "widgets/Colours.h"
 #include "widgets/ControlPainting.h"
 #include "widgets/DrawingStates.h"
+#include "widgets/Lines.h"
 
 #include <QEvent>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QImage>
+#include <QMarginsF>
 #include <QPainter>
 #include <QPalette>
 #include <QPen>
 #include <QPointer>
 #include <QSizeF>
 #include <QToolTip>
+#include <QTransform>
 
 #include <algorithm>
 
@@ -22,9 +25,30 @@ namespace tarvelo::widgets {
 using platform::Image;
 
 namespace {
-constexpr double NarrowWidth = 16;
+constexpr double NarrowWidth = 18;
+constexpr double RingWidth = 2;
+// Of the ground of a drawing, and of what is around a title.
+constexpr double Corner = 6;
 constexpr float HoverShade = 0.1F;
 constexpr float PressedShade = 0.22F;
+
+QMarginsF margins(double width)
+{
+    return {width, width, width, width};
+}
+
+// A ring around a button as narrow as an arrow would cover it: such a button is underlined.
+void paintRing(QPainter &painter, const QPen &pen, const QRectF &place, double radius)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(pen);
+    const QRectF line = lineIn(painter, place);
+    if (place.width() < NarrowWidth)
+        painter.drawLine(line.bottomLeft(), line.bottomRight());
+    else
+        painter.drawRoundedRect(line, radius - pen.widthF() / 2, radius - pen.widthF() / 2);
+}
 } // namespace
 
 ImageButton::ImageButton(QWidget *parent)
@@ -97,23 +121,25 @@ bool ImageButton::event(QEvent *event)
     return true;
 }
 
-// A ring around a button as narrow as an arrow would cover it: such a button is underlined. The
-// ring lies in a light one, so that it is seen on a drawing of its own colour too.
+// Around a drawing, which it leaves whole, the ring has the drawing's shape. Where it has to lie on
+// one it lies in a light one, so that it is seen on a drawing of its own colour too.
 void ImageButton::paintFocus(QPainter &painter) const
 {
     if (!hasFocus() || !m_showsFocus)
         return;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::NoBrush);
-    const QRectF ring = focusRect().adjusted(1, 1, -1, -1);
-    for (const QPen &pen : {QPen(palette().color(QPalette::Base), 6),
-                            QPen(palette().color(QPalette::Highlight), 2)}) {
-        painter.setPen(pen);
-        if (ring.width() < NarrowWidth)
-            painter.drawLine(ring.bottomLeft(), ring.bottomRight());
-        else
-            painter.drawRoundedRect(ring, 5.5, 5.5);
+    const QRectF drawing = imageRect(m_image);
+    const bool isAround =
+        m_image.isRound() ||
+        (!m_image.isNull() && focusRect().contains(drawing.marginsAdded(margins(RingWidth))));
+    QRectF place = focusRect();
+    double radius = Corner;
+    if (isAround) {
+        place = place.intersected(drawing.marginsAdded(margins(2 * RingWidth)));
+        radius = m_image.isRound() ? place.width() / 2 : Corner + drawing.left() - place.left();
+    } else {
+        paintRing(painter, QPen(palette().color(QPalette::Base), 2 * RingWidth), place, radius);
     }
+    paintRing(painter, QPen(palette().color(QPalette::Highlight), RingWidth), place, radius);
 }
 
 // A button that Return presses when it has the keyboard shows that to everybody.
@@ -146,24 +172,35 @@ void ImageButton::showState(QImage &drawing, const Image &image) const
     painter.fillRect(QRectF(edge.left(), edge.bottom() - BoldLine, edge.width(), BoldLine), ink);
 }
 
+void ImageButton::paintTile(QPainter &painter) const
+{
+    if (!isEnabled() || plate().isEmpty())
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours().tile);
+    const double radius = std::min(ControlRadius, plate().width() / 3);
+    painter.drawRoundedRect(plate(), radius, radius);
+}
+
 void ImageButton::paintChanged(QPainter &painter, const Image &image) const
 {
-    const double ratio = painter.deviceTransform().m11();
-    QImage canvas((QSizeF(size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    const QTransform device = painter.deviceTransform();
+    const double ratio = device.m11();
+    const QPointF origin = device.map(QPointF());
+    const QPointF corner = (QPointF(origin.toPoint()) - origin) / ratio;
+    QImage canvas((QSizeF(size() + QSize(1, 1)) * ratio).toSize(),
+                  QImage::Format_ARGB32_Premultiplied);
     canvas.setDevicePixelRatio(ratio);
     canvas.fill(Qt::transparent);
     QPainter drawing(&canvas);
-    if (isEnabled() && !plate().isEmpty()) {
-        drawing.setRenderHint(QPainter::Antialiasing);
-        drawing.setPen(Qt::NoPen);
-        drawing.setBrush(colours().tile);
-        const double radius = std::min(ControlRadius, plate().width() / 3);
-        drawing.drawRoundedRect(plate(), radius, radius);
-    }
+    // On the same pixels as at rest.
+    drawing.translate(-corner);
+    paintTile(drawing);
     image.paint(drawing, imageRect(image));
     drawing.end();
     showState(canvas, image);
-    painter.drawImage(QPointF(), canvas);
+    painter.drawImage(corner, canvas);
 }
 
 void ImageButton::paintEvent(QPaintEvent *event)

@@ -73,6 +73,7 @@ protected:
 
 private:
     // The drawing as it shows that one turns to it, or that it cannot be used.
+    void paintTile(QPainter &painter) const;
     void paintChanged(QPainter &painter, const platform::Image &image) const;
     void showState(QImage &drawing, const platform::Image &image) const;
 

@@ -268,6 +268,40 @@ private Q_SLOTS:
         QVERIFY(inkedPixels(fine) > 2 * inkedPixels(coarse));
     }
 
+    void theKeyboardsRingHasTheShapeOfTheDrawingAndLeavesItWhole_data()
+    {
+        QTest::addColumn<QString>("drawing");
+        QTest::addColumn<bool>("isRound");
+        QTest::newRow("disc") << QStringLiteral("close") << true;
+        QTest::newRow("square") << QStringLiteral("timetag") << false;
+    }
+    void theKeyboardsRingHasTheShapeOfTheDrawingAndLeavesItWhole()
+    {
+        QFETCH(const QString, drawing);
+        QFETCH(const bool, isRound);
+        QWidget window;
+        ImageButton button(&window);
+        button.resize(28, 28); // the drawing has 24
+        button.setImage(imageNamed(drawing));
+        auto *other = new ImageButton(&window);
+        window.show();
+        window.activateWindow();
+        other->setFocus();
+        QTRY_VERIFY(other->hasFocus());
+        const QImage without = drawn(button);
+
+        button.setFocus(Qt::TabFocusReason);
+
+        const QImage with = drawn(button);
+        const QColor ring = button.palette().color(QPalette::Highlight);
+        QCOMPARE(with.pixelColor(1, 14), ring);
+        QCOMPARE(with.pixelColor(14, 1), ring);
+        // A disc is far from the corners of the square around it.
+        QCOMPARE(with.pixelColor(3, 3) == QColor(Qt::white), isRound);
+        QCOMPARE(with.copy(6, 6, 16, 16), without.copy(6, 6, 16, 16));
+        QCOMPARE(with.copy(3, 12, 22, 4), without.copy(3, 12, 22, 4));
+    }
+
     void theFocusShows()
     {
         QWidget window;
