@@ -60,7 +60,7 @@ void keepRoom(QWidget &view)
 
 void giveMargins(QLineEdit &field, QTextEdit &notes)
 {
-    field.setTextMargins(6, 0, 6, 0);
+    field.setTextMargins(8, 0, 8, 0);
     notes.document()->setDocumentMargin(8);
 }
 

@@ -12,7 +12,7 @@ namespace tarvelo::lectures {
 
 namespace {
 
-// As far in as a field of one line writes.
+// As far in as a field of one line writes, and as the drawing at the row's other end lies.
 constexpr int Indent = 2;
 
 // Follows the title of the window.

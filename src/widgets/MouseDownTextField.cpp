@@ -9,7 +9,7 @@ namespace tarvelo::widgets {
 
 namespace {
 
-constexpr int BorderedMargin = 6;
+constexpr int BorderedMargin = 8;
 // What a field of one line always leaves free.
 constexpr int OwnMargin = 2;
 

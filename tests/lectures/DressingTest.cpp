@@ -92,7 +92,7 @@ private Q_SLOTS:
 
         tarvelo::lectures::giveMargins(field, notes);
 
-        QCOMPARE(field.textMargins(), QMargins(6, 0, 6, 0));
+        QCOMPARE(field.textMargins(), QMargins(8, 0, 8, 0));
         QCOMPARE(notes.document()->documentMargin(), 8.0);
     }
 

@@ -2,6 +2,8 @@
 
 #include "lectures/ProgramCase.h"
 
+#include <QStyle>
+
 using namespace Qt::StringLiterals;
 using tarvelo::platform::text;
 
@@ -23,6 +25,29 @@ private Q_SLOTS:
         QVERIFY(recording.btnStartStopRecording->isHidden());
         QVERIFY(recording.sliderPlayProgress2->isHidden());
         QVERIFY(recording.btnPauseResumeRecording->isCheckable());
+    }
+
+    void theTimeTagEndsWhereTheNotesDo_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("left to right") << Qt::LeftToRight;
+        QTest::newRow("right to left") << Qt::RightToLeft;
+    }
+    void theTimeTagEndsWhereTheNotesDo()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        const auto &recording = windows().recordingOutlets();
+        QWidget &window = *recording.newNoteWindow;
+        window.setLayoutDirection(direction);
+        window.show();
+        const auto place = [&](const QWidget &view) {
+            return QStyle::visualRect(direction, window.rect(), view.geometry());
+        };
+
+        QCOMPARE(place(*recording.txtView).left(), 20);
+        QCOMPARE(place(*recording.txtView).right(), window.width() - 20 - 1);
+        // The drawing lies 2 points further in than its button.
+        QCOMPARE(place(*recording.btnTimeTag).right(), place(*recording.txtView).right() + 2);
     }
 
     void doneAndCloseAreToldApartByTheirTags()
