@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QColor>
+#include <QFont>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPalette>
@@ -20,15 +21,24 @@ namespace tarvelo::widgets {
 namespace {
 
 constexpr double Radius = 6;
+// As against other texts: the figures of a fraction such as "⅕", which are half as high as others,
+// can be told apart then.
+constexpr double FontScale = 1.25;
 // Of what is chosen, from the line around all.
 constexpr double Inset = 2;
-constexpr QSize Padding(20, 12);
+constexpr QSize Padding(20, 8);
 
 // One choice: filled when it is selected, with a hairline to the one before it.
 class Segment final : public QAbstractButton
 {
 public:
-    using QAbstractButton::QAbstractButton;
+    explicit Segment(QWidget *parent)
+        : QAbstractButton(parent)
+    {
+        QFont larger = font();
+        larger.setPointSizeF(larger.pointSizeF() * FontScale);
+        setFont(larger);
+    }
 
     QSize sizeHint() const override { return fontMetrics().boundingRect(text()).size() + Padding; }
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -188,6 +188,14 @@ private Q_SLOTS:
         QVERIFY(face->state().checked);
     }
 
+    void aSpeedIsWrittenLargerThanOtherTexts()
+    {
+        SegmentedControl control;
+        addThree(control);
+
+        QVERIFY(segment(control, 0).font().pointSizeF() >= 1.2 * control.font().pointSizeF());
+    }
+
     void theSelectedSegmentIsFilled()
     {
         SegmentedControl control;
