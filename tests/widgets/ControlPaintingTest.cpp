@@ -26,7 +26,6 @@ using tarvelo::tests::pixelsApart;
 
 namespace {
 
-constexpr QColor Red(252, 39, 52);
 // A line along the short side of the smallest control.
 constexpr int Plainly = 20;
 
