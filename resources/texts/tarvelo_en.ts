@@ -45,7 +45,7 @@
     </message>
     <message id="BRING_BACK_EXPLAINED">
         <source></source>
-        <translation>Before many lectures are removed at once, Tarvelo keeps a copy of all of them.</translation>
+        <translation>Before many lectures are removed at once, Tarvelo copies all of them.</translation>
     </message>
     <message id="BRING_BACK_FAILED">
         <source></source>

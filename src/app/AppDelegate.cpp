@@ -1,21 +1,30 @@
 #include "app/AppDelegate.h"
 
 #include "app/DateHeader.h"
+#include "app/PreferenceKeys.h"
 #include "app/WindowHints.h"
 #include "calendar/CKCalendarView.h"
+#include "lectures/LectureOutlets.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/MediaLinksArrayController.h"
+#include "lectures/OwedLectures.h"
 #include "lectures/WindowWidths.h"
 #include "platform/Alerts.h"
 #include "platform/Dates.h"
+#include "platform/Images.h"
 #include "platform/Texts.h"
-#include "platform/UserDefaults.h"
 #include "platform/WindowLevel.h"
+#include "store/Sqlite.h"
 #include "widgets/ImageButton.h"
 #include "widgets/SlidingWindow.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QGuiApplication>
+#include <QLabel>
+#include <QWidget>
+
+#include <vector>
 
 namespace tarvelo::app {
 
@@ -50,7 +59,7 @@ AppDelegate::AppDelegate(const AppServices &services)
     , m_preferences(services.defaults, m_window, services.loginItem)
     , m_bringBack(services.database, services.dates,
                   {[this] { return m_mediaLinksArrayController.getAudioFolderPath(); },
-                   [this] { return m_mediaLinksArrayController.journal().owed().recordings(); }},
+                   [this] { return m_mediaLinksArrayController.owedLectures().recordings(); }},
                   m_window)
     , m_leftLectures(services.mediaLinksArrayController.leftLectures(), services.dates,
                      services.mediaLinksArrayController.audioEngine(), m_window)
@@ -87,7 +96,7 @@ AppDelegate::AppDelegate(const AppServices &services)
             });
     connect(&m_leftLectures, &LeftLectureSheet::lectureKept, this, [this] {
         m_mediaLinksArrayController.showStoredLectures();
-        m_mediaLinksArrayController.journal().owed().storeSoon();
+        m_mediaLinksArrayController.owedLectures().storeSoon();
     });
     connect(&m_myStatusItem, &StatusItem::pressed, this, [this] { openAtFront(&m_myStatusItem); });
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_activation,

@@ -18,8 +18,21 @@
 #include "platform/DetachedCommand.h"
 #include "widgets/ImageButton.h"
 
+#include <QDateTime>
+#include <QObject>
 #include <QPointer>
+#include <QStringList>
 
+#include <chrono>
+#include <functional>
+
+class QAbstractButton;
+class QButtonGroup;
+class QWidget;
+
+namespace tarvelo::calendar {
+class CKCalendarView;
+}
 namespace tarvelo::lectures {
 class LectureWindows;
 class MediaLinksArrayController;
@@ -29,9 +42,13 @@ class Alerts;
 class Dates;
 class UserDefaults;
 } // namespace tarvelo::platform
+namespace tarvelo::store {
+class LectureDatabase;
+class Sqlite;
+} // namespace tarvelo::store
 namespace tarvelo::widgets {
 class SlidingWindow;
-} // namespace tarvelo::widgets
+}
 
 namespace tarvelo::app {
 

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QColor>
+#include <QKeyCombination>
 #include <QKeySequence>
 #include <QMenu>
 #include <QPalette>

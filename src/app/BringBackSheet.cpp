@@ -9,11 +9,13 @@
 #include "store/LectureDatabase.h"
 #include "widgets/Colours.h"
 
+#include <QAbstractItemView>
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
+#include <QPalette>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTreeWidget>

@@ -17,6 +17,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMetaObject>
+#include <QPalette>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QWidget>

@@ -2,6 +2,7 @@
 
 #include "app/Sheet.h"
 #include "app/WindowHints.h"
+#include "audio/FileFormats.h"
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/WindowLevel.h"
@@ -17,6 +18,8 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include <array>
+#include <cstddef>
 #include <utility>
 
 namespace tarvelo::app {

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QStyle>
+#include <QWidget>
 
 #include <algorithm>
 

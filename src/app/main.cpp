@@ -30,6 +30,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <memory>
 
 using namespace tarvelo;
 

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cstddef>
 #include <utility>
 
 namespace tarvelo::audio {

@@ -1,11 +1,11 @@
 #include "audio/EditPlayback.h"
 
+#include "audio/PlayPauseButtons.h"
 #include "audio/PlayerDisplay.h"
 #include "audio/engine/AudioEngine.h"
 #include "audio/engine/SoundBytes.h"
 
 #include <QLabel>
-#include <QSlider>
 
 namespace tarvelo::audio {
 

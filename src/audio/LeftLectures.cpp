@@ -11,11 +11,12 @@
 #include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
+#include "store/Sqlite.h"
 #include "store/Statements.h"
 #include "store/StoredRows.h"
 
+#include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>

@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <functional>
+#include <optional>
 
 namespace tarvelo::platform {
 class Dates;

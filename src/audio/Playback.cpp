@@ -1,6 +1,7 @@
 #include "audio/Playback.h"
 
 #include "audio/AudioFileLocations.h"
+#include "audio/PlayPauseButtons.h"
 #include "audio/PlaySpeeds.h"
 #include "audio/PlayerDisplay.h"
 #include "audio/RecordingDisplay.h"

@@ -1,6 +1,7 @@
 #include "audio/PlayerDisplay.h"
 
 #include "audio/DurationText.h"
+#include "audio/PlayPauseButtons.h"
 #include "audio/PlaybackOutlets.h"
 #include "audio/engine/AudioPlayer.h"
 

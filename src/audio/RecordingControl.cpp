@@ -2,13 +2,18 @@
 
 #include "audio/AudioFileLocations.h"
 #include "audio/Playback.h"
+#include "audio/engine/AudioEngine.h"
 #include "platform/Announcer.h"
 #include "platform/Dates.h"
 #include "platform/SleepInhibitor.h"
 #include "platform/Texts.h"
 #include "widgets/ImageButton.h"
 
+#include <QDateTime>
 #include <QFile>
+#include <QWidget>
+
+#include <chrono>
 
 using namespace std::chrono_literals;
 

@@ -1,13 +1,19 @@
 #pragma once
 
 #include "audio/RecordingDisplay.h"
+#include "audio/RecordingOutlets.h"
 #include "audio/engine/AudioEngine.h"
+#include "audio/engine/Hearing.h"
+#include "platform/Clock.h"
 #include "platform/DelayedCall.h"
 
 #include <QVariantMap>
 
 #include <functional>
 #include <memory>
+#include <utility>
+
+class QWidget;
 
 namespace tarvelo::platform {
 class Dates;

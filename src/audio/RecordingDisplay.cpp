@@ -9,8 +9,10 @@
 
 #include <QLabel>
 #include <QSlider>
+#include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextEdit>
+#include <QWidget>
 
 namespace tarvelo::audio {
 

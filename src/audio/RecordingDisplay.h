@@ -2,6 +2,8 @@
 
 #include "audio/RecordingOutlets.h"
 
+class QWidget;
+
 namespace tarvelo::platform {
 class Dates;
 }

@@ -9,6 +9,8 @@
 #include <memory>
 #include <optional>
 
+class QLabel;
+
 namespace tarvelo::audio {
 
 class RecordingControl;

@@ -5,7 +5,6 @@
 #include "audio/FileFormats.h"
 #include "audio/LeftFiles.h"
 #include "audio/RecordingDay.h"
-#include "platform/Dates.h"
 #include "platform/SureReading.h"
 #include "store/LectureBackups.h"
 #include "store/LectureDatabase.h"

@@ -3,15 +3,21 @@
 #include "calendar/CalendarDelegate.h"
 #include "calendar/CalendarInput.h"
 #include "calendar/DateButton.h"
+#include "platform/Dates.h"
 #include "platform/Frames.h"
 #include "platform/Texts.h"
+#include "widgets/CustomButton.h"
 #include "widgets/GradientView.h"
 #include "widgets/ImageView.h"
 
 #include <QLabel>
 #include <QTextBoundaryFinder>
+#include <QWidget>
 
 #include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <utility>
 
 namespace tarvelo::calendar {
 
@@ -26,8 +32,7 @@ namespace {
 constexpr int Sunday = 1;
 constexpr QRectF StandardFrame(0, 0, 320, 320);
 constexpr std::chrono::milliseconds FirstSelectionDelay{500};
-// What the mouse on an arrow lights up, and around the drawing "settocurrent".
-constexpr QRectF ArrowPlate(0, 0, 10, 20);
+// What the mouse lights up around the drawing "settocurrent".
 constexpr QRectF CurrentMonthPlate(6, 5, 22, 22);
 
 template <typename View>
@@ -123,13 +128,11 @@ void CKCalendarView::buildArrows()
     m_prevButton->setAction({"moveCalendarToPreviousMonth",
                              unlessRefused([this](QWidget *) { moveCalendarToPreviousMonth(); })});
     m_prevButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
-    m_prevButton->setPlate(ArrowPlate);
 
     m_nextButton = makeNavigationButton("nextButton", "arrowright", platform::text("NEXT_MONTH"));
     m_nextButton->setAction({"moveCalendarToNextMonth",
                              unlessRefused([this](QWidget *) { moveCalendarToNextMonth(); })});
     m_nextButton->setImageScaling(CustomButton::ImageScaling::AxesIndependently);
-    m_nextButton->setPlate(ArrowPlate);
 }
 
 void CKCalendarView::buildCurrentMonthButtons()

@@ -1,17 +1,30 @@
 #pragma once
 
 #include "calendar/CalendarDates.h"
-#include "calendar/DateButton.h"
+#include "calendar/DateButton.h" // IWYU pragma: keep: a guarded pointer needs the whole class
 #include "platform/DelayedCall.h"
 #include "platform/Images.h"
 #include "widgets/LayerView.h"
 
+#include <QColor>
+#include <QDateTime>
+#include <QFont>
 #include <QPointer>
+#include <QRectF>
+#include <QStringList>
 
 #include <array>
+#include <functional>
+#include <memory>
+#include <optional>
 
 class QLabel;
+class QPoint;
+class QWidget;
 
+namespace tarvelo::platform {
+class Dates;
+}
 namespace tarvelo::widgets {
 class CustomButton;
 class GradientView;

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "platform/CivilCalendar.h"
-#include "platform/Dates.h"
 
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
 
 #include <compare>
+
+namespace tarvelo::platform {
+class Dates;
+}
 
 namespace tarvelo::calendar {
 

@@ -2,6 +2,7 @@
 
 #include "lectures/WindowWidths.h"
 #include "platform/Dates.h"
+#include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "store/LectureRows.h"
@@ -132,6 +133,18 @@ void DayList::removeObject(int row)
 {
     if (lectureAt(row))
         m_arrangedObjects.erase(m_arrangedObjects.begin() + row);
+}
+
+void DayList::lecturesHaveGone(const store::GoneLectures &gone)
+{
+    for (const Lecture &lecture : m_arrangedObjects)
+        gone.mark(*lecture);
+}
+
+void DayList::lecturesCameBack(const store::LecturesBack &back)
+{
+    for (const Lecture &lecture : m_arrangedObjects)
+        m_database.giveRowBack(*lecture, back);
 }
 
 void DayList::showWhetherEmpty()

@@ -17,7 +17,9 @@ class Dates;
 }
 namespace tarvelo::store {
 class LectureDatabase;
-}
+struct GoneLectures;
+struct LecturesBack;
+} // namespace tarvelo::store
 
 namespace tarvelo::lectures {
 
@@ -56,6 +58,9 @@ public:
     void append(const Lecture &lecture);
     // A row that is not there is ignored. The table is not told.
     void removeObject(int row);
+    // Those that show and went with others stay, and are not taken for those that get their IDs.
+    void lecturesHaveGone(const store::GoneLectures &gone);
+    void lecturesCameBack(const store::LecturesBack &back);
     // The delete button and the empty-day panel after a lecture came or went. The panel follows the
     // list alone, whether or not the day is open, which is wanted.
     void showWhetherEmpty();

@@ -10,7 +10,6 @@
 #include <QColor>
 #include <QFont>
 #include <QFontMetrics>
-#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
@@ -18,6 +17,7 @@
 #include <QSizePolicy>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QWidget>
 
 namespace tarvelo::lectures {
 
@@ -41,14 +41,6 @@ void fill(QWidget &view, const QColor &colour)
 {
     widgets::setColour(view, QPalette::Window, colour);
     view.setAutoFillBackground(true);
-}
-
-// Where all grounds are white a line is left of it.
-void fillPanel(QFrame &panel)
-{
-    fill(panel, widgets::colours().panel);
-    if (panel.palette().color(QPalette::Window) == panel.palette().color(QPalette::Base))
-        panel.setFrameShape(QFrame::Box);
 }
 
 void keepRoom(QWidget &view)

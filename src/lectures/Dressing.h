@@ -1,7 +1,6 @@
 #pragma once
 
 class QColor;
-class QFrame;
 class QLabel;
 class QLineEdit;
 class QTextEdit;
@@ -16,8 +15,6 @@ namespace tarvelo::lectures {
 // In the face of the windows, and in a size that follows the desktop's.
 void style(QLabel &label, double size, const QColor &colour);
 void fill(QWidget &view, const QColor &colour);
-// The strip of a recorder or a player.
-void fillPanel(QFrame &panel);
 // A hidden control keeps its room, so that nothing moves when it comes back.
 void keepRoom(QWidget &view);
 // Room between the edge and what is typed.

@@ -2,9 +2,9 @@
 
 #include "lectures/LectureOutlets.h"
 
-#include <memory>
+#include <QWidget>
 
-class QWidget;
+#include <memory>
 
 namespace tarvelo::lectures {
 

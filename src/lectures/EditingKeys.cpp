@@ -20,6 +20,8 @@ using widgets::ImageButton;
 
 namespace {
 
+const QList<Qt::Key> PlayKeys{Qt::Key_F8, Qt::Key_MediaTogglePlayPause};
+
 void onKey(QWidget &place, const QKeySequence &key, std::function<void()> run)
 {
     auto *shortcut = new QShortcut(key, &place);
@@ -75,9 +77,10 @@ void escapeCloses(QWidget &window)
         onKey(window, key, [&window] { window.close(); });
 }
 
-void playAndPauseWithF8(QWidget &place, ImageButton &play, ImageButton &pause)
+void playAndPauseWithF8(QWidget &place, ImageButton &play, ImageButton &pause,
+                        const QList<Qt::Key> &alsoBy)
 {
-    for (const Qt::Key key : {Qt::Key_F8, Qt::Key_MediaTogglePlayPause})
+    for (const Qt::Key key : alsoBy + PlayKeys)
         onKey(place, QKeySequence(key),
               [&play, &pause] { play.isEnabled() ? play.click() : pause.click(); });
     handKeyboardOver(play, pause);
@@ -93,7 +96,7 @@ void recordWithKeys(const audio::RecordingOutlets &controls)
     pressWithKeys(window, QKeySequence(Qt::CTRL | Qt::Key_T), {controls.btnTimeTag});
     // The button that stopped the take plays it then; it never stops a take by this key.
     ImageButton *const stop = controls.btnStopRecord;
-    for (const Qt::Key key : {Qt::Key_F8, Qt::Key_MediaTogglePlayPause})
+    for (const Qt::Key key : PlayKeys)
         onKey(window, QKeySequence(key), [stop] {
             if (stop->actionName() != "stopRecording")
                 stop->click();

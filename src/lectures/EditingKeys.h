@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QList>
+#include <Qt>
+
 class QLineEdit;
 class QTextEdit;
 class QWidget;
@@ -25,8 +28,9 @@ void returnGoesOnToNotes(QLineEdit &subject, QTextEdit &notes);
 void escapeCloses(QWidget &window);
 // F8, or the media key, anywhere in `place` presses the one of the two that can be pressed. Many
 // keyboards show the sign for play and pause on it. Whoever presses one of them by keyboard is on
-// the other next.
-void playAndPauseWithF8(QWidget &place, widgets::ImageButton &play, widgets::ImageButton &pause);
+// the other next. `alsoBy` are more keys that do it.
+void playAndPauseWithF8(QWidget &place, widgets::ImageButton &play, widgets::ImageButton &pause,
+                        const QList<Qt::Key> &alsoBy = {});
 // Ctrl+R starts, pauses and resumes a take, Ctrl+Shift+R stops it and then plays and pauses it, as
 // F8 does then too; Ctrl+T puts the recorded time into the notes. The tool tips show the keys.
 void recordWithKeys(const audio::RecordingOutlets &controls);

@@ -1,5 +1,6 @@
 #include "lectures/LectureEditing.h"
 
+#include "audio/PlayPauseButtons.h"
 #include "audio/Playback.h"
 #include "audio/PlayerDisplay.h"
 #include "lectures/DayList.h"
@@ -10,14 +11,20 @@
 #include "platform/Alerts.h"
 #include "platform/WindowLevel.h"
 #include "store/GoneLectures.h"
+#include "store/LectureInfoItem.h"
 #include "widgets/MouseDownTextField.h"
 #include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
 #include "widgets/WholeText.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QSlider>
 #include <QTextEdit>
+#include <QWidget>
+
+#include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -231,9 +238,7 @@ void LectureEditing::lecturesHaveGone(const store::GoneLectures &gone)
 
 void LectureEditing::lecturesCameBack(const store::LecturesBack &back)
 {
-    LectureList lectures = m_with.dayList.arrangedObjects();
-    lectures.insert(lectures.end(), {m_itemEditingNow, m_itemOfWindow, m_itemOfView});
-    for (const Lecture &lecture : lectures)
+    for (const Lecture &lecture : {m_itemEditingNow, m_itemOfWindow, m_itemOfView})
         if (lecture)
             m_saving.giveRowBack(*lecture, back);
     m_saving.lecturesCameBack(back);

@@ -7,6 +7,11 @@
 #include "lectures/TextDelegate.h"
 #include "platform/DelayedCall.h"
 
+#include <QString>
+
+class QLineEdit;
+class QWidget;
+
 namespace tarvelo::audio {
 class Playback;
 }
@@ -14,6 +19,11 @@ namespace tarvelo::platform {
 class Alerts;
 class Clock;
 } // namespace tarvelo::platform
+namespace tarvelo::store {
+struct GoneLectures;
+class LectureInfoItem;
+struct LecturesBack;
+} // namespace tarvelo::store
 namespace tarvelo::widgets {
 class MouseDownTextField;
 }
@@ -70,6 +80,7 @@ public:
     void mouseDownTextFieldClicked(widgets::MouseDownTextField &field);
     // A lecture was deleted: what shows it saves no more, since its ID may be given again.
     void closeWhatIsNotStored();
+    // That lecture was, and nothing of it is to be saved any more.
     void forgetUnsavedTexts(const store::LectureInfoItem &lecture);
     // What is saved from now on into one of them that was open goes to the copy in which it is.
     void lecturesHaveGone(const store::GoneLectures &gone);

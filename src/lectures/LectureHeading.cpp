@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QWidget>
 
 #include <algorithm>
 

@@ -1,9 +1,12 @@
 #include "lectures/LectureJournalKeeper.h"
 
 #include "audio/AudioFileLocations.h"
+#include "audio/LeftFiles.h"
+#include "audio/LeftLectures.h"
 #include "lectures/DayList.h"
 #include "platform/Dates.h"
 #include "store/JournalWriter.h"
+#include "store/LectureInfoItem.h"
 #include "widgets/WholeText.h"
 
 #include <QFileInfo>
@@ -12,7 +15,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 namespace tarvelo::lectures {
 

@@ -16,7 +16,8 @@
 
 namespace tarvelo::audio {
 class AudioFileLocations;
-}
+class LeftLectures;
+} // namespace tarvelo::audio
 namespace tarvelo::platform {
 class Dates;
 }

@@ -5,6 +5,10 @@
 #include "store/Statements.h"
 #include "store/StoredRows.h"
 
+#include <QtGlobal>
+
+#include <utility>
+
 namespace tarvelo::lectures {
 
 LectureSaving::LectureSaving(Collaborators collaborators)
@@ -73,11 +77,7 @@ void LectureSaving::lecturesCameBack(const store::LecturesBack &back)
 void LectureSaving::giveRowBack(store::LectureInfoItem &lecture,
                                 const store::LecturesBack &back) const
 {
-    if (!lecture.hasGone())
-        return;
-    if (const auto id = m_with.database.idNow(back, lecture.copyPath(), lecture.getRecordUniqueID(),
-                                              lecture.getLectureAudioPath()))
-        lecture.setRow(*id);
+    m_with.database.giveRowBack(lecture, back);
 }
 
 } // namespace tarvelo::lectures

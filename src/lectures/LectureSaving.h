@@ -2,7 +2,19 @@
 
 #include "lectures/UnsavedTexts.h"
 
+#include <QString>
+
 #include <functional>
+
+namespace tarvelo::platform {
+class Clock;
+}
+namespace tarvelo::store {
+struct GoneLectures;
+class LectureDatabase;
+class LectureInfoItem;
+struct LecturesBack;
+} // namespace tarvelo::store
 
 namespace tarvelo::lectures {
 

@@ -1,16 +1,25 @@
 #include "lectures/LectureTable.h"
 
 #include "lectures/CustomTableCellView.h"
+#include "lectures/LectureList.h"
 #include "lectures/RowSlideUp.h"
 #include "lectures/RowSwipe.h"
-#include "widgets/ImageButton.h"
 
+#include <QAbstractItemModel>
 #include <QAccessible>
+#include <QAccessibleEvent>
 #include <QApplication>
 #include <QCursor>
+#include <QFrame>
+#include <QMetaObject>
 #include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QPoint>
+#include <QRect>
 #include <QScrollBar>
 #include <QStyle>
+#include <QWidget>
 
 #include <algorithm>
 

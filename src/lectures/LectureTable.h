@@ -1,16 +1,18 @@
 #pragma once
 
-#include "lectures/LectureList.h"
 #include "lectures/RowAction.h"
 #include "lectures/RowSelection.h"
 #include "lectures/ShownRows.h"
 
-#include <QAbstractItemModel>
+#include <QAbstractItemModel> // IWYU pragma: keep: a guarded pointer needs the whole class
 #include <QAbstractScrollArea>
 #include <QPointer>
 
 #include <chrono>
 #include <functional>
+#include <utility>
+
+class QWidget;
 
 namespace tarvelo::lectures {
 

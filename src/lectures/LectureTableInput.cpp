@@ -4,13 +4,13 @@
 #include "lectures/RowAction.h"
 #include "lectures/RowKeys.h"
 #include "lectures/RowSwipe.h"
+#include "lectures/ShownRows.h"
 #include "widgets/ImageButton.h"
 
 #include <QAbstractScrollArea>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPoint>
 #include <QWheelEvent>
 #include <QWidget>
 

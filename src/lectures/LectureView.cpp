@@ -3,14 +3,15 @@
 #include "lectures/Dressing.h"
 #include "lectures/LectureHeading.h"
 #include "lectures/LectureViewMargins.h"
+#include "ui_LectureView.h"
 #include "widgets/Colours.h"
+#include "widgets/CustomTextView.h"
 #include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/MouseDownTextField.h"
 
-#include "ui_LectureView.h"
-
 #include <QHBoxLayout>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -56,7 +57,6 @@ LectureView buildLectureView(QWidget &pane)
     for (QLabel *label :
          {ui.lblNotesForView, ui.tEditTime, ui.tEditDate, ui.tElapsedTime, ui.tRemainingTime})
         style(*label, 13, widgets::colours().faint);
-    fillPanel(*ui.editPlayerPanel);
     dressPlayPause(*ui.bPlay, *ui.bPause);
     // A heading until someone wants to change it.
     ui.tSubjectName->setFont(widgets::scaledFace(18));

@@ -1,13 +1,14 @@
 #include "lectures/LectureWindows.h"
 
+#include "audio/PlaybackOutlets.h"
 #include "calendar/CKCalendarView.h"
-#include "lectures/LectureTable.h"
+#include "lectures/LectureOutlets.h"
+#include "lectures/LectureTable.h" // IWYU pragma: keep: as the view that it is
 #include "lectures/LectureTableAccess.h"
 #include "platform/HighContrast.h"
 #include "widgets/Accessibility.h"
 #include "widgets/FocusRing.h"
 #include "widgets/MouseDownTextField.h"
-#include "widgets/PopOver.h"
 #include "widgets/SlidingWindow.h"
 
 #include <QSlider>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "audio/PlaybackOutlets.h"
+#include "audio/PlaybackOutlets.h" // IWYU pragma: export
 #include "audio/RecordingOutlets.h"
 #include "lectures/EditLectureWindow.h"
-#include "lectures/LectureOutlets.h"
+#include "lectures/LectureOutlets.h" // IWYU pragma: export
 #include "lectures/LectureView.h"
 #include "lectures/MainWindow.h"
 #include "lectures/NewLectureWindow.h"
@@ -12,6 +12,9 @@
 
 namespace tarvelo::platform {
 class Dates;
+}
+namespace tarvelo::widgets {
+class SlidingWindow;
 }
 
 namespace tarvelo::lectures {

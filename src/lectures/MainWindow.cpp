@@ -2,20 +2,20 @@
 
 #include "calendar/CKCalendarView.h"
 #include "lectures/Dressing.h"
-#include "lectures/LectureTable.h"
 #include "lectures/WindowWidths.h"
 #include "platform/Frames.h"
 #include "platform/Images.h"
 #include "platform/Texts.h"
+#include "ui_MainWindow.h"
 #include "widgets/Colours.h"
 #include "widgets/Faces.h"
+#include "widgets/Hairline.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LightPalette.h"
 #include "widgets/SlidingWindow.h"
 
-#include "ui_MainWindow.h"
-
 #include <QRectF>
+#include <QWidget>
 
 namespace tarvelo::lectures {
 

@@ -1,14 +1,12 @@
 #pragma once
 
 #include "lectures/LectureOutlets.h"
+#include "widgets/SlidingWindow.h"
 
 #include <memory>
 
 namespace tarvelo::platform {
 class Dates;
-}
-namespace tarvelo::widgets {
-class SlidingWindow;
 }
 
 namespace tarvelo::lectures {

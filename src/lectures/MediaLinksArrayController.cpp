@@ -5,11 +5,11 @@
 #include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
+#include "lectures/OwedLectures.h"
 #include "lectures/RowLookup.h"
 #include "platform/Dates.h"
 #include "platform/DiskRoom.h"
 #include "platform/Workspace.h"
-#include "store/GoneLectures.h"
 #include "store/LectureDatabase.h"
 #include "store/LectureInfoItem.h"
 #include "widgets/LayerView.h"
@@ -292,13 +292,17 @@ void MediaLinksArrayController::removeArrangedObject(int row)
     m_editing.closeWhatIsNotStored();
 }
 
-// They stay in the list that shows, and must not be taken for those that get their IDs.
 void MediaLinksArrayController::lecturesHaveGone(const store::GoneLectures &gone)
 {
-    for (const Lecture &lecture : m_dayList.arrangedObjects())
-        gone.mark(*lecture);
+    m_dayList.lecturesHaveGone(gone);
     m_left.lecturesHaveGone(gone);
     m_editing.lecturesHaveGone(gone);
+}
+
+void MediaLinksArrayController::lecturesCameBack(const store::LecturesBack &back)
+{
+    m_dayList.lecturesCameBack(back);
+    m_editing.lecturesCameBack(back);
 }
 
 } // namespace tarvelo::lectures

@@ -55,6 +55,7 @@ class LectureApplication;
 class LectureRowHost;
 class LectureTable;
 class LectureWindows;
+class OwedLectures;
 
 // What the controller and its workflows work with. All of it outlives the controller.
 struct LectureServices
@@ -215,10 +216,12 @@ public:
     void doSaveNewAudioInfos() { m_newLecture.doSaveNewAudioInfos(); }
     void saveWhatWaits();
     LectureJournalKeeper &journal() { return m_journal; }
+    // Those of the lectures that could not be stored yet.
+    OwedLectures &owedLectures() { return m_journal.owed(); }
     // What new lectures of processes that died left behind.
     audio::LeftLectures &leftLectures() { return m_left; }
     // From a copy, into the table.
-    void lecturesCameBack(const store::LecturesBack &back) { m_editing.lecturesCameBack(back); }
+    void lecturesCameBack(const store::LecturesBack &back);
     engine::AudioEngine &audioEngine() const { return m_services.engine; }
     void onCancelAddNewLecture(QWidget *sender) { m_newLecture.onCancelAddNewLecture(sender); }
     void onCloseLectureWindow(QWidget *sender) { m_newLecture.onCloseLectureWindow(sender); }

@@ -11,7 +11,6 @@
 #include "widgets/SlidingWindow.h"
 
 #include <QLabel>
-#include <QWidget>
 
 #include <chrono>
 

@@ -4,14 +4,17 @@
 #include "lectures/Dressing.h"
 #include "platform/Images.h"
 #include "platform/Texts.h"
+#include "ui_NewLectureWindow.h"
 #include "widgets/Colours.h"
+#include "widgets/CustomTextView.h"
 #include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
-#include "widgets/LayerView.h"
-#include "widgets/LevelIndicator.h"
+#include "widgets/ImageView.h"
 #include "widgets/LightPalette.h"
 
-#include "ui_NewLectureWindow.h"
+#include <QLabel>
+#include <QStringLiteral>
+#include <Qt>
 
 namespace tarvelo::lectures {
 
@@ -111,7 +114,6 @@ NewLectureWindow buildNewLectureWindow()
     keepRoomForWarnings(*ui.lblRecordingWarning);
     limitSubject(*ui.txtSubjectForNewNote);
     giveMargins(*ui.txtSubjectForNewNote, *ui.txtView);
-    fillPanel(*ui.recordingPanel);
     ui.imgLevelIndicatorBG->setImage(imageNamed(QStringLiteral("levelBackground")));
     dressRecordingControls(built.recording);
     ui.BtnDoneOrClose->setTag(NewLectureOutlets::TagDone);

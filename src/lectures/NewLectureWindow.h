@@ -3,9 +3,9 @@
 #include "audio/RecordingOutlets.h"
 #include "lectures/LectureOutlets.h"
 
-#include <memory>
+#include <QWidget>
 
-class QWidget;
+#include <memory>
 
 namespace tarvelo::lectures {
 

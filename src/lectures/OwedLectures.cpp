@@ -2,9 +2,10 @@
 
 #include "audio/TakePlaces.h"
 #include "lectures/DayList.h"
+#include "store/LectureJournal.h"
 
-#include <algorithm>
 #include <optional>
+#include <ranges>
 #include <utility>
 
 using namespace std::chrono_literals;

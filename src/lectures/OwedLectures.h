@@ -4,7 +4,6 @@
 #include "lectures/LectureList.h"
 #include "platform/DelayedCall.h"
 #include "store/LectureInfoItem.h"
-#include "store/LectureJournal.h"
 
 #include <QHash>
 #include <QStringList>
@@ -18,6 +17,9 @@ class TakePlaces;
 }
 namespace tarvelo::platform {
 class Clock;
+}
+namespace tarvelo::store {
+struct LectureJournal;
 }
 
 namespace tarvelo::lectures {

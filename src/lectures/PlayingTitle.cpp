@@ -3,10 +3,11 @@
 #include "widgets/CutLabel.h"
 #include "widgets/PlainToolTip.h"
 
-#include <QBoxLayout>
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QObject>
+#include <QSizePolicy>
 
 namespace tarvelo::lectures {
 

@@ -1,12 +1,9 @@
 #pragma once
 
 #include "lectures/LectureOutlets.h"
+#include "widgets/PopOver.h"
 
 #include <memory>
-
-namespace tarvelo::widgets {
-class PopOver;
-}
 
 namespace tarvelo::lectures {
 

@@ -3,7 +3,6 @@
 #include "lectures/CustomTableCellView.h"
 #include "widgets/ImageButton.h"
 
-#include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QRect>

@@ -1,6 +1,8 @@
 #include "lectures/RowSelection.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace tarvelo::lectures {
 

@@ -3,7 +3,6 @@
 #include "lectures/RowAction.h"
 
 #include <QAbstractButton>
-#include <QList>
 #include <QObject>
 #include <QSize>
 #include <QVariantAnimation>

@@ -14,7 +14,6 @@
 #include <QColor>
 #include <QFont>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPalette>
 #include <QTextEdit>
 #include <QWidget>

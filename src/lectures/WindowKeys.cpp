@@ -1,28 +1,12 @@
 #include "lectures/WindowKeys.h"
 
 #include "audio/PlaybackOutlets.h"
-#include "audio/RecordingOutlets.h"
 #include "lectures/EditingKeys.h"
 #include "lectures/LectureOutlets.h"
 #include "lectures/LectureWindows.h"
-#include "widgets/ImageButton.h"
 #include "widgets/MouseDownTextField.h"
 
-#include <QObject>
-#include <QShortcut>
-#include <QTextEdit>
-#include <QWidget>
-
 namespace tarvelo::lectures {
-
-namespace {
-
-void pressInTurn(widgets::ImageButton &play, widgets::ImageButton &pause)
-{
-    (play.isEnabled() ? play : pause).performClick(nullptr);
-}
-
-} // namespace
 
 void connectEditingKeys(const LectureWindows &windows)
 {
@@ -47,12 +31,9 @@ void connectEditingKeys(const LectureWindows &windows)
 
 void connectPlayingKeys(const audio::LecturePlayerOutlets &player)
 {
-    QWidget *window = player.playAudioWindow;
-    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_F8})
-        QObject::connect(new QShortcut(key, window), &QShortcut::activated, window, [player] {
-            pressInTurn(*player.btnPlayLecture, *player.btnPauseLecture);
-        });
-    escapeCloses(*window);
+    QWidget &window = *player.playAudioWindow;
+    playAndPauseWithF8(window, *player.btnPlayLecture, *player.btnPauseLecture, {Qt::Key_Space});
+    escapeCloses(window);
 }
 
 } // namespace tarvelo::lectures

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFont>
 #include <QLabel>
 #include <QMessageBox>
 #include <QObject>

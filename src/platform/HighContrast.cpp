@@ -1,7 +1,9 @@
 #include "platform/HighContrast.h"
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QGuiApplication>
+#include <QObject>
 #include <QPalette>
 
 #include <algorithm>

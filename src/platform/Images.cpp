@@ -6,6 +6,7 @@
 #include <QByteArrayView>
 #include <QFile>
 #include <QHash>
+#include <QIODevice>
 #include <QPainter>
 #include <QPixmap>
 #include <QPixmapCache>

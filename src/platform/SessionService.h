@@ -6,7 +6,6 @@
 #include <functional>
 
 class QDBusMessage;
-class QString;
 
 namespace tarvelo::platform {
 

@@ -1,9 +1,12 @@
 #include "platform/WindowLevel.h"
 
+#include <QBitmap>
 #include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
 #include <QPoint>
 #include <QRect>
-#include <QRegion>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
@@ -50,10 +53,21 @@ void centreOver(QWidget &window, const QWidget &other)
     window.move(frame.topLeft());
 }
 
-void setWindowShape(QWidget &window, const QRegion &shape)
+// A region of a polygon takes in what it half covers on one side, and leaves it out on the other. A
+// pixel of which a third is covered, which being painted twice makes a half, belongs to it.
+void setWindowShape(QWidget &window, const QPainterPath &outline)
 {
-    if (!isOnWayland())
-        window.setMask(shape);
+    if (isOnWayland())
+        return;
+    const QRect around = outline.boundingRect().toAlignedRect();
+    QImage cover(around.right() + 1, around.bottom() + 1, QImage::Format_ARGB32_Premultiplied);
+    cover.fill(Qt::transparent);
+    QPainter painter(&cover);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(outline, Qt::black);
+    painter.fillPath(outline, Qt::black);
+    painter.end();
+    window.setMask(QBitmap::fromImage(cover.createAlphaMask()));
 }
 
 void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on)

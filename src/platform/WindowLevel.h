@@ -2,7 +2,7 @@
 
 #include <Qt>
 
-class QRegion;
+class QPainterPath;
 class QWidget;
 
 namespace tarvelo::platform {
@@ -30,7 +30,7 @@ void centreOver(QWidget &window, const QWidget &other);
 
 // The window is to be seen, and gets the mouse, within the outline alone. Where windows have no
 // shapes (Wayland) nothing happens.
-void setWindowShape(QWidget &window, const QRegion &shape);
+void setWindowShape(QWidget &window, const QPainterPath &outline);
 
 // Changes one flag of a window that may be showing, without hiding it as QWidget's own setter does.
 void setWindowFlagInPlace(QWidget &window, Qt::WindowType flag, bool on);

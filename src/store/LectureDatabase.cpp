@@ -1,5 +1,6 @@
 #include "store/LectureDatabase.h"
 
+#include "platform/Places.h"
 #include "platform/PrivateFiles.h"
 #include "store/FileBytes.h"
 #include "store/Integrity.h"
@@ -9,6 +10,7 @@
 #include "store/Tables.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 #include <utility>
 
@@ -170,6 +172,15 @@ std::optional<qint64> LectureDatabase::idNow(const LecturesBack &back, const QSt
         return std::nullopt;
     const auto rows = rowsWithRecording(*m_connection, audioPath);
     return rows && rows->size() == 1 ? std::optional(rows->first()) : std::nullopt;
+}
+
+void LectureDatabase::giveRowBack(LectureInfoItem &lecture, const LecturesBack &back) const
+{
+    if (!lecture.hasGone())
+        return;
+    if (const auto id = idNow(back, lecture.copyPath(), lecture.getRecordUniqueID(),
+                              lecture.getLectureAudioPath()))
+        lecture.setRow(*id);
 }
 
 bool LectureDatabase::deleteVoiceData(const LectureInfoItem &lecture)

@@ -1,15 +1,27 @@
 #pragma once
 
-#include "platform/Places.h"
 #include "store/DamagedFiles.h"
 #include "store/GoneLectures.h"
 #include "store/LectureBackups.h"
 #include "store/Sqlite.h"
 
+#include <QList>
+#include <QString>
+#include <QVariantList>
+#include <QtGlobal>
+
 #include <functional>
 #include <memory>
+#include <optional>
+
+namespace tarvelo::platform {
+class Clock;
+struct Places;
+} // namespace tarvelo::platform
 
 namespace tarvelo::store {
+
+class LectureInfoItem;
 
 // The one database file of lectures and the connection that all share, open from its first use to
 // the end of the run. What the user does to a lecture passes here. Nothing is ever reported.
@@ -64,6 +76,8 @@ public:
     // which may have come back from another. Null when it has not come back.
     std::optional<qint64> idNow(const LecturesBack &back, const QString &copyPath, qint64 id,
                                 const QString &audioPath) const;
+    // A lecture that had gone has its row again, if it is among those.
+    void giveRowBack(LectureInfoItem &lecture, const LecturesBack &back) const;
     // Goes by the audio path: every lecture with the same path goes, so all without audio at once.
     // Never opens the database. The path is pasted as it stands, so that with an apostrophe in it
     // no row goes, which is wanted. False when the lecture is to stay whole: its row could not be

@@ -7,19 +7,13 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
-#include <QPen>
-#include <QPolygonF>
 #include <QRectF>
-#include <QRegion>
 
 namespace tarvelo::widgets {
 
 namespace {
 
 constexpr double Radius = 12;
-// The corners of the window's shape, which goes in steps, lie outside of those of the line, so that
-// they leave it whole.
-constexpr double ShapeRadius = Radius - 3;
 
 QPainterPath roundedRect(const QRectF &rect, double radius)
 {
@@ -38,8 +32,7 @@ CardView::CardView(QWidget *parent)
 // Where windows have no shapes (Wayland) they can be seen through, and the corners are clear.
 void CardView::resizeEvent(QResizeEvent *)
 {
-    const QPainterPath outline = roundedRect(rect(), ShapeRadius);
-    platform::setWindowShape(*window(), QRegion(outline.toFillPolygon().toPolygon()));
+    platform::setWindowShape(*window(), roundedRect(rect(), Radius));
 }
 
 void CardView::paintEvent(QPaintEvent *)

@@ -1,12 +1,20 @@
 #include "widgets/ControlPainting.h"
 
-#include "platform/HighContrast.h"
 #include "widgets/Colours.h"
 #include "widgets/Lines.h"
 
+#include <QColor>
+#include <QFlags>
 #include <QFontInfo>
 #include <QPainter>
+#include <QPen>
+#include <QPoint>
+#include <QPointF>
+#include <QPolygonF>
+#include <QRect>
+#include <QStyle>
 #include <QStyleOption>
+#include <QStyleOptionSlider>
 
 #include <algorithm>
 
@@ -24,7 +32,6 @@ constexpr double GrooveHeight = 4;
 constexpr double ScrollHandleWidth = 6;
 // In per cent, as against a control under the mouse.
 constexpr int PressedShade = 106;
-constexpr double ForTexts = 4.5;
 
 enum class Turn { None, Mouse, Press };
 
@@ -119,12 +126,11 @@ void paintGround(QPainter &painter, const QStyleOption &option, const QRectF &pl
     painter.drawRoundedRect(lineIn(painter, place, width), radius - width, radius - width);
 }
 
-// Shades would hide a title that stands out from white by little: it is its outline that tells.
+// Shades would hide a title that stands out from white by little, as a red one does, and buttons
+// stand beside each other: it is the outline that tells.
 bool staysLight(const QStyleOption &option)
 {
-    return !colours().isBold && turnOf(option) != Turn::None &&
-           platform::contrastOf(option.palette.color(QPalette::ButtonText),
-                                option.palette.color(QPalette::Midlight)) < ForTexts;
+    return !colours().isBold && turnOf(option) != Turn::None;
 }
 
 void paintLightButton(QPainter &painter, const QStyleOption &option)

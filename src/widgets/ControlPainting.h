@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QPalette>
-#include <QRect>
 #include <QRectF>
 
 class QFont;

@@ -7,15 +7,22 @@
 #include "widgets/MenuPainting.h"
 
 #include <QAbstractItemView>
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QFrame>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QPen>
 #include <QPixmap>
-#include <QPushButton>
 #include <QSizeF>
 #include <QStyleOption>
+#include <QStyleOptionButton>
+#include <QStyleOptionComplex>
+#include <QStyleOptionFrame>
+#include <QStyleOptionMenuItem>
+#include <QStyleOptionSlider>
+#include <QWidget>
 
 #include <algorithm>
 

@@ -1,6 +1,16 @@
 #pragma once
 
+#include <QIcon>
+#include <QPalette>
+#include <QPixmap>
 #include <QProxyStyle>
+#include <QRect>
+#include <QSize>
+
+class QPainter;
+class QStyleOption;
+class QStyleOptionComplex;
+class QWidget;
 
 namespace tarvelo::widgets {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "widgets/CustomTextFieldFormatter.h"
-
 class QLineEdit;
 
 namespace tarvelo::widgets {
+
+class CustomTextFieldFormatter;
 
 // Asks `formatter` about every edit of the field: typing, pasting, dropping, input methods. One
 // that it refuses leaves the field as it was. What the program puts there is no edit and shows

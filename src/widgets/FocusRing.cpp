@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QObject>
 #include <QPainter>
 #include <QPalette>
 #include <QPen>
@@ -20,9 +21,9 @@ namespace {
 // The ring lies on the outline of the control, in its middle.
 constexpr double Radius = ControlRadius - 0.5;
 
-// Between the letters of a heading, which begin at its edge, and the outside of the ring: three
-// points and the ring's own two.
-constexpr int RoomAcross = 5;
+// Between the letters of a heading, which begin at its edge, and the outside of the ring: as much
+// as a field has.
+constexpr int RoomAcross = 10;
 // A line of text has some of its own.
 constexpr int RoomDown = 2;
 

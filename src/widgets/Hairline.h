@@ -2,6 +2,8 @@
 
 #include <QFrame>
 
+class QWidget;
+
 namespace tarvelo::widgets {
 
 // The line between two areas of a window. It is one point thick for the layout, and on the screen

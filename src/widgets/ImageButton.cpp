@@ -5,6 +5,7 @@
 #include "widgets/DrawingStates.h"
 #include "widgets/Lines.h"
 
+#include <QColor>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QHelpEvent>
@@ -13,7 +14,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPen>
-#include <QPointer>
+#include <QPointF>
 #include <QSizeF>
 #include <QToolTip>
 #include <QTransform>
@@ -59,7 +60,7 @@ ImageButton::ImageButton(QWidget *parent)
         // Copied, since an action may exchange itself.
         const Action action = m_action;
         if (action.run)
-            action.run(m_clickingFor ? m_clickingFor : this);
+            action.run(this);
     });
 }
 
@@ -81,16 +82,6 @@ void ImageButton::setLook(const QString &image, const QString &alternate, const 
     setAlternateImage(platform::imageNamed(alternate));
     setToolTip(toolTip);
     setAccessibleName(toolTip);
-}
-
-void ImageButton::performClick(QWidget *sender)
-{
-    // The action may be the end of this button.
-    const QPointer<ImageButton> self(this);
-    m_clickingFor = sender;
-    click();
-    if (self)
-        m_clickingFor = nullptr;
 }
 
 QSize ImageButton::sizeHint() const
@@ -154,13 +145,20 @@ void ImageButton::focusInEvent(QFocusEvent *event)
     QPushButton::focusInEvent(event);
 }
 
+// A drawing that is as narrow as an arrow has no ground that could tell.
+float ImageButton::shadeOf(const QRectF &drawing) const
+{
+    const float shade = isDown() ? PressedShade : HoverShade;
+    return drawing.width() < NarrowWidth ? std::min(1.0F, shade * 5) : shade;
+}
+
 // A shade darker for who turns to it, and two while it is pressed, or with a thick line around it
 // and white on black. One that is as narrow as an arrow is underlined instead.
 void ImageButton::showState(QImage &drawing, const Image &image) const
 {
     const QColor ink = palette().color(QPalette::WindowText);
     if (!colours().isBold)
-        return shade(drawing, ink, isDown() ? PressedShade : HoverShade);
+        return shade(drawing, ink, shadeOf(imageRect(image)));
     if (!isEnabled())
         return fade(drawing, palette().color(QPalette::WindowText));
     if (isDown())

@@ -52,8 +52,6 @@ public:
     void setAction(Action action) { m_action = std::move(action); }
     void setTag(int tag) { m_tag = tag; }
     void setState(int state) { setChecked(state != 0); }
-    // Presses the button in the name of `sender`; a disabled button does nothing.
-    void performClick(QWidget *sender);
 
     QSize sizeHint() const override;
 
@@ -73,6 +71,7 @@ protected:
 
 private:
     // The drawing as it shows that one turns to it, or that it cannot be used.
+    float shadeOf(const QRectF &drawing) const;
     void paintTile(QPainter &painter) const;
     void paintChanged(QPainter &painter, const platform::Image &image) const;
     void showState(QImage &drawing, const platform::Image &image) const;
@@ -81,7 +80,6 @@ private:
     platform::Image m_alternateImage;
     Action m_action;
     QKeySequence m_keys;
-    QWidget *m_clickingFor = nullptr;
     int m_tag = 0;
     // The focus is drawn for who came by keyboard: a window that opens, or a click, needs no ring.
     bool m_showsFocus = false;

@@ -7,11 +7,14 @@
 #include <QLayout>
 #include <QList>
 #include <QMargins>
+#include <QObject>
 #include <QPainter>
 #include <QRect>
 #include <QString>
 #include <QTextLayout>
+#include <QTextLine>
 #include <QTextOption>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,6 @@
 #include "widgets/Lines.h"
 
+#include <QColor>
 #include <QPainter>
 #include <QPen>
 #include <QPoint>

@@ -7,9 +7,11 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
+#include <QPointF>
 #include <QPolygonF>
 #include <QRect>
 #include <QRectF>
+#include <QRgb>
 #include <QStyleOption>
 
 #include <algorithm>

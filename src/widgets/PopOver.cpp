@@ -12,9 +12,7 @@
 #include <QPalette>
 #include <QPen>
 #include <QPointF>
-#include <QPolygonF>
 #include <QRectF>
-#include <QRegion>
 #include <QScreen>
 #include <QSize>
 #include <QVBoxLayout>
@@ -152,16 +150,7 @@ void PopOver::place(const QRect &anchor, Qt::Edge preferredEdge)
         m_tip.setX(within(m_tip.x(), ArrowInset, frame.width() - ArrowInset));
     else
         m_tip.setY(within(m_tip.y(), ArrowInset, frame.height() - ArrowInset));
-    platform::setWindowShape(*this, shape());
-}
-
-// A region leaves out what a polygon half covers where it begins, and takes it in where it ends.
-// The line of the arrow and of the corners would be missing on one side.
-QRegion PopOver::shape() const
-{
-    const QRegion within(outline(bubble(), 0).toFillPolygon().toPolygon());
-    return (within + within.translated(isVertical(m_edge) ? QPoint(-1, 0) : QPoint(0, -1))) &
-           rect();
+    platform::setWindowShape(*this, outline(bubble(), 0));
 }
 
 QRectF PopOver::bubble() const

@@ -3,13 +3,12 @@
 #include <QPoint>
 #include <QPointer>
 #include <QRect>
+#include <QRectF>
 #include <QWidget>
 
 #include <memory>
 
 class QPainterPath;
-class QRectF;
-class QRegion;
 
 namespace tarvelo::widgets {
 
@@ -48,7 +47,6 @@ private:
     void place(const QRect &anchor, Qt::Edge preferredEdge);
     QRectF bubble() const;
     QPainterPath outline(const QRectF &bubble, double inset) const;
-    QRegion shape() const;
     void anchorEvent(const QEvent &event);
 
     QWidget *m_content;

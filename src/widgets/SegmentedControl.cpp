@@ -5,7 +5,6 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
-#include <QColor>
 #include <QFont>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -14,6 +13,7 @@
 #include <QRectF>
 #include <QSize>
 #include <QSizePolicy>
+#include <QStyle>
 #include <QStyleOption>
 
 namespace tarvelo::widgets {

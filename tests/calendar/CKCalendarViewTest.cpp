@@ -428,7 +428,7 @@ private Q_SLOTS:
         QVERIFY(!proceed->isHidden());
         QVERIFY(button("backToCurrentMonthButton")->isHidden());
 
-        proceed->performClick(proceed);
+        proceed->click();
 
         QVERIFY(proceed->isHidden());
         QCOMPARE(m_view->monthShowing(), day(2024, 3, 1));
@@ -442,7 +442,7 @@ private Q_SLOTS:
         QVERIFY(!back->isHidden());
         QVERIFY(button("proceedToCurrentMonthButton")->isHidden());
 
-        back->performClick(back);
+        back->click();
 
         QVERIFY(back->isHidden());
         QCOMPARE(m_view->monthShowing(), day(2024, 3, 1));
@@ -457,7 +457,7 @@ private Q_SLOTS:
         auto *back = button("backToCurrentMonthButton");
         QVERIFY(!back->isHidden());
 
-        back->performClick(back);
+        back->click();
 
         QVERIFY(back->isHidden());
     }

@@ -1,5 +1,7 @@
 #include "calendar/CalendarDates.h"
 
+#include "platform/Dates.h"
+#include "platform/Region.h"
 #include "support/FakeClock.h"
 #include "support/TestCase.h"
 

@@ -1,6 +1,5 @@
 #include "lectures/Dressing.h"
 
-#include "support/HighContrast.h"
 #include "support/TestCase.h"
 #include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
@@ -28,24 +27,6 @@ private Q_SLOTS:
 
         QCOMPARE(label.font(), tarvelo::widgets::scaledFace(13));
         QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
-    }
-
-    void aStripHasAGroundOrInHighContrastALineAround()
-    {
-        QFrame usual;
-        tarvelo::lectures::fillPanel(usual);
-        const tarvelo::tests::HighContrast contrast;
-        QFrame strong;
-        QPalette palette(Qt::white);
-        palette.setColor(QPalette::WindowText, Qt::black);
-        strong.setPalette(palette);
-        strong.resize(40, 20);
-        tarvelo::lectures::fillPanel(strong);
-
-        QVERIFY(usual.palette().color(QPalette::Window) != QColor(Qt::white));
-        QCOMPARE(usual.frameWidth(), 0);
-        QCOMPARE(strong.frameWidth(), 1);
-        QCOMPARE(strong.grab().toImage().pixelColor(0, 10), QColor(Qt::black));
     }
 
     void aHiddenControlKeepsItsRoom()

@@ -288,7 +288,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly) &&
                 file.write(tarvelo::store::toBytes(journal)) > 0);
         file.close();
-        controller().journal().owed().storeSoon();
+        controller().owedLectures().storeSoon();
         {
             tarvelo::store::Sqlite other(m_program->places.databaseFile());
             QVERIFY(other.beginTransaction());

@@ -81,7 +81,7 @@ private Q_SLOTS:
     {
         finishWhileLocked("Optics", true);
         const auto shown = lecture(0);
-        controller().journal().owed().storeSoon();
+        controller().owedLectures().storeSoon();
 
         m_program->clock.advance(20s);
 
@@ -244,11 +244,11 @@ private Q_SLOTS:
 
     void whatIsOwedIsKnown()
     {
-        QVERIFY(controller().journal().owed().recordings().isEmpty());
+        QVERIFY(controller().owedLectures().recordings().isEmpty());
 
         finishWhileLocked("Optics", true);
 
-        QCOMPARE(controller().journal().owed().recordings(),
+        QCOMPARE(controller().owedLectures().recordings(),
                  QStringList{lecture(0)->strLectureAudioPath()});
     }
 

@@ -162,7 +162,7 @@ public:
     {
         for (const auto &left : m_controller.leftLectures().undecided())
             m_controller.leftLectures().keep(left);
-        m_controller.journal().owed().storeSoon();
+        m_controller.owedLectures().storeSoon();
     }
 
     void discardOffered(const QString &subject)

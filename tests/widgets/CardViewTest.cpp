@@ -20,6 +20,20 @@ private Q_SLOTS:
         QVERIFY(m_window->mask().contains(QPoint(0, 50)));
     }
 
+    void allItsCornersAreAlike()
+    {
+        const QRegion shape = m_window->mask();
+
+        for (int y = 0; y < 14; ++y) {
+            for (int x = 0; x < 14; ++x) {
+                const bool isIn = shape.contains(QPoint(x, y));
+                QCOMPARE(shape.contains(QPoint(199 - x, y)), isIn);
+                QCOMPARE(shape.contains(QPoint(x, 99 - y)), isIn);
+                QCOMPARE(shape.contains(QPoint(199 - x, 99 - y)), isIn);
+            }
+        }
+    }
+
     void theShapeGrowsWithTheCard()
     {
         m_window->resize(300, 200);

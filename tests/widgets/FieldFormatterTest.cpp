@@ -1,6 +1,7 @@
 #include "widgets/FieldFormatter.h"
 
 #include "support/TestCase.h"
+#include "widgets/CustomTextFieldFormatter.h"
 
 #include <QClipboard>
 #include <QDropEvent>

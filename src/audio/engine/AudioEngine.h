@@ -1,7 +1,7 @@
 #pragma once
 
-#include "audio/engine/AudioPlayer.h"
-#include "audio/engine/AudioRecorder.h"
+#include "audio/engine/AudioPlayer.h"   // IWYU pragma: export
+#include "audio/engine/AudioRecorder.h" // IWYU pragma: export
 
 #include <QByteArray>
 #include <QString>

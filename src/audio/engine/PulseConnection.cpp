@@ -1,5 +1,7 @@
 #include "audio/engine/PulseConnection.h"
 
+#include <utility>
+
 namespace tarvelo::engine {
 
 PulseConnection::PulseConnection(pa_usec_t retryInterval, User user)

@@ -3,6 +3,7 @@
 #include "audio/engine/PulseHandles.h"
 
 #include <functional>
+#include <memory>
 
 namespace tarvelo::engine {
 

@@ -4,6 +4,7 @@
 
 #include <pulse/pulseaudio.h>
 
+#include <cstdint>
 #include <memory>
 
 namespace tarvelo::engine {

@@ -1,6 +1,10 @@
 #include "audio/engine/PulseOutput.h"
 
+#include "audio/engine/PcmFormat.h"
+
 #include <algorithm>
+#include <span>
+#include <utility>
 
 namespace tarvelo::engine {
 

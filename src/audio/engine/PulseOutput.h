@@ -2,8 +2,11 @@
 
 #include "audio/engine/HeardFrames.h"
 #include "audio/engine/PulseConnection.h"
+#include "audio/engine/PulseHandles.h"
 #include "audio/engine/SoundSupply.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <vector>
 
