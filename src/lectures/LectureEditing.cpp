@@ -68,7 +68,7 @@ Lecture LectureEditing::selectedLectureOfSender(const QWidget *sender)
 {
     LectureTable &table = *m_outlets.main.tblRecordSubjectList;
     const int row = rowOfSender(table, sender);
-    const Lecture lecture = m_with.dayList.lectureAt(row);
+    Lecture lecture = m_with.dayList.lectureAt(row);
     if (!lecture)
         return nullptr;
     table.selectRow(row);

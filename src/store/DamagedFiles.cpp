@@ -76,14 +76,14 @@ std::optional<DamagedFiles::Aside> DamagedFiles::newest() const
 bool DamagedFiles::replaceWithIntact(const QString &file) const
 {
     const auto aside = putAside(file);
-    const QString sound = m_files.pathOf(QStringLiteral(".sound"));
-    if (!aside || !rescueLectures(aside->filePath, sound))
+    const QString intact = m_files.pathOf(QStringLiteral(".sound"));
+    if (!aside || !rescueLectures(aside->filePath, intact))
         return false;
-    // An old journal would be taken for that of the sound file, and written over it.
+    // An old journal would be taken for that of the intact file, and written over it.
     const QString journal = rollbackJournalOf(file);
     const bool isReplaced = (!QFileInfo::exists(journal) || platform::removeDurably(journal)) &&
-                            platform::renameDurably(sound, file);
-    QFile::remove(sound);
+                            platform::renameDurably(intact, file);
+    QFile::remove(intact);
     return isReplaced;
 }
 

@@ -13,7 +13,7 @@ class Clock;
 
 namespace tarvelo::store {
 
-// What becomes of a database file that is damaged: it is put aside whole, and a sound one with
+// What becomes of a database file that is damaged: it is put aside whole, and an intact one with
 // every lecture that can be read takes its place. Nobody may have the file open meanwhile. What was
 // put aside is never removed, and not counted among the copies. Main thread only.
 class DamagedFiles final
@@ -32,7 +32,7 @@ public:
     // A copy of the file and its journal, byte for byte and forced to the disk; of the same bytes
     // only one is made. Null when there is none.
     std::optional<Aside> putAside(const QString &file) const;
-    // For one that turned out to be sound.
+    // For one that turned out to be intact.
     void remove(const Aside &aside) const;
     // The one made last.
     std::optional<Aside> newest() const;

@@ -15,7 +15,7 @@ namespace tarvelo::store {
 
 // Looks at every page of a database file on a thread of its own, which ends with this object at
 // once. It takes no lock, so that no write fails because of it; a write that falls into it can make
-// a sound file look damaged. The signal comes on the main thread, which all else is for too.
+// an intact file look damaged. The signal comes on the main thread, which all else is for too.
 class IntegrityCheck final : public QObject
 {
     Q_OBJECT

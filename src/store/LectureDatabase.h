@@ -35,8 +35,8 @@ public:
     ~LectureDatabase();
 
     // The shared connection, made on the first call; null when the file cannot be opened, and then
-    // the next call tries again. A file that is no database any more is put aside first, and a
-    // sound one takes its place. Owned by this object.
+    // the next call tries again. A file that is no database any more is put aside first, and an
+    // intact one takes its place. Owned by this object.
     Sqlite *openDb();
     // The same for who is about to write: null as well while the file is damaged and could not be
     // put aside, and while it is not known whether lectures have gone, since a new one would get
@@ -53,7 +53,7 @@ public:
     // What a reset and a delete of several lectures take away is kept there first.
     const LectureBackups &backups() const { return m_backups; }
     const DamagedFiles &damagedFiles() const { return m_damagedFiles; }
-    // Looks at every page. A damaged file is put aside, and a sound one with every lecture that
+    // Looks at every page. A damaged file is put aside, and an intact one with every lecture that
     // can be read takes its place. False when the file is damaged or unknown all the same.
     bool mendIfDamaged();
 

@@ -109,15 +109,16 @@ std::optional<Rescued> rescue(const QString &readablePath, const QString &intact
 {
     if (!makeEmpty(intactPath))
         return std::nullopt;
-    Sqlite sound(intactPath);
-    const bool hasTable = sound.executeNonQuery(QStringLiteral("ATTACH ? AS lost"), readablePath) &&
-                          hasLectures(sound, "lost");
+    Sqlite intact(intactPath);
+    const bool hasTable =
+        intact.executeNonQuery(QStringLiteral("ATTACH ? AS lost"), readablePath) &&
+        hasLectures(intact, "lost");
     if (!hasTable)
-        return isDamage(sound.errorCode()) || sound.errorCode() == SQLITE_OK
+        return isDamage(intact.errorCode()) || intact.errorCode() == SQLITE_OK
                    ? std::optional(Rescued{0, false})
                    : std::nullopt;
-    sound.executeNonQuery(QStringLiteral("PRAGMA main.synchronous = OFF"));
-    return bringOver(sound);
+    intact.executeNonQuery(QStringLiteral("PRAGMA main.synchronous = OFF"));
+    return bringOver(intact);
 }
 
 // The file with its beginning replaced by that of a new one. Of a file that says wrongly what it is
