@@ -25,6 +25,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <optional>
 
 namespace tarvelo::widgets {
 
@@ -146,6 +147,43 @@ QRect scrollBarPart(const QStyleOptionSlider &option, QStyle::SubControl part)
         return along(0, at);
     case QStyle::SC_ScrollBarAddPage:
         return along(at + handle, length);
+    default:
+        return {};
+    }
+}
+
+// Those that are the same in every control of one font.
+std::optional<int> lengthOf(QStyle::PixelMetric metric, const QWidget *widget)
+{
+    switch (metric) {
+    case QStyle::PM_LayoutLeftMargin:
+    case QStyle::PM_LayoutTopMargin:
+    case QStyle::PM_LayoutRightMargin:
+    case QStyle::PM_LayoutBottomMargin:
+        return Margin;
+    case QStyle::PM_LayoutHorizontalSpacing:
+    case QStyle::PM_CheckBoxLabelSpacing:
+    case QStyle::PM_RadioButtonLabelSpacing:
+    case QStyle::PM_HeaderMargin:
+        return GapAcross;
+    case QStyle::PM_LayoutVerticalSpacing:
+        return GapDown;
+    case QStyle::PM_IndicatorWidth:
+    case QStyle::PM_IndicatorHeight:
+    case QStyle::PM_ExclusiveIndicatorWidth:
+    case QStyle::PM_ExclusiveIndicatorHeight:
+        return indicatorSide(widget ? widget->font() : QApplication::font()) +
+               2 * RoomAroundIndicator;
+    case QStyle::PM_SliderLength:
+    case QStyle::PM_SliderThickness:
+    case QStyle::PM_SliderControlThickness:
+        return SliderHandleSide;
+    case QStyle::PM_MenuVMargin:
+        return MenuMargin;
+    case QStyle::PM_ScrollBarExtent:
+        return ScrollBarWidth;
+    case QStyle::PM_ScrollBarSliderMin:
+        return ShortestScrollHandle;
     default:
         return {};
     }
@@ -309,48 +347,14 @@ QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption *opti
 int ControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                               const QWidget *widget) const
 {
-    switch (metric) {
-    case PM_LayoutLeftMargin:
-    case PM_LayoutTopMargin:
-    case PM_LayoutRightMargin:
-    case PM_LayoutBottomMargin:
-        return Margin;
-    case PM_LayoutHorizontalSpacing:
-    case PM_CheckBoxLabelSpacing:
-    case PM_RadioButtonLabelSpacing:
-    case PM_HeaderMargin:
-        return GapAcross;
-    case PM_LayoutVerticalSpacing:
-        return GapDown;
-    case PM_IndicatorWidth:
-    case PM_IndicatorHeight:
-    case PM_ExclusiveIndicatorWidth:
-    case PM_ExclusiveIndicatorHeight:
-        return indicatorSide(widget ? widget->font() : QApplication::font()) +
-               2 * RoomAroundIndicator;
-    case PM_SliderLength:
-    case PM_SliderThickness:
-    case PM_SliderControlThickness:
-        return SliderHandleSide;
-    case PM_MenuVMargin:
-        return MenuMargin;
-    case PM_ScrollBarExtent:
-        return ScrollBarWidth;
-    case PM_ScrollView_ScrollBarOverlap:
+    if (const auto length = lengthOf(metric, widget))
+        return *length;
+    if (metric == PM_ScrollView_ScrollBarOverlap)
         return isSeenThrough(widget) ? ScrollBarWidth : 0;
-    case PM_ScrollBarSliderMin:
-        return ShortestScrollHandle;
-    case PM_DefaultFrameWidth:
-        if (hasRoundFrame(widget))
-            return 3;
-        break;
-    case PM_FocusFrameHMargin:
-        if (qobject_cast<const QAbstractItemView *>(widget))
-            return GapAcross - 1;
-        break;
-    default:
-        break;
-    }
+    if (metric == PM_DefaultFrameWidth && hasRoundFrame(widget))
+        return 3;
+    if (metric == PM_FocusFrameHMargin && qobject_cast<const QAbstractItemView *>(widget))
+        return GapAcross - 1;
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
