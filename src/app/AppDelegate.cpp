@@ -4,7 +4,6 @@
 #include "app/PreferenceKeys.h"
 #include "app/WindowHints.h"
 #include "calendar/CKCalendarView.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/MediaLinksArrayController.h"
 #include "lectures/OwedLectures.h"

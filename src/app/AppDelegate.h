@@ -16,6 +16,7 @@
 #include "lectures/LectureRowHost.h"
 #include "platform/DelayedCall.h"
 #include "platform/DetachedCommand.h"
+#include "store/Sqlite.h"
 #include "widgets/ImageButton.h"
 
 #include <QDateTime>
@@ -44,7 +45,6 @@ class UserDefaults;
 } // namespace tarvelo::platform
 namespace tarvelo::store {
 class LectureDatabase;
-class Sqlite;
 } // namespace tarvelo::store
 namespace tarvelo::widgets {
 class SlidingWindow;

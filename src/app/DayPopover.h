@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QLabel>
 #include <QWidget>
 
+class QLabel;
 class QPushButton;
 
 namespace tarvelo::app {

@@ -2,7 +2,6 @@
 
 #include "calendar/CKCalendarView.h"
 #include "lectures/LectureApplication.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/OwedLectures.h"

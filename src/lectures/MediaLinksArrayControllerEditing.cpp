@@ -1,7 +1,6 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include "lectures/CustomTableCellView.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/RowLookup.h"

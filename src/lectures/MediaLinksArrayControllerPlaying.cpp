@@ -1,8 +1,6 @@
 #include "lectures/MediaLinksArrayController.h"
 
-#include "audio/PlaybackOutlets.h"
 #include "lectures/LectureList.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/WindowKeys.h"

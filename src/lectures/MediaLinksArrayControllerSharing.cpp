@@ -1,7 +1,6 @@
 #include "lectures/MediaLinksArrayController.h"
 
 #include "audio/SharingAndExport.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/RowLookup.h"

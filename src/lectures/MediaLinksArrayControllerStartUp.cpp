@@ -2,7 +2,6 @@
 
 #include "audio/RecordingOutlets.h"
 #include "calendar/CKCalendarView.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/StartUpLooks.h"

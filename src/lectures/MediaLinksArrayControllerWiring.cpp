@@ -2,7 +2,6 @@
 
 #include "audio/RecordingOutlets.h"
 #include "lectures/CustomTableCellView.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureTable.h"
 #include "lectures/LectureWindows.h"
 #include "lectures/RowAction.h"

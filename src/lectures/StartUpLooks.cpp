@@ -1,7 +1,6 @@
 #include "lectures/StartUpLooks.h"
 
 #include "lectures/Dressing.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureWindows.h"
 #include "platform/Texts.h"
 #include "platform/WindowLevel.h"

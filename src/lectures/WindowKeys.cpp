@@ -1,10 +1,10 @@
 #include "lectures/WindowKeys.h"
 
-#include "audio/PlaybackOutlets.h"
 #include "lectures/EditingKeys.h"
-#include "lectures/LectureOutlets.h"
 #include "lectures/LectureWindows.h"
 #include "widgets/MouseDownTextField.h"
+
+#include <Qt>
 
 namespace tarvelo::lectures {
 

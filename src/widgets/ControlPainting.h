@@ -5,6 +5,7 @@
 
 class QFont;
 class QPainter;
+class QRect;
 class QStyleOption;
 class QStyleOptionSlider;
 

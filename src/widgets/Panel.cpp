@@ -4,7 +4,6 @@
 #include "widgets/ControlPainting.h"
 #include "widgets/Lines.h"
 
-#include <QColor>
 #include <QPainter>
 #include <QRectF>
 

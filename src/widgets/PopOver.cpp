@@ -12,6 +12,7 @@
 #include <QPalette>
 #include <QPen>
 #include <QPointF>
+#include <QPolygonF>
 #include <QRectF>
 #include <QScreen>
 #include <QSize>

@@ -3,7 +3,6 @@
 #include "audio/engine/AudioPlayer.h"   // IWYU pragma: export
 #include "audio/engine/AudioRecorder.h" // IWYU pragma: export
 
-#include <QByteArray>
 #include <QString>
 #include <QVariantMap>
 
