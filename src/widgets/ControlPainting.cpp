@@ -235,7 +235,7 @@ void paintKeyboardRing(QPainter &painter, const QStyleOption &option, bool isOnA
     const auto role = isOnAccent ? QPalette::HighlightedText : QPalette::Highlight;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(option.palette.color(role), RingWidth));
-    const double radius = ControlRadius - (inset + RingWidth / 2) / 2;
+    const double radius = ControlRadius - inset / 2 - RingWidth / 4;
     painter.drawRoundedRect(lineIn(painter, option.rect, inset), radius, radius);
 }
 

@@ -42,7 +42,7 @@ double topOf(int flags, double room)
 {
     if (flags & Qt::AlignBottom)
         return room;
-    return flags & Qt::AlignVCenter ? room / 2 : 0;
+    return (flags & Qt::AlignVCenter) ? room / 2 : 0;
 }
 
 } // namespace
