@@ -5,6 +5,7 @@
 #include "MonthOfLectures.h"
 #include "calendar/CKCalendarView.h"
 #include "calendar/CalendarDelegate.h"
+#include "platform/Dates.h"
 
 #include <QApplication>
 #include <QImage>
