@@ -6,6 +6,7 @@
 #include "platform/Texts.h"
 #include "platform/UserDefaults.h"
 #include "platform/WindowLevel.h"
+
 #include "ui_Preferences.h"
 
 #include <QAbstractButton>

@@ -1,11 +1,12 @@
 #include "lectures/EditLectureWindow.h"
 
 #include "lectures/Dressing.h"
-#include "ui_EditLectureWindow.h"
 #include "widgets/Colours.h"
 #include "widgets/CustomTextView.h"
 #include "widgets/Faces.h"
 #include "widgets/LightPalette.h"
+
+#include "ui_EditLectureWindow.h"
 
 #include <Qt>
 

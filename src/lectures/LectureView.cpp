@@ -3,12 +3,13 @@
 #include "lectures/Dressing.h"
 #include "lectures/LectureHeading.h"
 #include "lectures/LectureViewMargins.h"
-#include "ui_LectureView.h"
 #include "widgets/Colours.h"
 #include "widgets/CustomTextView.h"
 #include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/MouseDownTextField.h"
+
+#include "ui_LectureView.h"
 
 #include <QHBoxLayout>
 #include <QWidget>

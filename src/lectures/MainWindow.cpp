@@ -6,13 +6,14 @@
 #include "platform/Frames.h"
 #include "platform/Images.h"
 #include "platform/Texts.h"
-#include "ui_MainWindow.h"
 #include "widgets/Colours.h"
 #include "widgets/Faces.h"
 #include "widgets/Hairline.h"
 #include "widgets/ImageButton.h"
 #include "widgets/LightPalette.h"
 #include "widgets/SlidingWindow.h"
+
+#include "ui_MainWindow.h"
 
 #include <QRectF>
 #include <QWidget>

@@ -4,13 +4,14 @@
 #include "lectures/Dressing.h"
 #include "platform/Images.h"
 #include "platform/Texts.h"
-#include "ui_NewLectureWindow.h"
 #include "widgets/Colours.h"
 #include "widgets/CustomTextView.h"
 #include "widgets/Faces.h"
 #include "widgets/ImageButton.h"
 #include "widgets/ImageView.h"
 #include "widgets/LightPalette.h"
+
+#include "ui_NewLectureWindow.h"
 
 #include <QLabel>
 #include <QStringLiteral>
